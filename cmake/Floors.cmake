@@ -1,0 +1,32 @@
+# One static library a folder of src/. A folder's headers are reached as "<folder>/<Header>.h", and only by targets
+# that link the folder's library: each library exports a directory of its own that holds nothing but a link to its folder.
+# So an include that points to a higher floor does not build.
+
+function(zelvor_floor folder)
+  cmake_parse_arguments(FLOOR "" "" "SOURCES;LINKS" ${ARGN})
+  set(target zelvor_${folder})
+  add_library(${target} STATIC ${FLOOR_SOURCES})
+  add_library(Zelvor::${folder} ALIAS ${target})
+
+  set(exported ${CMAKE_BINARY_DIR}/floors/${folder})
+  file(MAKE_DIRECTORY ${exported})
+  file(CREATE_LINK ${CMAKE_SOURCE_DIR}/src/${folder} ${exported}/${folder} COPY_ON_ERROR SYMBOLIC)
+
+  target_include_directories(${target} PUBLIC ${exported})
+  target_link_libraries(${target} PUBLIC ${FLOOR_LINKS})
+  zelvor_compile_settings(${target})
+endfunction()
+
+function(zelvor_compile_settings target)
+  if(MSVC)
+    target_compile_options(${target} PRIVATE /W4 /utf-8)
+  else()
+    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
+                                             $<$<BOOL:${ZELVOR_WERROR}>:-Werror>)
+  endif()
+  if(ZELVOR_SANITIZE)
+    target_compile_options(${target} PRIVATE -fsanitize=address,undefined -fno-sanitize-recover=undefined
+                                             -fno-omit-frame-pointer)
+    target_link_options(${target} PUBLIC -fsanitize=address,undefined)
+  endif()
+endfunction()

@@ -1,0 +1,2 @@
+include(GNUInstallDirs)
+install(TARGETS zelvor zelvor-radio RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
