@@ -1,0 +1,81 @@
+#include "data/BlankImage.h"
+
+#include <initializer_list>
+
+#include "data/FrequencyCodec.h"
+#include "data/MemoryMap.h"
+#include "data/ModelCatalogue.h"
+
+namespace zelvor {
+namespace {
+
+void Store(DataImage& image, int address, std::initializer_list<std::uint8_t> bytes) {
+    for (const std::uint8_t byte : bytes)
+        image.Set(address++, byte);
+}
+
+void StoreConstants(DataImage& image) {
+    Store(image, 0x110, {0x00, 0x00, 0x0A, 0x00, 0x00, 0x01, 0x00, 0x0A, 0x00, 0x00, 0x00}); // DTMF
+    Store(image, 0x11E, {0x0A});                                                             // programmable key
+    Store(image, 0x120, {0x30, 0x30, 0x30});                                                 // DTMF ID code
+    Store(image, 0x12C, {0x00, 0x00, 0x01, 0x00, 0x04});                                     // optional features
+    Store(image, 0x131, {0x00, 0x00, 0x00, 0x05, 0x00, 0x01, 0x00, 0x00, 0x00, 0x05, 0x01, 0x00, 0x00, 0x00, 0x00});
+    Store(image, 0x140, {0x31, 0x32, 0x33, 0x34, 0x35}); // PTT ID, Begin of TX
+    Store(image, 0x160, {0x00});                         // scan
+    Store(image, 0x162, {0x1F, 0x33, 0x01, 0x03, 0x00, 0x03, 0x00});
+    Store(image, 0x171, {0x00, 0x00, 0x90, 0x01, 0x00, 0x0A, 0x00, 0x01, 0x00}); // Corvane
+    Store(image, 0x17C, {0x00, 0x00, 0x00, 0x00});                               // with Scan Add
+    Store(image, 0x1FA, {0x00});                                                 // DTMF stun type
+}
+
+std::uint8_t FamilyDigit(std::uint8_t family) {
+    switch (family) {
+    case Family4618:
+        return '8';
+    case Family4613:
+        return '3';
+    case Family4617:
+        return '7';
+    default:
+        return 0xFF;
+    }
+}
+
+void StoreIdentity(DataImage& image, std::uint8_t market, std::uint8_t family) {
+    const std::uint8_t bandDigit = market < 2 ? '4' : '5';
+    Store(image, address::Identity, {'P', bandDigit, '6', '1', FamilyDigit(family), market, family, 0xFF});
+}
+
+void StoreFrequency(DataImage& image, int address, std::int32_t tensOfHertz) {
+    for (const std::uint8_t byte : PackFrequency(tensOfHertz))
+        image.Set(address++, byte);
+}
+
+void StoreTestFrequencies(DataImage& image, Band band) {
+    const std::int32_t centre = (band.low + band.high) / 2;
+    struct Pair {
+        std::int32_t receive;
+        std::int32_t transmit;
+    };
+    int address = address::TestFrequencies;
+    for (const Pair pair : {Pair{centre + 5'000, centre + 10'000}, Pair{band.low + 5'000, band.low + 10'000},
+                            Pair{band.high - 5'000, band.high - 10'000}, Pair{centre, centre},
+                            Pair{centre + 20'000, centre + 20'000}, Pair{centre + 40'000, centre + 40'000}}) {
+        StoreFrequency(image, address, pair.receive);
+        StoreFrequency(image, address + address::TestFrequencyPairSize / 2, pair.transmit);
+        address += address::TestFrequencyPairSize;
+    }
+}
+
+} // namespace
+
+void InitAllFrameData(DataImage& image) {
+    const std::uint8_t market = image.At(address::Market);
+    const std::uint8_t family = image.At(address::Family);
+    image.Fill(0xFF);
+    StoreConstants(image);
+    StoreIdentity(image, market, family);
+    StoreTestFrequencies(image, TestFrequencyBand(market));
+}
+
+} // namespace zelvor
