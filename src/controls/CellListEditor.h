@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QComboBox>
+#include <QStringList>
+
+#include "controls/FilteredLineEdit.h"
+
+namespace zelvor {
+
+class EditGrid;
+
+/// The list that a grid's window lays over a cell: entries to choose from, and a text box where typing is allowed.
+class CellListEditor : public QComboBox {
+    Q_OBJECT
+
+public:
+    explicit CellListEditor(QWidget* parent);
+
+    /// Covers the grid's current cell (the height is the list's own) and takes the focus. Choosing an entry from code
+    /// here is no choice of the user's: Chosen is not raised.
+    void ShowOver(const EditGrid& grid, const QStringList& entries, const QString& text, bool typing);
+
+    /// Enters a character as the user would.
+    void Enter(const QString& text) { edit_->Enter(text); }
+    void SetFilter(FilteredLineEdit::Filter filter) { edit_->SetFilter(std::move(filter)); }
+    void SetEnterLetter(QChar letter) { enterLetter_ = letter; }
+    [[nodiscard]] bool HasSelectedText() const { return edit_->hasSelectedText(); }
+    void PutText(const QString& text);
+
+signals:
+    /// The user took an entry from the list.
+    void Chosen(const QString& text);
+    /// Up (-1) or Down (+1).
+    void Stepped(int direction);
+    /// Enter or Escape.
+    void EditEnded();
+    void FocusLeft();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    FilteredLineEdit* edit_;
+    QChar enterLetter_;
+};
+
+} // namespace zelvor

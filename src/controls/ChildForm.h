@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QSize>
+#include <QString>
+#include <QWidget>
+#include <string_view>
+
+#include "data/Session.h"
+
+class QScrollBar;
+
+namespace zelvor {
+
+/// A child window of the main window, as every editing dialog is one: a content panel of fixed size that scrolls when the
+/// window is smaller, and the close rules. The main window hosts it in a ChildFrame and does what its signals ask: it
+/// clears the window's ChildOpen entry, hides its entry of the window list, and hides or destroys the window.
+class ChildForm : public QWidget {
+    Q_OBJECT
+
+public:
+    /// objectName is the class's name; contentTwips is the size of the content and so the window's first size.
+    ChildForm(ChildWindow window, std::string_view objectName, QSize contentTwips, QWidget* parent = nullptr);
+
+    [[nodiscard]] ChildWindow Window() const { return window_; }
+
+    /// The panel that holds the window's controls.
+    [[nodiscard]] QWidget* Content() const { return picture1_; }
+
+    /// The user closed the window by its frame. Asks to be unloaded, unless a window has a rule of its own.
+    virtual void CloseFromFrame();
+
+    /// The page of the help that tells about this window, such as "chinfo.htm".
+    [[nodiscard]] virtual std::string_view HelpPage() const = 0;
+
+    [[nodiscard]] QSize sizeHint() const override;
+
+signals:
+    void UnloadRequested();
+    void HideRequested();
+    /// The window's title changed, and its entry of the window list is to read the same.
+    void CaptionChanged(const QString& caption);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    /// Sets the window's title, and the caption of the window list's entry with it.
+    void SetCaption(const QString& caption);
+
+private:
+    void LayOutScrollBars();
+
+    const ChildWindow window_;
+    const QSize contentSize_; // logical pixels
+    QWidget* picture1_ = nullptr;
+    QWidget* picture2_ = nullptr; // the corner between both bars
+    QScrollBar* hScroll1_ = nullptr;
+    QScrollBar* vScroll1_ = nullptr;
+};
+
+} // namespace zelvor

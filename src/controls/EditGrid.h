@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QStringList>
+#include <QTableWidget>
+#include <vector>
+
+class QLabel;
+
+namespace zelvor {
+
+/// A table of texts whose row 0 and column 0 are its headers: rows and columns of the data count from 1, as the windows
+/// speak of them. It edits nothing itself; a window lays its cell editor over the current cell (see CellTextEditor).
+class EditGrid : public QTableWidget {
+    Q_OBJECT
+
+public:
+    EditGrid(int rows, int columns, QWidget* parent = nullptr);
+
+    /// captions: the corner, then one a column. rowCaptions: one a row.
+    void SetCaptions(const QStringList& captions, const QStringList& rowCaptions);
+    /// Widths in logical pixels: the header column's, then one a column. The height is shared out among header and rows.
+    void FitCells(const std::vector<int>& widths);
+
+    [[nodiscard]] QString Text(int row, int column) const;
+    void SetText(int row, int column, const QString& text);
+    [[nodiscard]] int Row() const { return currentRow() + 1; }
+    [[nodiscard]] int Column() const { return currentColumn() + 1; }
+    /// Moves the cursor; does nothing outside the table.
+    void MoveTo(int row, int column);
+    /// One cell to the right, staying in the row's last column.
+    void MoveRight();
+    /// The cell's rectangle in the coordinates of the grid's parent.
+    [[nodiscard]] QRect CellRect(int row, int column) const;
+
+signals:
+    void CursorMoved(int row, int column);
+    /// Left button, released on the cell it was pressed on; the cursor is there already.
+    void CellClicked(int row, int column);
+    /// A key that opens an editor may take the event by accepting it; what is left moves the cursor.
+    void KeyPressed(QKeyEvent* event);
+    void Scrolled();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    /// Typing never searches the table: it opens an editor or does nothing.
+    void keyboardSearch(const QString&) override {}
+
+private:
+    void FitHeaderFont();
+
+    QLabel* corner_; // caption of column 0, over the headers' corner
+    QModelIndex pressed_;
+};
+
+} // namespace zelvor

@@ -1,0 +1,89 @@
+#include "controls/EditGrid.h"
+
+#include <QHeaderView>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include "controls/CellTextEditor.h"
+
+namespace zelvor {
+namespace {
+
+class EditGridTest : public testing::Test {
+protected:
+    void SetUp() override {
+        panel.resize(400, 200);
+        grid.setGeometry(10, 20, 300, 100);
+        grid.SetCaptions({"No.", "First", "Second"}, {"1", "2", "3"});
+        grid.FitCells({60, 100, 100});
+        panel.show();
+        panel.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&panel));
+        grid.setFocus();
+    }
+    QPoint Center(int row, int column) { return grid.visualItemRect(grid.item(row - 1, column - 1)).center(); }
+
+    QWidget panel;
+    EditGrid grid{3, 2, &panel};
+};
+
+TEST_F(EditGridTest, CountsRowsAndColumnsFromOne) {
+    grid.SetText(3, 2, "last");
+    EXPECT_EQ(grid.Text(3, 2), "last");
+    EXPECT_EQ(grid.Text(4, 1), "");
+    EXPECT_EQ(grid.Row(), 1);
+    EXPECT_EQ(grid.Column(), 1);
+}
+
+TEST_F(EditGridTest, SharesItsHeightOutAmongHeaderAndRows) {
+    EXPECT_EQ(grid.rowHeight(0), (100 - 2 * grid.frameWidth()) / 4);
+    EXPECT_EQ(grid.verticalScrollBar()->maximum(), 0);
+}
+
+TEST_F(EditGridTest, TellsWhereTheCursorWent) {
+    const QSignalSpy moved(&grid, &EditGrid::CursorMoved);
+    QTest::keyClick(&grid, Qt::Key_Down);
+    QTest::keyClick(&grid, Qt::Key_Right);
+    ASSERT_EQ(moved.count(), 2);
+    EXPECT_EQ(moved.last().at(0).toInt(), 2);
+    EXPECT_EQ(moved.last().at(1).toInt(), 2);
+    grid.MoveRight();
+    EXPECT_EQ(grid.Column(), 2);
+    grid.MoveTo(9, 9);
+    EXPECT_EQ(grid.Row(), 2);
+}
+
+TEST_F(EditGridTest, ALeftClickTellsItsCellAndARightClickDoesNot) {
+    const QSignalSpy clicked(&grid, &EditGrid::CellClicked);
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, Center(3, 2));
+    ASSERT_EQ(clicked.count(), 1);
+    EXPECT_EQ(clicked.first().at(0).toInt(), 3);
+    EXPECT_EQ(clicked.first().at(1).toInt(), 2);
+    QTest::mouseClick(grid.viewport(), Qt::RightButton, {}, Center(1, 1));
+    QTest::mousePress(grid.viewport(), Qt::LeftButton, {}, Center(1, 1));
+    QTest::mouseRelease(grid.viewport(), Qt::LeftButton, {}, Center(2, 2));
+    EXPECT_EQ(clicked.count(), 1);
+}
+
+TEST_F(EditGridTest, AnEditorCoversTheCurrentCellAndSelectsItsText) {
+    CellTextEditor editor(&panel);
+    grid.MoveTo(2, 2);
+    editor.ShowOver(grid, "145");
+    const QPoint corner = grid.viewport()->mapTo(&panel, grid.visualItemRect(grid.item(1, 1)).topLeft());
+    EXPECT_EQ(editor.geometry().topLeft(), corner);
+    EXPECT_EQ(editor.width(), 100);
+    EXPECT_TRUE(editor.hasFocus());
+    EXPECT_EQ(editor.selectedText(), "145");
+}
+
+TEST_F(EditGridTest, HeadersShrinkTheirFontUntilNoCaptionIsCutOff) {
+    grid.SetCaptions({"No.", "A caption that is rather long", "B"}, {"1", "2", "3"});
+    grid.FitCells({60, 130, 60});
+    const QFontMetrics metrics(grid.horizontalHeader()->font());
+    EXPECT_LE(metrics.horizontalAdvance("A caption that is rather long"), 130);
+}
+
+} // namespace
+} // namespace zelvor

@@ -1,0 +1,101 @@
+#include "controls/FilteredLineEdit.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QInputMethodEvent>
+#include <QSignalSpy>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace zelvor {
+namespace {
+
+class FilteredLineEditTest : public testing::Test {
+protected:
+    void SetUp() override {
+        edit.SetFilter(DigitOrPoint);
+        edit.setMaxLength(5);
+        edit.show();
+        edit.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&edit));
+        edit.setFocus();
+    }
+    FilteredLineEdit edit;
+};
+
+TEST_F(FilteredLineEditTest, RefusesWhatTheFilterRefuses) {
+    QTest::keyClicks(&edit, "a1b.2c");
+    EXPECT_EQ(edit.text(), "1.2");
+}
+
+TEST_F(FilteredLineEditTest, MayChangeACharacter) {
+    edit.SetFilter([](QChar entered) { return entered.toUpper(); });
+    QTest::keyClicks(&edit, "dN2");
+    EXPECT_EQ(edit.text(), "DN2");
+}
+
+TEST_F(FilteredLineEditTest, FiltersPastedComposedAndMouseInsertedText) {
+    QApplication::clipboard()->setText("x1y2");
+    QTest::keyClick(&edit, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(edit.text(), "12");
+    QInputMethodEvent composed;
+    composed.setCommitString("三3");
+    QApplication::sendEvent(&edit, &composed);
+    EXPECT_EQ(edit.text(), "123");
+    if (QApplication::clipboard()->supportsSelection()) {
+        QApplication::clipboard()->setText("q4", QClipboard::Selection);
+        QTest::mouseClick(&edit, Qt::MiddleButton);
+        EXPECT_EQ(edit.text(), "1234");
+    }
+}
+
+TEST_F(FilteredLineEditTest, StopsAtTheLengthUnlessTextIsSelected) {
+    QTest::keyClicks(&edit, "1234567");
+    EXPECT_EQ(edit.text(), "12345");
+    edit.selectAll();
+    QTest::keyClicks(&edit, "9");
+    EXPECT_EQ(edit.text(), "9");
+}
+
+TEST_F(FilteredLineEditTest, BackspaceDeleteAndCursorKeysAreNotFiltered) {
+    QTest::keyClicks(&edit, "123");
+    QTest::keyClick(&edit, Qt::Key_Backspace);
+    QTest::keyClick(&edit, Qt::Key_Home);
+    QTest::keyClick(&edit, Qt::Key_Delete);
+    EXPECT_EQ(edit.text(), "2");
+}
+
+TEST_F(FilteredLineEditTest, TellsOfEnterEscapeAndTheEnterLetter) {
+    edit.SetEnterLetter(u'l');
+    QSignalSpy enter(&edit, &FilteredLineEdit::EnterPressed);
+    const QSignalSpy escape(&edit, &FilteredLineEdit::EscapePressed);
+    QTest::keyClick(&edit, Qt::Key_Return);
+    QTest::keyClick(&edit, Qt::Key_Enter);
+    QTest::keyClicks(&edit, "l");
+    EXPECT_EQ(enter.count(), 3);
+    QTest::keyClicks(&edit, "L");
+    EXPECT_EQ(enter.count(), 3);
+    QTest::keyClick(&edit, Qt::Key_Escape);
+    EXPECT_EQ(escape.count(), 1);
+    EXPECT_EQ(edit.text(), "");
+}
+
+TEST_F(FilteredLineEditTest, CodeMaySetAnyText) {
+    edit.setText("None");
+    EXPECT_EQ(edit.text(), "None");
+}
+
+TEST_F(FilteredLineEditTest, OpensNoContextMenu) {
+    EXPECT_EQ(edit.contextMenuPolicy(), Qt::PreventContextMenu);
+    QTest::mouseClick(&edit, Qt::RightButton);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
+
+TEST_F(FilteredLineEditTest, TellsWhenTheFocusLeaves) {
+    const QSignalSpy left(&edit, &FilteredLineEdit::FocusLeft);
+    edit.clearFocus();
+    EXPECT_EQ(left.count(), 1);
+}
+
+} // namespace
+} // namespace zelvor
