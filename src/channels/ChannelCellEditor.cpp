@@ -1,0 +1,332 @@
+#include "channels/ChannelCellEditor.h"
+
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+
+#include "channels/CellValues.h"
+#include "controls/CellListEditor.h"
+#include "controls/CellTextEditor.h"
+#include "controls/EditGrid.h"
+#include "data/FrequencyCodec.h"
+#include "data/Session.h"
+#include "platform/MessageBoxes.h"
+#include "platform/Services.h"
+#include "platform/Toolkit.h"
+#include "text/StringTable.h"
+
+namespace zelvor {
+
+namespace {
+
+constexpr int FrequencyLength = 9; // "000.00000"
+constexpr int ToneLength = 5;      // "D023N"
+constexpr int HelpContextBase = 4100;
+
+constexpr TextPair CautionTitle{"Caution", "注意"};
+constexpr TextPair OutOfRangeText{"Frequency is out of range.", "频率超出范围。"};
+
+constexpr bool IsToneLetter(QChar upper) {
+    return upper == u'D' || upper == u'I' || upper == u'N';
+}
+
+QStringList ToQStrings(const std::vector<std::string>& texts) {
+    QStringList list;
+    list.reserve(static_cast<qsizetype>(texts.size()));
+    for (const std::string& text : texts) {
+        list.append(ToQString(text));
+    }
+    return list;
+}
+
+} // namespace
+
+ChannelCellEditor::ChannelCellEditor(Session& session, Services& services, EditGrid& grid, QWidget* panel, Owner owner)
+    : QObject(panel), session_(session), services_(services), grid_(grid), owner_(std::move(owner)),
+      txtInputBox_(new CellTextEditor(panel)), comInputStep_(new CellListEditor(panel)) {
+    txtInputBox_->setObjectName("txtInputBox");
+    txtInputBox_->setMaxLength(FrequencyLength);
+    txtInputBox_->SetFilter(DigitOrPoint);
+    // The lower-case letter ends an edit like Enter, on purpose.
+    txtInputBox_->SetEnterLetter(u'l');
+    comInputStep_->setObjectName("comInputStep");
+    comInputStep_->SetFilter([this](QChar entered) { return ToneCharacter(entered); });
+    comInputStep_->SetEnterLetter(u'l');
+
+    connect(&grid_, &EditGrid::CellClicked, this, &ChannelCellEditor::OnCellClicked);
+    connect(&grid_, &EditGrid::KeyPressed, this, &ChannelCellEditor::OnGridKey);
+    connect(&grid_, &EditGrid::Scrolled, this, &ChannelCellEditor::OnGridScrolled);
+    connect(txtInputBox_, &QLineEdit::textChanged, this, &ChannelCellEditor::OnTextChanged);
+    connect(txtInputBox_, &FilteredLineEdit::EnterPressed, this, [this] { OnTextEnded(false); });
+    connect(txtInputBox_, &FilteredLineEdit::EscapePressed, this, [this] { OnTextEnded(true); });
+    connect(txtInputBox_, &FilteredLineEdit::FocusLeft, this, &ChannelCellEditor::LeaveText);
+    connect(comInputStep_, &CellListEditor::Chosen, this, [this](const QString& text) { OnSelected(FromQString(text)); });
+    connect(comInputStep_, &CellListEditor::Stepped, this, &ChannelCellEditor::OnStepped);
+    connect(comInputStep_, &CellListEditor::EditEnded, this, &ChannelCellEditor::OnListEnded);
+    connect(comInputStep_, &CellListEditor::FocusLeft, this, &ChannelCellEditor::LeaveList);
+}
+
+void ChannelCellEditor::OnCellClicked() {
+    const int row = grid_.Row();
+    if (grid_.Text(row, column::Rx).isEmpty()) {
+        grid_.MoveTo(row, column::Rx);
+    } else if (grid_.Column() == column::Encode && grid_.Text(row, column::Tx).isEmpty()) {
+        grid_.MoveTo(row, column::Tx);
+    }
+    ShowCellEditor();
+}
+
+void ChannelCellEditor::OnGridKey(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        OnCellClicked(); // Enter moves the cursor by the same two rules
+        event->accept();
+        return;
+    }
+    const QString text = event->text();
+    if (text.size() != 1 || (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))) {
+        return;
+    }
+    const QChar character = text.front().toUpper();
+    if (!DigitOrPoint(character).isNull() || IsToneLetter(character)) {
+        OnGridCharacter(character);
+        event->accept();
+    }
+}
+
+void ChannelCellEditor::OnGridCharacter(QChar character) {
+    const int row = grid_.Row();
+    const int cursor = grid_.Column();
+    const bool hasRx = !grid_.Text(row, column::Rx).isEmpty();
+    const bool hasTx = !grid_.Text(row, column::Tx).isEmpty();
+    if (IsFrequencyColumn(cursor)) {
+        if (IsToneLetter(character)) {
+            return;
+        }
+        if (!hasRx) {
+            grid_.MoveTo(row, column::Rx);
+        }
+        ShowCellEditor();
+        txtInputBox_->setText(character);
+    } else if (IsToneColumn(cursor)) {
+        const bool takesTone = hasRx && (cursor == column::Decode || hasTx);
+        if (!takesTone) {
+            grid_.MoveTo(row, hasRx ? column::Tx : column::Rx);
+        }
+        ShowCellEditor();
+        if (takesTone) {
+            comInputStep_->PutText(character);
+        }
+    }
+}
+
+void ChannelCellEditor::OnGridScrolled() {
+    // An editor does not travel with its cell: scrolling cancels the edit.
+    if (state_ == State::TextEditing) {
+        OnTextEnded(true);
+    } else if (state_ == State::ListEditing) {
+        OnListEnded();
+    }
+}
+
+void ChannelCellEditor::LoadRowIntoFields(int row) {
+    ChannelTexts& texts = session_.Channels.Texts;
+    for (int column = 1; column <= column::Count; ++column) {
+        texts.*GridTexts[static_cast<std::size_t>(column) - 1] = FromQString(grid_.Text(row, column));
+    }
+    session_.Channels.LoadHiddenFields(session_.Image, session_.LanguageFlag, row);
+}
+
+void ChannelCellEditor::ShowCellEditor() {
+    if (state_ != State::Idle) {
+        return;
+    }
+    const int row = grid_.Row();
+    const int cursor = grid_.Column();
+    session_.CurrentChannel = row;
+    session_.EditChannel = row;
+    session_.CurrentCol = cursor;
+    CellUndoText = grid_.Text(row, cursor);
+    LoadRowIntoFields(row);
+    if (cursor != column::Rx && grid_.Text(row, column::Rx).isEmpty()) {
+        return;
+    }
+    const int helpContext = HelpContextBase + cursor;
+    if (IsFrequencyColumn(cursor)) {
+        const QScopedValueRollback<bool> loading(loading_, true);
+        state_ = State::TextEditing;
+        txtInputBox_->setProperty("HelpContextID", helpContext);
+        txtInputBox_->ShowOver(grid_, CellUndoText);
+        return;
+    }
+    state_ = State::ListEditing;
+    CycleActive = false;
+    const QStringList entries = cursor == column::Decode   ? ToQStrings(owner_.toneListDec())
+                                : cursor == column::Encode ? ToQStrings(owner_.toneListEnc())
+                                                           : ToQStrings(CellChoices(cursor, session_.Image,
+                                                                                    session_.LanguageFlag));
+    comInputStep_->setProperty("HelpContextID", helpContext);
+    comInputStep_->ShowOver(grid_, entries, CellUndoText, IsToneColumn(cursor));
+}
+
+void ChannelCellEditor::HideEditors() {
+    state_ = State::Idle;
+    txtInputBox_->hide();
+    comInputStep_->hide();
+}
+
+void ChannelCellEditor::EncodeAndRefresh() {
+    owner_.encodeChannelRow(session_.CurrentChannel);
+    session_.Channels.RefreshChannelBytes(session_.Image);
+}
+
+// --- Frequencies -----------------------------------------------------------------------------------------------------
+
+void ChannelCellEditor::OnTextChanged(const QString& text) {
+    if (loading_ || state_ != State::TextEditing) {
+        return;
+    }
+    grid_.SetText(session_.CurrentChannel, session_.CurrentCol, text);
+    if (text.size() == FrequencyLength) {
+        CommitText();
+    }
+}
+
+void ChannelCellEditor::OnTextEnded(bool restore) {
+    if (restore) {
+        const QScopedValueRollback<bool> loading(loading_, true);
+        txtInputBox_->setText(CellUndoText);
+        grid_.SetText(session_.CurrentChannel, session_.CurrentCol, CellUndoText);
+    }
+    LeaveText();
+    grid_.setFocus();
+    grid_.MoveRight();
+    owner_.updateFreeArea();
+}
+
+void ChannelCellEditor::LeaveText() {
+    if (state_ != State::TextEditing || committing_) {
+        return;
+    }
+    CommitText();
+    HideEditors();
+}
+
+void ChannelCellEditor::CommitText() {
+    const QScopedValueRollback<bool> committing(committing_, true);
+    session_.EditChannel = session_.CurrentChannel;
+    if (session_.CurrentCol == column::Rx) {
+        CommitReceive(txtInputBox_->text());
+    } else {
+        CommitTransmit(txtInputBox_->text());
+    }
+}
+
+std::string ChannelCellEditor::Normalised(const QString& text, bool& withinRange) {
+    const NormalisedFrequency result = NormaliseFrequency(FromQString(text), SetBandLimits(session_.Image));
+    withinRange = !result.outOfRange;
+    if (result.outOfRange) {
+        const Language language = session_.LanguageFlag;
+        services_.messages.Show({std::string(CautionTitle.In(language)), std::string(OutOfRangeText.In(language)),
+                                 MessageIcon::Exclamation, MessageButtons::Ok, MessageAnswer::Ok});
+    }
+    return result.text;
+}
+
+void ChannelCellEditor::CommitReceive(const QString& text) {
+    if (text.isEmpty()) {
+        owner_.clearChannelData(session_.CurrentChannel);
+        return;
+    }
+    ChannelTexts& texts = session_.Channels.Texts;
+    bool withinRange = false;
+    texts.RxText = Normalised(text, withinRange);
+    if (withinRange) {
+        CellUndoText = ToQString(texts.RxText);
+    }
+    // Retyping a complete frequency leaves the row's other columns alone: defaults come only with a completed one.
+    if (texts.RxText != FromQString(text)) {
+        session_.Channels.CompleteChannelDefaults(session_.Image, session_.LanguageFlag, session_.EditChannel,
+                                                  std::string(texts.RxText));
+    }
+    EncodeAndRefresh();
+}
+
+void ChannelCellEditor::CommitTransmit(const QString& text) {
+    ChannelTexts& texts = session_.Channels.Texts;
+    if (text.isEmpty()) {
+        texts.TxText.clear();
+        texts.EncText = session_.LoadText(words::None);
+    } else {
+        bool withinRange = false;
+        texts.TxText = Normalised(text, withinRange);
+    }
+    EncodeAndRefresh();
+}
+
+// --- Tones and choices -----------------------------------------------------------------------------------------------
+
+QChar ChannelCellEditor::ToneCharacter(QChar entered) const {
+    const QChar upper = entered.toUpper();
+    const bool full = comInputStep_->currentText().size() >= ToneLength && !comInputStep_->HasSelectedText();
+    const bool wanted = !DigitOrPoint(upper).isNull() || IsToneLetter(upper);
+    return wanted && !full ? upper : QChar();
+}
+
+void ChannelCellEditor::OnStepped(int direction) {
+    const std::string before = FromQString(comInputStep_->currentText());
+    CycledText = StepCellValue(session_.CurrentCol, before, direction, session_.Image, session_.LanguageFlag,
+                               owner_.toneListDec());
+    if (CycledText != before) {
+        CycleActive = true;
+        OnSelected(before);
+    }
+}
+
+void ChannelCellEditor::OnSelected(const std::string& text) {
+    if (state_ != State::ListEditing) {
+        return;
+    }
+    const std::string chosen = CycleActive ? CycledText : text;
+    ChannelTexts& texts = session_.Channels.Texts;
+    const bool deadEncode = session_.CurrentCol == column::Encode && texts.TxText.empty();
+    const std::string value = deadEncode ? std::string(session_.LoadText(words::None)) : chosen;
+    texts.*GridTexts[static_cast<std::size_t>(session_.CurrentCol) - 1] = value;
+    comInputStep_->PutText(ToQString(value));
+    EncodeAndRefresh();
+    CycledText = value;
+    CellUndoText = ToQString(CycledText);
+    CycleActive = false;
+}
+
+void ChannelCellEditor::CommitTone() {
+    ChannelTexts& texts = session_.Channels.Texts;
+    const std::string tone = NormaliseTone(FromQString(comInputStep_->currentText()), session_.LanguageFlag);
+    (session_.CurrentCol == column::Decode ? texts.DecText : texts.EncText) = tone;
+    CycledText = tone;
+    EncodeAndRefresh();
+}
+
+void ChannelCellEditor::LeaveList() {
+    if (state_ != State::ListEditing) {
+        return;
+    }
+    if (IsToneColumn(session_.CurrentCol)) {
+        CommitTone();
+    }
+    HideEditors();
+}
+
+void ChannelCellEditor::OnListEnded() {
+    const int row = session_.CurrentChannel;
+    const int edited = session_.CurrentCol;
+    LeaveList();
+    grid_.setFocus();
+    if (edited < column::Count) {
+        const bool skipsDeadEncode = edited == column::Decode && grid_.Text(row, column::Tx).isEmpty();
+        grid_.MoveTo(row, edited + (skipsDeadEncode ? 2 : 1));
+    } else if (row < grid_.rowCount()) {
+        grid_.MoveTo(row + 1, column::Rx);
+        grid_.scrollToItem(grid_.currentItem());
+    }
+}
+
+} // namespace zelvor

@@ -1,0 +1,216 @@
+#include "channels/ChannelForm.h"
+
+#include <QLabel>
+#include <QPushButton>
+
+#include "channels/CellValues.h"
+#include "channels/ChannelCellEditor.h"
+#include "controls/EditGrid.h"
+#include "controls/PendingEdit.h"
+#include "data/MemoryMap.h"
+#include "platform/HelpTopic.h"
+#include "platform/HelpViewer.h"
+#include "platform/Services.h"
+#include "platform/Toolkit.h"
+#include "text/Decimal.h"
+
+namespace zelvor {
+
+namespace {
+
+// Twips.
+constexpr QSize WindowSize{12000, 6500};
+constexpr QRect GridPlace{120, 75, 10650, 4440};
+
+constexpr int ChannelAreaSize = 256; // bytes of the channel block
+constexpr int HelpContextBase = 4100;
+
+/// Column captions behind the corner's, then the corner; blanks at the end of some are part of the format.
+constexpr TextPair GridFormat{
+    "^|^RX Frequency|^TX Frequency|^QT/DQT Dec|^QT/DQT Enc|^TX Power|^W/N|^Scan Add|^Opt Signal|^PTT ID;Channel No.",
+    "^|^接收频率|^发射频率|^QT/DQT解码|^QT/DQT编码 |^发射功率 |^宽/窄|^扫描添加 |^可选信令 |^PTT ID;信道编号"};
+
+constexpr TextPair HintText{
+    "Enter or a click edits a cell, Up and Down step through its values, Esc goes back.",
+    "按回车键或单击可编辑单元格，上下方向键选择数值，Esc 键还原。"};
+
+/// Splits a table format: captions of the columns between "|", each with a leading "^" for centred, then ";" and the
+/// corner's caption.
+QStringList CaptionsOf(std::string_view format) {
+    const QStringList parts = ToQString(format).split(';');
+    QStringList captions = parts.first().split('|');
+    for (QString& caption : captions) {
+        caption.remove(0, 1);
+    }
+    captions.first() = parts.last();
+    return captions;
+}
+
+std::vector<int> ColumnWidths(int gridWidth) {
+    constexpr int percents[] = {10, 11, 11, 11, 11, 8, 7, 8, 10};
+    std::vector<int> widths;
+    for (const int percent : percents) {
+        widths.push_back(PixelsOfTwips(gridWidth * percent / 100));
+    }
+    widths.push_back(PixelsOfTwips(gridWidth * 11 / 100 + gridWidth / 110));
+    return widths;
+}
+
+} // namespace
+
+ChannelForm::ChannelForm(Session& session, Services& services, QWidget* parent)
+    : ChildForm(ChildWindow::Channels, "ChannelForm", WindowSize, parent), session_(session), services_(services) {
+    ToneListDec = BuildToneList(session_.LanguageFlag);
+    ToneListEnc = BuildToneList(session_.LanguageFlag);
+    session_.EditChannel = 1;
+    BuildGrid();
+    BuildControls();
+    SetTexts();
+    setFocusProxy(channelGrid_);
+}
+
+ChannelForm::~ChannelForm() {
+    cellEditor_->HideEditors();
+}
+
+void ChannelForm::BuildGrid() {
+    channelGrid_ = new EditGrid(address::ChannelCount, column::Count, Content());
+    channelGrid_->setObjectName("ChannelGrid");
+    channelGrid_->setGeometry(PixelsOfTwips(GridPlace.x()), PixelsOfTwips(GridPlace.y()),
+                              PixelsOfTwips(GridPlace.width()), PixelsOfTwips(GridPlace.height()));
+    channelGrid_->setProperty("HelpContextID", HelpContextBase + column::Rx);
+    cellEditor_ = new ChannelCellEditor(
+        session_, services_, *channelGrid_, Content(),
+        {[this](int k) { EncodeChannelRow(k); }, [this](int row) { ClearChannelData(row); }, [this] { UpdateFreeArea(); },
+         [this]() -> const std::vector<std::string>& { return ToneListDec; },
+         [this]() -> const std::vector<std::string>& { return ToneListEnc; }});
+    connect(channelGrid_, &EditGrid::CursorMoved, this, &ChannelForm::OnCursorMoved);
+}
+
+void ChannelForm::BuildControls() {
+    const auto label = [this](const char* name, const QRect& place) {
+        auto* made = new QLabel(Content());
+        made->setObjectName(name);
+        made->setGeometry(place);
+        return made;
+    };
+    const auto button = [this](const char* name, int x, int width) {
+        auto* made = new QPushButton(Content());
+        made->setObjectName(name);
+        made->setGeometry(x, 352, width, 30);
+        made->setAutoDefault(true);
+        return made;
+    };
+    labHint_ = label("LabHint", {8, 308, 710, 20});
+    labHint_->setForegroundRole(QPalette::PlaceholderText);
+    labFreeArea_ = label("LabFreeArea", {8, 352, 130, 30});
+    labBlankChannel_ = label("LabBlankChannel", {142, 352, 60, 30});
+    labBlankChannel_->setText(QString::number(ChannelAreaSize));
+    cmdChannelEdit_ = button("cmdChannelEdit", 370, 124);
+    cmdClose_ = button("cmdClose", 506, 100);
+    cmdHelp_ = button("cmdHelp", 618, 100);
+    connect(cmdChannelEdit_, &QPushButton::clicked, this, [this] {
+        CommitPendingEdit();
+        emit ChannelEditRequested();
+    });
+    connect(cmdClose_, &QPushButton::clicked, this, &ChannelForm::OnClose);
+    connect(cmdHelp_, &QPushButton::clicked, this,
+            [this] { services_.help.ShowTopic(HelpTopicPath(session_.LanguageFlag, HelpPage())); });
+}
+
+void ChannelForm::SetTexts() {
+    const auto text = [this](int n) { return ToQString(session_.LoadText(n)); };
+    SetCaption(" " + text(40));
+    cmdChannelEdit_->setText(text(59));
+    cmdClose_->setText(text(75));
+    cmdHelp_->setText(text(76));
+    labFreeArea_->setText(text(78));
+    labHint_->setText(ToQString(HintText.In(session_.LanguageFlag)));
+    QStringList rows;
+    for (int k = 1; k <= address::ChannelCount; ++k) {
+        rows.append(QString::number(k));
+    }
+    channelGrid_->SetCaptions(CaptionsOf(GridFormat.In(session_.LanguageFlag)), rows);
+    channelGrid_->FitCells(ColumnWidths(GridPlace.width()));
+    channelGrid_->setAccessibleName(text(195).trimmed());
+    labBlankChannel_->setAccessibleName(text(78));
+}
+
+void ChannelForm::DecodeImageToGrid() {
+    const std::vector<ChannelTexts> channels = session_.Channels.DecodeAll(session_.Image, session_.LanguageFlag);
+    int programmed = 0;
+    for (int k = 1; k <= address::ChannelCount; ++k) {
+        const ChannelTexts& texts = channels[static_cast<std::size_t>(k) - 1];
+        const bool blank = texts.RxText == NoFrequencyText;
+        programmed += blank ? 0 : 1;
+        for (int column = 1; column <= column::Count; ++column) {
+            const std::string& text = texts.*GridTexts[static_cast<std::size_t>(column) - 1];
+            channelGrid_->SetText(k, column, blank ? QString() : ToQString(text));
+        }
+    }
+    labBlankChannel_->setText(QString::number(ChannelAreaSize - address::ChannelSize * programmed));
+    SelectCell(1, channelGrid_->Column());
+}
+
+void ChannelForm::EncodeChannelRow(int k) {
+    for (int column = 1; column <= column::Count; ++column) {
+        const std::string& text = session_.Channels.Texts.*GridTexts[static_cast<std::size_t>(column) - 1];
+        channelGrid_->SetText(k, column, ToQString(text));
+    }
+    session_.Channels.EncodeChannel(session_.Image, session_.LanguageFlag, k, session_.TxCodeError);
+}
+
+void ChannelForm::ClearChannelData(int row) {
+    for (int column = 1; column <= column::Count; ++column) {
+        (session_.Channels.Texts.*GridTexts[static_cast<std::size_t>(column) - 1]).clear();
+        channelGrid_->SetText(row, column, QString());
+    }
+    for (int j = 0; j < address::ChannelSize; ++j) {
+        session_.Image.Set(address::Channel(row) + j, 0xFF);
+    }
+}
+
+void ChannelForm::SelectCell(int row, int column) {
+    channelGrid_->MoveTo(row, column);
+}
+
+void ChannelForm::HideEditors() {
+    cellEditor_->HideEditors();
+}
+
+void ChannelForm::OnCursorMoved(int row, int column) {
+    session_.CurrentChannel = row;
+    session_.CurrentCol = column;
+    session_.EditChannel = row;
+    SetCaption(ToQString(ChannelCaption(session_.LanguageFlag, row)));
+    channelGrid_->setProperty("HelpContextID", HelpContextBase + column);
+    UpdateFreeArea();
+}
+
+void ChannelForm::UpdateFreeArea() {
+    int programmed = 0;
+    for (int k = 1; k <= address::ChannelCount; ++k) {
+        const bool blank = Decimal::Leading(FromQString(channelGrid_->Text(k, column::Rx))).IsZero();
+        programmed += blank ? 0 : 1;
+    }
+    labBlankChannel_->setText(QString::number(ChannelAreaSize - address::ChannelSize * programmed));
+}
+
+void ChannelForm::OnClose() {
+    CommitPendingEdit();
+    emit ChannelEditUnloadRequested();
+    emit HideRequested();
+}
+
+void ChannelForm::CloseFromFrame() {
+    CommitPendingEdit();
+    // A cancelled program exit leaves ExitConfirmed set, and from then on the window really goes.
+    if (session_.ExitConfirmed) {
+        emit UnloadRequested();
+        return;
+    }
+    emit ChannelEditHideRequested();
+    emit HideRequested();
+}
+
+} // namespace zelvor

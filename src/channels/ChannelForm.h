@@ -1,0 +1,70 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "controls/ChildForm.h"
+
+class QLabel;
+class QPushButton;
+
+namespace zelvor {
+
+class ChannelCellEditor;
+class EditGrid;
+struct Services;
+
+/// The channel grid: the 16 channels of the document as texts, with a floating editor over the current cell. After every
+/// committed edit the row's texts are encoded back into the channel's record.
+class ChannelForm : public ChildForm {
+    Q_OBJECT
+
+public:
+    ChannelForm(Session& session, Services& services, QWidget* parent = nullptr);
+    /// An edit that is still open when the window is unloaded is dropped.
+    ~ChannelForm() override;
+
+    /// Decodes all channels of the image into the grid, shows the free area, and makes row 1 the current row.
+    void DecodeImageToGrid();
+    /// Writes the shared working texts into grid row k (1 to 16) and channel k into the image.
+    void EncodeChannelRow(int k);
+    /// Blanks the shared working texts, and row and record of a channel (1 to 16). Its Scan Add bit stays.
+    void ClearChannelData(int row);
+    /// Moves the cursor; row 1 to 16, column 1 to 9.
+    void SelectCell(int row, int column);
+    /// Hides txtInputBox and comInputStep without committing them.
+    void HideEditors();
+
+    void CloseFromFrame() override;
+    [[nodiscard]] std::string_view HelpPage() const override { return "chinfo.htm"; }
+
+signals:
+    /// cmdChannelEdit: the channel edit dialog is wanted.
+    void ChannelEditRequested();
+    /// The channel edit dialog goes with this window.
+    void ChannelEditHideRequested();
+    void ChannelEditUnloadRequested();
+
+private:
+    void BuildGrid();
+    void BuildControls();
+    void SetTexts();
+    void OnCursorMoved(int row, int column);
+    void UpdateFreeArea();
+    void OnClose();
+
+    Session& session_;
+    Services& services_;
+    EditGrid* channelGrid_;
+    ChannelCellEditor* cellEditor_;
+    QLabel* labFreeArea_;
+    QLabel* labBlankChannel_;
+    QLabel* labHint_;
+    QPushButton* cmdChannelEdit_;
+    QPushButton* cmdClose_;
+    QPushButton* cmdHelp_;
+    std::vector<std::string> ToneListDec;
+    std::vector<std::string> ToneListEnc;
+};
+
+} // namespace zelvor
