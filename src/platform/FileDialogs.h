@@ -1,0 +1,28 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace zelvor {
+
+struct FileDialogRequest {
+    std::string fileName; // preset; a bare name or a full path
+    std::string filter;   // "text|*.dat"
+    std::string
+        directory; // where to start; empty: the program's directory, or where that cannot be written to, documents
+
+    bool operator==(const FileDialogRequest&) const = default;
+};
+
+/// The system's file dialogs. A choice is a full path in the platform's spelling, UTF-8; nothing means Cancel.
+/// After a choice the process's current directory is the chosen file's.
+class FileDialogs {
+public:
+    virtual ~FileDialogs() = default;
+    /// The file must exist.
+    [[nodiscard]] virtual std::optional<std::string> Open(const FileDialogRequest& request) = 0;
+    /// Asks before an existing file is overwritten.
+    [[nodiscard]] virtual std::optional<std::string> Save(const FileDialogRequest& request) = 0;
+};
+
+} // namespace zelvor

@@ -1,0 +1,18 @@
+#include "platform/LowLatency.h"
+
+#include <QSerialPort>
+#include <linux/serial.h>
+#include <linux/tty_flags.h>
+#include <sys/ioctl.h>
+
+namespace zelvor {
+
+void AskForLowLatency(QSerialPort& port) {
+    serial_struct settings{};
+    if (ioctl(port.handle(), TIOCGSERIAL, &settings) == 0) {
+        settings.flags |= ASYNC_LOW_LATENCY;
+        static_cast<void>(ioctl(port.handle(), TIOCSSERIAL, &settings));
+    }
+}
+
+} // namespace zelvor

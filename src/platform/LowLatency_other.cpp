@@ -1,0 +1,7 @@
+#include "platform/LowLatency.h"
+
+namespace zelvor {
+
+void AskForLowLatency(QSerialPort&) {}
+
+} // namespace zelvor

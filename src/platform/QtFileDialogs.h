@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QString>
+
+#include "platform/FileDialogs.h"
+
+class QFileDialog;
+
+namespace zelvor {
+
+/// Every dialog is a QFileDialog with the objectName "dlgFile".
+class QtFileDialogs : public FileDialogs {
+public:
+    /// Where dialogs start unless told otherwise: the program's directory, or documents where that cannot be written
+    /// to.
+    QtFileDialogs();
+    explicit QtFileDialogs(QString startDirectory);
+
+    [[nodiscard]] std::optional<std::string> Open(const FileDialogRequest& request) override;
+    [[nodiscard]] std::optional<std::string> Save(const FileDialogRequest& request) override;
+
+private:
+    using SetUp = void (*)(QFileDialog& dialog);
+    std::optional<std::string> Ask(const FileDialogRequest& request, SetUp setUp);
+    void Preset(QFileDialog& dialog, const FileDialogRequest& request) const;
+
+    QString startDirectory_;
+};
+
+/// The start directory for a program in that directory.
+[[nodiscard]] QString StartDirectoryFor(const QString& programDirectory);
+
+/// "text|*.dat" as the toolkit writes it, "text (*.dat)"; a text that ends in its pattern already is left as it is.
+[[nodiscard]] QString NameFilterOf(const QString& filter);
+
+} // namespace zelvor

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QPointer>
+#include <QString>
+#include <QStringList>
+#include <QTextBrowser>
+
+#include "platform/HelpViewer.h"
+#include "text/Language.h"
+
+namespace zelvor {
+
+/// Shows the help's pages in a window of its own, "HelpWindow", which stays until the user closes it.
+class QtHelpViewer : public HelpViewer {
+public:
+    /// Searches the folders that an installed program and one just built have.
+    QtHelpViewer();
+    /// The first of the folders that has the page counts.
+    explicit QtHelpViewer(QStringList folders);
+    QtHelpViewer(const QtHelpViewer&) = delete;
+    QtHelpViewer& operator=(const QtHelpViewer&) = delete;
+    ~QtHelpViewer() override;
+
+    void ShowTopic(std::string_view path) override;
+
+private:
+    [[nodiscard]] QString FindPage(const QString& page) const;
+    QTextBrowser& Window(Language language);
+
+    QStringList folders_;
+    QPointer<QTextBrowser> window_;
+};
+
+} // namespace zelvor

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QObject>
+#include <QSerialPort>
+
+#include "platform/SerialPort.h"
+
+namespace zelvor {
+
+/// A port on QSerialPort. The receive event is a queued one, so that its handler may close or destroy the port.
+class QtSerialPort : public SerialPort {
+public:
+    /// ports tells the device behind the number when the port is opened.
+    QtSerialPort(SerialPorts& ports, std::string_view objectName);
+    QtSerialPort(const QtSerialPort&) = delete;
+    QtSerialPort& operator=(const QtSerialPort&) = delete;
+    ~QtSerialPort() override;
+
+    void SetNumber(int number) override;
+    void SetSettings(std::string_view settings) override;
+    /// The system has buffers of its own, and larger ones.
+    void SetBufferSizes(int, int) override {}
+    /// Nothing here translates characters.
+    void SetBinaryInput() override {}
+    [[nodiscard]] bool Open() override;
+    void Close() override;
+    [[nodiscard]] bool IsOpen() const override { return port_.isOpen(); }
+    void ClearInput() override;
+    void ClearOutput() override;
+    void SetReceiveThreshold(int count) override { threshold_ = count; }
+    void SetReadLength(int count) override { readLength_ = count; }
+    [[nodiscard]] std::vector<std::uint8_t> Read() override;
+    [[nodiscard]] int WaitingBytes() const override;
+    void Send(std::span<const std::uint8_t> bytes) override;
+
+private:
+    void TakeIn() const;
+    void TakeInWithoutEventLoop() const;
+    void QueueReceiveEvent() const;
+    void RaiseReceiveEvent() const;
+    void OnError(QSerialPort::SerialPortError error);
+    void Raise(ReceiveReason reason) const;
+
+    SerialPorts& ports_;
+    // What waits in the driver counts as waiting, so that a query takes it in.
+    mutable QSerialPort port_;
+    mutable std::vector<std::uint8_t> input_;
+    mutable bool hasArrived_ = false; // since the last receive event
+    mutable bool isQueued_ = false;   // a receive event
+    int number_ = 1;
+    bool isProbe_ = false;
+    int threshold_ = 0;
+    int readLength_ = 0;
+    mutable QObject queue_; // receiver of our queued calls, which are gone with it
+};
+
+} // namespace zelvor

@@ -1,0 +1,10 @@
+#include "platform/QtServices.h"
+
+#include <QCoreApplication>
+
+namespace zelvor {
+
+// The application object owns the timers, where they are found by their names.
+QtServices::QtServices() : clock_(QCoreApplication::instance()) {}
+
+} // namespace zelvor

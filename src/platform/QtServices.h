@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/QtClock.h"
+#include "platform/QtFileDialogs.h"
+#include "platform/QtHelpViewer.h"
+#include "platform/QtMessageBoxes.h"
+#include "platform/QtPageDevice.h"
+#include "platform/QtSerialPorts.h"
+#include "platform/QtSettingsStore.h"
+#include "platform/Services.h"
+
+namespace zelvor {
+
+/// The machine's services, one of each. Made after the QApplication, and gone before it but after all windows.
+class QtServices {
+public:
+    QtServices();
+    QtServices(const QtServices&) = delete;
+    QtServices& operator=(const QtServices&) = delete;
+
+    [[nodiscard]] Services& Get() { return services_; }
+
+private:
+    QtSerialPorts ports_;
+    QtSettingsStore settings_;
+    QtMessageBoxes messages_;
+    QtFileDialogs files_;
+    QtClock clock_;
+    QtHelpViewer help_;
+    QtPageDevice pages_;
+    Services services_{ports_, settings_, messages_, files_, clock_, help_, pages_};
+};
+
+} // namespace zelvor

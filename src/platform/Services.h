@@ -1,0 +1,24 @@
+#pragma once
+
+namespace zelvor {
+
+class Clock;
+class FileDialogs;
+class HelpViewer;
+class MessageBoxes;
+class PageDevice;
+class SerialPorts;
+class SettingsStore;
+
+/// What the program asks of the machine. Made once by the application, handed on by reference; tests hand on fakes.
+struct Services {
+    SerialPorts& ports;
+    SettingsStore& settings;
+    MessageBoxes& messages;
+    FileDialogs& files;
+    Clock& clock;
+    HelpViewer& help;
+    PageDevice& pages;
+};
+
+} // namespace zelvor

@@ -1,0 +1,109 @@
+#include "platform/fakes/FakePageDevice.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+
+namespace zelvor {
+
+namespace {
+
+constexpr double CharacterWidthPerPoint = 10; // twips
+constexpr double LineHeightPerPoint = 24;
+
+// In UTF-8 every character has one byte that is no continuation byte.
+auto CharacterCount(std::string_view text) {
+    return std::ranges::count_if(text, [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0) != 0x80; });
+}
+
+} // namespace
+
+FakePageDevice::~FakePageDevice() {
+    if (!setups_.empty()) {
+        ADD_FAILURE() << "The printer's set-up dialog was never shown";
+    }
+}
+
+bool FakePageDevice::ShowSetup() {
+    if (setups_.empty()) {
+        ADD_FAILURE() << "The printer's set-up dialog was not expected";
+        return false;
+    }
+    const bool answer = setups_.front();
+    setups_.pop_front();
+    return answer;
+}
+
+bool FakePageDevice::BeginDocument(std::string_view name) {
+    EXPECT_FALSE(isInDocument_) << "A document was begun within another";
+    if (!isAvailable_) {
+        return false;
+    }
+    isInDocument_ = true;
+    name_ = name;
+    SetFont({});
+    pages_.emplace_back();
+    return true;
+}
+
+void FakePageDevice::NewPage() {
+    CheckInDocument();
+    pages_.emplace_back();
+}
+
+void FakePageDevice::EndDocument() {
+    CheckInDocument();
+    isInDocument_ = false;
+    documents_.push_back(name_);
+}
+
+double FakePageDevice::PageWidth() const {
+    CheckInDocument();
+    return width_;
+}
+
+double FakePageDevice::PageHeight() const {
+    CheckInDocument();
+    return height_;
+}
+
+void FakePageDevice::SetFont(const PageFont& font) {
+    CheckInDocument();
+    family_ = font.family;
+    pointSize_ = font.pointSize;
+    bold_ = font.bold;
+}
+
+double FakePageDevice::TextWidth(std::string_view text) const {
+    CheckInDocument();
+    return static_cast<double>(CharacterCount(text)) * pointSize_ * CharacterWidthPerPoint;
+}
+
+double FakePageDevice::TextHeight() const {
+    CheckInDocument();
+    return pointSize_ * LineHeightPerPoint;
+}
+
+void FakePageDevice::DrawText(double x, double y, std::string_view text) {
+    CheckInDocument();
+    if (!pages_.empty()) {
+        pages_.back().texts.push_back({x, y, std::string(text), family_, pointSize_, bold_});
+    }
+}
+
+void FakePageDevice::DrawLine(double x1, double y1, double x2, double y2) {
+    CheckInDocument();
+    if (!pages_.empty()) {
+        pages_.back().lines.push_back({x1, y1, x2, y2});
+    }
+}
+
+void FakePageDevice::SetPageSize(double width, double height) {
+    width_ = width;
+    height_ = height;
+}
+
+void FakePageDevice::CheckInDocument() const {
+    EXPECT_TRUE(isInDocument_) << "The page device was used outside of a document";
+}
+
+} // namespace zelvor

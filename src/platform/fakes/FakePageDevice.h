@@ -1,0 +1,84 @@
+#pragma once
+
+#include <deque>
+#include <string>
+#include <vector>
+
+#include "platform/PageDevice.h"
+
+namespace zelvor {
+
+struct FakePageText {
+    double x = 0;
+    double y = 0;
+    std::string text;
+    std::string family;
+    double pointSize = 10;
+    bool bold = false;
+};
+
+struct FakePageLine {
+    double x1 = 0;
+    double y1 = 0;
+    double x2 = 0;
+    double y2 = 0;
+
+    bool operator==(const FakePageLine&) const = default;
+};
+
+struct FakePage {
+    std::vector<FakePageText> texts;
+    std::vector<FakePageLine> lines;
+};
+
+/// A printer that keeps its pages. Every character is 10 twips wide and 24 twips high to the point of size: 100 and 240
+/// at 10 points. Drawing outside of a document, and a set-up dialog that was not expected or never shown, fail the
+/// test.
+class FakePageDevice : public PageDevice {
+public:
+    FakePageDevice() = default;
+    FakePageDevice(const FakePageDevice&) = delete;
+    FakePageDevice& operator=(const FakePageDevice&) = delete;
+    ~FakePageDevice() override;
+
+    [[nodiscard]] bool IsAvailable() override { return isAvailable_; }
+    [[nodiscard]] bool ShowSetup() override;
+    [[nodiscard]] bool BeginDocument(std::string_view name) override;
+    void NewPage() override;
+    void EndDocument() override;
+    [[nodiscard]] double PageWidth() const override;
+    [[nodiscard]] double PageHeight() const override;
+    void SetFont(const PageFont& font) override;
+    [[nodiscard]] double TextWidth(std::string_view text) const override;
+    [[nodiscard]] double TextHeight() const override;
+    void DrawText(double x, double y, std::string_view text) override;
+    void DrawLine(double x1, double y1, double x2, double y2) override;
+
+    /// A machine without a printer: no document can be begun either.
+    void SetAvailable(bool isAvailable) { isAvailable_ = isAvailable; }
+    /// In twips; 10800 by 15840 unless told otherwise.
+    void SetPageSize(double width, double height);
+    void ExpectSetup(bool answer) { setups_.push_back(answer); }
+
+    /// The names of the documents sent off.
+    [[nodiscard]] const std::vector<std::string>& Documents() const { return documents_; }
+    /// The pages of all documents so far, in order, also of one that is not sent off yet.
+    [[nodiscard]] const std::vector<FakePage>& Pages() const { return pages_; }
+
+private:
+    void CheckInDocument() const;
+
+    bool isAvailable_ = true;
+    bool isInDocument_ = false;
+    double width_ = 10800;
+    double height_ = 15840;
+    std::string name_;
+    std::string family_;
+    double pointSize_ = 10;
+    bool bold_ = false;
+    std::deque<bool> setups_;
+    std::vector<std::string> documents_;
+    std::vector<FakePage> pages_;
+};
+
+} // namespace zelvor

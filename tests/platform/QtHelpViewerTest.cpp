@@ -1,0 +1,77 @@
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTextBrowser>
+#include <gtest/gtest.h>
+
+#include "platform/QtHelpViewer.h"
+#include "support/QtPrinting.h"
+
+namespace zelvor {
+namespace {
+
+class QtHelpViewerInUse : public testing::Test {
+protected:
+    QtHelpViewerInUse() {
+        MakePage("en/chinfo.htm", "<p>Channels</p>");
+        MakePage("zh/chinfo.htm", "<meta charset=\"utf-8\"><p>信道</p>");
+    }
+
+    void MakePage(const QString& name, const char* html) {
+        const QFileInfo page(folder_.filePath(name));
+        QDir().mkpath(page.path());
+        QFile file(page.filePath());
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(html);
+    }
+    static QTextBrowser* Window() {
+        for (QWidget* widget : QApplication::topLevelWidgets()) {
+            if (widget->objectName() == "HelpWindow" && widget->isVisible()) {
+                return qobject_cast<QTextBrowser*>(widget);
+            }
+        }
+        return nullptr;
+    }
+
+    QTemporaryDir folder_;
+    QtHelpViewer viewer_{QStringList{"/no such folder", folder_.path()}};
+};
+
+TEST_F(QtHelpViewerInUse, ShowsAPageOfEitherLanguageInOneWindow) {
+    viewer_.ShowTopic("/opt\\Zelvor_e.chm::/html/chinfo.htm");
+    auto* window = Window();
+    ASSERT_NE(window, nullptr);
+    EXPECT_EQ(window->toPlainText(), "Channels");
+    EXPECT_EQ(window->windowTitle(), "Zelvor Help");
+    viewer_.ShowTopic("/opt\\Zelvor_c.chm::/html/chinfo.htm");
+    EXPECT_EQ(Window(), window);
+    EXPECT_EQ(window->toPlainText(), "信道");
+    EXPECT_EQ(window->windowTitle(), "Zelvor 帮助");
+}
+
+TEST_F(QtHelpViewerInUse, ShowsNothingForAMissingPage) {
+    viewer_.ShowTopic("/opt\\Zelvor_e.chm::/html/missing.htm");
+    EXPECT_EQ(Window(), nullptr);
+    viewer_.ShowTopic("nonsense");
+    EXPECT_EQ(Window(), nullptr);
+}
+
+TEST_F(QtHelpViewerInUse, KeepsThePageShownWhereAnotherIsMissing) {
+    viewer_.ShowTopic("/opt\\Zelvor_e.chm::/html/chinfo.htm");
+    viewer_.ShowTopic("/opt\\Zelvor_e.chm::/html/missing.htm");
+    ASSERT_NE(Window(), nullptr);
+    EXPECT_EQ(Window()->toPlainText(), "Channels");
+}
+
+TEST_F(QtHelpViewerInUse, OpensAgainAfterTheUserClosedIt) {
+    viewer_.ShowTopic("/opt\\Zelvor_e.chm::/html/chinfo.htm");
+    Window()->close();
+    EXPECT_EQ(Window(), nullptr);
+    viewer_.ShowTopic("/opt\\Zelvor_e.chm::/html/chinfo.htm");
+    EXPECT_NE(Window(), nullptr);
+}
+
+} // namespace
+} // namespace zelvor

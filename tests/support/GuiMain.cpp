@@ -1,0 +1,60 @@
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr auto OnlyOwner = QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner;
+
+// One screen that holds the largest window, at 96 dots an inch.
+constexpr auto OffscreenScreen = R"({"screens": [{"name": "Screen", "x": 0, "y": 0, "width": 1600, "height": 1200,
+    "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})";
+
+QByteArray MakeFolder(const QTemporaryDir& home, const QString& name) {
+    const QString path = home.filePath(name);
+    QDir().mkpath(path);
+    QFile::setPermissions(path, OnlyOwner);
+    return path.toLocal8Bit();
+}
+
+/// Nothing of the user's is read or written.
+void UsePrivateFolders(const QTemporaryDir& home) {
+    qputenv("HOME", home.path().toLocal8Bit());
+    qputenv("XDG_CONFIG_HOME", MakeFolder(home, "config"));
+    qputenv("XDG_DATA_HOME", MakeFolder(home, "data"));
+    qputenv("XDG_RUNTIME_DIR", MakeFolder(home, "runtime"));
+}
+
+void UseOffscreenPlatform(const QTemporaryDir& home) {
+    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+    if (!platform.isEmpty() && platform != "offscreen") {
+        return;
+    }
+    QFile file(home.filePath("screen.json"));
+    if (file.open(QIODevice::WriteOnly) && file.write(OffscreenScreen) > 0) {
+        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + file.fileName().toLocal8Bit());
+    }
+}
+
+QtMessageHandler usualHandler = nullptr;
+
+// The offscreen platform complains of what it cannot do for every window.
+void DropComplaintsOfThePlatform(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    if (!text.startsWith(QStringLiteral("This plugin does not support"))) {
+        usualHandler(type, context, text);
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    const QTemporaryDir home;
+    UsePrivateFolders(home);
+    UseOffscreenPlatform(home);
+    usualHandler = qInstallMessageHandler(DropComplaintsOfThePlatform);
+    const QApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}
