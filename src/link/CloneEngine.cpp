@@ -1,0 +1,289 @@
+#include "link/CloneEngine.h"
+
+#include <utility>
+
+#include "link/CloneFrames.h"
+#include "link/CloneTexts.h"
+
+namespace zelvor {
+
+namespace {
+
+// Intervals of the timers and lengths of the waits, in milliseconds.
+constexpr int FirstSendInterval = 10;
+constexpr int ReadTimeout = 500;
+constexpr int WriteTimeout = 200;
+constexpr int CloseInterval = 2;
+constexpr int RefusedCloseInterval = 100;
+constexpr int CompletedWait = 50;
+constexpr int CompletedPause = 20;
+constexpr int RefusedWait = 30;
+constexpr int PromptPause = 100;
+constexpr int RetryPause = 1700;
+constexpr int AbandonWait = 30;
+
+} // namespace
+
+CloneEngine::CloneEngine(Session& session, SerialPort& port, Clock& clock, MessageBoxes& messages,
+                         CloneObserver& observer)
+    : session_(session), link_(session.Link), port_(port), clock_(clock), messages_(messages), observer_(observer),
+      ctrTimer_(clock.MakeTimer("ctrTimer")), messageTimer_(clock.MakeTimer("messageTimer")) {
+    ctrTimer_->OnTick = [this] { OnSendTimer(); };
+    messageTimer_->OnTick = [this] { OnTimeout(); };
+    port_.OnReceive = [this](ReceiveReason reason) { OnReceive(reason); };
+}
+
+CloneEngine::~CloneEngine() {
+    port_.OnReceive = nullptr;
+}
+
+void CloneEngine::Load() {
+    port_.SetBufferSizes(RadioInputBufferSize, RadioOutputBufferSize);
+    if (OpenPort()) {
+        port_.SetBinaryInput();
+        ClearPort();
+        ClosePort();
+    }
+    ctrTimer_->SetEnabled(false);
+    messageTimer_->SetEnabled(false);
+    state_ = TransferState{};
+    link_.SentState = NothingSent;
+    progressMaximum_ = IsReading() ? ReadBlockCount : WritePacketCount;
+    loaded_ = true;
+    deaf_ = false;
+    abandoned_ = false;
+    SetProgress(0);
+}
+
+void CloneEngine::Start() {
+    if (!loaded_ || !MayUnload())
+        return;
+    BeginSession();
+    port_.SetBufferSizes(RadioInputBufferSize, RadioOutputBufferSize);
+    const bool open = OpenPort();
+    if (open) {
+        port_.SetBinaryInput();
+        ClearPort();
+    }
+    observer_.OnButtonsEnabled(false);
+    state_.Running = true;
+    state_.Finished = false;
+    if (open)
+        Run(*ctrTimer_, FirstSendInterval);
+    else
+        FailFast();
+}
+
+void CloneEngine::Cancel() {
+    if (!MayUnload())
+        return;
+    state_.CancelPressed = true;
+    observer_.OnUnloadRequested();
+}
+
+bool CloneEngine::Unload() {
+    loaded_ = false;
+    ctrTimer_->SetEnabled(false);
+    messageTimer_->SetEnabled(false);
+    ClosePort();
+    return std::exchange(state_.CancelPressed, false);
+}
+
+void CloneEngine::OnSendTimer() {
+    if (!loaded_ || link_.CommState == link_.SentState)
+        return;
+    const bool open = OpenPort();
+    ctrTimer_->SetEnabled(false);
+    messageTimer_->SetEnabled(false);
+    if (!open) {
+        if (!abandoned_)
+            FailFast();
+        return;
+    }
+    SendCommand();
+    link_.SentState = link_.CommState;
+    if (Current() != ConnectState::EndSession)
+        Run(*messageTimer_, IsReading() ? ReadTimeout : WriteTimeout);
+    if (!abandoned_)
+        RunEndTest();
+}
+
+void CloneEngine::OnTimeout() {
+    if (!loaded_)
+        return;
+    messageTimer_->SetEnabled(false);
+    if (state_.Finished)
+        observer_.OnUnloadRequested();
+    else
+        PromptForConnection();
+}
+
+bool CloneEngine::IsReading() const {
+    return link_.TransferMode == transfer::Reading;
+}
+
+void CloneEngine::BeginSession() {
+    link_.StepCount = 1;
+    link_.AddrHigh = 0;
+    link_.AddrLow = 0;
+    state_.ReadDone = false;
+    Enter(ConnectState::EnterProgramming);
+}
+
+bool CloneEngine::OpenPort() {
+    if (port_.IsOpen())
+        return true;
+    port_.SetNumber(session_.CommPortNumber);
+    port_.SetSettings(RadioPortSettings);
+    return port_.Open();
+}
+
+void CloneEngine::ClosePort() {
+    if (port_.IsOpen())
+        port_.Close();
+}
+
+void CloneEngine::ClearPort() {
+    port_.ClearInput();
+    port_.ClearOutput();
+}
+
+void CloneEngine::Run(Timer& timer, int milliseconds) {
+    if (!loaded_) // closed from inside a wait or a message
+        return;
+    timer.SetInterval(milliseconds);
+    timer.SetEnabled(true);
+}
+
+void CloneEngine::SendCommand() {
+    switch (Current()) {
+    case ConnectState::EnterProgramming:
+        port_.SetReceiveThreshold(1);
+        Send(wire::Entry);
+        break;
+    case ConnectState::RequestIdentity:
+        state_.RadioIdentity.clear();
+        Send(wire::IdentityRequest);
+        port_.SetReceiveThreshold(1);
+        break;
+    case ConnectState::ConfirmIdentity:
+        Send(wire::Acknowledge);
+        port_.SetReceiveThreshold(1);
+        break;
+    case ConnectState::TransferData:
+        SendData();
+        break;
+    case ConnectState::CloseData:
+        port_.SetReceiveThreshold(1);
+        Send(IsReading() ? wire::Acknowledge : wire::End);
+        break;
+    case ConnectState::EndSession:
+        Send(wire::End);
+        port_.SetReceiveThreshold(1);
+        break;
+    }
+}
+
+void CloneEngine::SendData() {
+    if (IsReading()) {
+        port_.SetReceiveThreshold(wire::ReadReplyLength);
+        Send(ReadBlockCommand(link_));
+    } else {
+        BuildWritePacket(link_, session_.Image);
+        port_.SetReceiveThreshold(1);
+        port_.Send(link_.TxBuffer);
+    }
+}
+
+void CloneEngine::Send(std::span<const std::uint8_t> command) {
+    link_.TxBuffer.assign(command.begin(), command.end());
+    port_.Send(link_.TxBuffer);
+}
+
+void CloneEngine::RunEndTest() {
+    const bool ending = Current() == ConnectState::EndSession;
+    if (link_.TransferMode == transfer::Reading) {
+        if (ending && link_.StepCount >= RepeatedReadStep)
+            Complete(clonetexts::ReadingCompleted);
+    } else if (link_.TransferMode == transfer::Writing) {
+        if ((ending || Current() == ConnectState::CloseData) && link_.StepCount >= WriteDoneStep)
+            Complete(clonetexts::WritingCompleted);
+        else if (ending)
+            EndRefused();
+    }
+}
+
+void CloneEngine::Complete(const TextPair& text) {
+    const bool reading = IsReading();
+    link_.TransferMode = transfer::Done;
+    messageTimer_->SetEnabled(false);
+    clock_.WaitProcessingEvents(CompletedWait);
+    ClosePort();
+    clock_.Sleep(CompletedPause);
+    messages_.Show({.title = "",
+                    .text = std::string(text.In(session_.LanguageFlag)),
+                    .icon = MessageIcon::Information,
+                    .buttons = MessageButtons::Ok,
+                    .defaultButton = MessageAnswer::Ok});
+    session_.PriorityChannelError = false;
+    if (reading) {
+        session_.CurrentFileName = Session::DefaultFileName;
+        observer_.OnReadCompleted();
+    } else {
+        session_.OwnIdError = false;
+        session_.TxCodeError = false;
+        observer_.OnWriteCompleted();
+    }
+    state_.Finished = true;
+    Run(*messageTimer_, CloseInterval);
+}
+
+void CloneEngine::EndRefused() {
+    state_.Finished = true;
+    clock_.WaitProcessingEvents(RefusedWait);
+    Run(*messageTimer_, RefusedCloseInterval);
+}
+
+void CloneEngine::PromptForConnection() {
+    clock_.Sleep(PromptPause);
+    static_cast<void>(OpenPort()); // a port that stays closed leads back here after a retry
+    const MessageAnswer answer = Ask({.title = std::string(clonetexts::Error.In(session_.LanguageFlag)),
+                                      .text = std::string(clonetexts::CheckConnections.In(session_.LanguageFlag)),
+                                      .icon = MessageIcon::Critical,
+                                      .buttons = MessageButtons::RetryCancel,
+                                      .defaultButton = MessageAnswer::Retry});
+    if (answer == MessageAnswer::Retry)
+        Retry();
+    else
+        Abandon();
+}
+
+void CloneEngine::Retry() {
+    clock_.Sleep(RetryPause);
+    link_.SentState = NothingSent;
+    BeginSession();
+    SetProgress(0);
+    ClearPort();
+    deaf_ = false;
+    state_.Running = true;
+    Run(*ctrTimer_, FirstSendInterval);
+}
+
+void CloneEngine::Abandon() {
+    abandoned_ = true;
+    link_.SentState = NothingSent;
+    Send(wire::End);
+    // Inside this wait the tick sends the current state's command once more, behind the End. Intended.
+    Run(*ctrTimer_, StepInterval);
+    clock_.WaitProcessingEvents(AbandonWait);
+    observer_.OnButtonsEnabled(true);
+    state_.Finished = true;
+    observer_.OnUnloadRequested();
+}
+
+MessageAnswer CloneEngine::Ask(const Message& message) {
+    deaf_ = true;
+    return messages_.Show(message);
+}
+
+} // namespace zelvor

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QDialog>
+#include <array>
+#include <memory>
+
+#include "data/Session.h"
+#include "link/PortProbe.h"
+#include "platform/SerialPort.h"
+#include "platform/Services.h"
+
+class QRadioButton;
+
+namespace zelvor {
+
+/// Choice of the serial port. Shown modally; probes all ports while it loads, 200 ms for each one that opens.
+class ComForm : public QDialog {
+    Q_OBJECT
+
+public:
+    ComForm(Session& session, Services& services, QWidget* parent = nullptr);
+    ~ComForm() override;
+
+    void done(int result) override;
+
+signals:
+    /// CommPortNumber was set: the status bar is to be refreshed.
+    void PortChosen();
+
+private:
+    void BuildControls();
+    void ProbePorts();
+    void TakeChoice();
+    void ShowHelp();
+
+    Session& session_;
+    Services& services_;
+    std::unique_ptr<SerialPort> port_;
+    std::array<QRadioButton*, PortCount> optPort_{};
+};
+
+} // namespace zelvor

@@ -1,0 +1,153 @@
+#include "link/ConnectForm.h"
+
+#include <QCloseEvent>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "link/CloneFrames.h"
+#include "platform/HelpTopic.h"
+#include "platform/HelpViewer.h"
+#include "platform/Toolkit.h"
+
+namespace zelvor {
+
+namespace {
+
+// Numbers of the string table.
+constexpr int ReadCaption = 186;
+constexpr int WriteCaption = 187;
+
+constexpr TextPair Ready{"Connect the radio, switch it on and press OK.", "请连接对讲机并打开电源，然后按“确定”。"};
+constexpr TextPair Connecting{"Connecting to the radio...", "正在连接对讲机..."};
+constexpr TextPair Reading{"Reading...", "正在读取..."};
+constexpr TextPair Writing{"Writing...", "正在写入..."};
+constexpr TextPair Completed{"Completed.", "完毕。"};
+
+/// Painting waits until the next command is on the wire, where the radio's answer takes longer than the painting.
+constexpr int ProgressDelay = 5; // milliseconds
+
+constexpr int BarWidthTwips = 5100;
+
+} // namespace
+
+ConnectForm::ConnectForm(Session& session, Services& services, TransferDirection direction, QWidget* parent)
+    : QDialog(parent), session_(session), services_(services), direction_(direction),
+      port_(services.ports.Make("MSComm1")), engine_(session, *port_, services.clock, services.messages, *this),
+      progressTimer_(services.clock.MakeTimer("progressTimer")) {
+    setObjectName("ConnectForm");
+    setModal(true);
+    const bool reading = direction_ == TransferDirection::Read;
+    session_.Link.TransferMode = reading ? transfer::Reading : transfer::Writing;
+    setWindowTitle(ToQString(session_.LoadText(reading ? ReadCaption : WriteCaption)));
+    BuildControls();
+
+    progressTimer_->SetInterval(ProgressDelay);
+    progressTimer_->OnTick = [this] { ShowProgress(); };
+
+    engine_.Load();
+    prgValue_->setMaximum(engine_.ProgressMaximum());
+    ShowProgress();
+}
+
+ConnectForm::~ConnectForm() {
+    engine_.Unload();
+}
+
+void ConnectForm::reject() {
+    if (engine_.State().Finished)
+        Unload();
+    else
+        engine_.Cancel(); // refuses by itself while a transfer runs
+}
+
+void ConnectForm::closeEvent(QCloseEvent* event) {
+    if (!engine_.MayUnload()) {
+        event->ignore();
+        return;
+    }
+    Unload();
+    event->accept();
+}
+
+void ConnectForm::OnProgress(int) {
+    progressTimer_->SetEnabled(true);
+}
+
+void ConnectForm::OnButtonsEnabled(bool enabled) {
+    for (QPushButton* button : {buttons_.cmdOK, buttons_.cmdCancel, buttons_.cmdHelp})
+        button->setEnabled(enabled);
+    progressTimer_->SetEnabled(true);
+}
+
+void ConnectForm::OnReadCompleted() {
+    emit ReadCompleted();
+}
+
+void ConnectForm::OnWriteCompleted() {
+    emit WriteCompleted();
+}
+
+void ConnectForm::OnUnloadRequested() {
+    Unload();
+}
+
+void ConnectForm::BuildControls() {
+    labStatus_ = new QLabel(this);
+    labStatus_->setObjectName("labStatus");
+    labStatus_->setText(StatusText());
+    labStatus_->setMinimumWidth(labStatus_->sizeHint().width()); // the longest text: the dialog keeps its size
+
+    prgValue_ = new QProgressBar(this);
+    prgValue_->setObjectName("PrgValue");
+    prgValue_->setRange(0, 1);
+    prgValue_->setFormat("%v / %m");
+    prgValue_->setAlignment(Qt::AlignCenter);
+    prgValue_->setMinimumWidth(PixelsOfTwips(BarWidthTwips));
+    prgValue_->setAccessibleName(windowTitle());
+
+    buttons_ = MakeDialogButtons(*this, session_);
+    connect(buttons_.cmdOK, &QPushButton::clicked, this, [this] { engine_.Start(); });
+    connect(buttons_.cmdCancel, &QPushButton::clicked, this, [this] { engine_.Cancel(); });
+    connect(buttons_.cmdHelp, &QPushButton::clicked, this, &ConnectForm::ShowHelp);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(labStatus_);
+    layout->addWidget(prgValue_);
+    layout->addLayout(buttons_.row);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void ConnectForm::ShowProgress() {
+    progressTimer_->SetEnabled(false);
+    prgValue_->setValue(engine_.Progress());
+    labStatus_->setText(StatusText());
+}
+
+QString ConnectForm::StatusText() const {
+    const bool reading = direction_ == TransferDirection::Read;
+    const TextPair& text = session_.Link.TransferMode == transfer::Done ? Completed
+                           : !engine_.State().Running                   ? Ready
+                           : engine_.Progress() == 0                    ? Connecting
+                           : reading                                    ? Reading
+                                                                        : Writing;
+    return ToQString(text.In(session_.LanguageFlag));
+}
+
+void ConnectForm::ShowHelp() {
+    const bool reading = direction_ == TransferDirection::Read;
+    services_.help.ShowTopic(HelpTopicPath(session_.LanguageFlag, reading ? "readradio.htm" : "writeradio.htm"));
+}
+
+void ConnectForm::Unload() {
+    if (unloaded_)
+        return;
+    unloaded_ = true;
+    progressTimer_->SetEnabled(false);
+    const bool cancelPressed = engine_.Unload();
+    done(engine_.State().Finished ? Accepted : Rejected);
+    emit Unloaded(cancelPressed);
+}
+
+} // namespace zelvor

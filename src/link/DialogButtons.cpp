@@ -1,0 +1,43 @@
+#include "link/DialogButtons.h"
+
+#include <QDialog>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QShortcut>
+
+#include "data/Session.h"
+#include "platform/Toolkit.h"
+
+namespace zelvor {
+
+namespace {
+
+// Numbers of the string table.
+constexpr int OkText = 96;
+constexpr int CancelText = 97;
+constexpr int HelpText = 76;
+
+QPushButton* MakeButton(QDialog& dialog, const char* name, std::string_view text) {
+    auto* button = new QPushButton(ToQString(text), &dialog);
+    button->setObjectName(name);
+    button->setAutoDefault(false);
+    return button;
+}
+
+} // namespace
+
+DialogButtons MakeDialogButtons(QDialog& dialog, const Session& session) {
+    DialogButtons buttons{MakeButton(dialog, "cmdOK", session.LoadText(OkText)),
+                          MakeButton(dialog, "cmdCancel", session.LoadText(CancelText)),
+                          MakeButton(dialog, "cmdHelp", session.LoadText(HelpText)), new QHBoxLayout};
+    buttons.cmdOK->setDefault(true);
+    buttons.row->addStretch();
+    for (QPushButton* button : {buttons.cmdOK, buttons.cmdCancel, buttons.cmdHelp})
+        buttons.row->addWidget(button);
+
+    auto* helpKey = new QShortcut(QKeySequence::HelpContents, &dialog);
+    QObject::connect(helpKey, &QShortcut::activated, buttons.cmdHelp, &QPushButton::click);
+    return buttons;
+}
+
+} // namespace zelvor

@@ -1,0 +1,21 @@
+#pragma once
+
+class QDialog;
+class QHBoxLayout;
+class QPushButton;
+
+namespace zelvor {
+
+class Session;
+
+/// The three buttons of a link dialog, in one row: cmdOK (the default button), cmdCancel, cmdHelp (also F1).
+struct DialogButtons {
+    QPushButton* cmdOK;
+    QPushButton* cmdCancel;
+    QPushButton* cmdHelp;
+    QHBoxLayout* row; // to be put into the dialog's layout
+};
+
+[[nodiscard]] DialogButtons MakeDialogButtons(QDialog& dialog, const Session& session);
+
+} // namespace zelvor

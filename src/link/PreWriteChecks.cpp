@@ -1,0 +1,92 @@
+#include "link/PreWriteChecks.h"
+
+#include <initializer_list>
+#include <string>
+
+#include "data/MemoryMap.h"
+#include "link/CloneTexts.h"
+#include "text/Language.h"
+
+namespace zelvor {
+
+namespace {
+
+constexpr TextPair HeadLine{"The following setting is incorrect.", "以下设置错误。"};
+constexpr TextPair PriorityChannel{"\"Priority Channel\"", "\"优先信道\""};
+constexpr TextPair OwnFleet{"\"Fleet(Own)\"", "\"队列（自身）\""};
+constexpr TextPair OwnId{"\"ID(Own)\"", "\"ID（自身）\""};
+constexpr TextPair BeginOfTxCode{"\"Begin of TX code\"", "\"发射开始代码\""};
+constexpr TextPair EndOfTxCode{"\"End of TX code\"", "\"发射结束代码\""};
+constexpr std::string_view LineBreak = "\r\n";
+
+// Values of Session::TxCodeErrorKind.
+constexpr int BeginCode = 1;
+constexpr int EndCode = 2;
+constexpr int BothCodes = 3;
+
+// Byte of a channel that tells whether its transmissions send the code.
+constexpr int CodeByte = 14;
+constexpr std::uint8_t LowNibble = 0x0F;
+constexpr std::uint8_t CodeBit = 0x01;
+
+enum class EmptyLine { No, Yes };
+
+Message ErrorBox(Language language, EmptyLine emptyLine, std::initializer_list<TextPair> names) {
+    std::string text(HeadLine.In(language));
+    if (emptyLine == EmptyLine::Yes)
+        text += LineBreak;
+    for (const TextPair& name : names) {
+        text += LineBreak;
+        text += name.In(language);
+    }
+    return {.title = std::string(clonetexts::Error.In(language)),
+            .text = text,
+            .icon = MessageIcon::Critical,
+            .buttons = MessageButtons::Ok,
+            .defaultButton = MessageAnswer::Ok};
+}
+
+bool UsesCode(const DataImage& image, int channel) {
+    const std::uint8_t byte = image.At(address::Channel(channel) + CodeByte);
+    return (byte & LowNibble) != LowNibble && (byte & CodeBit) != 0;
+}
+
+bool AnyChannelUsesCode(const DataImage& image) {
+    for (int channel = 1; channel <= address::ChannelCount; ++channel)
+        if (UsesCode(image, channel))
+            return true;
+    return false;
+}
+
+std::optional<Message> TxCodeBox(Language language, int kind) {
+    // The boxes that name the begin code have no empty line. Intended.
+    switch (kind) {
+    case BeginCode:
+        return ErrorBox(language, EmptyLine::No, {BeginOfTxCode});
+    case EndCode:
+        return ErrorBox(language, EmptyLine::Yes, {EndOfTxCode});
+    case BothCodes:
+        return ErrorBox(language, EmptyLine::No, {BeginOfTxCode, EndOfTxCode});
+    default:
+        return std::nullopt;
+    }
+}
+
+} // namespace
+
+std::optional<Message> CheckBeforeWrite(Session& session) {
+    const Language language = session.LanguageFlag;
+    if (session.PriorityChannelError)
+        return ErrorBox(language, EmptyLine::Yes, {PriorityChannel});
+    if (session.OwnIdError)
+        return ErrorBox(language, EmptyLine::Yes, {OwnFleet, OwnId});
+    if (!session.TxCodeError)
+        return std::nullopt;
+    if (!AnyChannelUsesCode(session.Image)) {
+        session.TxCodeError = false;
+        return std::nullopt;
+    }
+    return TxCodeBox(language, session.TxCodeErrorKind);
+}
+
+} // namespace zelvor

@@ -1,0 +1,299 @@
+#include "link/ConnectForm.h"
+
+#include <QLabel>
+#include <QProgressBar>
+#include <QSignalSpy>
+#include <QTimer>
+
+#include "link/EngineRig.h"
+#include "link/LinkFormRig.h"
+
+namespace zelvor {
+namespace {
+
+class ConnectFormTest : public testing::Test {
+protected:
+    ConnectFormTest() {
+        fakes.ports.OnMake = [this](FakeSerialPort& port) { radio.Attach(port); };
+        session.Image.Set(0x1BD, 0x01);
+        session.Image.Set(0x1BE, 0xF8);
+    }
+    ConnectForm& Load(TransferDirection direction) {
+        form = std::make_unique<ConnectForm>(session, fakes.Get(), direction);
+        QObject::connect(form.get(), &ConnectForm::ReadCompleted, [this] { Note("read completed"); });
+        QObject::connect(form.get(), &ConnectForm::WriteCompleted, [this] { Note("write completed"); });
+        QObject::connect(form.get(), &ConnectForm::Unloaded,
+                         [this](bool cancelled) { Note(cancelled ? "unloaded by cancel" : "unloaded"); });
+        return *form;
+    }
+    void Note(const std::string& what) { notes.push_back(what + (form->isVisible() ? ", visible" : ", hidden")); }
+    [[nodiscard]] QProgressBar& Bar() const { return Find<QProgressBar>(*form, "PrgValue"); }
+    [[nodiscard]] std::string Status() const { return FromQString(Find<QLabel>(*form, "labStatus").text()); }
+    [[nodiscard]] bool IsEnabled(const char* button) const { return Find<QPushButton>(*form, button).isEnabled(); }
+
+    Session session;
+    FakeServices fakes;
+    ScriptedRadio radio{fakes.clock, fakes.ports};
+    std::unique_ptr<ConnectForm> form;
+    std::vector<std::string> notes;
+};
+
+TEST_F(ConnectFormTest, HasItsTextsInEnglish) {
+    Load(TransferDirection::Read);
+    EXPECT_EQ(form->objectName(), "ConnectForm");
+    EXPECT_TRUE(form->isModal());
+    EXPECT_EQ(FromQString(form->windowTitle()), "Read data from radio");
+    EXPECT_EQ(CaptionOf(*form, "cmdOK"), "&OK");
+    EXPECT_EQ(CaptionOf(*form, "cmdCancel"), "&Cancel");
+    EXPECT_EQ(CaptionOf(*form, "cmdHelp"), "&Help");
+    Load(TransferDirection::Write);
+    EXPECT_EQ(FromQString(form->windowTitle()), "Write data to radio");
+}
+
+TEST_F(ConnectFormTest, HasItsTextsInChinese) {
+    session.LanguageFlag = Language::Chinese;
+    Load(TransferDirection::Read);
+    EXPECT_EQ(FromQString(form->windowTitle()), "从对讲机读取数据");
+    EXPECT_EQ(CaptionOf(*form, "cmdOK"), "确定(&O)");
+    EXPECT_EQ(CaptionOf(*form, "cmdCancel"), "取消(&C)");
+    EXPECT_EQ(CaptionOf(*form, "cmdHelp"), "帮助(&H)");
+    Load(TransferDirection::Write);
+    EXPECT_EQ(FromQString(form->windowTitle()), "向对讲机写入数据");
+}
+
+TEST_F(ConnectFormTest, HasItsTimersAndItsPortByName) {
+    Load(TransferDirection::Read);
+    EXPECT_NE(fakes.clock.FindTimer("ctrTimer"), nullptr);
+    EXPECT_NE(fakes.clock.FindTimer("messageTimer"), nullptr);
+    EXPECT_NE(fakes.ports.Port("MSComm1"), nullptr);
+}
+
+TEST_F(ConnectFormTest, ReadingHasABarOfSixteenAndWritingOneOfFortyNine) {
+    Load(TransferDirection::Read);
+    EXPECT_EQ(session.Link.TransferMode, 0);
+    EXPECT_EQ(Bar().value(), 0);
+    EXPECT_EQ(Bar().maximum(), 16);
+    Load(TransferDirection::Write);
+    EXPECT_EQ(session.Link.TransferMode, 1);
+    EXPECT_EQ(Bar().value(), 0);
+    EXPECT_EQ(Bar().maximum(), 49);
+}
+
+TEST_F(ConnectFormTest, SendsNothingBeforeOk) {
+    ShowActive(Load(TransferDirection::Read));
+    fakes.clock.Advance(10000);
+    EXPECT_TRUE(radio.Commands().empty());
+    EXPECT_TRUE(notes.empty());
+}
+
+TEST_F(ConnectFormTest, EnterIsOk) {
+    ShowActive(Load(TransferDirection::Read));
+    QTest::keyClick(form.get(), Qt::Key_Return);
+    fakes.clock.Advance(10);
+    EXPECT_EQ(radio.Commands(), std::vector<std::string>{"50 52 4F 47 52 41 4D"});
+}
+
+TEST_F(ConnectFormTest, ReadsDecodesAndCloses) {
+    ShowActive(Load(TransferDirection::Read));
+    fakes.messages.Expect(ReadingCompleted(), MessageAnswer::Ok);
+    Click(*form, "cmdOK");
+    fakes.clock.Advance(1000);
+    EXPECT_EQ(notes, (std::vector<std::string>{"read completed, visible", "unloaded, hidden"}));
+    EXPECT_EQ(form->result(), QDialog::Accepted);
+    EXPECT_FALSE(fakes.ports.Port("MSComm1")->IsOpen());
+}
+
+TEST_F(ConnectFormTest, WritesAndCloses) {
+    ShowActive(Load(TransferDirection::Write));
+    fakes.messages.Expect(WritingCompleted(), MessageAnswer::Ok);
+    Click(*form, "cmdOK");
+    fakes.clock.Advance(1000);
+    EXPECT_EQ(notes, (std::vector<std::string>{"write completed, visible", "unloaded, hidden"}));
+}
+
+TEST_F(ConnectFormTest, ExecReturnsWhenTheTransferIsOver) {
+    Load(TransferDirection::Read);
+    fakes.messages.Expect(ReadingCompleted(), MessageAnswer::Ok);
+    QTimer::singleShot(0, form.get(), [this] {
+        Click(*form, "cmdOK");
+        fakes.clock.Advance(1000);
+    });
+    EXPECT_EQ(form->exec(), QDialog::Accepted);
+    EXPECT_EQ(notes.size(), 2U);
+}
+
+TEST_F(ConnectFormTest, DisablesItsButtonsWhileItRuns) {
+    ShowActive(Load(TransferDirection::Read));
+    Click(*form, "cmdOK");
+    for (const char* button : {"cmdOK", "cmdCancel", "cmdHelp"})
+        EXPECT_FALSE(IsEnabled(button)) << button;
+    fakes.clock.Advance(30);
+    QTest::keyClick(form.get(), Qt::Key_F1);
+    EXPECT_TRUE(fakes.help.Topics().empty());
+}
+
+TEST_F(ConnectFormTest, CancelBeforeOkUnloadsAndTellsThatCancelWasPressed) {
+    ShowActive(Load(TransferDirection::Read));
+    Click(*form, "cmdCancel");
+    EXPECT_EQ(notes, std::vector<std::string>{"unloaded by cancel, hidden"});
+    EXPECT_TRUE(radio.Commands().empty());
+}
+
+TEST_F(ConnectFormTest, EscapeBeforeOkIsCancel) {
+    ShowActive(Load(TransferDirection::Read));
+    QTest::keyClick(form.get(), Qt::Key_Escape);
+    EXPECT_EQ(notes, std::vector<std::string>{"unloaded by cancel, hidden"});
+}
+
+TEST_F(ConnectFormTest, ClosedByItsFrameBeforeOkWasNotCancelled) {
+    ShowActive(Load(TransferDirection::Read));
+    EXPECT_TRUE(form->close());
+    EXPECT_EQ(notes, std::vector<std::string>{"unloaded, hidden"});
+}
+
+TEST_F(ConnectFormTest, RefusesToCloseWhileItRuns) {
+    ShowActive(Load(TransferDirection::Read));
+    Click(*form, "cmdOK");
+    fakes.clock.Advance(30);
+    EXPECT_FALSE(form->close());
+    QTest::keyClick(form.get(), Qt::Key_Escape);
+    form->reject();
+    EXPECT_TRUE(form->isVisible());
+    EXPECT_TRUE(notes.empty());
+}
+
+TEST_F(ConnectFormTest, RefusesToCloseBehindThePromptAndClosesAfterCancel) {
+    radio.Spoil(1, Fault::Drop);
+    ShowActive(Load(TransferDirection::Read));
+    fakes.messages.Expect(ConnectionPrompt(), [this] {
+        EXPECT_FALSE(form->close());
+        return MessageAnswer::Cancel;
+    });
+    Click(*form, "cmdOK");
+    fakes.clock.Advance(1000);
+    EXPECT_EQ(radio.FaultsFired(), 1);
+    EXPECT_EQ(notes, std::vector<std::string>{"unloaded, hidden"});
+    for (const char* button : {"cmdOK", "cmdCancel", "cmdHelp"})
+        EXPECT_TRUE(IsEnabled(button)) << button;
+}
+
+TEST_F(ConnectFormTest, MayBeClosedByItsFrameOnceTheUserRefusedTheModel) {
+    session.Image.Set(0x1BD, 0x55);
+    ShowActive(Load(TransferDirection::Write));
+    fakes.messages.Expect(ModelPrompt(), MessageAnswer::Cancel);
+    Click(*form, "cmdOK");
+    fakes.clock.Advance(60);
+    EXPECT_TRUE(notes.empty());
+    EXPECT_TRUE(form->close());
+    fakes.clock.Advance(1000);
+    EXPECT_EQ(notes, std::vector<std::string>{"unloaded, hidden"});
+}
+
+TEST_F(ConnectFormTest, PaintsProgressOnlyWhenTheNextCommandIsOnTheWire) {
+    ShowActive(Load(TransferDirection::Write));
+    Click(*form, "cmdOK");
+    fakes.clock.Advance(10 + 3 * 3 + 2); // the first packet is acknowledged now
+    EXPECT_EQ(form->Engine().Progress(), 1);
+    const std::size_t commands = radio.Commands().size();
+    EXPECT_EQ(Bar().value(), 0);
+    fakes.clock.Advance(4);
+    EXPECT_EQ(Bar().value(), 0);
+    EXPECT_GT(radio.Commands().size(), commands);
+    fakes.clock.Advance(1);
+    EXPECT_EQ(Bar().value(), form->Engine().Progress());
+    EXPECT_GT(Bar().value(), 0);
+}
+
+TEST_F(ConnectFormTest, FillsTheBarBeforeTheShellIsTold) {
+    ShowActive(Load(TransferDirection::Read));
+    int atBox = 0;
+    fakes.messages.Expect(ReadingCompleted(), [&] {
+        atBox = Bar().value();
+        return MessageAnswer::Ok;
+    });
+    Click(*form, "cmdOK");
+    fakes.clock.Advance(1000);
+    EXPECT_EQ(atBox, 16);
+}
+
+TEST_F(ConnectFormTest, ARetryEmptiesTheBar) {
+    radio.Spoil(3 + 6 + 1, Fault::Drop);
+    ShowActive(Load(TransferDirection::Read));
+    fakes.messages.Expect(ConnectionPrompt(), [this] {
+        EXPECT_EQ(Bar().value(), 3);
+        return MessageAnswer::Retry;
+    });
+    Click(*form, "cmdOK");
+    fakes.clock.Advance(600);
+    fakes.clock.Advance(9);
+    EXPECT_EQ(radio.FaultsFired(), 1);
+    EXPECT_EQ(Bar().value(), 0);
+}
+
+TEST_F(ConnectFormTest, TellsWhatItDoesInBothLanguages) {
+    ShowActive(Load(TransferDirection::Read));
+    EXPECT_EQ(Status(), "Connect the radio, switch it on and press OK.");
+    Click(*form, "cmdOK");
+    fakes.clock.Advance(12);
+    EXPECT_EQ(Status(), "Connecting to the radio...");
+    fakes.clock.Advance(30);
+    EXPECT_EQ(Status(), "Reading...");
+
+    session.LanguageFlag = Language::Chinese;
+    ShowActive(Load(TransferDirection::Write));
+    Click(*form, "cmdOK");
+    fakes.clock.Advance(42);
+    EXPECT_EQ(Status(), "正在写入...");
+}
+
+TEST_F(ConnectFormTest, KeepsItsSizeWhateverItTells) {
+    ShowActive(Load(TransferDirection::Read));
+    const QSize size = form->size();
+    Click(*form, "cmdOK");
+    fakes.clock.Advance(60);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Status(), "Reading...");
+    EXPECT_EQ(form->size(), size);
+}
+
+TEST_F(ConnectFormTest, HelpOpensTheTopicOfItsDirection) {
+    const auto topicOf = [this](TransferDirection direction, Language language) {
+        session.LanguageFlag = language;
+        ShowActive(Load(direction));
+        Click(*form, "cmdHelp");
+        return fakes.help.Topics().back();
+    };
+    const std::string folder = ProgramFolder();
+    EXPECT_EQ(topicOf(TransferDirection::Read, Language::English), folder + "\\Zelvor_e.chm::/html/readradio.htm");
+    EXPECT_EQ(topicOf(TransferDirection::Write, Language::English), folder + "\\Zelvor_e.chm::/html/writeradio.htm");
+    EXPECT_EQ(topicOf(TransferDirection::Read, Language::Chinese), folder + "\\Zelvor_c.chm::/html/readradio.htm");
+    EXPECT_EQ(topicOf(TransferDirection::Write, Language::Chinese), folder + "\\Zelvor_c.chm::/html/writeradio.htm");
+}
+
+TEST_F(ConnectFormTest, F1IsHelp) {
+    ShowActive(Load(TransferDirection::Read));
+    QTest::keyClick(form.get(), Qt::Key_F1);
+    EXPECT_EQ(fakes.help.Topics(), std::vector<std::string>{ProgramFolder() + "\\Zelvor_e.chm::/html/readradio.htm"});
+}
+
+TEST_F(ConnectFormTest, HasItsButtonsInOrder) {
+    ShowActive(Load(TransferDirection::Read));
+    const int ok = Find<QPushButton>(*form, "cmdOK").x();
+    const int cancel = Find<QPushButton>(*form, "cmdCancel").x();
+    const int help = Find<QPushButton>(*form, "cmdHelp").x();
+    EXPECT_LT(ok, cancel);
+    EXPECT_LT(cancel, help);
+}
+
+TEST_F(ConnectFormTest, DestroyedWhileItRunsClosesThePort) {
+    ShowActive(Load(TransferDirection::Read));
+    Click(*form, "cmdOK");
+    fakes.clock.Advance(30);
+    ASSERT_TRUE(fakes.ports.Port("MSComm1")->IsOpen());
+    form.reset();
+    EXPECT_EQ(fakes.ports.Record("MSComm1").log.back(), "close");
+    fakes.clock.Advance(5000);
+}
+
+} // namespace
+} // namespace zelvor

@@ -1,0 +1,96 @@
+#include "link/ScriptedRadio.h"
+
+#include <algorithm>
+
+namespace zelvor {
+
+std::string Hex(std::span<const std::uint8_t> bytes) {
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    std::string text;
+    for (const std::uint8_t byte : bytes) {
+        if (!text.empty())
+            text += ' ';
+        text += digits[byte >> 4];
+        text += digits[byte & 0x0F];
+    }
+    return text;
+}
+
+void ScriptedRadio::Attach(FakeSerialPort& port) {
+    port.OnSend = [this](std::span<const std::uint8_t> bytes) { Serve(bytes); };
+}
+
+void ScriptedRadio::Spoil(int reply, Fault fault) {
+    spoiledReply_ = reply;
+    fault_ = fault;
+}
+
+void ScriptedRadio::Serve(std::span<const std::uint8_t> command) {
+    commands_.push_back(Hex(command));
+    if (Hex(command) == "50 52 4F 47 52 41 4D") {
+        programming_ = true;
+        return Reply({0x06});
+    }
+    if (!programming_)
+        return;
+    if (command.front() == 'E') {
+        programming_ = false;
+        if (AnswersEnd)
+            DeliverAfter(ReplyDelay, {0x06});
+    } else if (command.front() == 0x02) {
+        Reply(Bytes(Identity.begin(), Identity.end()));
+    } else if (command.front() == 0x06) {
+        Reply({0x06});
+    } else if (command.front() == 'R') {
+        const auto block = Memory.begin() + command[1] * 256 + command[2];
+        Bytes reply{'W', command[1], command[2], 0x40};
+        reply.insert(reply.end(), block, block + 64);
+        Reply(reply);
+    } else if (command.front() == 'W') {
+        std::copy(command.begin() + 4, command.end(), Memory.begin() + command[1] * 256 + command[2]);
+        Reply({0x06});
+    }
+}
+
+void ScriptedRadio::Reply(Bytes reply) {
+    ++replies_;
+    bytesReplied_ += static_cast<int>(reply.size());
+    int delay = ReplyDelay;
+    if (replies_ == spoiledReply_) {
+        ++faultsFired_;
+        switch (fault_) {
+        case Fault::None:
+            break;
+        case Fault::Drop:
+            return;
+        case Fault::Cut:
+            reply.pop_back();
+            break;
+        case Fault::Corrupt:
+            reply.front() ^= 0x55;
+            break;
+        case Fault::Late:
+            delay = LateDelay;
+            break;
+        case Fault::Vanish:
+            clock_.At(ReplyDelay, [this] { ports_.Port("MSComm1")->Vanish(); });
+            return;
+        }
+    }
+    DeliverAfter(delay, reply);
+}
+
+void ScriptedRadio::DeliverAfter(int milliseconds, const Bytes& reply) {
+    const auto deliver = [this](const Bytes& bytes) {
+        if (FakeSerialPort* port = ports_.Port("MSComm1"))
+            port->Deliver(bytes);
+    };
+    if (!ByteByByte) {
+        clock_.At(milliseconds, [=] { deliver(reply); });
+        return;
+    }
+    for (const std::uint8_t byte : reply)
+        clock_.At(milliseconds++, [=] { deliver({byte}); });
+}
+
+} // namespace zelvor
