@@ -1,0 +1,59 @@
+#include "shell/AboutForm.h"
+
+#include <QGridLayout>
+#include <QIcon>
+#include <QLabel>
+#include <QPushButton>
+
+#include "data/Session.h"
+#include "platform/Toolkit.h"
+#include "shell/Icons.h"
+
+namespace zelvor {
+
+namespace {
+
+constexpr int CloseText = 75; // of the string table
+
+constexpr TextPair Caption{"About Zelvor", "关于 Zelvor"};
+constexpr TextPair About{"Zelvor RADIO PROGRAMMING SOFTWARE\n"
+                         "FOR 4618/4613/4617/5618/5613/5617\n"
+                         "\n"
+                         "VERSION 1.00\n"
+                         "RELEASE Jan/30/2007",
+                         "Zelvor对讲机编程软件\n"
+                         "用于4618/4613/4617/5618/5613/5617\n"
+                         "\n"
+                         "版本 1.00\n"
+                         "发布2007/01/30"};
+
+constexpr int PictureSize = 64;
+constexpr int Margin = 20;
+
+} // namespace
+
+AboutForm::AboutForm(const Session& session, QWidget* parent) : QDialog(parent) {
+    setObjectName("AboutForm");
+    setWindowTitle(ToQString(Caption.In(session.LanguageFlag)));
+    setWindowIcon(MakeIcon(IconShape::Application));
+
+    auto* picture = new QLabel(this);
+    picture->setPixmap(MakeIcon(IconShape::Application).pixmap(QSize(PictureSize, PictureSize), devicePixelRatioF()));
+    auto* lblAbout = new QLabel(ToQString(About.In(session.LanguageFlag)), this);
+    lblAbout->setObjectName("LblAbout");
+    auto* cmdClose = new QPushButton(ToQString(session.LoadText(CloseText)), this);
+    cmdClose->setObjectName("cmdClose");
+    cmdClose->setDefault(true);
+    connect(cmdClose, &QPushButton::clicked, this, &QDialog::accept);
+
+    auto* layout = new QGridLayout(this);
+    layout->setContentsMargins(Margin, Margin, Margin, Margin);
+    layout->setHorizontalSpacing(Margin);
+    layout->setVerticalSpacing(Margin);
+    layout->addWidget(picture, 0, 0, Qt::AlignTop);
+    layout->addWidget(lblAbout, 0, 1);
+    layout->addWidget(cmdClose, 1, 0, 1, 2, Qt::AlignRight);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+} // namespace zelvor

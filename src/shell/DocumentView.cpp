@@ -1,0 +1,96 @@
+#include "shell/DocumentView.h"
+
+#include <QWidget>
+
+#include "channels/ChannelForm.h"
+#include "data/ModelCatalogue.h"
+#include "data/Session.h"
+#include "platform/Toolkit.h"
+#include "shell/ChildWindows.h"
+#include "shell/ModelTypeForm.h"
+#include "shell/WindowList.h"
+
+namespace zelvor {
+
+namespace {
+
+constexpr int GridEntry = 0;
+
+} // namespace
+
+DocumentView::DocumentView(Session& session, Services& services, ChildWindows& children, WindowList& list,
+                           QWidget& mainWindow)
+    : session_(session), services_(services), children_(children), list_(list), mainWindow_(mainWindow) {}
+
+ChannelForm& DocumentView::Grid() {
+    return static_cast<ChannelForm&>(children_.Load(ChildWindow::Channels));
+}
+
+void DocumentView::ShowGrid() {
+    children_.Show(ChildWindow::Channels);
+}
+
+void DocumentView::UnloadEditors() {
+    children_.UnloadEditors();
+}
+
+void DocumentView::ResetGrid() {
+    ShowGrid();
+    Grid().HideEditors();
+    PlaceGrid();
+}
+
+void DocumentView::ShowGridIfClosed() {
+    if (!session_.IsOpen(ChildWindow::Channels)) {
+        ShowGrid();
+    }
+}
+
+void DocumentView::PlaceGrid() {
+    children_.PlaceAtOrigin(ChildWindow::Channels);
+}
+
+void DocumentView::DecodeImageToGrid() {
+    Grid().DecodeImageToGrid();
+}
+
+void DocumentView::ListNewDocument() {
+    list_.SetMenuShown(true);
+    // The cursor first: where it moves, it writes the other form of the caption.
+    Grid().SelectCell(1, 1);
+    list_.Show(GridEntry, NewDocumentChannelCaption(session_.LanguageFlag));
+}
+
+void DocumentView::ListGrid() {
+    list_.SetMenuShown(true);
+    if (!list_.IsShown(GridEntry)) {
+        session_.CurrentChannel = 1;
+        list_.Show(GridEntry, ChannelCaption(session_.LanguageFlag, session_.CurrentChannel));
+        list_.ClearMark(GridEntry);
+    }
+}
+
+void DocumentView::ShowTitle() {
+    QString title = ToQString(BuildMainTitle(session_.Image, session_.BaseName(), session_.LanguageFlag));
+    // The toolkit's mark for changed documents, where a file is named so.
+    title.replace("[*]", "[*][*]");
+    mainWindow_.setWindowTitle(title);
+}
+
+void DocumentView::ChooseModel() {
+    ModelTypeForm dialog(session_, services_, &mainWindow_);
+    dialog.exec();
+}
+
+void DocumentView::ResetAfterTransfer() {
+    UnloadEditors();
+    PlaceGrid();
+}
+
+void DocumentView::MarkGrid() {
+    session_.SetOpen(ChildWindow::Channels, true);
+    list_.Mark(GridEntry);
+    ListGrid();
+}
+
+} // namespace zelvor

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "shell/DocumentWindows.h"
+
+class QWidget;
+
+namespace zelvor {
+
+class ChannelForm;
+class ChildWindows;
+class Session;
+class WindowList;
+struct Services;
+
+/// The windows as the session's commands see them.
+class DocumentView : public DocumentWindows {
+public:
+    DocumentView(Session& session, Services& services, ChildWindows& children, WindowList& list, QWidget& mainWindow);
+
+    void UnloadEditors() override;
+    void ResetGrid() override;
+    void ShowGridIfClosed() override;
+    void PlaceGrid() override;
+    void DecodeImageToGrid() override;
+    void ListNewDocument() override;
+    void ListGrid() override;
+    void ShowTitle() override;
+    void ChooseModel() override;
+
+    /// What a transfer that got under way leaves of the windows: no editor open, the grid at its place.
+    void ResetAfterTransfer();
+    /// Every end of a transfer leaves the grid listed and current.
+    void MarkGrid();
+    /// The channel grid, made where it does not exist.
+    [[nodiscard]] ChannelForm& Grid();
+    void ShowGrid();
+
+private:
+    Session& session_;
+    Services& services_;
+    ChildWindows& children_;
+    WindowList& list_;
+    QWidget& mainWindow_;
+};
+
+} // namespace zelvor

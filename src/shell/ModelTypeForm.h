@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QDialog>
+
+class QComboBox;
+class QLayout;
+
+namespace zelvor {
+
+class Session;
+struct Services;
+
+/// Choice of the document's variant. Shown modally; OK changes the market byte of the image and nothing else:
+/// rebuilding the document is up to who shows the dialog.
+class ModelTypeForm : public QDialog {
+    Q_OBJECT
+
+public:
+    ModelTypeForm(Session& session, Services& services, QWidget* parent = nullptr);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void BuildControls();
+    void SelectVariantOfImage();
+    void FillRanges(int modelIndex);
+    void Accept();
+    [[nodiscard]] bool ConfirmClearing();
+    void StoreVariant();
+
+    Session& session_;
+    Services& services_;
+    QComboBox* cboModelType_ = nullptr;
+    QComboBox* cboFreq_ = nullptr;
+    int loadedModel_ = -1; // indexes of both lists as the dialog opened
+    int loadedRange_ = -1;
+};
+
+} // namespace zelvor

@@ -1,0 +1,169 @@
+#include "shell/Toolbar1.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QMainWindow>
+#include <QMouseEvent>
+#include <QRubberBand>
+#include <QToolButton>
+#include <array>
+#include <optional>
+
+#include "data/Session.h"
+#include "platform/Toolkit.h"
+#include "shell/Icons.h"
+#include "shell/ToolbarGrip.h"
+
+namespace zelvor {
+
+namespace {
+
+struct Button {
+    int index;
+    int toolTip; // number of the string table
+    IconShape icon;
+};
+constexpr std::array<Button, 7> Buttons{{
+    {1, 52, IconShape::New},
+    {2, 53, IconShape::Open},
+    {3, 54, IconShape::Save},
+    {5, 55, IconShape::Print},
+    {7, 56, IconShape::Read},
+    {9, 57, IconShape::Write},
+    {11, 58, IconShape::About},
+}};
+
+constexpr int IconSize = 24;
+
+QString ButtonName(int index) {
+    return QStringLiteral("Toolbar1(%1)").arg(index);
+}
+
+std::optional<Qt::ToolBarArea> AreaOf(ToolbarAlignment alignment) {
+    switch (alignment) {
+    case ToolbarAlignment::None:
+        return std::nullopt;
+    case ToolbarAlignment::Top:
+        return Qt::TopToolBarArea;
+    case ToolbarAlignment::Bottom:
+        return Qt::BottomToolBarArea;
+    case ToolbarAlignment::Left:
+        return Qt::LeftToolBarArea;
+    case ToolbarAlignment::Right:
+        return Qt::RightToolBarArea;
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+Toolbar1::Toolbar1(QMainWindow& mainWindow) : QToolBar(&mainWindow), mainWindow_(mainWindow) {
+    setObjectName("Toolbar1");
+    setIconSize(QSize(IconSize, IconSize));
+    // The toolkit's own dragging has docking rules of its own.
+    setMovable(false);
+    setFloatable(false);
+    setAutoFillBackground(true);
+    addWidget(new ToolbarGrip(*this));
+    AddButtons();
+    mainWindow.addToolBar(Qt::TopToolBarArea, this);
+}
+
+void Toolbar1::AddButtons() {
+    int next = 1;
+    for (const Button& button : Buttons) {
+        for (; next < button.index; ++next) {
+            addSeparator()->setObjectName(ButtonName(next));
+        }
+        QAction* action = addAction(MakeIcon(button.icon), QString());
+        action->setObjectName(ButtonName(button.index));
+        widgetForAction(action)->setObjectName(ButtonName(button.index));
+        next = button.index + 1;
+    }
+}
+
+void Toolbar1::ApplyToolTips(const Session& session) {
+    for (const Button& button : Buttons) {
+        auto* action = findChild<QAction*>(ButtonName(button.index));
+        const QString toolTip = ToQString(session.LoadText(button.toolTip));
+        action->setText(toolTip);
+        action->setToolTip(toolTip);
+        widgetForAction(action)->setAccessibleName(toolTip);
+    }
+}
+
+void Toolbar1::On(int index, std::function<void()> command) {
+    connect(findChild<QAction*>(ButtonName(index)), &QAction::triggered, this,
+            [command = std::move(command)] { command(); });
+}
+
+void Toolbar1::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) {
+        isPressed_ = true;
+        pressed_ = event->pos();
+        event->accept();
+    }
+}
+
+void Toolbar1::mouseMoveEvent(QMouseEvent* event) {
+    const bool isFar = (event->pos() - pressed_).manhattanLength() >= QApplication::startDragDistance();
+    if (isPressed_ && !outline_ && isFar) {
+        outline_ = new QRubberBand(QRubberBand::Rectangle, &mainWindow_);
+        outline_->resize(sizeHint());
+        outline_->show();
+    }
+    if (outline_) {
+        outline_->move(mapTo(&mainWindow_, event->pos() - pressed_));
+    }
+}
+
+void Toolbar1::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) {
+        return;
+    }
+    const bool wasDragged = outline_ != nullptr;
+    EndDrag();
+    // A drop on itself is none on the main window.
+    const bool isOnMainWindow = mainWindow_.rect().contains(mapTo(&mainWindow_, event->pos()));
+    if (wasDragged && isOnMainWindow && !rect().contains(event->pos())) {
+        DropAt(mainWindow_.centralWidget()->mapFrom(&mainWindow_, mapTo(&mainWindow_, event->pos())));
+    }
+}
+
+void Toolbar1::EndDrag() {
+    isPressed_ = false;
+    delete outline_;
+}
+
+void Toolbar1::DropAt(QPoint clientPosition) {
+    const QSize client = mainWindow_.centralWidget()->size();
+    Align(DockingRule(TwipsOfPixels(clientPosition.x()), TwipsOfPixels(clientPosition.y()),
+                      TwipsOfPixels(client.width()), TwipsOfPixels(client.height())),
+          clientPosition);
+    update();
+}
+
+void Toolbar1::Align(ToolbarAlignment alignment, QPoint clientPosition) {
+    const bool wasHidden = isHidden();
+    alignment_ = alignment;
+    mainWindow_.removeToolBar(this);
+    if (const auto area = AreaOf(alignment)) {
+        mainWindow_.addToolBar(*area, this);
+    } else {
+        Float(clientPosition);
+    }
+    setVisible(!wasHidden);
+}
+
+void Toolbar1::Float(QPoint clientPosition) {
+    const QWidget& client = *mainWindow_.centralWidget();
+    setParent(&mainWindow_);
+    setOrientation(Qt::Horizontal);
+    adjustSize();
+    const QPoint furthest = client.geometry().bottomRight() - rect().bottomRight();
+    const QPoint place = client.pos() + clientPosition;
+    move(qMax(0, qMin(place.x(), furthest.x())), qMax(0, qMin(place.y(), furthest.y())));
+    raise();
+}
+
+} // namespace zelvor

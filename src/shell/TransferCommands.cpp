@@ -1,0 +1,48 @@
+#include "shell/TransferCommands.h"
+
+#include <QObject>
+
+#include "controls/PendingEdit.h"
+#include "data/Session.h"
+#include "link/ConnectForm.h"
+#include "link/PreWriteChecks.h"
+#include "platform/MessageBoxes.h"
+#include "platform/Services.h"
+#include "shell/DocumentView.h"
+
+namespace zelvor {
+
+TransferCommands::TransferCommands(Session& session, Services& services, DocumentView& view, QWidget& mainWindow)
+    : session_(session), services_(services), view_(view), mainWindow_(mainWindow) {}
+
+void TransferCommands::Read() {
+    CommitPendingEdit();
+    ShowTransfer(false);
+}
+
+void TransferCommands::Write() {
+    CommitPendingEdit();
+    if (const auto complaint = CheckBeforeWrite(session_)) {
+        services_.messages.Show(*complaint);
+        return;
+    }
+    ShowTransfer(true);
+}
+
+void TransferCommands::ShowTransfer(bool isWrite) {
+    ConnectForm dialog(session_, services_, isWrite ? TransferDirection::Write : TransferDirection::Read, &mainWindow_);
+    QObject::connect(&dialog, &ConnectForm::ReadCompleted, &dialog, [this] {
+        view_.DecodeImageToGrid();
+        view_.ShowTitle();
+    });
+    QObject::connect(&dialog, &ConnectForm::Unloaded, &dialog, [this](bool cancelPressed) {
+        if (!cancelPressed) {
+            view_.ResetAfterTransfer();
+        }
+        view_.MarkGrid();
+    });
+    dialog.exec();
+    view_.ShowGrid();
+}
+
+} // namespace zelvor

@@ -1,0 +1,140 @@
+#include "shell/TreeViewForm.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QTreeWidget>
+#include <array>
+
+#include "data/MemoryMap.h"
+#include "data/ModelCatalogue.h"
+#include "platform/Clock.h"
+#include "platform/HelpTopic.h"
+#include "platform/HelpViewer.h"
+#include "platform/Services.h"
+#include "platform/Toolkit.h"
+
+namespace zelvor {
+
+namespace {
+
+// Numbers of the string table.
+constexpr int CaptionText = 194;
+constexpr int CloseText = 75;
+constexpr int HelpText = 76;
+
+struct Node {
+    const char* key;
+    int text;
+    ChildWindow window;
+};
+constexpr const char* RootKey = "R";
+constexpr std::array<Node, 8> Nodes{{
+    {"C1", 195, ChildWindow::Channels},
+    {"C2", 41, ChildWindow::OptionalFeatures},
+    {"C3", 42, ChildWindow::KeyAssignment},
+    {"C4", 43, ChildWindow::Scan},
+    {"C5", 44, ChildWindow::Dtmf},
+    {"C6", 45, ChildWindow::Corvane},
+    {"C7", 46, ChildWindow::TestFrequency},
+    {"C8", 47, ChildWindow::EmbeddedMessage},
+}};
+constexpr int KeyRole = Qt::UserRole;
+
+/// A double click has to follow the click on the node within this time.
+constexpr std::int64_t DoubleClickMilliseconds = 500;
+
+constexpr QSize FormTwips(3600, 4800);
+constexpr int Margin = 8;
+constexpr int ButtonHeight = 26;
+constexpr int ButtonWidth = 108;
+constexpr int ButtonTop = PixelsOfTwips(FormTwips.height()) - Margin - ButtonHeight;
+constexpr int TreeWidth = PixelsOfTwips(FormTwips.width()) - 2 * Margin;
+
+} // namespace
+
+TreeViewForm::TreeViewForm(const Session& session, Services& services, QWidget* parent)
+    : ChildForm(ChildWindow::Navigator, "TreeViewForm", FormTwips, parent), session_(session), services_(services) {
+    SetCaption(ToQString(session.LoadText(CaptionText)));
+    BuildControls();
+    BuildTree();
+    NodeClickTick = services_.clock.TickCount();
+}
+
+void TreeViewForm::BuildControls() {
+    treView_ = new QTreeWidget(Content());
+    treView_->setObjectName("treView");
+    treView_->setAccessibleName(windowTitle());
+    treView_->setHeaderHidden(true);
+    treView_->setGeometry(Margin, Margin, TreeWidth, ButtonTop - 2 * Margin);
+    treView_->installEventFilter(this);
+    treView_->viewport()->installEventFilter(this);
+    connect(treView_, &QTreeWidget::itemClicked, this, &TreeViewForm::OnNodeClick);
+    setFocusProxy(treView_);
+
+    QPushButton* cmdClose = MakeButton("cmdClose", CloseText, Margin);
+    QPushButton* cmdHelp = MakeButton("cmdHelp", HelpText, Margin + TreeWidth - ButtonWidth);
+    connect(cmdClose, &QPushButton::clicked, this, &TreeViewForm::UnloadRequested);
+    connect(cmdHelp, &QPushButton::clicked, this,
+            [this] { services_.help.ShowTopic(HelpTopicPath(session_.LanguageFlag, HelpPage())); });
+}
+
+QPushButton* TreeViewForm::MakeButton(const char* name, int text, int left) {
+    auto* button = new QPushButton(ToQString(session_.LoadText(text)), Content());
+    button->setObjectName(name);
+    button->setGeometry(left, ButtonTop, ButtonWidth, ButtonHeight);
+    return button;
+}
+
+void TreeViewForm::BuildTree() {
+    const auto model = NavigatorModelText(session_.Image.At(address::Family), session_.Image.At(address::Market));
+    auto* root = new QTreeWidgetItem(treView_, {ToQString(model)});
+    root->setData(0, KeyRole, RootKey);
+    for (const Node& node : Nodes) {
+        auto* item = new QTreeWidgetItem(root, {ToQString(session_.LoadText(node.text))});
+        item->setData(0, KeyRole, node.key);
+    }
+    root->setExpanded(true);
+    treView_->setCurrentItem(root);
+}
+
+bool TreeViewForm::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == treView_ && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            ActivateSelectedNode();
+            return true;
+        }
+    }
+    if (watched == treView_->viewport() && event->type() == QEvent::MouseButtonDblClick) {
+        OnDoubleClick(static_cast<QMouseEvent*>(event)->pos());
+    }
+    return ChildForm::eventFilter(watched, event);
+}
+
+void TreeViewForm::OnNodeClick() {
+    NodeClickTick = services_.clock.TickCount();
+    NodeClicked = true;
+}
+
+void TreeViewForm::OnDoubleClick(const QPoint& position) {
+    const bool isSoon = services_.clock.TickCount() - NodeClickTick < DoubleClickMilliseconds;
+    if (isSoon && NodeClicked && treView_->itemAt(position) != nullptr) {
+        ActivateSelectedNode();
+    }
+}
+
+void TreeViewForm::ActivateSelectedNode() {
+    const QTreeWidgetItem* selected = treView_->currentItem();
+    if (selected == nullptr) {
+        return;
+    }
+    for (const Node& node : Nodes) {
+        if (selected->text(0) == ToQString(session_.LoadText(node.text))) {
+            emit WindowChosen(node.window);
+            return;
+        }
+    }
+}
+
+} // namespace zelvor

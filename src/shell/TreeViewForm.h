@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstdint>
+
+#include "controls/ChildForm.h"
+
+class QPushButton;
+class QTreeWidget;
+
+namespace zelvor {
+
+struct Services;
+
+/// The navigator: a tree with the model as its root and a node per child window.
+class TreeViewForm : public ChildForm {
+    Q_OBJECT
+
+public:
+    TreeViewForm(const Session& session, Services& services, QWidget* parent = nullptr);
+
+    [[nodiscard]] std::string_view HelpPage() const override { return "treeview.htm"; }
+
+signals:
+    /// The node of a window was activated.
+    void WindowChosen(ChildWindow window);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void BuildControls();
+    void BuildTree();
+    QPushButton* MakeButton(const char* name, int text, int left);
+    void OnNodeClick();
+    void OnDoubleClick(const QPoint& position);
+    void ActivateSelectedNode();
+
+    const Session& session_;
+    Services& services_;
+    QTreeWidget* treView_ = nullptr;
+    bool NodeClicked = false;
+    std::int64_t NodeClickTick = 0;
+};
+
+} // namespace zelvor

@@ -1,0 +1,195 @@
+#include <QDir>
+#include <QFile>
+#include <QMdiSubWindow>
+#include <QTableWidget>
+#include <QTemporaryDir>
+
+#include "shell/ShellTest.h"
+
+namespace zelvor {
+namespace {
+
+constexpr const char* Filter = "QPK Data Files(*.dat)|*.dat";
+
+Message OverwriteQuestion(const std::string& name) {
+    return {"Warning", "Overwrite Warning!\nSave File Name:" + name, MessageIcon::Exclamation, MessageButtons::OkCancel,
+            MessageAnswer::Cancel};
+}
+
+class SaveCommandsTest : public ShellTest {
+protected:
+    void SetUp() override { oldDirectory_ = QDir::currentPath(); }
+    void TearDown() override { QDir::setCurrent(oldDirectory_); }
+
+    [[nodiscard]] std::string PathOf(const char* name) const { return directory.filePath(name).toStdString(); }
+
+    [[nodiscard]] static QByteArray Content(const std::string& path) {
+        QFile file(QString::fromStdString(path));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    /// The head and the 1024 bytes of the memory in address order.
+    [[nodiscard]] QByteArray FileOfTheImage() const {
+        QByteArray bytes("RQ6152");
+        bytes.append(10, '\xFF');
+        for (int address = 0; address < 0x400; ++address) {
+            bytes.append(static_cast<char>(session.Image.At(address)));
+        }
+        return bytes;
+    }
+
+    QTemporaryDir directory;
+
+private:
+    QString oldDirectory_;
+};
+
+TEST_F(SaveCommandsTest, SaveOfANewDocumentAsksForAName) {
+    OpenMainWindow();
+    FillImage();
+    fakes.files.ExpectSave({"Zelvor.dat", Filter, ""}, PathOf("First.dat"));
+    Choose("MnuFileSave");
+    EXPECT_EQ(Content(PathOf("First.dat")), FileOfTheImage());
+    EXPECT_EQ(session.CurrentFileName, PathOf("First.dat"));
+    EXPECT_EQ(session.CurrentDirectory, "");
+    EXPECT_EQ(window->windowTitle(), "Zelvor [4618: VHF: 136-174 MHz(M)] [ File Name:First.dat]");
+    EXPECT_FALSE(session.IsDocumentChanged());
+}
+
+TEST_F(SaveCommandsTest, TheNextSaveAsksWhetherToOverwriteThatName) {
+    OpenMainWindow();
+    fakes.files.ExpectSave({"Zelvor.dat", Filter, ""}, PathOf("First.dat"));
+    Choose("MnuFileSave");
+    FillImage();
+    fakes.messages.Expect(OverwriteQuestion("First.dat"), MessageAnswer::Ok);
+    ClickToolbar(3);
+    EXPECT_EQ(Content(PathOf("First.dat")), FileOfTheImage());
+    EXPECT_FALSE(session.IsDocumentChanged());
+}
+
+TEST_F(SaveCommandsTest, OverwritingIsAskedInChinese) {
+    OpenMainWindowInChinese();
+    session.CurrentFileName = PathOf("车队.dat");
+    fakes.messages.Expect({"警告", "改写警告!\n保存文件名:车队.dat", MessageIcon::Exclamation, MessageButtons::OkCancel,
+                           MessageAnswer::Cancel},
+                          MessageAnswer::Ok);
+    Choose("MnuFileSave");
+    EXPECT_EQ(Content(PathOf("车队.dat")), FileOfTheImage());
+    EXPECT_EQ(window->windowTitle(), "Zelvor [4618: VHF: 136-174 MHz(M)] [ 文件名:车队.dat]");
+}
+
+TEST_F(SaveCommandsTest, OverwritingRefusedWritesNothing) {
+    OpenMainWindow();
+    session.CurrentFileName = PathOf("First.dat");
+    session.Image.Set(0x100, 0x12);
+    fakes.messages.Expect(OverwriteQuestion("First.dat"), MessageAnswer::Cancel);
+    Choose("MnuFileSave");
+    EXPECT_FALSE(QFile::exists(directory.filePath("First.dat")));
+    EXPECT_TRUE(session.IsDocumentChanged());
+}
+
+TEST_F(SaveCommandsTest, SaveCancelledChangesNothing) {
+    OpenMainWindow();
+    session.Image.Set(0x100, 0x12);
+    fakes.files.ExpectSave({"Zelvor.dat", Filter, ""}, std::nullopt);
+    Choose("MnuFileSave");
+    EXPECT_EQ(session.CurrentFileName, "Zelvor.dat");
+    EXPECT_TRUE(session.IsDocumentChanged());
+    EXPECT_FALSE(session.SaveCancelled);
+}
+
+TEST_F(SaveCommandsTest, SaveToAPathThatCannotBeWrittenIsSilentAndKeepsTheSnapshot) {
+    OpenMainWindow();
+    session.Image.Set(0x100, 0x12);
+    const DataImage saved = session.SavedImage;
+    fakes.files.ExpectSave({"Zelvor.dat", Filter, ""}, PathOf("missing/First.dat"));
+    Choose("MnuFileSave");
+    EXPECT_TRUE(fakes.messages.Shown().empty());
+    EXPECT_EQ(session.SavedImage, saved);
+    EXPECT_TRUE(session.IsDocumentChanged());
+    EXPECT_EQ(session.CurrentFileName, PathOf("missing/First.dat"));
+    EXPECT_EQ(window->windowTitle(), "Zelvor [4618: VHF: 136-174 MHz(M)] [ File Name:Zelvor.dat]");
+}
+
+TEST_F(SaveCommandsTest, SaveAsStartsFromTheCurrentNameAndRemembersTheFolder) {
+    OpenMainWindow();
+    FillImage();
+    session.SaveCancelled = true;
+    fakes.files.ExpectSave({"Zelvor.dat", Filter, ""}, PathOf("Second.dat"));
+    Choose("MnuFileSaveAs");
+    EXPECT_EQ(Content(PathOf("Second.dat")), FileOfTheImage());
+    EXPECT_EQ(session.CurrentFileName, PathOf("Second.dat"));
+    EXPECT_EQ(session.CurrentDirectory, QDir(directory.path()).canonicalPath().toStdString());
+    EXPECT_FALSE(session.SaveCancelled);
+    EXPECT_FALSE(session.IsDocumentChanged());
+    EXPECT_EQ(window->windowTitle(), "Zelvor [4618: VHF: 136-174 MHz(M)] [ File Name:Second.dat]");
+
+    fakes.files.ExpectSave({PathOf("Second.dat"), Filter, session.CurrentDirectory}, std::nullopt);
+    Choose("MnuFileSaveAs");
+    EXPECT_TRUE(session.SaveCancelled);
+    EXPECT_EQ(session.CurrentFileName, PathOf("Second.dat"));
+}
+
+TEST_F(SaveCommandsTest, SaveAsUsesTheChineseFilterInChinese) {
+    OpenMainWindowInChinese();
+    fakes.files.ExpectSave({"Zelvor.dat", "QPK 数据文件 (*.dat)|*.dat", ""}, std::nullopt);
+    Choose("MnuFileSaveAs");
+    EXPECT_TRUE(session.SaveCancelled);
+}
+
+TEST_F(SaveCommandsTest, SaveAsToAPathThatCannotBeWrittenCountsAsCancelled) {
+    OpenMainWindow();
+    session.Image.Set(0x100, 0x12);
+    fakes.files.ExpectSave({"Zelvor.dat", Filter, ""}, PathOf("missing/Second.dat"));
+    Choose("MnuFileSaveAs");
+    EXPECT_TRUE(session.SaveCancelled);
+    EXPECT_TRUE(session.IsDocumentChanged());
+    EXPECT_TRUE(fakes.messages.Shown().empty());
+}
+
+TEST_F(SaveCommandsTest, ANameWithTheToolkitsPlaceholderIsShownAsItIs) {
+    OpenMainWindow();
+    fakes.files.ExpectSave({"Zelvor.dat", Filter, ""}, PathOf("A[*].dat"));
+    Choose("MnuFileSave");
+    EXPECT_EQ(window->windowTitle(), "Zelvor [4618: VHF: 136-174 MHz(M)] [ File Name:A[*][*].dat]");
+}
+
+TEST_F(SaveCommandsTest, TheTitleSetWhileTheGridIsMaximisedIsThereWhenItIsNormalAgain) {
+    OpenMainWindow();
+    auto* frame = qobject_cast<QMdiSubWindow*>(Child("ChannelForm")->parentWidget());
+    frame->showMaximized();
+    fakes.files.ExpectSave({"Zelvor.dat", Filter, ""}, PathOf("First.dat"));
+    Choose("MnuFileSave");
+    EXPECT_TRUE(window->windowTitle().startsWith("Zelvor [4618: VHF: 136-174 MHz(M)] [ File Name:First.dat]"));
+    frame->showNormal();
+    EXPECT_EQ(window->windowTitle(), "Zelvor [4618: VHF: 136-174 MHz(M)] [ File Name:First.dat]");
+}
+
+TEST_F(SaveCommandsTest, SaveFromTheToolbarCommitsTheEditInTheGrid) {
+    OpenMainWindow();
+    auto* grid = Find<QTableWidget>("ChannelGrid");
+    grid->setFocus();
+    QTest::keyClicks(grid, "1");
+    auto* editor = Find<QWidget>("txtInputBox");
+    ASSERT_TRUE(editor->isVisible());
+    QTest::keyClicks(editor, "45.5");
+    fakes.files.ExpectSave({"Zelvor.dat", Filter, ""}, PathOf("Edited.dat"));
+    ClickToolbar(3);
+    EXPECT_EQ(Content(PathOf("Edited.dat")).mid(16 + 0x010, 4).toHex(), "00005514");
+    EXPECT_FALSE(session.IsDocumentChanged());
+}
+
+TEST_F(SaveCommandsTest, SaveByItsShortcutCommitsTheEditInTheGridAndLeavesTheKeyboardThere) {
+    OpenMainWindow();
+    auto* grid = Find<QTableWidget>("ChannelGrid");
+    grid->setFocus();
+    QTest::keyClicks(grid, "1");
+    QTest::keyClicks(Find<QWidget>("txtInputBox"), "46");
+    fakes.files.ExpectSave({"Zelvor.dat", Filter, ""}, PathOf("Edited.dat"));
+    QTest::keyClick(window.get(), Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(Content(PathOf("Edited.dat")).mid(16 + 0x010, 4).toHex(), "00006014");
+    EXPECT_TRUE(grid->hasFocus());
+}
+
+} // namespace
+} // namespace zelvor

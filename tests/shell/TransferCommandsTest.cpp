@@ -1,0 +1,161 @@
+#include <QDialog>
+#include <QMdiSubWindow>
+#include <QTableWidget>
+#include <QTimer>
+
+#include "link/ScriptedRadio.h"
+#include "shell/ShellTest.h"
+
+namespace zelvor {
+namespace {
+
+const Message ReadDone{"", "Reading Completed", MessageIcon::Information, MessageButtons::Ok, MessageAnswer::Ok};
+const Message WriteDone{"", "Writing Completed", MessageIcon::Information, MessageButtons::Ok, MessageAnswer::Ok};
+const Message NoAnswer{"Error", "please check all connections and communication port settings.", MessageIcon::Critical,
+                       MessageButtons::RetryCancel, MessageAnswer::Retry};
+
+class TransferCommandsTest : public ShellTest {
+protected:
+    /// Presses cmdOK and lets the transfer run to its end.
+    void Transfer(const std::string& entry) {
+        ChooseDialog(entry, [this](QWidget& dialog) {
+            EXPECT_EQ(dialog.objectName(), "ConnectForm");
+            Click(dialog, "cmdOK");
+            fakes.clock.Advance(10000);
+        });
+    }
+
+    /// A radio of model 5618, market M, with channel 1 on 450.12500 MHz, receive only.
+    void ConnectRadio() {
+        radio_.Memory.fill(0xFF);
+        radio_.Identity = {0x50, 0x35, 0x36, 0x31, 0x38, 33, 0xF8, 0xFF};
+        std::copy(radio_.Identity.begin(), radio_.Identity.end(), radio_.Memory.begin() + 0x1B8);
+        const std::array<std::uint8_t, 8> frequencies{0x00, 0x25, 0x01, 0x45, 0, 0, 0, 0};
+        std::copy(frequencies.begin(), frequencies.end(), radio_.Memory.begin() + 0x010);
+        fakes.ports.OnMake = [this](FakeSerialPort& port) { radio_.Attach(port); };
+    }
+
+    [[nodiscard]] QMdiSubWindow* GridFrame() const {
+        return qobject_cast<QMdiSubWindow*>(Child("ChannelForm")->parentWidget());
+    }
+
+private:
+    ScriptedRadio radio_{fakes.clock, fakes.ports};
+};
+
+TEST_F(TransferCommandsTest, AReadBecomesANewDocumentThatCountsAsChanged) {
+    OpenMainWindow();
+    ConnectRadio();
+    session.CurrentFileName = "/somewhere/Other.dat";
+    session.PriorityChannelError = true;
+    fakes.messages.Expect(ReadDone, MessageAnswer::Ok);
+    Transfer("MnuProgramRead");
+    EXPECT_EQ(session.Image.At(0x1BD), 33);
+    EXPECT_EQ(Find<QTableWidget>("ChannelGrid")->item(0, 0)->text(), "450.12500");
+    EXPECT_EQ(session.CurrentFileName, "Zelvor.dat");
+    EXPECT_EQ(window->windowTitle(), "Zelvor [5618: UHF: 450-490 MHz(M)] [ File Name:Zelvor.dat]");
+    EXPECT_TRUE(session.IsDocumentChanged());
+    EXPECT_FALSE(session.PriorityChannelError);
+}
+
+TEST_F(TransferCommandsTest, AReadThenExitOffersToSave) {
+    OpenMainWindow();
+    ConnectRadio();
+    fakes.messages.Expect(ReadDone, MessageAnswer::Ok);
+    Transfer("MnuProgramRead");
+    fakes.messages.Expect({"Confirmation", "Do you wish to exit Zelvor program？", MessageIcon::Question,
+                           MessageButtons::YesNo, MessageAnswer::Yes},
+                          MessageAnswer::Yes);
+    fakes.messages.Expect({"Zelvor", "Do you wish to save the changes in \"Zelvor.DAT\" ?", MessageIcon::Exclamation,
+                           MessageButtons::YesNoCancel, MessageAnswer::Yes},
+                          MessageAnswer::Cancel);
+    EXPECT_FALSE(window->close());
+}
+
+TEST_F(TransferCommandsTest, AReadClosesTheEditorsAndPlacesTheGrid) {
+    OpenMainWindow();
+    ConnectRadio();
+    Choose("MnuViewTreeView");
+    GridFrame()->move(90, 40);
+    GridFrame()->showMinimized();
+    fakes.messages.Expect(ReadDone, MessageAnswer::Ok);
+    Transfer("MnuProgramRead");
+    EXPECT_EQ(Child("TreeViewForm"), nullptr);
+    EXPECT_FALSE(session.IsOpen(ChildWindow::Navigator));
+    EXPECT_FALSE(GridFrame()->isMinimized());
+    EXPECT_EQ(GridFrame()->pos(), QPoint(0, 0));
+}
+
+TEST_F(TransferCommandsTest, ATransferShowsAndListsAGridThatWasClosed) {
+    OpenMainWindow();
+    ConnectRadio();
+    CloseFrame("ChannelForm");
+    session.CurrentChannel = 7;
+    fakes.messages.Expect(ReadDone, MessageAnswer::Ok);
+    Transfer("MnuProgramRead");
+    EXPECT_TRUE(IsChildShown("ChannelForm"));
+    EXPECT_TRUE(session.IsOpen(ChildWindow::Channels));
+    EXPECT_TRUE(Entry("MnuWindow")->isVisible());
+    EXPECT_TRUE(Entry("MnuWindowSub(0)")->isVisible());
+    EXPECT_EQ(TextOf("MnuWindowSub(0)"), " Channel Information [ Channel - 1 ]");
+    EXPECT_EQ(session.CurrentChannel, 1);
+}
+
+TEST_F(TransferCommandsTest, AFailedReadClosesTheEditorsAsWell) {
+    OpenMainWindow();
+    Choose("MnuViewTreeView");
+    fakes.messages.Expect(NoAnswer, MessageAnswer::Cancel);
+    Transfer("MnuProgramRead");
+    EXPECT_EQ(Child("TreeViewForm"), nullptr);
+    EXPECT_EQ(session.CurrentFileName, "Zelvor.dat");
+    EXPECT_EQ(window->windowTitle(), "Zelvor [4618: VHF: 136-174 MHz(M)] [ File Name:Zelvor.dat]");
+}
+
+TEST_F(TransferCommandsTest, CancelBeforeTheTransferKeepsTheEditors) {
+    OpenMainWindow();
+    Choose("MnuViewTreeView");
+    GridFrame()->move(90, 40);
+    ChooseDialog("MnuProgramRead", [](QWidget& dialog) { Click(dialog, "cmdCancel"); });
+    EXPECT_TRUE(IsChildShown("TreeViewForm"));
+    EXPECT_EQ(GridFrame()->pos(), QPoint(90, 40));
+}
+
+TEST_F(TransferCommandsTest, ReadAndWriteStartFromTheToolbarAsWell) {
+    OpenMainWindow();
+    QStringList captions;
+    for (const int index : {7, 9}) {
+        QTimer::singleShot(0, window.get(), [&] {
+            QWidget* dialog = QApplication::activeModalWidget();
+            ASSERT_NE(dialog, nullptr);
+            captions.append(dialog->windowTitle());
+            Click(*dialog, "cmdCancel");
+        });
+        ClickToolbar(index);
+    }
+    EXPECT_EQ(captions, QStringList({"Read data from radio", "Write data to radio"}));
+}
+
+TEST_F(TransferCommandsTest, AWriteLeavesTheDocumentItsNameAndClearsTheComplaints) {
+    OpenMainWindow();
+    ConnectRadio();
+    session.Image.Set(0x1BD, 33);
+    session.CurrentFileName = "/somewhere/Other.dat";
+    fakes.messages.Expect(WriteDone, MessageAnswer::Ok);
+    Transfer("MnuProgramWrite");
+    EXPECT_EQ(session.CurrentFileName, "/somewhere/Other.dat");
+    EXPECT_EQ(fakes.ports.Record("MSComm1").sent.empty(), false);
+}
+
+TEST_F(TransferCommandsTest, AWriteIsRefusedWhileAnEditorsSettingIsIncorrect) {
+    OpenMainWindow();
+    session.PriorityChannelError = true;
+    fakes.messages.Expect({"Error", "The following setting is incorrect.\r\n\r\n\"Priority Channel\"",
+                           MessageIcon::Critical, MessageButtons::Ok, MessageAnswer::Ok},
+                          MessageAnswer::Ok);
+    Choose("MnuProgramWrite");
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    EXPECT_TRUE(fakes.ports.Record("MSComm1").log.empty());
+}
+
+} // namespace
+} // namespace zelvor
