@@ -1,0 +1,98 @@
+#include "tour/RadioProgram.h"
+
+#include <QFile>
+#include <QThread>
+#include <csignal>
+
+#include <sys/prctl.h>
+
+#include "tour/Checks.h"
+#include "tour/Failure.h"
+
+namespace zelvor::tour {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr std::chrono::seconds Patience(10);
+constexpr int EndMilliseconds = 3000;
+constexpr int PollMilliseconds = 10;
+
+constexpr int HeadSize = 16;
+constexpr int FileSize = 1040;
+
+} // namespace
+
+RadioProgram::RadioProgram(const QString& program, const QString& memoryFile, const QStringList& arguments)
+    : memoryFile_(memoryFile) {
+    process_.setProcessChannelMode(QProcess::MergedChannels);
+    // The radio does not outlive this process, however that ends.
+    process_.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGTERM); });
+    process_.start(program, QStringList{"--port", "1", "--save", memoryFile} + arguments);
+    if (!HasPrinted("ready: COM1", Patience)) {
+        throw Failure(program.toStdString() + " does not get ready. " + process_.errorString().toStdString() + "\n" +
+                      printed_.toStdString());
+    }
+}
+
+RadioProgram::~RadioProgram() {
+    if (process_.state() == QProcess::NotRunning) {
+        return;
+    }
+    process_.terminate();
+    if (!process_.waitForFinished(EndMilliseconds)) {
+        process_.kill();
+        process_.waitForFinished(EndMilliseconds);
+    }
+}
+
+void RadioProgram::ForgetMemory() {
+    QFile::remove(memoryFile_);
+}
+
+QByteArray RadioProgram::Memory() {
+    const Clock::time_point end = Clock::now() + Patience;
+    while (!QFile::exists(memoryFile_)) {
+        if (Clock::now() > end) {
+            throw Failure("the radio wrote no memory file: it has not seen the session's end\n" +
+                          printed_.toStdString());
+        }
+        QThread::msleep(PollMilliseconds);
+    }
+    return MemoryOfDataFile(memoryFile_);
+}
+
+void RadioProgram::WaitForText(const QByteArray& text) {
+    if (!HasPrinted(text, Patience)) {
+        throw Failure("the radio did not print \"" + text.toStdString() + "\" but\n" + printed_.toStdString());
+    }
+}
+
+bool RadioProgram::HasPrinted(const QByteArray& text, std::chrono::milliseconds patience) {
+    const Clock::time_point end = Clock::now() + patience;
+    for (;;) {
+        printed_ += process_.readAll();
+        if (printed_.contains(text)) {
+            return true;
+        }
+        if (Clock::now() > end || process_.state() == QProcess::NotRunning) {
+            return false;
+        }
+        process_.waitForReadyRead(100);
+    }
+}
+
+QByteArray MemoryOfDataFile(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        throw Failure("cannot read " + path.toStdString());
+    }
+    const QByteArray bytes = file.readAll();
+    CheckEqual("size of " + path.toStdString(), QString::number(bytes.size()), QString::number(FileSize));
+    CheckBytes("head of " + path.toStdString(), bytes.left(HeadSize),
+               Hex("52 51 36 31 35 32 FF FF FF FF FF FF FF FF FF FF"));
+    return bytes.mid(HeadSize);
+}
+
+} // namespace zelvor::tour

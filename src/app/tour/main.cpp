@@ -1,0 +1,88 @@
+// Drives the real windows through the whole job with synthetic user input, against a real zelvor-radio on a real
+// pseudo-terminal: once in English, once in Chinese.
+
+#include <QApplication>
+#include <QDir>
+#include <QSettings>
+#include <cstdlib>
+#include <iostream>
+#include <thread>
+
+#include "shell/Icons.h"
+#include "tour/Failure.h"
+#include "tour/Job.h"
+#include "tour/Options.h"
+#include "tour/PrivateHome.h"
+#include "tour/RadioProgram.h"
+#include "tour/Screenshots.h"
+#include "tour/WindowThread.h"
+
+namespace {
+
+using namespace zelvor::tour;
+
+void RememberChinese() {
+    QSettings settings(SettingsFile(), QSettings::IniFormat);
+    settings.setValue("BackUp/Language", "1");
+}
+
+void RunRounds(const PrivateHome& home, WindowThread& windows, Screenshots& screenshots) {
+    RadioProgram radio(QCoreApplication::applicationDirPath() + "/zelvor-radio", home.File("radio.dat"));
+    std::cout << "ok  zelvor-radio is ready on port 1" << std::endl;
+    Job(windows, radio, screenshots,
+        {English(), SampleRows(), EnglishEdit(), SampleRecords(), home.DataFile("english.dat"), QString()})
+        .Run();
+    RememberChinese();
+    Job(windows, radio, screenshots,
+        {Chinese(), WrittenRowsInChinese(), ChineseEdit(), RecordsAfterEnglishEdit(), home.DataFile("chinese.dat"),
+         home.DataFile("exit.dat")})
+        .Run();
+}
+
+void TakeLastPicture(Screenshots& screenshots) {
+    try {
+        screenshots.TakeAtOnce("failed");
+    } catch (const Failure&) {
+        // There is no window left, or it does not answer any more. The first failure is what counts.
+    }
+}
+
+/// The script's thread. A tour that fails leaves windows and dialogs as they are: the process ends at once.
+void RunTour(const Options& options, PrivateHome& home) {
+    WindowThread windows{std::chrono::seconds(options.timeout)};
+    try {
+        Screenshots screenshots(windows, QString::fromLocal8Bit(options.screenshots.c_str()));
+        try {
+            RunRounds(home, windows, screenshots);
+        } catch (const Failure&) {
+            TakeLastPicture(screenshots);
+            throw;
+        }
+    } catch (const Failure& failure) {
+        std::cout << "FAILED  " << failure.what() << std::endl;
+        home.Remove();
+        std::_Exit(EXIT_FAILURE);
+    }
+    std::cout << "The tour is complete." << std::endl;
+    WindowThread::Post([] { QCoreApplication::exit(EXIT_SUCCESS); });
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const OptionsResult commandLine = ReadOptions(argc, argv);
+    if (!commandLine.options) {
+        return commandLine.exitCode;
+    }
+    PrivateHome home;
+    QApplication application(argc, argv);
+    QApplication::setOrganizationName("Zelvor");
+    QApplication::setApplicationName("Zelvor");
+    QApplication::setWindowIcon(zelvor::MakeIcon(zelvor::IconShape::Application));
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    std::thread script(RunTour, std::cref(*commandLine.options), std::ref(home));
+    const int result = QApplication::exec();
+    script.join();
+    return result;
+}
