@@ -1,0 +1,100 @@
+// Reads over a pseudo-terminal from a radio that spoils a reply. Replies are counted from 1: 1 acknowledges Entry, 2 is
+// the identity, 3 an acknowledgement, then block k is reply 2k + 2 and its acknowledgement reply 2k + 3.
+
+#include "SystemTest.h"
+
+namespace zelvor::test {
+namespace {
+
+class ReadFault : public SystemTest, public ::testing::WithParamInterface<const char*> {};
+
+TEST_P(ReadFault, PromptsAndRetryReadsAll) {
+    Script([this] {
+        Start({GetParam()});
+        BeginRead();
+        ExpectPrompt();
+        Radio().WaitForText(QByteArray("fault ") + GetParam() + " fired");
+        Retry();
+        ExpectReadCompleted();
+        ExpectSampleRead();
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(OfAReply, ReadFault,
+                         ::testing::Values("drop@1", "cut:5@2", "drop@3", "corrupt@17", "delay:600@17", "hang@17",
+                                           "unplug@17", "cut:5@18", "corrupt@18", "drop@37"),
+                         FaultName);
+
+class CancelledRead : public SystemTest, public ::testing::WithParamInterface<const char*> {};
+
+TEST_P(CancelledRead, ClosesAndTheNextReadWorks) {
+    Script([this] {
+        Start({GetParam()}, {"--unplugged", "100"});
+        BeginRead();
+        ExpectPrompt();
+        Radio().WaitForText(QByteArray("fault ") + GetParam() + " fired");
+        CancelTransfer();
+        if (QByteArray(GetParam()).startsWith("unplug")) {
+            Radio().WaitForText("plugged in again");
+        }
+        BeginRead();
+        ExpectReadCompleted();
+        ExpectSampleRead();
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(OfAReply, CancelledRead, ::testing::Values("drop@1", "hang@17", "unplug@17", "cut:5@18"),
+                         FaultName);
+
+class ReadTest : public SystemTest {};
+
+TEST_F(ReadTest, ALateReplyInsideItsTimeIsNoFault) {
+    Script([this] {
+        Start({"delay:300@17"});
+        BeginRead();
+        ExpectReadCompleted();
+        Radio().WaitForText("fault delay:300@17 fired");
+        ExpectSampleRead();
+    });
+}
+
+TEST_F(ReadTest, ASecondFaultPromptsAgain) {
+    Script([this] {
+        Start({"drop@1", "drop@2"});
+        BeginRead();
+        ExpectPrompt();
+        Retry();
+        ExpectPrompt();
+        Radio().WaitForText("fault drop@2 fired");
+        Retry();
+        ExpectReadCompleted();
+        ExpectSampleRead();
+    });
+}
+
+TEST_F(ReadTest, RetryWhileThePortIsAwayPromptsAgain) {
+    Script([this] {
+        Start({"unplug@5"}, {"--unplugged", "600000"});
+        BeginRead();
+        ExpectPrompt();
+        Retry();
+        ExpectPrompt();
+        CancelTransfer();
+    });
+}
+
+TEST_F(ReadTest, ARadioThatIsNotThereLeadsToThePrompt) {
+    Script([this] {
+        Start({"unplug@1"}, {"--unplugged", "600000"});
+        BeginRead();
+        ExpectPrompt();
+        CancelTransfer();
+        // From here on the port cannot even be opened.
+        BeginRead();
+        ExpectPrompt();
+        CancelTransfer();
+    });
+}
+
+} // namespace
+} // namespace zelvor::test
