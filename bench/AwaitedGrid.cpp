@@ -1,0 +1,3 @@
+#include "FirstPaint.h"
+
+const char* const zelvor::bench::AwaitedWidget = "ChannelGrid";

@@ -1,0 +1,101 @@
+#include "CloneRun.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QEventLoop>
+#include <QPushButton>
+#include <QTimer>
+
+#include "AnsweringMessageBoxes.h"
+#include "RadioProcess.h"
+#include "data/Session.h"
+#include "link/CloneEngine.h"
+#include "link/CloneFrames.h"
+#include "platform/QtServices.h"
+#include "shell/MDIForm1.h"
+#include "simulator/SampleRadio.h"
+
+namespace zelvor::bench {
+
+namespace {
+
+constexpr int BeforePress = 300; // milliseconds in which the dialog gets on the screen
+
+/// The machine's services, but for the messages, which answer themselves.
+struct Bed {
+    QtServices machine;
+    AnsweringMessageBoxes messages;
+    Services services{machine.Get().ports, machine.Get().settings, messages,           machine.Get().files,
+                      machine.Get().clock, machine.Get().help,     machine.Get().pages};
+    Session session;
+    RadioProcess radio;
+
+    [[nodiscard]] std::optional<SessionTimes> Outcome(TransferDirection direction) {
+        const bool isRead = direction == TransferDirection::Read;
+        if (!messages.TakeOnly(isRead ? "Reading Completed" : "Writing Completed") ||
+            (isRead && session.Image != SampleRadioMemory())) {
+            return std::nullopt;
+        }
+        return ReadTrace(radio.TraceOfSession());
+    }
+};
+
+void PressOkOfDialog() {
+    QWidget* dialog = QApplication::activeModalWidget();
+    if (auto* button = dialog != nullptr ? dialog->findChild<QPushButton*>("cmdOK") : nullptr) {
+        button->click();
+    }
+}
+
+class EngineOwner : public CloneObserver {
+public:
+    void OnProgress(int) override {}
+    void OnButtonsEnabled(bool) override {}
+    void OnReadCompleted() override {}
+    void OnWriteCompleted() override {}
+    void OnUnloadRequested() override { Loop.quit(); }
+
+    QEventLoop Loop;
+};
+
+} // namespace
+
+std::optional<SessionTimes> RunFromMainWindow(TransferDirection direction) {
+    Bed bed;
+    MDIForm1 window(bed.session, bed.services);
+    window.show();
+    bed.session.Image = SampleRadioMemory();
+    if (direction == TransferDirection::Read) {
+        bed.session.Image.Fill(0);
+    }
+    auto* entry =
+        window.findChild<QAction*>(direction == TransferDirection::Read ? "MnuProgramRead" : "MnuProgramWrite");
+    if (entry == nullptr || !bed.radio.IsReady()) {
+        return std::nullopt;
+    }
+    QTimer::singleShot(BeforePress, PressOkOfDialog);
+    entry->trigger();
+    return bed.Outcome(direction);
+}
+
+std::optional<SessionTimes> RunEngineAlone(TransferDirection direction) {
+    Bed bed;
+    const bool isRead = direction == TransferDirection::Read;
+    if (!isRead) {
+        bed.session.Image = SampleRadioMemory();
+    }
+    bed.session.Link.TransferMode = isRead ? transfer::Reading : transfer::Writing;
+    if (!bed.radio.IsReady()) {
+        return std::nullopt;
+    }
+    const std::unique_ptr<SerialPort> port = bed.services.ports.Make("MSComm1");
+    EngineOwner owner;
+    CloneEngine engine(bed.session, *port, bed.services.clock, bed.services.messages, owner);
+    engine.Load();
+    engine.Start();
+    owner.Loop.exec();
+    engine.Unload();
+    return bed.Outcome(direction);
+}
+
+} // namespace zelvor::bench

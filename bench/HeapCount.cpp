@@ -1,0 +1,36 @@
+#include "HeapCount.h"
+
+#include <atomic>
+#include <cstdlib>
+#include <new>
+
+namespace {
+
+std::atomic<std::size_t> allocations{0};
+
+} // namespace
+
+namespace zelvor::bench {
+
+std::size_t HeapAllocations() {
+    return allocations.load(std::memory_order_relaxed);
+}
+
+} // namespace zelvor::bench
+
+// The arrays' operators come to these.
+void* operator new(std::size_t size) {
+    allocations.fetch_add(1, std::memory_order_relaxed);
+    if (void* memory = std::malloc(size != 0 ? size : 1)) {
+        return memory;
+    }
+    throw std::bad_alloc();
+}
+
+void operator delete(void* memory) noexcept {
+    std::free(memory);
+}
+
+void operator delete(void* memory, std::size_t) noexcept {
+    std::free(memory);
+}
