@@ -1,5 +1,6 @@
 #include "controls/CellListEditor.h"
 
+#include <QAbstractItemView>
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QWheelEvent>
@@ -76,7 +77,8 @@ void CellListEditor::wheelEvent(QWheelEvent* event) {
 
 void CellListEditor::focusOutEvent(QFocusEvent* event) {
     QComboBox::focusOutEvent(event);
-    if (event->reason() != Qt::PopupFocusReason) {
+    // Opening the list gives the focus to the list's own window, in two steps with two reasons.
+    if (event->reason() != Qt::PopupFocusReason && !view()->isVisible()) {
         emit FocusLeft();
     }
 }

@@ -1,5 +1,7 @@
 #include "ChannelFormFixture.h"
 
+#include <QAbstractItemView>
+
 namespace zelvor {
 namespace {
 
@@ -184,6 +186,24 @@ TEST_F(ChannelGridToneTest, AnEntryTakenFromTheListIsStored) {
     EXPECT_EQ(Cell(1, 3), "D023N");
     EXPECT_EQ(session.Image.At(0x18), 0x13);
     EXPECT_EQ(session.Image.At(0x19), 0x28);
+}
+
+TEST_F(ChannelGridToneTest, TheListOpensAndAClickOnAnEntryStoresIt) {
+    Show();
+    GoTo(1, 5);
+    Key(Qt::Key_Return);
+    List().showPopup();
+    QAbstractItemView& entries = *List().view();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(entries.window()));
+    EXPECT_TRUE(List().isVisible());
+    // A list takes no click within the double-click time of its opening.
+    QTest::qWait(QApplication::doubleClickInterval() + 50);
+    const QPoint low = entries.visualRect(entries.model()->index(1, 0)).center();
+    QTest::mouseMove(entries.viewport(), low);
+    QTest::mouseClick(entries.viewport(), Qt::LeftButton, {}, low);
+    EXPECT_EQ(Cell(1, 5), "Low");
+    EXPECT_EQ(session.Image.At(0x1D), 0x9F);
+    EXPECT_TRUE(List().isVisible());
 }
 
 TEST_F(ChannelGridToneTest, KeysTypedInColumnsFiveToNineAreRefused) {
