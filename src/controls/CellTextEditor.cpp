@@ -4,14 +4,21 @@
 
 namespace zelvor {
 
+namespace {
+
+constexpr int FrameMargin = 2; // the toolkit's own, right of a text box's text
+
+} // namespace
+
 CellTextEditor::CellTextEditor(QWidget* parent) : FilteredLineEdit(parent) {
     setFrame(false);
-    setAlignment(Qt::AlignCenter);
-    setTextMargins(0, 0, 0, 0);
     hide();
 }
 
 void CellTextEditor::ShowOver(const EditGrid& grid, const QString& text) {
+    const Qt::Alignment alignment = grid.ColumnAlignment(grid.Column());
+    setAlignment(alignment);
+    setTextMargins(0, 0, alignment.testFlag(Qt::AlignRight) ? CellMargin - FrameMargin : 0, 0);
     setGeometry(grid.CellRect(grid.Row(), grid.Column()));
     setText(text);
     setEnabled(true);

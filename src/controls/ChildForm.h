@@ -11,9 +11,9 @@ class QScrollBar;
 
 namespace zelvor {
 
-/// A child window of the main window, as every editing dialog is one: a content panel of fixed size that scrolls when the
-/// window is smaller, and the close rules. The main window hosts it in a ChildFrame and does what its signals ask: it
-/// clears the window's ChildOpen entry, hides its entry of the window list, and hides or destroys the window.
+/// A child window of the main window, as every editing dialog is one: a content panel of fixed size that scrolls when
+/// the window is smaller, and the close rules. The main window hosts it in a ChildFrame and does what its signals ask:
+/// it clears the window's ChildOpen entry, hides its entry of the window list, and hides or destroys the window.
 class ChildForm : public QWidget {
     Q_OBJECT
 

@@ -6,7 +6,8 @@ namespace zelvor {
 
 class ChildForm;
 
-/// The frame of a child window in the main window's area. It never closes by itself: it tells the form, whose rule it is.
+/// The frame of a child window in the main window's area. It never closes by itself: it tells the form, whose rule it
+/// is.
 class ChildFrame : public QMdiSubWindow {
     Q_OBJECT
 

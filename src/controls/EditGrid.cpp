@@ -8,6 +8,7 @@
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace zelvor {
@@ -15,12 +16,9 @@ namespace zelvor {
 namespace {
 
 constexpr int HeaderPadding = 6;
+constexpr double SmallestHeaderPoints = 6;
 
-int Width(const QFont& font, const QString& text) {
-    return QFontMetrics(font).horizontalAdvance(text.trimmed()) + HeaderPadding;
-}
-
-/// Cells are as narrow as their columns are told to be, so texts get no margin.
+/// Cells are as narrow as their columns are told to be, so texts in their middle get no margin.
 class CellDelegate : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -28,19 +26,39 @@ public:
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
         QStyleOptionViewItem cell(option);
         initStyleOption(&cell, index);
+        cell.backgroundBrush = cell.palette.brush(QPalette::Base);
         const QString text = std::exchange(cell.text, QString());
         const QStyle* style = cell.widget->style();
         style->drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
         const bool selected = cell.state.testFlag(QStyle::State_Selected);
-        style->drawItemText(painter, cell.rect, static_cast<int>(cell.displayAlignment), cell.palette, true, text,
-                            selected ? QPalette::HighlightedText : QPalette::Text);
+        const int margin = cell.displayAlignment.testFlag(Qt::AlignRight) ? CellMargin : 0;
+        style->drawItemText(painter, cell.rect.adjusted(0, 0, -margin, 0), static_cast<int>(cell.displayAlignment),
+                            cell.palette, true, text, selected ? QPalette::HighlightedText : QPalette::Text);
+    }
+};
+
+/// A header whose sizes are all told by the grid: it never measures its captions.
+class FixedHeader : public QHeaderView {
+public:
+    using QHeaderView::QHeaderView;
+
+protected:
+    [[nodiscard]] QSize sectionSizeFromContents(int) const override { return {1, 1}; }
+    void initStyleOptionForIndex(QStyleOptionHeader* option, int index) const override {
+        QHeaderView::initStyleOptionForIndex(option, index);
+        if (option->textAlignment.testFlag(Qt::AlignRight)) {
+            option->text += ' '; // as far from the edge as the cells' texts
+        }
     }
 };
 
 } // namespace
 
-EditGrid::EditGrid(int rows, int columns, QWidget* parent)
-    : QTableWidget(rows, columns, parent), corner_(new QLabel(this)) {
+EditGrid::EditGrid(int rows, int columns, QWidget* parent) : QTableWidget(parent), corner_(new QLabel(this)) {
+    setHorizontalHeader(new FixedHeader(Qt::Horizontal, this));
+    setVerticalHeader(new FixedHeader(Qt::Vertical, this));
+    setRowCount(rows);
+    setColumnCount(columns);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setSelectionBehavior(QAbstractItemView::SelectItems);
@@ -62,6 +80,8 @@ EditGrid::EditGrid(int rows, int columns, QWidget* parent)
         }
     }
     setItemDelegate(new CellDelegate(this));
+    viewport()->setBackgroundRole(QPalette::Window); // where no cell is
+    corner_->setObjectName("corner");
     corner_->setAlignment(Qt::AlignCenter);
     corner_->setAttribute(Qt::WA_TransparentForMouseEvents);
     connect(this, &QTableWidget::currentCellChanged, this,
@@ -75,7 +95,35 @@ void EditGrid::SetCaptions(const QStringList& captions, const QStringList& rowCa
     corner_->setText(captions.first());
     setHorizontalHeaderLabels(captions.mid(1));
     setVerticalHeaderLabels(rowCaptions);
-    FitHeaderFont();
+}
+
+void EditGrid::SetFormat(const QString& format, const QStringList& rowCaptions) {
+    const QStringList parts = format.split(';');
+    const QStringList columns = parts.first().split('|');
+    QStringList captions;
+    for (const QString& column : columns) {
+        captions.append(column.mid(1));
+    }
+    if (parts.size() > 1) {
+        captions.first() = parts.last();
+    }
+    SetCaptions(captions, rowCaptions);
+    for (int column = 1; column <= columnCount(); ++column) {
+        SetColumnAlignment(column,
+                           columns[column].startsWith('>') ? Qt::AlignRight | Qt::AlignVCenter : Qt::AlignCenter);
+    }
+}
+
+void EditGrid::SetColumnAlignment(int column, Qt::Alignment alignment) {
+    horizontalHeaderItem(column - 1)->setTextAlignment(alignment);
+    for (int row = 0; row < rowCount(); ++row) {
+        item(row, column - 1)->setTextAlignment(alignment);
+    }
+}
+
+Qt::Alignment EditGrid::ColumnAlignment(int column) const {
+    const QTableWidgetItem* cell = item(0, column - 1);
+    return cell == nullptr ? Qt::Alignment(Qt::AlignCenter) : Qt::Alignment(cell->textAlignment());
 }
 
 void EditGrid::FitCells(const std::vector<int>& widths) {
@@ -95,20 +143,22 @@ void EditGrid::FitCells(const std::vector<int>& widths) {
 void EditGrid::FitHeaderFont() {
     // Column widths are fixed, so the headers' font gives way: the largest one in which no caption is cut off.
     QFont fitting = font();
-    const auto cutOff = [this](const QFont& candidate) {
-        if (Width(candidate, corner_->text()) > verticalHeader()->width()) {
-            return true;
+    const QFontMetricsF metrics(fitting);
+    double scale = 1;
+    const auto fit = [&metrics, &scale](const QString& caption, int width) {
+        const double advance = metrics.horizontalAdvance(caption.trimmed());
+        if (advance > 0) {
+            scale = std::min(scale, (width - HeaderPadding) / advance);
         }
-        for (int column = 0; column < columnCount(); ++column) {
-            const QTableWidgetItem* header = horizontalHeaderItem(column);
-            if (header != nullptr && Width(candidate, header->text()) > columnWidth(column)) {
-                return true;
-            }
-        }
-        return false;
     };
-    while (fitting.pointSizeF() > 6 && cutOff(fitting)) {
-        fitting.setPointSizeF(fitting.pointSizeF() - 0.5);
+    fit(corner_->text(), verticalHeader()->width());
+    for (int column = 0; column < columnCount(); ++column) {
+        if (const QTableWidgetItem* header = horizontalHeaderItem(column)) {
+            fit(header->text(), columnWidth(column));
+        }
+    }
+    if (scale < 1) {
+        fitting.setPointSizeF(std::max(SmallestHeaderPoints, std::floor(fitting.pointSizeF() * scale * 2) / 2));
     }
     horizontalHeader()->setFont(fitting);
     corner_->setFont(fitting);
@@ -160,6 +210,16 @@ void EditGrid::mouseReleaseEvent(QMouseEvent* event) {
         emit CellClicked(released.row() + 1, released.column() + 1);
     }
     pressed_ = QModelIndex();
+}
+
+bool IsEnterKey(const QKeyEvent& event) {
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+QChar TypedCharacter(const QKeyEvent& event) {
+    constexpr auto commands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    const QString text = event.text();
+    return text.size() == 1 && !(event.modifiers() & commands) ? text.front() : QChar();
 }
 
 } // namespace zelvor

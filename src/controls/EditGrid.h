@@ -16,9 +16,13 @@ class EditGrid : public QTableWidget {
 public:
     EditGrid(int rows, int columns, QWidget* parent = nullptr);
 
-    /// captions: the corner, then one a column. rowCaptions: one a row.
+    /// captions: the corner, then one a column. rowCaptions: one a row. FitCells has to follow.
     void SetCaptions(const QStringList& captions, const QStringList& rowCaptions);
-    /// Widths in logical pixels: the header column's, then one a column. The height is shared out among header and rows.
+    /// Captions from a table format: one a column between "|", the corner's first unless a ";" and the corner's own
+    /// follow. A caption's first character places it and its column's cells: "^" in the middle, ">" at the right.
+    void SetFormat(const QString& format, const QStringList& rowCaptions);
+    /// Widths in logical pixels: the header column's, then one a column. The height is shared out among header and
+    /// rows.
     void FitCells(const std::vector<int>& widths);
 
     [[nodiscard]] QString Text(int row, int column) const;
@@ -29,6 +33,8 @@ public:
     void MoveTo(int row, int column);
     /// One cell to the right, staying in the row's last column.
     void MoveRight();
+    /// How the texts of a column lie in their cells.
+    [[nodiscard]] Qt::Alignment ColumnAlignment(int column) const;
     /// The cell's rectangle in the coordinates of the grid's parent.
     [[nodiscard]] QRect CellRect(int row, int column) const;
 
@@ -49,9 +55,17 @@ protected:
 
 private:
     void FitHeaderFont();
+    void SetColumnAlignment(int column, Qt::Alignment alignment);
 
     QLabel* corner_; // caption of column 0, over the headers' corner
     QModelIndex pressed_;
 };
+
+/// What a key pressed on a grid asks for: Enter of either block, or one character typed without a command key.
+[[nodiscard]] bool IsEnterKey(const QKeyEvent& event);
+[[nodiscard]] QChar TypedCharacter(const QKeyEvent& event); // null for any other key
+
+/// The distance of a text that lies at the right of its cell from the cell's edge, in logical pixels.
+inline constexpr int CellMargin = 6;
 
 } // namespace zelvor

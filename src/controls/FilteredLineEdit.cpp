@@ -5,6 +5,7 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <algorithm>
 
 namespace zelvor {
 
@@ -12,7 +13,14 @@ namespace {
 
 bool IsTyping(const QKeyEvent& event) {
     constexpr auto commands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
-    return !(event.modifiers() & commands) && !event.text().isEmpty() && event.text().front().isPrint();
+    return !(event.modifiers() & commands) && !event.text().isEmpty() &&
+           event.text().front().category() != QChar::Other_Control;
+}
+
+/// What a box of one line takes of a pasted text.
+QString FirstLine(const QString& text) {
+    const auto isBreak = [](QChar character) { return character == u'\r' || character == u'\n'; };
+    return text.left(std::find_if(text.begin(), text.end(), isBreak) - text.begin());
 }
 
 } // namespace
@@ -22,16 +30,21 @@ FilteredLineEdit::FilteredLineEdit(QWidget* parent) : QLineEdit(parent) {
     setAcceptDrops(false);
 }
 
-void FilteredLineEdit::Enter(const QString& text) {
+void FilteredLineEdit::Insert(const QString& text, bool limited) {
     if (isReadOnly()) {
         return;
     }
     for (const QChar entered : text) {
         const QChar accepted = filter_ ? filter_(entered) : entered;
-        if (!accepted.isNull()) {
+        const bool full = limited && this->text().size() >= lengthLimit_ && !hasSelectedText();
+        if (!accepted.isNull() && !full) {
             insert(accepted);
         }
     }
+}
+
+void FilteredLineEdit::Paste(const QString& text) {
+    Insert(FirstLine(text), limitsPasted_);
 }
 
 void FilteredLineEdit::keyPressEvent(QKeyEvent* event) {
@@ -40,7 +53,7 @@ void FilteredLineEdit::keyPressEvent(QKeyEvent* event) {
     } else if (event->key() == Qt::Key_Escape) {
         emit EscapePressed();
     } else if (event->matches(QKeySequence::Paste)) {
-        Enter(QApplication::clipboard()->text());
+        Paste(QApplication::clipboard()->text());
     } else if (IsTyping(*event)) {
         if (!enterLetter_.isNull() && event->text() == enterLetter_) {
             emit EnterPressed();
@@ -61,23 +74,39 @@ void FilteredLineEdit::inputMethodEvent(QInputMethodEvent* event) {
 
 void FilteredLineEdit::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() == Qt::MiddleButton) {
-        Enter(QApplication::clipboard()->text(QClipboard::Selection));
+        Paste(QApplication::clipboard()->text(QClipboard::Selection));
         event->accept();
         return;
     }
     QLineEdit::mouseReleaseEvent(event);
+    if (gettingFocusByMouse_ && !hasSelectedText()) {
+        selectAll();
+    }
+    gettingFocusByMouse_ = false;
+}
+
+void FilteredLineEdit::focusInEvent(QFocusEvent* event) {
+    QLineEdit::focusInEvent(event);
+    if (selectsOnFocus_ && event->reason() != Qt::PopupFocusReason) {
+        selectAll();
+        gettingFocusByMouse_ = event->reason() == Qt::MouseFocusReason;
+    }
 }
 
 void FilteredLineEdit::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
+    gettingFocusByMouse_ = false;
     if (event->reason() != Qt::PopupFocusReason) {
         emit FocusLeft();
     }
 }
 
+QChar Digit(QChar entered) {
+    return entered >= u'0' && entered <= u'9' ? entered : QChar();
+}
+
 QChar DigitOrPoint(QChar entered) {
-    const bool wanted = (entered >= u'0' && entered <= u'9') || entered == u'.';
-    return wanted ? entered : QChar();
+    return entered == u'.' ? entered : Digit(entered);
 }
 
 } // namespace zelvor

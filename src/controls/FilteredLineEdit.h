@@ -17,11 +17,19 @@ public:
     explicit FilteredLineEdit(QWidget* parent = nullptr);
 
     void SetFilter(Filter filter) { filter_ = std::move(filter); }
+    /// From this length on, a character is refused unless text is selected. Unlike maxLength it never cuts what code
+    /// sets. Where pasted text is free of it, only typing stops.
+    void SetLengthLimit(int limit, bool alsoPasted = true) {
+        lengthLimit_ = limit;
+        limitsPasted_ = alsoPasted;
+    }
+    /// Taking the focus selects all; so does the click that gives the focus, unless it selects something itself.
+    void SelectAllOnFocus() { selectsOnFocus_ = true; }
     /// A character that, typed, acts as Enter.
     void SetEnterLetter(QChar letter) { enterLetter_ = letter; }
 
     /// Enters a text as the user would, character by character through the filter.
-    void Enter(const QString& text);
+    void Enter(const QString& text) { Insert(text, true); }
 
 signals:
     void EnterPressed();
@@ -33,14 +41,23 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
+    void Insert(const QString& text, bool limited);
+    void Paste(const QString& text);
+
     Filter filter_;
+    int lengthLimit_ = 32767; // as a QLineEdit's own
+    bool limitsPasted_ = true;
+    bool selectsOnFocus_ = false;
+    bool gettingFocusByMouse_ = false; // until the button is released
     QChar enterLetter_;
 };
 
 /// Filters that several boxes use.
+[[nodiscard]] QChar Digit(QChar entered);
 [[nodiscard]] QChar DigitOrPoint(QChar entered);
 
 } // namespace zelvor

@@ -38,4 +38,10 @@ void CommitPendingEdit() {
     }
 }
 
+void DropPendingEdit(const QWidget& window) {
+    for (QWidget* control : window.findChildren<QWidget*>()) {
+        control->blockSignals(true);
+    }
+}
+
 } // namespace zelvor

@@ -1,6 +1,7 @@
 #include "controls/EditGrid.h"
 
 #include <QHeaderView>
+#include <QLabel>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
@@ -53,6 +54,24 @@ TEST_F(EditGridTest, TellsWhereTheCursorWent) {
     EXPECT_EQ(grid.Column(), 2);
     grid.MoveTo(9, 9);
     EXPECT_EQ(grid.Row(), 2);
+}
+
+TEST_F(EditGridTest, AFormatCaptionsAndPlacesItsColumns) {
+    grid.SetFormat("^No.|^First |> Second", {"1", "2", "3"});
+    EXPECT_EQ(grid.findChild<QLabel*>("corner")->text(), "No.");
+    EXPECT_EQ(grid.horizontalHeaderItem(0)->text(), "First ");
+    EXPECT_EQ(grid.horizontalHeaderItem(1)->text(), " Second");
+    EXPECT_EQ(grid.ColumnAlignment(1), Qt::AlignCenter);
+    EXPECT_EQ(grid.ColumnAlignment(2), Qt::AlignRight | Qt::AlignVCenter);
+    EXPECT_EQ(grid.horizontalHeaderItem(1)->textAlignment(), static_cast<int>(Qt::AlignRight | Qt::AlignVCenter));
+    EXPECT_EQ(grid.item(2, 1)->textAlignment(), static_cast<int>(Qt::AlignRight | Qt::AlignVCenter));
+    EXPECT_EQ(grid.verticalHeaderItem(2)->text(), "3");
+}
+
+TEST_F(EditGridTest, ACaptionBehindASemicolonIsTheCorners) {
+    grid.SetFormat("^|^First|^Second;Channel No.", {"1", "2", "3"});
+    EXPECT_EQ(grid.findChild<QLabel*>("corner")->text(), "Channel No.");
+    EXPECT_EQ(grid.horizontalHeaderItem(1)->text(), "Second");
 }
 
 TEST_F(EditGridTest, ALeftClickTellsItsCellAndARightClickDoesNot) {

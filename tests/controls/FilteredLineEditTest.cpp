@@ -97,5 +97,53 @@ TEST_F(FilteredLineEditTest, TellsWhenTheFocusLeaves) {
     EXPECT_EQ(left.count(), 1);
 }
 
+TEST_F(FilteredLineEditTest, CharactersOutsideTheFirstPlaneGoThroughTheFilterToo) {
+    QKeyEvent face(QEvent::KeyPress, 0, Qt::NoModifier, QString::fromUtf8("\xF0\x9F\x98\x80"));
+    QApplication::sendEvent(&edit, &face);
+    QKeyEvent joiner(QEvent::KeyPress, 0, Qt::NoModifier, QString(QChar(0x200D)));
+    QApplication::sendEvent(&edit, &joiner);
+    EXPECT_EQ(edit.text(), "");
+}
+
+TEST_F(FilteredLineEditTest, ALengthLimitStopsEntryButCutsNoTextOfCode) {
+    FilteredLineEdit box;
+    box.SetLengthLimit(3);
+    box.setText("12345");
+    EXPECT_EQ(box.text(), "12345");
+    QTest::keyClicks(&box, "6");
+    EXPECT_EQ(box.text(), "12345");
+    box.selectAll();
+    QApplication::clipboard()->setText("abcdef");
+    QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(box.text(), "abc");
+}
+
+TEST_F(FilteredLineEditTest, ALimitOfTypingLetsPastedTextThrough) {
+    FilteredLineEdit box;
+    box.SetLengthLimit(3, false);
+    QTest::keyClicks(&box, "1234");
+    EXPECT_EQ(box.text(), "123");
+    QApplication::clipboard()->setText("abcdef");
+    QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(box.text(), "123abcdef");
+}
+
+TEST_F(FilteredLineEditTest, PastesTheFirstLineOfATextOfSeveral) {
+    QApplication::clipboard()->setText("12\r\n34");
+    QTest::keyClick(&edit, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(edit.text(), "12");
+}
+
+TEST_F(FilteredLineEditTest, SelectsAllOnTakingTheFocusWhereAskedTo) {
+    edit.setText("12");
+    edit.clearFocus();
+    edit.setFocus();
+    EXPECT_FALSE(edit.hasSelectedText());
+    edit.SelectAllOnFocus();
+    edit.clearFocus();
+    edit.setFocus();
+    EXPECT_EQ(edit.selectedText(), "12");
+}
+
 } // namespace
 } // namespace zelvor

@@ -1,0 +1,70 @@
+#include "controls/FieldList.h"
+
+#include <QAbstractItemView>
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QWheelEvent>
+
+#include "controls/EnterAsTab.h"
+
+namespace zelvor {
+
+FieldList::FieldList(QWidget* parent) : QComboBox(parent) {
+    setContextMenuPolicy(Qt::PreventContextMenu);
+    setFocusPolicy(Qt::StrongFocus);
+    connect(this, &QComboBox::currentIndexChanged, this, [this](int index) {
+        if (!silent_) {
+            told_ = true;
+            emit Selected(index);
+        }
+    });
+    connect(this, &QComboBox::activated, this, [this](int index) {
+        if (!told_) {
+            emit Selected(index);
+        }
+    });
+}
+
+void FieldList::SetEntries(const QStringList& entries) {
+    silent_ = true;
+    clear();
+    addItems(entries);
+    setCurrentIndex(-1);
+    silent_ = false;
+}
+
+void FieldList::ShowEntry(int index) {
+    silent_ = true;
+    setCurrentIndex(index);
+    silent_ = false;
+}
+
+void FieldList::showPopup() {
+    // Only in its popup can the entry be taken that is selected already.
+    told_ = false;
+    QComboBox::showPopup();
+}
+
+void FieldList::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        event->accept();
+        MoveOn(*this);
+        return;
+    }
+    QComboBox::keyPressEvent(event);
+}
+
+void FieldList::wheelEvent(QWheelEvent* event) {
+    // Scrolling past a list must not change it.
+    event->ignore();
+}
+
+void FieldList::focusOutEvent(QFocusEvent* event) {
+    QComboBox::focusOutEvent(event);
+    // The popup takes the focus with another reason than its own.
+    if (event->reason() != Qt::PopupFocusReason && !view()->isVisible()) {
+        emit FocusLeft();
+    }
+}
+
+} // namespace zelvor

@@ -1,0 +1,82 @@
+#include "controls/TextCellEdit.h"
+
+#include <QScopedValueRollback>
+
+#include "controls/CellTextEditor.h"
+#include "controls/EditGrid.h"
+
+namespace zelvor {
+
+TextCellEdit::TextCellEdit(EditGrid& grid, CellTextEditor& editor) : QObject(&editor), grid_(grid), editor_(editor) {
+    connect(&editor_, &QLineEdit::textChanged, this, [this](const QString& text) {
+        if (open_) {
+            grid_.SetText(row_, column_, text);
+        }
+    });
+    connect(&editor_, &FilteredLineEdit::EnterPressed, this, &TextCellEdit::OnEnter);
+    connect(&editor_, &FilteredLineEdit::EscapePressed, this, &TextCellEdit::OnEscape);
+    connect(&editor_, &FilteredLineEdit::FocusLeft, this, &TextCellEdit::OnFocusLeft);
+}
+
+void TextCellEdit::Open() {
+    if (open_) {
+        return;
+    }
+    row_ = grid_.Row();
+    column_ = grid_.Column();
+    CellText = grid_.Text(row_, column_);
+    editor_.ShowOver(grid_, CellText);
+    const int length = static_cast<int>(CellText.size());
+    editor_.setSelection(length, -length);
+    open_ = true;
+}
+
+void TextCellEdit::Drop() {
+    open_ = false;
+    editor_.hide();
+}
+
+void TextCellEdit::Close() {
+    Drop();
+    grid_.setFocus();
+}
+
+QString TextCellEdit::Text() const {
+    return editor_.text();
+}
+
+bool TextCellEdit::IsChanged() const {
+    return editor_.text() != CellText;
+}
+
+void TextCellEdit::PutText(const QString& text) {
+    editor_.setText(text);
+}
+
+void TextCellEdit::OnEnter() {
+    if (!open_ || telling_) {
+        return;
+    }
+    const QScopedValueRollback<bool> telling(telling_, true);
+    emit Entered();
+}
+
+void TextCellEdit::OnEscape() {
+    if (!open_ || telling_) {
+        return;
+    }
+    open_ = false;
+    grid_.SetText(row_, column_, CellText);
+    Close();
+}
+
+void TextCellEdit::OnFocusLeft() {
+    if (!open_ || telling_) {
+        return;
+    }
+    const QScopedValueRollback<bool> telling(telling_, true);
+    emit Left();
+    Drop();
+}
+
+} // namespace zelvor
