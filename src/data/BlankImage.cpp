@@ -2,9 +2,9 @@
 
 #include <initializer_list>
 
-#include "data/FrequencyCodec.h"
 #include "data/MemoryMap.h"
 #include "data/ModelCatalogue.h"
+#include "data/TestFrequencies.h"
 
 namespace zelvor {
 namespace {
@@ -46,27 +46,6 @@ void StoreIdentity(DataImage& image, std::uint8_t market, std::uint8_t family) {
     Store(image, address::Identity, {'P', bandDigit, '6', '1', FamilyDigit(family), market, family, 0xFF});
 }
 
-void StoreFrequency(DataImage& image, int address, std::int32_t tensOfHertz) {
-    for (const std::uint8_t byte : PackFrequency(tensOfHertz))
-        image.Set(address++, byte);
-}
-
-void StoreTestFrequencies(DataImage& image, Band band) {
-    const std::int32_t centre = (band.low + band.high) / 2;
-    struct Pair {
-        std::int32_t receive;
-        std::int32_t transmit;
-    };
-    int address = address::TestFrequencies;
-    for (const Pair pair : {Pair{centre + 5'000, centre + 10'000}, Pair{band.low + 5'000, band.low + 10'000},
-                            Pair{band.high - 5'000, band.high - 10'000}, Pair{centre, centre},
-                            Pair{centre + 20'000, centre + 20'000}, Pair{centre + 40'000, centre + 40'000}}) {
-        StoreFrequency(image, address, pair.receive);
-        StoreFrequency(image, address + address::TestFrequencyPairSize / 2, pair.transmit);
-        address += address::TestFrequencyPairSize;
-    }
-}
-
 } // namespace
 
 void InitAllFrameData(DataImage& image) {
@@ -75,7 +54,7 @@ void InitAllFrameData(DataImage& image) {
     image.Fill(0xFF);
     StoreConstants(image);
     StoreIdentity(image, market, family);
-    StoreTestFrequencies(image, TestFrequencyBand(market));
+    StoreDefaultTestFrequencies(image, TestFrequencyBand(market));
 }
 
 } // namespace zelvor

@@ -70,6 +70,10 @@ void CompleteWith(std::string& text, std::string_view word) {
 
 } // namespace
 
+void SetScanAdd(DataImage& image, int k, bool added) {
+    image.SetBits(ScanAddAddress(k), ScanAddBit(k), added ? 0xFF : 0x00);
+}
+
 void ChannelCodec::RefreshChannelBytes(const DataImage& image) {
     for (int k = 1; k <= address::ChannelCount; ++k) {
         RecordBytes& bytes = ChannelBytes[static_cast<std::size_t>(k - 1)];
@@ -137,9 +141,9 @@ void ChannelCodec::EncodeChannel(DataImage& image, Language language, int k, boo
                                  ? AutoDialFirst
                                  : static_cast<std::uint8_t>(ValueOf(Texts.AutoDialText) + AutoDialBase));
     if (Texts.ScanAddText == TableText(language, words::Yes))
-        image.SetBits(ScanAddAddress(k), ScanAddBit(k), 0xFF);
+        SetScanAdd(image, k, true);
     else if (Texts.ScanAddText == TableText(language, words::No))
-        image.SetBits(ScanAddAddress(k), ScanAddBit(k), 0x00);
+        SetScanAdd(image, k, false);
 }
 
 void ChannelCodec::EncodeSignalling(const DataImage& image, Language language, int k) {

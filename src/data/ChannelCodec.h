@@ -40,6 +40,9 @@ inline constexpr std::array<std::string ChannelTexts::*, 9> GridTexts{
 /// The receive text of a channel without a frequency, as the decoder gives it.
 inline constexpr std::string_view NoFrequencyText = "000.00000";
 
+/// Sets or clears the Scan Add bit of channel k (1 to 16).
+void SetScanAdd(DataImage& image, int k, bool added);
+
 /// Channel records to texts and back. The object carries what the routines keep between calls: the working texts of the
 /// channel being edited, the table of record bytes, and the encoder's working bytes 12, 13 and 14, whose bits survive
 /// from one call to the next wherever a text says nothing about them. That carrying-over is intended: documents in the

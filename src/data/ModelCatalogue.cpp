@@ -125,29 +125,35 @@ std::string_view NavigatorModelText(std::uint8_t family, std::uint8_t market) {
     }
 }
 
-Band TestFrequencyBand(std::uint8_t market) {
+std::optional<Band> BandOfMarket(std::uint8_t market) {
     switch (market) {
     case 0:
     case 1:
-        return {13'600'000, 17'400'000};
+        return Band{13'600'000, 17'400'000};
     case 32:
     case 33:
-        return {45'000'000, 49'000'000};
+        return Band{45'000'000, 49'000'000};
+    case 51:
+        return Band{44'000'000, 48'000'000};
     case 65:
     case 67:
-        return {40'000'000, 43'000'000};
+        return Band{40'000'000, 43'000'000};
     case 83:
-        return {35'000'000, 37'000'000};
+        return Band{35'000'000, 37'000'000};
     case 99:
-        return {37'000'000, 39'000'000};
+        return Band{37'000'000, 39'000'000};
     case 112:
     case 113:
-        return {47'000'000, 51'200'000};
+        return Band{47'000'000, 51'200'000};
     case 115:
-        return {40'000'000, 47'000'000};
-    default: // market C (51) and every unknown one
-        return {44'000'000, 48'000'000};
+        return Band{40'000'000, 47'000'000};
+    default:
+        return std::nullopt;
     }
+}
+
+Band TestFrequencyBand(std::uint8_t market) {
+    return BandOfMarket(market).value_or(Band{44'000'000, 48'000'000});
 }
 
 BandLimits SetBandLimits(const DataImage& image) {

@@ -66,7 +66,10 @@ struct Band {
     std::int32_t high;
 };
 
-/// The band of the default test frequencies, from the market byte alone.
+/// The band of a market byte; nothing where no variant has such a market.
+[[nodiscard]] std::optional<Band> BandOfMarket(std::uint8_t market);
+
+/// The band of the blank image's test frequencies: the market's, or 440 to 480 MHz where it has none.
 [[nodiscard]] Band TestFrequencyBand(std::uint8_t market);
 
 /// Range of frequencies that may be entered, in MHz: 100 to 550, or 136 to 174 in an image that never saw an identity

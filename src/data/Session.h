@@ -66,6 +66,9 @@ public:
     bool TxCodeError = false;
     int TxCodeErrorKind = 0; // 1 begin code, 2 end code, 3 both
 
+    bool PriorityFixedMode = false; // the scan window's priority mode is Fixed
+    int PriorityChannelNo = 0;      // 1 to 16, 0 none; the image's byte is the scan window's to write
+
     int CommPortNumber = 1; // 1 to 20, in memory only
     LinkState Link;
     ChannelCodec Channels;

@@ -1,0 +1,43 @@
+#include "data/EmbeddedMessage.h"
+
+#include "data/Windows1252.h"
+
+namespace zelvor::embedded_message {
+
+namespace {
+
+constexpr std::uint8_t Erased = 0xFF;
+
+constexpr int FieldOf(int line) {
+    return FirstField + line * FieldSize;
+}
+
+} // namespace
+
+std::u16string Load(const DataImage& image, int line) {
+    std::u16string text;
+    for (int address = FieldOf(line); address < FieldOf(line) + FieldSize; ++address) {
+        const std::uint8_t byte = image.At(address);
+        if (byte == Erased) {
+            break;
+        }
+        text += Windows1252Character(byte);
+    }
+    return text;
+}
+
+void Store(DataImage& image, int line, std::u16string_view text) {
+    int address = FieldOf(line);
+    for (const char16_t character : text) {
+        const auto byte = Windows1252Byte(character);
+        if (!byte || address == End) {
+            return;
+        }
+        image.Set(address++, *byte);
+    }
+    while (address < FieldOf(line) + FieldSize) {
+        image.Set(address++, Erased);
+    }
+}
+
+} // namespace zelvor::embedded_message

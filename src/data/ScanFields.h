@@ -1,0 +1,83 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "data/DataImage.h"
+
+/// The scan block of the image: nine bytes, described once for all that show or store them. Labels and words are
+/// numbers of the string table.
+namespace zelvor::scan {
+
+/// The legal values of the priority mode's byte.
+enum class Mode : std::uint8_t { None, Fixed, Selected };
+
+/// A byte that is a number of a list of words.
+struct ListField {
+    int label;
+    int address;
+    std::span<const int> words;
+};
+
+inline constexpr std::array ModeWords{77, 151, 150}; // None, Fixed, Selected
+inline constexpr std::array RevertWords{150, 154, 152,
+                                        153}; // Selected, the same + Talk Back, Priority, the same + Talk Back
+inline constexpr ListField PriorityMode{143, 0x160, ModeWords};
+inline constexpr ListField RevertChannel{147, 0x164, RevertWords};
+
+/// The revert channels that a priority mode offers, as values of RevertChannel.
+inline constexpr std::array<std::uint8_t, 2> RevertWithoutPriority{0, 1};
+inline constexpr std::array<std::uint8_t, 4> RevertOfEither{0, 1, 2, 3};
+inline constexpr std::array<std::uint8_t, 2> RevertToPriority{2, 3};
+/// Without a legal mode every one may be meant.
+[[nodiscard]] constexpr std::span<const std::uint8_t> RevertChannelsOf(std::optional<Mode> mode) {
+    if (mode == Mode::None) {
+        return RevertWithoutPriority;
+    }
+    if (mode == Mode::Selected) {
+        return RevertToPriority;
+    }
+    return RevertOfEither;
+}
+
+/// The priority channel: 1 to 16, and NoChannel.
+struct ChannelField {
+    int label;
+    int address;
+};
+inline constexpr ChannelField PriorityChannel{144, 0x161};
+inline constexpr std::uint8_t NoChannel = 0xFF;
+
+/// A time, stored as a number of steps and shown in seconds.
+struct TimeField {
+    int label;
+    int address;
+    int bytes;       // 1, or 2 with the low byte first
+    int first;       // legal values
+    int last;        //
+    int step;        // seconds of a step and
+    int base;        // of the value 0, in units of 10^-decimals s
+    int decimals;    // of the shown text
+    int lengthLimit; // characters that can be typed
+};
+inline constexpr TimeField LookBackTimeA{145, 0x162, 1, 1, 91, 5, 45, 2, 4};
+inline constexpr TimeField LookBackTimeB{146, 0x163, 1, 1, 91, 5, 45, 2, 4};
+inline constexpr TimeField DropoutDelayTime{148, 0x165, 2, 0, 300, 1, 0, 0, 3};
+inline constexpr TimeField TxDwellTime{149, 0x167, 2, 0, 300, 1, 0, 0, 3};
+
+/// The stored value, legal or not; nothing where the image holds none: 0 or 0xFF in a field of one byte, a high byte of
+/// 0xFF in one of two.
+[[nodiscard]] std::optional<int> Load(const DataImage& image, const TimeField& field);
+void Store(DataImage& image, const TimeField& field, int value);
+
+/// The seconds of any value, "0.50" for 1 of a look back time.
+[[nodiscard]] std::string Show(const TimeField& field, int value);
+
+/// The legal value of a typed text: cut down to the step and kept to the range. A text without a number counts as 0 s.
+[[nodiscard]] int Read(const TimeField& field, std::string_view text);
+
+} // namespace zelvor::scan
