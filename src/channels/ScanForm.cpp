@@ -1,0 +1,308 @@
+#include "channels/ScanForm.h"
+
+#include <QFrame>
+#include <QLabel>
+#include <QPushButton>
+#include <algorithm>
+
+#include "channels/ChannelEditForm.h"
+#include "controls/EnterAsTab.h"
+#include "controls/FieldList.h"
+#include "controls/FilteredLineEdit.h"
+#include "controls/PendingEdit.h"
+#include "controls/SpinText.h"
+#include "data/MemoryMap.h"
+#include "platform/HelpTopic.h"
+#include "platform/HelpViewer.h"
+#include "platform/MessageBoxes.h"
+#include "platform/Services.h"
+#include "platform/Toolkit.h"
+#include "text/Decimal.h"
+
+namespace zelvor {
+
+namespace {
+
+constexpr QSize WindowSize{5175, 5895}; // twips
+
+constexpr int CaptionNumber = 142;
+constexpr int PriorityChannelDigits = 2;
+
+constexpr TextPair ErrorTitle{"Error", "错误"};
+constexpr TextPair ErrorText{"Channel must be selected\nfrom the programmed Channel's",
+                             "必须从已编程的信道中\n选择信道。"};
+
+bool IsChannel(int n) {
+    return n >= 1 && n <= address::ChannelCount;
+}
+
+bool IsProgrammed(const DataImage& image, int n) {
+    return image.At(address::Channel(n)) < 0xFF;
+}
+
+int Number(const QString& text) {
+    return static_cast<int>(Decimal::Leading(FromQString(text)).Rounded());
+}
+
+} // namespace
+
+ScanForm::ScanForm(Session& session, Services& services, ChannelWindows& windows, QWidget* parent)
+    : ChildForm(ChildWindow::Scan, "ScanForm", WindowSize, parent), session_(session), services_(services),
+      windows_(windows), picScanInfo_(new QFrame(Content())) {
+    windows_.scan = this;
+    BuildControls();
+    BuildButtons();
+    // The window list names this window by another text, which begins with a blank.
+    SetCaption(ToQString(session_.LoadText(CaptionNumber)));
+    Load();
+    setFocusProxy(cboPriority_);
+}
+
+ScanForm::~ScanForm() {
+    DropPendingEdit(*this);
+}
+
+void ScanForm::BuildControls() {
+    const auto list = [this](const char* name) {
+        auto* made = new FieldList(picScanInfo_);
+        made->setObjectName(name);
+        return made;
+    };
+    cboPriority_ = list("cboPriority");
+    txtPriorityCH_ = new FilteredLineEdit(picScanInfo_);
+    txtPriorityCH_->setObjectName("txtPriorityCH");
+    txtPriorityCH_->SetFilter(Digit);
+    txtPriorityCH_->SetLengthLimit(PriorityChannelDigits);
+    txtPriorityCH_->SelectAllOnFocus();
+    lookBackTimeA_ = MakeTime("LookBackTimeA", scan::LookBackTimeA);
+    lookBackTimeB_ = MakeTime("LookBackTimeB", scan::LookBackTimeB);
+    cboRevertCH_ = list("cboRevertCH");
+    dropoutDelayTime_ = MakeTime("DropoutDelayTime", scan::DropoutDelayTime);
+    txDwellTime_ = MakeTime("TXDwellTime", scan::TxDwellTime);
+
+    EnterMovesOn(*txtPriorityCH_);
+    connect(cboPriority_, &FieldList::Selected, this, &ScanForm::OnModeSelected);
+    connect(cboPriority_, &FieldList::FocusLeft, this, &ScanForm::CommitMode);
+    connect(txtPriorityCH_, &FilteredLineEdit::FocusLeft, this, &ScanForm::CommitPriorityChannel);
+    connect(cboRevertCH_, &FieldList::Selected, this, [this] { RevertText = cboRevertCH_->currentText(); });
+    connect(cboRevertCH_, &FieldList::FocusLeft, this, &ScanForm::CommitRevertChannel);
+
+    LayOut({{"lblPriority", scan::PriorityMode.label, cboPriority_},
+            {"lblPriorityCH", scan::PriorityChannel.label, txtPriorityCH_},
+            {"lblLookBackTimeA", scan::LookBackTimeA.label, lookBackTimeA_},
+            {"lblLookBackTimeB", scan::LookBackTimeB.label, lookBackTimeB_},
+            {"lblRevertCH", scan::RevertChannel.label, cboRevertCH_},
+            {"lblDropoutDelayTime", scan::DropoutDelayTime.label, dropoutDelayTime_},
+            {"lblTXDwellTime", scan::TxDwellTime.label, txDwellTime_}});
+}
+
+SpinText* ScanForm::MakeTime(const QString& name, const scan::TimeField& field) {
+    SpinTextRules rules;
+    rules.first = field.first;
+    rules.last = field.last;
+    rules.lengthLimit = field.lengthLimit;
+    rules.filter = field.decimals > 0 ? DigitOrPoint : Digit;
+    rules.show = [&field](int value) { return ToQString(scan::Show(field, value)); };
+    rules.read = [&field](const QString& text) -> std::optional<int> {
+        if (text.isEmpty()) {
+            return std::nullopt;
+        }
+        return scan::Read(field, FromQString(text));
+    };
+    auto* made = new SpinText("txt" + name, "upd" + name, rules, picScanInfo_);
+    connect(&made->Box(), &FilteredLineEdit::FocusLeft, this, [this, made, &field] { CommitTime(*made, field); });
+    return made;
+}
+
+void ScanForm::LayOut(const std::vector<Row>& rows) {
+    constexpr int margin = 12;
+    constexpr int rowHeight = 44;
+    constexpr int labelWidth = 160;
+    picScanInfo_->setObjectName("picScanInfo");
+    picScanInfo_->setGeometry(0, 0, PixelsOfTwips(WindowSize.width()),
+                              rowHeight * static_cast<int>(rows.size()) + margin);
+    int y = margin;
+    for (const Row& row : rows) {
+        const QString text = ToQString(session_.LoadText(row.label));
+        auto* label = new QLabel(text, picScanInfo_);
+        label->setObjectName(row.labelName);
+        label->setWordWrap(true);
+        label->setBuddy(row.control);
+        label->setGeometry(margin, y, labelWidth, rowHeight - 8);
+        row.control->setAccessibleName(text);
+        row.control->setGeometry(margin + labelWidth, y + 4, picScanInfo_->width() - 2 * margin - labelWidth, 28);
+        y += rowHeight;
+    }
+}
+
+void ScanForm::BuildButtons() {
+    const auto button = [this](const char* name, int x, int textNumber) {
+        auto* made = new QPushButton(ToQString(session_.LoadText(textNumber)), Content());
+        made->setObjectName(name);
+        made->setGeometry(x, 347, 100, 30);
+        made->setAutoDefault(true);
+        return made;
+    };
+    const auto* cmdClose = button("cmdClose", 125, 75);
+    const auto* cmdHelp = button("cmdHelp", 233, 76);
+    connect(cmdClose, &QPushButton::clicked, this, &ScanForm::CloseFromFrame);
+    connect(cmdHelp, &QPushButton::clicked, this,
+            [this] { services_.help.ShowTopic(HelpTopicPath(session_.LanguageFlag, HelpPage())); });
+}
+
+void ScanForm::Load() {
+    QStringList modes;
+    for (const int word : scan::PriorityMode.words) {
+        modes.append(ToQString(session_.LoadText(word)));
+    }
+    cboPriority_->SetEntries(modes);
+
+    const DataImage& image = session_.Image;
+    const std::uint8_t revertChannel = image.At(scan::RevertChannel.address);
+    const std::uint8_t mode = image.At(scan::PriorityMode.address);
+    if (mode == 0xFF) {
+        cboPriority_->setCurrentIndex(0);
+    } else if (mode < modes.size()) {
+        cboPriority_->setCurrentIndex(mode);
+    } else {
+        ShowMode(std::nullopt);
+    }
+    const std::uint8_t channel = image.At(scan::PriorityChannel.address);
+    txtPriorityCH_->setText(channel == scan::NoChannel ? QString() : QString::number(channel));
+    PriorityChText = txtPriorityCH_->text();
+    LoadTime(*lookBackTimeA_, scan::LookBackTimeA);
+    LoadTime(*lookBackTimeB_, scan::LookBackTimeB);
+    LoadRevertChannel(revertChannel);
+    LoadTime(*dropoutDelayTime_, scan::DropoutDelayTime);
+    LoadTime(*txDwellTime_, scan::TxDwellTime);
+}
+
+void ScanForm::LoadTime(SpinText& control, const scan::TimeField& field) {
+    const std::optional<int> value = scan::Load(session_.Image, field);
+    control.SetValue(value.value_or(field.first));
+    control.SetText(value ? ToQString(scan::Show(field, *value)) : QString());
+}
+
+/// The byte is stored as it was: showing the mode has overwritten it. A list of two entries shows both meanings, with
+/// priority and without, by the same entry.
+void ScanForm::LoadRevertChannel(std::uint8_t byte) {
+    session_.Image.Set(scan::RevertChannel.address, byte);
+    const bool legal = byte < scan::RevertChannel.words.size();
+    cboRevertCH_->ShowEntry(legal ? byte % cboRevertCH_->count() : -1);
+    RevertText = cboRevertCH_->currentText();
+}
+
+std::optional<scan::Mode> ScanForm::ShownMode() const {
+    const int index = cboPriority_->currentIndex();
+    return index < 0 ? std::nullopt : std::optional(static_cast<scan::Mode>(index));
+}
+
+void ScanForm::OnModeSelected(int index) {
+    if (index < 0) {
+        return;
+    }
+    const auto mode = static_cast<scan::Mode>(index);
+    if (mode != scan::Mode::Fixed) {
+        txtPriorityCH_->clear();
+        session_.Image.Set(scan::PriorityChannel.address, scan::NoChannel);
+    }
+    ShowMode(mode);
+    CommitRevertChannel();
+}
+
+/// Without a legal mode the image's bytes stay and are shown, and what only Fixed has is off.
+void ScanForm::ShowMode(std::optional<scan::Mode> mode) {
+    const bool fixed = mode == scan::Mode::Fixed;
+    session_.PriorityFixedMode = fixed;
+    session_.PriorityChannelError = fixed && !IsChannel(session_.Image.At(scan::PriorityChannel.address));
+    if (!fixed) {
+        session_.PriorityChannelNo = 0;
+    }
+    txtPriorityCH_->setEnabled(fixed);
+    lookBackTimeA_->setEnabled(mode != scan::Mode::None);
+    lookBackTimeB_->setEnabled(mode != scan::Mode::None);
+    RebuildRevertList();
+    if (ChannelEditForm* dialog = OpenDialog()) {
+        dialog->EnablePriorityMark();
+    }
+}
+
+/// RevertText stays, so that a later mode that has it among its entries finds it again.
+void ScanForm::RebuildRevertList() {
+    QStringList entries;
+    for (const std::uint8_t value : scan::RevertChannelsOf(ShownMode())) {
+        entries.append(ToQString(session_.LoadText(scan::RevertChannel.words[value])));
+    }
+    cboRevertCH_->SetEntries(entries);
+    const auto found = static_cast<int>(entries.indexOf(RevertText));
+    cboRevertCH_->ShowEntry(found < 0 ? static_cast<int>(entries.size()) - 1 : found);
+}
+
+void ScanForm::CommitMode() {
+    if (const auto mode = ShownMode()) {
+        session_.Image.Set(scan::PriorityMode.address, static_cast<std::uint8_t>(*mode));
+    }
+}
+
+void ScanForm::CommitRevertChannel() {
+    const int index = cboRevertCH_->currentIndex();
+    if (index >= 0) {
+        const std::uint8_t value = scan::RevertChannelsOf(ShownMode())[static_cast<std::size_t>(index)];
+        session_.Image.Set(scan::RevertChannel.address, value);
+    }
+}
+
+void ScanForm::CommitTime(SpinText& control, const scan::TimeField& field) {
+    const int value = scan::Read(field, FromQString(control.Box().text()));
+    control.Put(value);
+    scan::Store(session_.Image, field, value);
+}
+
+void ScanForm::CommitPriorityChannel() {
+    session_.PriorityChannelError = false;
+    const int n = AcceptedPriorityChannel();
+    ShowPriorityChannel(n);
+    session_.Image.Set(scan::PriorityChannel.address, n == 0 ? scan::NoChannel : static_cast<std::uint8_t>(n));
+    session_.PriorityChannelError = n == 0 && session_.PriorityFixedMode;
+    PriorityChText = txtPriorityCH_->text();
+    session_.PriorityChannelNo = n;
+    if (ChannelEditForm* dialog = OpenDialog(); dialog != nullptr && n != 0) {
+        dialog->ShowPriorityMark(n);
+    }
+}
+
+/// The channel that the box's text ends up as; 0 for none.
+int ScanForm::AcceptedPriorityChannel() {
+    const QString text = txtPriorityCH_->text();
+    if (text.isEmpty()) {
+        return 0;
+    }
+    const int typed = Number(text);
+    const int n = std::clamp(typed, 1, address::ChannelCount);
+    if (IsProgrammed(session_.Image, n)) {
+        return n;
+    }
+    ShowError();
+    return typed == 0 ? 0 : Number(PriorityChText);
+}
+
+void ScanForm::ShowError() {
+    services_.messages.Show({std::string(ErrorTitle.In(session_.LanguageFlag)),
+                             std::string(ErrorText.In(session_.LanguageFlag)), MessageIcon::Critical,
+                             MessageButtons::Ok});
+}
+
+void ScanForm::ShowPriorityChannel(int n) {
+    txtPriorityCH_->setText(n == 0 ? QString() : QString::number(n));
+}
+
+ChannelEditForm* ScanForm::OpenDialog() const {
+    return session_.IsOpen(ChildWindow::ChannelEdit) ? windows_.dialog.data() : nullptr;
+}
+
+void ScanForm::CloseFromFrame() {
+    CommitPendingEdit();
+    emit UnloadRequested();
+}
+
+} // namespace zelvor

@@ -1,0 +1,78 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "channels/ChannelWindows.h"
+#include "controls/ChildForm.h"
+#include "data/ScanFields.h"
+
+namespace zelvor {
+
+class FieldList;
+class FilteredLineEdit;
+class SpinText;
+struct Services;
+
+/// The scan block: priority mode and channel, look back times, revert channel and delays, each stored when its control
+/// is left. Keeps Session::PriorityFixedMode, PriorityChannelNo and PriorityChannelError.
+class ScanForm : public ChildForm {
+    Q_OBJECT
+
+public:
+    ScanForm(Session& session, Services& services, ChannelWindows& windows, QWidget* parent = nullptr);
+    /// A value that is still being edited is dropped.
+    ~ScanForm() override;
+
+    /// Shows a channel (1 to 16, 0 for none) as the priority channel. The image follows when the box is left.
+    void ShowPriorityChannel(int n);
+
+    void CloseFromFrame() override;
+    [[nodiscard]] std::string_view HelpPage() const override { return "scaninfo.htm"; }
+
+private:
+    /// A label and its control, in the order of the tab key.
+    struct Row {
+        const char* labelName;
+        int label; // string number
+        QWidget* control;
+    };
+
+    void BuildControls();
+    SpinText* MakeTime(const QString& name, const scan::TimeField& field);
+    void LayOut(const std::vector<Row>& rows);
+    void BuildButtons();
+
+    void Load();
+    void LoadTime(SpinText& control, const scan::TimeField& field);
+    void LoadRevertChannel(std::uint8_t byte);
+
+    void OnModeSelected(int index);
+    void ShowMode(std::optional<scan::Mode> mode);
+    void RebuildRevertList();
+    [[nodiscard]] std::optional<scan::Mode> ShownMode() const;
+
+    void CommitMode();
+    void CommitRevertChannel();
+    void CommitTime(SpinText& control, const scan::TimeField& field);
+    void CommitPriorityChannel();
+    [[nodiscard]] int AcceptedPriorityChannel();
+    void ShowError();
+    [[nodiscard]] ChannelEditForm* OpenDialog() const;
+
+    Session& session_;
+    Services& services_;
+    ChannelWindows& windows_;
+    QWidget* const picScanInfo_;
+    FieldList* cboPriority_ = nullptr;
+    FilteredLineEdit* txtPriorityCH_ = nullptr;
+    SpinText* lookBackTimeA_ = nullptr;
+    SpinText* lookBackTimeB_ = nullptr;
+    FieldList* cboRevertCH_ = nullptr;
+    SpinText* dropoutDelayTime_ = nullptr;
+    SpinText* txDwellTime_ = nullptr;
+    QString RevertText;     // of the revert list, as the user or the image chose it
+    QString PriorityChText; // last accepted text of txtPriorityCH
+};
+
+} // namespace zelvor

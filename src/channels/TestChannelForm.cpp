@@ -1,0 +1,217 @@
+#include "channels/TestChannelForm.h"
+
+#include <QKeyEvent>
+#include <QPushButton>
+
+#include "channels/FrequencyEntry.h"
+#include "controls/CellTextEditor.h"
+#include "controls/EditGrid.h"
+#include "controls/PendingEdit.h"
+#include "controls/TextCellEdit.h"
+#include "platform/HelpTopic.h"
+#include "platform/HelpViewer.h"
+#include "platform/MessageBoxes.h"
+#include "platform/Services.h"
+#include "platform/Toolkit.h"
+
+namespace zelvor {
+
+namespace {
+
+// Twips.
+constexpr QSize WindowSize{7440, 6480};
+constexpr QRect GridPlace{120, 120, 7200, 5640};
+constexpr QSize ButtonSize{1500, 450};
+constexpr int ButtonTop = 5910;
+constexpr int CloseLeft = 4200;
+constexpr int HelpLeft = 5820;
+
+constexpr int ReceiveColumn = 1;
+constexpr int TransmitColumn = 2;
+constexpr int FrequencyLength = 9; // "000.00000"
+
+constexpr TextPair GridFormat{"^Channel|> RX [MHz]|> TX [MHz]", "^信道|> 接收 [MHz]|> 发射 [MHz]"};
+constexpr TextPair WarningTitle{"Warning", "警告"};
+constexpr TextPair ChangedText{
+    "Test Frequency data have changed.\nplease execute write to radio before entering into Test Mode.",
+    "测试频率数据已更改。\n在进入测试模式之前执行\"向对讲机写入数据\"。"};
+
+constexpr int OtherColumn(int column) {
+    return column == ReceiveColumn ? TransmitColumn : ReceiveColumn;
+}
+
+QRect PixelRect(const QRect& twips) {
+    return {PixelsOfTwips(twips.x()), PixelsOfTwips(twips.y()), PixelsOfTwips(twips.width()),
+            PixelsOfTwips(twips.height())};
+}
+
+} // namespace
+
+TestChannelForm::TestChannelForm(Session& session, Services& services, ChannelWindows& /*windows*/, QWidget* parent)
+    : ChildForm(ChildWindow::TestFrequency, "TestChannelForm", WindowSize, parent), session_(session),
+      services_(services), SavedBlock(TestFrequencyBlock(session.Image)) {
+    Content()->setObjectName("picTestFreq");
+    BuildGrid();
+    BuildButtons();
+    SetTexts();
+    for (int row = 1; row <= TestChannelCount; ++row) {
+        ShowTestChannel(row);
+    }
+    setFocusProxy(msgTestFreq_);
+}
+
+TestChannelForm::~TestChannelForm() {
+    edit_->Drop();
+}
+
+void TestChannelForm::BuildGrid() {
+    msgTestFreq_ = new EditGrid(TestChannelCount, TransmitColumn, Content());
+    msgTestFreq_->setObjectName("msgTestFreq");
+    msgTestFreq_->setGeometry(PixelRect(GridPlace));
+    txtTestFreq_ = new CellTextEditor(Content());
+    txtTestFreq_->setObjectName("txtTestFreq");
+    txtTestFreq_->setMaxLength(FrequencyLength);
+    txtTestFreq_->SetFilter(DigitOrPoint);
+    edit_ = new TextCellEdit(*msgTestFreq_, *txtTestFreq_);
+    connect(msgTestFreq_, &EditGrid::CellClicked, this, &TestChannelForm::OnCellClicked);
+    connect(msgTestFreq_, &EditGrid::KeyPressed, this, &TestChannelForm::OnGridKey);
+    connect(edit_, &TextCellEdit::Entered, this, &TestChannelForm::OnEntered);
+    connect(edit_, &TextCellEdit::Left, this, &TestChannelForm::OnLeft);
+}
+
+void TestChannelForm::BuildButtons() {
+    const auto button = [this](const char* name, int left) {
+        auto* made = new QPushButton(Content());
+        made->setObjectName(name);
+        made->setGeometry(PixelRect({QPoint(left, ButtonTop), ButtonSize}));
+        return made;
+    };
+    cmdClose_ = button("cmdClose", CloseLeft);
+    cmdHelp_ = button("cmdHelp", HelpLeft);
+    connect(cmdClose_, &QPushButton::clicked, this, &TestChannelForm::OnClose);
+    connect(cmdHelp_, &QPushButton::clicked, this,
+            [this] { services_.help.ShowTopic(HelpTopicPath(session_.LanguageFlag, HelpPage())); });
+}
+
+void TestChannelForm::SetTexts() {
+    const auto text = [this](int n) { return ToQString(session_.LoadText(n)); };
+    SetCaption(text(46));
+    cmdClose_->setText(text(75));
+    cmdHelp_->setText(text(76));
+    QStringList channels;
+    for (int row = 1; row <= TestChannelCount; ++row) {
+        channels.append(QString::number(row));
+    }
+    msgTestFreq_->SetFormat(ToQString(GridFormat.In(session_.LanguageFlag)), channels);
+    const int eighth = PixelsOfTwips(GridPlace.width()) / 8;
+    msgTestFreq_->FitCells({eighth, 3 * eighth, 3 * eighth});
+    msgTestFreq_->setAccessibleName(text(185));
+}
+
+void TestChannelForm::ShowTestChannel(int row) {
+    const TestFrequencyTexts texts = ReadTestChannel(session_.Image, row);
+    msgTestFreq_->SetText(row, ReceiveColumn, ToQString(texts.receive));
+    msgTestFreq_->SetText(row, TransmitColumn, ToQString(texts.transmit));
+}
+
+void TestChannelForm::ShowTestEditor(int row, int col) {
+    msgTestFreq_->MoveTo(row, col);
+    txtTestFreq_->setAccessibleName(msgTestFreq_->horizontalHeaderItem(col - 1)->text().trimmed());
+    edit_->Open();
+}
+
+void TestChannelForm::OnCellClicked(int row, int column) {
+    const bool startsPair = column == TransmitColumn && msgTestFreq_->Text(row, TransmitColumn).isEmpty();
+    ShowTestEditor(row, startsPair ? ReceiveColumn : column);
+}
+
+void TestChannelForm::OnGridKey(QKeyEvent* event) {
+    const int row = msgTestFreq_->Row();
+    const int column = msgTestFreq_->Column();
+    if (IsEnterKey(*event)) {
+        ShowTestEditor(row, msgTestFreq_->Text(row, ReceiveColumn).isEmpty() ? ReceiveColumn : column);
+        event->accept();
+        return;
+    }
+    const QChar character = DigitOrPoint(TypedCharacter(*event));
+    if (!character.isNull()) {
+        ShowTestEditor(row, column);
+        edit_->PutText(character);
+        event->accept();
+    }
+}
+
+void TestChannelForm::OnEntered() {
+    const int row = edit_->Row();
+    const int column = edit_->Column();
+    Commit();
+    edit_->Close();
+    if (!SkipCellWrite) {
+        msgTestFreq_->SetText(row, column, edit_->Text());
+    }
+    SkipCellWrite = false;
+    if (column == ReceiveColumn) {
+        msgTestFreq_->MoveTo(row, TransmitColumn);
+    } else {
+        msgTestFreq_->MoveTo(row + 1, ReceiveColumn);
+    }
+}
+
+void TestChannelForm::OnLeft() {
+    // Leaving a cell as it was stores nothing: its bytes, or an empty table's default, are not to change by a look at
+    // it.
+    if (edit_->IsChanged()) {
+        Commit();
+        SkipCellWrite = false;
+    }
+}
+
+void TestChannelForm::Commit() {
+    if (edit_->Text().isEmpty()) {
+        EmptyPair(edit_->Row(), edit_->Column());
+    } else {
+        StorePair(edit_->Row(), edit_->Column());
+    }
+    if (AreTestChannelsEmpty(session_.Image)) {
+        RestoreDefaultTestFrequencies(session_.Image);
+        SkipCellWrite = true;
+        for (int row = 1; row <= DefaultTestChannelCount; ++row) {
+            ShowTestChannel(row);
+        }
+    }
+}
+
+void TestChannelForm::EmptyPair(int row, int column) {
+    msgTestFreq_->SetText(row, OtherColumn(column), QString());
+    EraseTestChannel(session_.Image, row);
+}
+
+void TestChannelForm::StorePair(int row, int column) {
+    const QString result =
+        ToQString(EnterFrequency(session_, services_, FromQString(edit_->Text()), WarningTitle).text);
+    edit_->PutText(result);
+    if (msgTestFreq_->Text(row, OtherColumn(column)).isEmpty()) {
+        msgTestFreq_->SetText(row, OtherColumn(column), result);
+    }
+    WriteTestChannel(
+        session_.Image, row,
+        {FromQString(msgTestFreq_->Text(row, ReceiveColumn)), FromQString(msgTestFreq_->Text(row, TransmitColumn))});
+}
+
+void TestChannelForm::OnClose() {
+    CommitPendingEdit();
+    if (TestFrequencyBlock(session_.Image) != SavedBlock) {
+        const Language language = session_.LanguageFlag;
+        services_.messages.Show({std::string(WarningTitle.In(language)), std::string(ChangedText.In(language)),
+                                 MessageIcon::Exclamation, MessageButtons::Ok, MessageAnswer::Ok});
+    }
+    emit UnloadRequested();
+}
+
+void TestChannelForm::CloseFromFrame() {
+    // The warning comes with the button alone, on purpose.
+    CommitPendingEdit();
+    emit UnloadRequested();
+}
+
+} // namespace zelvor

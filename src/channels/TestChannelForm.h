@@ -1,0 +1,59 @@
+#pragma once
+
+#include "channels/ChannelWindows.h"
+#include "controls/ChildForm.h"
+#include "data/TestFrequencies.h"
+
+class QKeyEvent;
+class QPushButton;
+
+namespace zelvor {
+
+class CellTextEditor;
+class EditGrid;
+class TextCellEdit;
+struct Services;
+
+/// The 16 pairs of test frequencies. A pair has both frequencies or none; when the last one is emptied, the default
+/// pairs of the document's market take their place.
+class TestChannelForm : public ChildForm {
+    Q_OBJECT
+
+public:
+    TestChannelForm(Session& session, Services& services, ChannelWindows& windows, QWidget* parent = nullptr);
+    /// An edit that is still open when the window is unloaded is dropped.
+    ~TestChannelForm() override;
+
+    /// Moves the cursor to a cell, row 1 to 16 and column 1 (receive) or 2 (transmit), and opens the editor over it.
+    void ShowTestEditor(int row, int col);
+
+    void CloseFromFrame() override;
+    [[nodiscard]] std::string_view HelpPage() const override { return "testfreq.htm"; }
+
+private:
+    void BuildGrid();
+    void BuildButtons();
+    void SetTexts();
+    void ShowTestChannel(int row);
+
+    void OnCellClicked(int row, int column);
+    void OnGridKey(QKeyEvent* event);
+    void OnEntered();
+    void OnLeft();
+    void Commit();
+    void EmptyPair(int row, int column);
+    void StorePair(int row, int column);
+    void OnClose();
+
+    Session& session_;
+    Services& services_;
+    EditGrid* msgTestFreq_;
+    CellTextEditor* txtTestFreq_;
+    TextCellEdit* edit_;
+    QPushButton* cmdClose_;
+    QPushButton* cmdHelp_;
+    TestFrequencyBytes SavedBlock; // as it was when the window opened
+    bool SkipCellWrite = false;    // the default pairs were filled in, over the emptied cell too
+};
+
+} // namespace zelvor

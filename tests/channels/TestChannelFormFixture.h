@@ -1,0 +1,120 @@
+#pragma once
+
+#include <QApplication>
+#include <QClipboard>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <gtest/gtest.h>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+#include "channels/TestChannelForm.h"
+#include "controls/EditGrid.h"
+#include "data/Session.h"
+#include "platform/Toolkit.h"
+#include "platform/fakes/FakeServices.h"
+
+namespace zelvor {
+
+/// The test frequency window on an erased image of market 0x01 (136 to 174 MHz), active, with real key and mouse
+/// events.
+class TestChannelFormTest : public testing::Test {
+protected:
+    using Pair = std::vector<std::string>;
+
+    void SetUp() override {
+        session.Image.Set(0x1BD, 0x01);
+        session.Image.Set(0x1BE, 0xF8);
+    }
+
+    /// Puts the eight bytes of a pair, in hexadecimal, into the image.
+    void PutPair(int channel, std::string_view hex) {
+        for (int i = 0; i < 8; ++i) {
+            const std::string digits(hex.substr(static_cast<std::size_t>(i) * 2, 2));
+            session.Image.Set(0x280 + 8 * (channel - 1) + i, static_cast<std::uint8_t>(std::stoi(digits, nullptr, 16)));
+        }
+    }
+    /// The eight bytes of a channel in hexadecimal.
+    std::string PairBytes(int channel) {
+        QByteArray bytes;
+        for (int i = 0; i < 8; ++i) {
+            bytes.append(static_cast<char>(session.Image.At(0x280 + 8 * (channel - 1) + i)));
+        }
+        return bytes.toHex().toUpper().toStdString();
+    }
+
+    void Show(Language language = Language::English) {
+        session.LanguageFlag = language;
+        form = std::make_unique<TestChannelForm>(session, services.Get(), windows);
+        form->show();
+        form->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
+        Grid().setFocus();
+        ASSERT_TRUE(Grid().hasFocus());
+    }
+
+    template<typename Control>
+    Control& Find(const char* name) {
+        auto* control = form->findChild<Control*>(name);
+        EXPECT_NE(control, nullptr) << name;
+        return *control;
+    }
+    EditGrid& Grid() { return Find<EditGrid>("msgTestFreq"); }
+    QLineEdit& Editor() { return Find<QLineEdit>("txtTestFreq"); }
+
+    std::string Cell(int row, int column) { return FromQString(Grid().Text(row, column)); }
+    Pair Row(int row) { return {Cell(row, 1), Cell(row, 2)}; }
+
+    void Key(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
+    void Type(const char* text) {
+        for (const char* c = text; *c != '\0'; ++c) {
+            QTest::keyClick(QApplication::focusWidget(), *c);
+        }
+    }
+    void Enter(int row, int column, const char* text) {
+        Grid().MoveTo(row, column);
+        Type(text);
+        Key(Qt::Key_Return);
+    }
+    /// Opens the cell by Enter, deletes its text and ends with Enter.
+    void Empty(int row, int column) {
+        Grid().MoveTo(row, column);
+        Key(Qt::Key_Return);
+        Key(Qt::Key_Backspace);
+        Key(Qt::Key_Return);
+    }
+    void ClickCell(int row, int column, Qt::MouseButton button = Qt::LeftButton) {
+        const QRect cell = Grid().visualItemRect(Grid().item(row - 1, column - 1));
+        QTest::mouseClick(Grid().viewport(), button, {}, cell.center());
+    }
+    void Click(const char* button) { QTest::mouseClick(&Find<QPushButton>(button), Qt::LeftButton); }
+
+    void ExpectCursor(int row, int column) {
+        EXPECT_EQ(Grid().Row(), row);
+        EXPECT_EQ(Grid().Column(), column);
+    }
+    void ExpectEditorOver(int row, int column) {
+        EXPECT_TRUE(Editor().isVisible());
+        EXPECT_TRUE(Editor().hasFocus());
+        ExpectCursor(row, column);
+        EXPECT_EQ(Editor().geometry(), Grid().CellRect(row, column));
+    }
+
+    void ExpectMessage(std::string title, std::string text) {
+        services.messages.Expect(
+            {std::move(title), std::move(text), MessageIcon::Exclamation, MessageButtons::Ok, MessageAnswer::Ok},
+            MessageAnswer::Ok);
+    }
+    void ExpectOutOfRange() { ExpectMessage("Warning", "Frequency is out of range."); }
+
+    FakeServices services;
+    Session session;
+    ChannelWindows windows;
+    std::unique_ptr<TestChannelForm> form;
+};
+
+} // namespace zelvor
