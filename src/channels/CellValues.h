@@ -23,6 +23,9 @@ inline constexpr int PttId = 9;
 inline constexpr int Count = 9;
 } // namespace column
 
+/// Caption of the message that reports a frequency out of range.
+inline constexpr TextPair FrequencyCaution{"Caution", "注意"};
+
 [[nodiscard]] constexpr bool IsFrequencyColumn(int column) {
     return column == column::Rx || column == column::Tx;
 }
@@ -33,8 +36,8 @@ inline constexpr int Count = 9;
 /// The entries of the list editor in columns 5 to 9, in their order; PTT ID's depend on the image's PTT ID Type.
 [[nodiscard]] std::vector<std::string> CellChoices(int column, const DataImage& image, Language language);
 
-/// What Up (direction -1) or Down (+1) makes of a cell's text in columns 3 to 9. toneList serves both tone columns. A text
-/// at the end stays; so does one that its column does not know, but in a tone column it gives the first entry.
+/// What Up (direction -1) or Down (+1) makes of a cell's text in columns 3 to 9. toneList serves both tone columns. A
+/// text at the end stays; so does one that its column does not know, but in a tone column it gives the first entry.
 [[nodiscard]] std::string StepCellValue(int column, std::string_view text, int direction, const DataImage& image,
                                         Language language, const std::vector<std::string>& toneList);
 

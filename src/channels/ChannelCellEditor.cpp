@@ -4,13 +4,13 @@
 #include <QScopedValueRollback>
 
 #include "channels/CellValues.h"
+#include "channels/ChannelEditForm.h"
+#include "channels/FrequencyEntry.h"
+#include "channels/ToneKeys.h"
 #include "controls/CellListEditor.h"
 #include "controls/CellTextEditor.h"
 #include "controls/EditGrid.h"
-#include "data/FrequencyCodec.h"
 #include "data/Session.h"
-#include "platform/MessageBoxes.h"
-#include "platform/Services.h"
 #include "platform/Toolkit.h"
 #include "text/StringTable.h"
 
@@ -19,24 +19,7 @@ namespace zelvor {
 namespace {
 
 constexpr int FrequencyLength = 9; // "000.00000"
-constexpr int ToneLength = 5;      // "D023N"
 constexpr int HelpContextBase = 4100;
-
-constexpr TextPair CautionTitle{"Caution", "注意"};
-constexpr TextPair OutOfRangeText{"Frequency is out of range.", "频率超出范围。"};
-
-constexpr bool IsToneLetter(QChar upper) {
-    return upper == u'D' || upper == u'I' || upper == u'N';
-}
-
-QStringList ToQStrings(const std::vector<std::string>& texts) {
-    QStringList list;
-    list.reserve(static_cast<qsizetype>(texts.size()));
-    for (const std::string& text : texts) {
-        list.append(ToQString(text));
-    }
-    return list;
-}
 
 } // namespace
 
@@ -49,7 +32,7 @@ ChannelCellEditor::ChannelCellEditor(Session& session, Services& services, EditG
     // The lower-case letter ends an edit like Enter, on purpose.
     txtInputBox_->SetEnterLetter(u'l');
     comInputStep_->setObjectName("comInputStep");
-    comInputStep_->SetFilter([this](QChar entered) { return ToneCharacter(entered); });
+    TakeToneKeys(*static_cast<FilteredLineEdit*>(comInputStep_->lineEdit()));
     comInputStep_->SetEnterLetter(u'l');
 
     connect(&grid_, &EditGrid::CellClicked, this, &ChannelCellEditor::OnCellClicked);
@@ -59,7 +42,8 @@ ChannelCellEditor::ChannelCellEditor(Session& session, Services& services, EditG
     connect(txtInputBox_, &FilteredLineEdit::EnterPressed, this, [this] { OnTextEnded(false); });
     connect(txtInputBox_, &FilteredLineEdit::EscapePressed, this, [this] { OnTextEnded(true); });
     connect(txtInputBox_, &FilteredLineEdit::FocusLeft, this, &ChannelCellEditor::LeaveText);
-    connect(comInputStep_, &CellListEditor::Chosen, this, [this](const QString& text) { OnSelected(FromQString(text)); });
+    connect(comInputStep_, &CellListEditor::Chosen, this,
+            [this](const QString& text) { OnSelected(FromQString(text)); });
     connect(comInputStep_, &CellListEditor::Stepped, this, &ChannelCellEditor::OnStepped);
     connect(comInputStep_, &CellListEditor::EditEnded, this, &ChannelCellEditor::OnListEnded);
     connect(comInputStep_, &CellListEditor::FocusLeft, this, &ChannelCellEditor::LeaveList);
@@ -86,7 +70,7 @@ void ChannelCellEditor::OnGridKey(QKeyEvent* event) {
         return;
     }
     const QChar character = text.front().toUpper();
-    if (!DigitOrPoint(character).isNull() || IsToneLetter(character)) {
+    if (!DigitOrPoint(character).isNull() || IsToneLetter(character.unicode())) {
         OnGridCharacter(character);
         event->accept();
     }
@@ -98,7 +82,7 @@ void ChannelCellEditor::OnGridCharacter(QChar character) {
     const bool hasRx = !grid_.Text(row, column::Rx).isEmpty();
     const bool hasTx = !grid_.Text(row, column::Tx).isEmpty();
     if (IsFrequencyColumn(cursor)) {
-        if (IsToneLetter(character)) {
+        if (IsToneLetter(character.unicode())) {
             return;
         }
         if (!hasRx) {
@@ -133,6 +117,13 @@ void ChannelCellEditor::LoadRowIntoFields(int row) {
         texts.*GridTexts[static_cast<std::size_t>(column) - 1] = FromQString(grid_.Text(row, column));
     }
     session_.Channels.LoadHiddenFields(session_.Image, session_.LanguageFlag, row);
+    if (ChannelEditForm* dialog = owner_.openDialog()) {
+        if (texts.RxText.empty()) {
+            dialog->BlankChannelDialog();
+        } else {
+            dialog->ShowLoadedRow();
+        }
+    }
 }
 
 void ChannelCellEditor::ShowCellEditor() {
@@ -144,6 +135,10 @@ void ChannelCellEditor::ShowCellEditor() {
     session_.CurrentChannel = row;
     session_.EditChannel = row;
     session_.CurrentCol = cursor;
+    owner_.showChannelInCaption(row);
+    if (ChannelEditForm* dialog = owner_.openDialog()) {
+        dialog->GoToChannel(row);
+    }
     CellUndoText = grid_.Text(row, cursor);
     LoadRowIntoFields(row);
     if (cursor != column::Rx && grid_.Text(row, column::Rx).isEmpty()) {
@@ -159,10 +154,10 @@ void ChannelCellEditor::ShowCellEditor() {
     }
     state_ = State::ListEditing;
     CycleActive = false;
-    const QStringList entries = cursor == column::Decode   ? ToQStrings(owner_.toneListDec())
-                                : cursor == column::Encode ? ToQStrings(owner_.toneListEnc())
-                                                           : ToQStrings(CellChoices(cursor, session_.Image,
-                                                                                    session_.LanguageFlag));
+    const QStringList entries = cursor == column::Decode ? ToQStrings(owner_.toneListDec())
+                                : cursor == column::Encode
+                                    ? ToQStrings(owner_.toneListEnc())
+                                    : ToQStrings(CellChoices(cursor, session_.Image, session_.LanguageFlag));
     comInputStep_->setProperty("HelpContextID", helpContext);
     comInputStep_->ShowOver(grid_, entries, CellUndoText, IsToneColumn(cursor));
 }
@@ -220,32 +215,30 @@ void ChannelCellEditor::CommitText() {
     }
 }
 
-std::string ChannelCellEditor::Normalised(const QString& text, bool& withinRange) {
-    const NormalisedFrequency result = NormaliseFrequency(FromQString(text), SetBandLimits(session_.Image));
-    withinRange = !result.outOfRange;
-    if (result.outOfRange) {
-        const Language language = session_.LanguageFlag;
-        services_.messages.Show({std::string(CautionTitle.In(language)), std::string(OutOfRangeText.In(language)),
-                                 MessageIcon::Exclamation, MessageButtons::Ok, MessageAnswer::Ok});
-    }
-    return result.text;
-}
-
 void ChannelCellEditor::CommitReceive(const QString& text) {
+    ChannelEditForm* dialog = owner_.openDialog();
     if (text.isEmpty()) {
         owner_.clearChannelData(session_.CurrentChannel);
+        if (dialog != nullptr) {
+            dialog->BlankChannelDialog();
+        }
         return;
     }
     ChannelTexts& texts = session_.Channels.Texts;
-    bool withinRange = false;
-    texts.RxText = Normalised(text, withinRange);
-    if (withinRange) {
+    const NormalisedFrequency entered = EnterFrequency(session_, services_, FromQString(text), FrequencyCaution);
+    texts.RxText = entered.text;
+    if (!entered.outOfRange) {
         CellUndoText = ToQString(texts.RxText);
     }
-    // Retyping a complete frequency leaves the row's other columns alone: defaults come only with a completed one.
-    if (texts.RxText != FromQString(text)) {
+    // Retyping a complete frequency leaves the row's other columns alone: defaults come only with a completed one, or
+    // with the dialog beside.
+    const bool asTyped = texts.RxText == FromQString(text);
+    if (!asTyped || dialog != nullptr) {
         session_.Channels.CompleteChannelDefaults(session_.Image, session_.LanguageFlag, session_.EditChannel,
                                                   std::string(texts.RxText));
+    }
+    if (dialog != nullptr) {
+        dialog->ShowReceiveCommit(!grid_.Text(session_.EditChannel, column::OptSignal).isEmpty(), asTyped);
     }
     EncodeAndRefresh();
 }
@@ -256,19 +249,20 @@ void ChannelCellEditor::CommitTransmit(const QString& text) {
         texts.TxText.clear();
         texts.EncText = session_.LoadText(words::None);
     } else {
-        bool withinRange = false;
-        texts.TxText = Normalised(text, withinRange);
+        texts.TxText = EnterFrequency(session_, services_, FromQString(text), FrequencyCaution).text;
+    }
+    if (ChannelEditForm* dialog = owner_.openDialog()) {
+        dialog->ShowTransmitCommit();
     }
     EncodeAndRefresh();
 }
 
 // --- Tones and choices -----------------------------------------------------------------------------------------------
 
-QChar ChannelCellEditor::ToneCharacter(QChar entered) const {
-    const QChar upper = entered.toUpper();
-    const bool full = comInputStep_->currentText().size() >= ToneLength && !comInputStep_->HasSelectedText();
-    const bool wanted = !DigitOrPoint(upper).isNull() || IsToneLetter(upper);
-    return wanted && !full ? upper : QChar();
+void ChannelCellEditor::TellChoice() {
+    if (ChannelEditForm* dialog = owner_.openDialog()) {
+        dialog->ShowCellChoice(session_.CurrentCol);
+    }
 }
 
 void ChannelCellEditor::OnStepped(int direction) {
@@ -291,6 +285,7 @@ void ChannelCellEditor::OnSelected(const std::string& text) {
     const std::string value = deadEncode ? std::string(session_.LoadText(words::None)) : chosen;
     texts.*GridTexts[static_cast<std::size_t>(session_.CurrentCol) - 1] = value;
     comInputStep_->PutText(ToQString(value));
+    TellChoice();
     EncodeAndRefresh();
     CycledText = value;
     CellUndoText = ToQString(CycledText);
@@ -302,6 +297,7 @@ void ChannelCellEditor::CommitTone() {
     const std::string tone = NormaliseTone(FromQString(comInputStep_->currentText()), session_.LanguageFlag);
     (session_.CurrentCol == column::Decode ? texts.DecText : texts.EncText) = tone;
     CycledText = tone;
+    TellChoice();
     EncodeAndRefresh();
 }
 

@@ -12,6 +12,7 @@ namespace zelvor {
 
 class CellListEditor;
 class CellTextEditor;
+class ChannelEditForm;
 class EditGrid;
 class Session;
 struct Services;
@@ -28,15 +29,18 @@ public:
         std::function<void(int k)> encodeChannelRow;
         std::function<void(int row)> clearChannelData;
         std::function<void()> updateFreeArea;
+        std::function<void(int n)> showChannelInCaption;
         std::function<const std::vector<std::string>&()> toneListDec;
         std::function<const std::vector<std::string>&()> toneListEnc;
+        std::function<ChannelEditForm*()> openDialog; // null while the channel edit dialog is closed
     };
 
     ChannelCellEditor(Session& session, Services& services, EditGrid& grid, QWidget* panel, Owner owner);
 
     /// Opens the editor over the current cell; a blank row opens only its receive frequency.
     void ShowCellEditor();
-    /// Copies cells 1 to 9 of the row into the working texts, and reads the values without a column from the image.
+    /// Copies cells 1 to 9 of the row into the working texts, and reads the values without a column from the image. An
+    /// open channel edit dialog, on that channel already, shows them.
     void LoadRowIntoFields(int row);
     /// Hides both editors without committing.
     void HideEditors();
@@ -54,16 +58,15 @@ private:
     void CommitText();
     void CommitReceive(const QString& text);
     void CommitTransmit(const QString& text);
-    [[nodiscard]] std::string Normalised(const QString& text, bool& withinRange);
     void LeaveText();
 
-    [[nodiscard]] QChar ToneCharacter(QChar entered) const;
     void OnStepped(int direction);
     void OnSelected(const std::string& text);
     void OnListEnded();
     void CommitTone();
     void LeaveList();
 
+    void TellChoice();
     void EncodeAndRefresh();
 
     Session& session_;

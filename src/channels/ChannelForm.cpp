@@ -5,6 +5,7 @@
 
 #include "channels/CellValues.h"
 #include "channels/ChannelCellEditor.h"
+#include "channels/ChannelEditForm.h"
 #include "controls/EditGrid.h"
 #include "controls/PendingEdit.h"
 #include "data/MemoryMap.h"
@@ -30,9 +31,8 @@ constexpr TextPair GridFormat{
     "^|^RX Frequency|^TX Frequency|^QT/DQT Dec|^QT/DQT Enc|^TX Power|^W/N|^Scan Add|^Opt Signal|^PTT ID;Channel No.",
     "^|^接收频率|^发射频率|^QT/DQT解码|^QT/DQT编码 |^发射功率 |^宽/窄|^扫描添加 |^可选信令 |^PTT ID;信道编号"};
 
-constexpr TextPair HintText{
-    "Enter or a click edits a cell, Up and Down step through its values, Esc goes back.",
-    "按回车键或单击可编辑单元格，上下方向键选择数值，Esc 键还原。"};
+constexpr TextPair HintText{"Enter or a click edits a cell, Up and Down step through its values, Esc goes back.",
+                            "按回车键或单击可编辑单元格，上下方向键选择数值，Esc 键还原。"};
 
 /// Splits a table format: captions of the columns between "|", each with a leading "^" for centred, then ";" and the
 /// corner's caption.
@@ -58,8 +58,10 @@ std::vector<int> ColumnWidths(int gridWidth) {
 
 } // namespace
 
-ChannelForm::ChannelForm(Session& session, Services& services, QWidget* parent)
-    : ChildForm(ChildWindow::Channels, "ChannelForm", WindowSize, parent), session_(session), services_(services) {
+ChannelForm::ChannelForm(Session& session, Services& services, ChannelWindows& windows, QWidget* parent)
+    : ChildForm(ChildWindow::Channels, "ChannelForm", WindowSize, parent), session_(session), services_(services),
+      windows_(windows) {
+    windows_.grid = this;
     ToneListDec = BuildToneList(session_.LanguageFlag);
     ToneListEnc = BuildToneList(session_.LanguageFlag);
     session_.EditChannel = 1;
@@ -81,9 +83,10 @@ void ChannelForm::BuildGrid() {
     channelGrid_->setProperty("HelpContextID", HelpContextBase + column::Rx);
     cellEditor_ = new ChannelCellEditor(
         session_, services_, *channelGrid_, Content(),
-        {[this](int k) { EncodeChannelRow(k); }, [this](int row) { ClearChannelData(row); }, [this] { UpdateFreeArea(); },
+        {[this](int k) { EncodeChannelRow(k); }, [this](int row) { ClearChannelData(row); },
+         [this] { UpdateFreeArea(); }, [this](int n) { ShowChannelInCaption(n); },
          [this]() -> const std::vector<std::string>& { return ToneListDec; },
-         [this]() -> const std::vector<std::string>& { return ToneListEnc; }});
+         [this]() -> const std::vector<std::string>& { return ToneListEnc; }, [this] { return OpenDialog(); }});
     connect(channelGrid_, &EditGrid::CursorMoved, this, &ChannelForm::OnCursorMoved);
 }
 
@@ -109,10 +112,7 @@ void ChannelForm::BuildControls() {
     cmdChannelEdit_ = button("cmdChannelEdit", 370, 124);
     cmdClose_ = button("cmdClose", 506, 100);
     cmdHelp_ = button("cmdHelp", 618, 100);
-    connect(cmdChannelEdit_, &QPushButton::clicked, this, [this] {
-        CommitPendingEdit();
-        emit ChannelEditRequested();
-    });
+    connect(cmdChannelEdit_, &QPushButton::clicked, this, &ChannelForm::OnChannelEdit);
     connect(cmdClose_, &QPushButton::clicked, this, &ChannelForm::OnClose);
     connect(cmdHelp_, &QPushButton::clicked, this,
             [this] { services_.help.ShowTopic(HelpTopicPath(session_.LanguageFlag, HelpPage())); });
@@ -150,6 +150,9 @@ void ChannelForm::DecodeImageToGrid() {
     }
     labBlankChannel_->setText(QString::number(ChannelAreaSize - address::ChannelSize * programmed));
     SelectCell(1, channelGrid_->Column());
+    if (ChannelEditForm* dialog = OpenDialog()) {
+        dialog->Reload();
+    }
 }
 
 void ChannelForm::EncodeChannelRow(int k) {
@@ -182,9 +185,28 @@ void ChannelForm::OnCursorMoved(int row, int column) {
     session_.CurrentChannel = row;
     session_.CurrentCol = column;
     session_.EditChannel = row;
-    SetCaption(ToQString(ChannelCaption(session_.LanguageFlag, row)));
+    ShowChannelInCaption(row);
+    if (ChannelEditForm* dialog = OpenDialog()) {
+        dialog->GoToChannel(row);
+    }
     channelGrid_->setProperty("HelpContextID", HelpContextBase + column);
     UpdateFreeArea();
+}
+
+QString ChannelForm::CellText(int row, int column) const {
+    return channelGrid_->Text(row, column);
+}
+
+void ChannelForm::SetCellText(int row, int column, const QString& text) {
+    channelGrid_->SetText(row, column, text);
+}
+
+void ChannelForm::ShowChannelInCaption(int n) {
+    SetCaption(ToQString(ChannelCaption(session_.LanguageFlag, n)));
+}
+
+ChannelEditForm* ChannelForm::OpenDialog() const {
+    return session_.IsOpen(ChildWindow::ChannelEdit) ? windows_.dialog.data() : nullptr;
 }
 
 void ChannelForm::UpdateFreeArea() {
@@ -194,6 +216,14 @@ void ChannelForm::UpdateFreeArea() {
         programmed += blank ? 0 : 1;
     }
     labBlankChannel_->setText(QString::number(ChannelAreaSize - address::ChannelSize * programmed));
+}
+
+void ChannelForm::OnChannelEdit() {
+    CommitPendingEdit();
+    emit ChannelEditRequested();
+    if (ChannelEditForm* dialog = OpenDialog()) {
+        dialog->OpenOnEditChannel();
+    }
 }
 
 void ChannelForm::OnClose() {
@@ -206,6 +236,7 @@ void ChannelForm::CloseFromFrame() {
     CommitPendingEdit();
     // A cancelled program exit leaves ExitConfirmed set, and from then on the window really goes.
     if (session_.ExitConfirmed) {
+        emit ChannelEditUnloadRequested();
         emit UnloadRequested();
         return;
     }

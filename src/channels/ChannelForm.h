@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "channels/ChannelWindows.h"
 #include "controls/ChildForm.h"
 
 class QLabel;
@@ -14,13 +15,13 @@ class ChannelCellEditor;
 class EditGrid;
 struct Services;
 
-/// The channel grid: the 16 channels of the document as texts, with a floating editor over the current cell. After every
-/// committed edit the row's texts are encoded back into the channel's record.
+/// The channel grid: the 16 channels of the document as texts, with a floating editor over the current cell. After
+/// every committed edit the row's texts are encoded back into the channel's record.
 class ChannelForm : public ChildForm {
     Q_OBJECT
 
 public:
-    ChannelForm(Session& session, Services& services, QWidget* parent = nullptr);
+    ChannelForm(Session& session, Services& services, ChannelWindows& windows, QWidget* parent = nullptr);
     /// An edit that is still open when the window is unloaded is dropped.
     ~ChannelForm() override;
 
@@ -32,6 +33,13 @@ public:
     void ClearChannelData(int row);
     /// Moves the cursor; row 1 to 16, column 1 to 9.
     void SelectCell(int row, int column);
+    /// A cell's text, row 1 to 16 and column 1 to 9. Setting it changes neither working texts nor image.
+    [[nodiscard]] QString CellText(int row, int column) const;
+    void SetCellText(int row, int column, const QString& text);
+    /// Names channel n in the title; the cursor stays.
+    void ShowChannelInCaption(int n);
+    /// Shows the bytes that the blank rows leave.
+    void UpdateFreeArea();
     /// Hides txtInputBox and comInputStep without committing them.
     void HideEditors();
 
@@ -50,11 +58,13 @@ private:
     void BuildControls();
     void SetTexts();
     void OnCursorMoved(int row, int column);
-    void UpdateFreeArea();
+    void OnChannelEdit();
     void OnClose();
+    [[nodiscard]] ChannelEditForm* OpenDialog() const;
 
     Session& session_;
     Services& services_;
+    ChannelWindows& windows_;
     EditGrid* channelGrid_;
     ChannelCellEditor* cellEditor_;
     QLabel* labFreeArea_;

@@ -40,9 +40,8 @@ TEST(CellChoices, PttIdListFollowsThePttIdType) {
     EXPECT_EQ(CellChoices(9, WithPttIdType(1), En),
               (Texts{"Off", "Own", "Fleet List 1", "Fleet List 2", "Fleet List 3", "Fleet List 4", "Fleet List 5",
                      "Fleet List 6", "Fleet List 7", "Fleet List 8"}));
-    EXPECT_EQ(CellChoices(9, WithPttIdType(1), Zh),
-              (Texts{"关", "自身", "队列表 1", "队列表 2", "队列表 3", "队列表 4", "队列表 5", "队列表 6", "队列表 7",
-                     "队列表 8"}));
+    EXPECT_EQ(CellChoices(9, WithPttIdType(1), Zh), (Texts{"关", "自身", "队列表 1", "队列表 2", "队列表 3", "队列表 4",
+                                                           "队列表 5", "队列表 6", "队列表 7", "队列表 8"}));
     for (int type = 2; type < 256; ++type) {
         EXPECT_TRUE(CellChoices(9, WithPttIdType(static_cast<std::uint8_t>(type)), En).empty()) << type;
     }
@@ -56,24 +55,12 @@ TEST(StepCellValue, UpAndDownStepEveryColumnAndStopAtItsEnds) {
         std::string down;
     };
     const Row rows[] = {
-        {3, "None", "None", "67.0"},
-        {3, "67.0", "None", "71.9"},
-        {3, "250.3", "241.8", "D023N"},
-        {3, "D754N", "D743N", "D023I"},
-        {3, "D754I", "D743I", "D754I"},
-        {3, "D999N", "None", "None"},
-        {4, "100.0", "97.4", "103.5"},
-        {4, "100.1", "None", "None"},
-        {5, "Low", "High", "Low"},
-        {5, "High", "High", "Low"},
-        {6, "Wide", "Narrow", "Wide"},
-        {6, "Narrow", "Narrow", "Wide"},
-        {7, "No", "Yes", "No"},
-        {7, "Yes", "Yes", "No"},
-        {8, "Corvane", "DTMF", "Corvane"},
-        {8, "DTMF", "None", "Corvane"},
-        {8, "None", "None", "DTMF"},
-        {9, "On", "Off", "On"},
+        {3, "None", "None", "67.0"},    {3, "67.0", "None", "71.9"},    {3, "250.3", "241.8", "D023N"},
+        {3, "D754N", "D743N", "D023I"}, {3, "D754I", "D743I", "D754I"}, {3, "D999N", "None", "None"},
+        {4, "100.0", "97.4", "103.5"},  {4, "100.1", "None", "None"},   {5, "Low", "High", "Low"},
+        {5, "High", "High", "Low"},     {6, "Wide", "Narrow", "Wide"},  {6, "Narrow", "Narrow", "Wide"},
+        {7, "No", "Yes", "No"},         {7, "Yes", "Yes", "No"},        {8, "Corvane", "DTMF", "Corvane"},
+        {8, "DTMF", "None", "Corvane"}, {8, "None", "None", "DTMF"},    {9, "On", "Off", "On"},
         {9, "Off", "Off", "On"},
     };
     const DataImage dtmf = WithPttIdType(0);

@@ -33,7 +33,7 @@ protected:
     /// Shows the window over the image as it is now.
     void Show(Language language = Language::English) {
         session.LanguageFlag = language;
-        form = std::make_unique<ChannelForm>(session, services.Get());
+        form = std::make_unique<ChannelForm>(session, services.Get(), windows);
         form->DecodeImageToGrid();
         form->show();
         form->activateWindow();
@@ -91,11 +91,13 @@ protected:
     }
 
     static Message OutOfRange() {
-        return {"Caution", "Frequency is out of range.", MessageIcon::Exclamation, MessageButtons::Ok, MessageAnswer::Ok};
+        return {"Caution", "Frequency is out of range.", MessageIcon::Exclamation, MessageButtons::Ok,
+                MessageAnswer::Ok};
     }
 
     FakeServices services;
     Session session;
+    ChannelWindows windows;
     std::unique_ptr<ChannelForm> form;
 };
 

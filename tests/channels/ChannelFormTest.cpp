@@ -7,7 +7,7 @@ namespace zelvor {
 namespace {
 
 TEST_F(ChannelFormTest, TheWindowHasItsSizeTitleAndTexts) {
-    form = std::make_unique<ChannelForm>(session, services.Get());
+    form = std::make_unique<ChannelForm>(session, services.Get(), windows);
     EXPECT_EQ(form->objectName(), "ChannelForm");
     EXPECT_EQ(form->size(), QSize(800, 433));
     EXPECT_EQ(form->windowTitle(), " Channel Information [ Channel - 1 ]");
@@ -22,11 +22,11 @@ TEST_F(ChannelFormTest, TheWindowHasItsSizeTitleAndTexts) {
 
 TEST_F(ChannelFormTest, TheWindowSpeaksChinese) {
     session.LanguageFlag = Language::Chinese;
-    form = std::make_unique<ChannelForm>(session, services.Get());
+    form = std::make_unique<ChannelForm>(session, services.Get(), windows);
     EXPECT_EQ(form->windowTitle(), " 信道信息 [信道-1]");
     EXPECT_EQ(Find<QPushButton>("cmdChannelEdit").text(), "信道编辑(&E)");
     EXPECT_EQ(Find<QLabel>("LabFreeArea").text(), "空位(Bytes):");
-    const char* headers[] = {"接收频率", "发射频率", "QT/DQT解码", "QT/DQT编码 ", "发射功率 ",
+    const char* headers[] = {"接收频率", "发射频率",  "QT/DQT解码", "QT/DQT编码 ", "发射功率 ",
                              "宽/窄",    "扫描添加 ", "可选信令 ",  "PTT ID"};
     for (int column = 0; column < 9; ++column) {
         EXPECT_EQ(Grid().horizontalHeaderItem(column)->text(), headers[column]);
@@ -34,7 +34,7 @@ TEST_F(ChannelFormTest, TheWindowSpeaksChinese) {
 }
 
 TEST_F(ChannelFormTest, TheGridHasNineColumnsAndSixteenNumberedRows) {
-    form = std::make_unique<ChannelForm>(session, services.Get());
+    form = std::make_unique<ChannelForm>(session, services.Get(), windows);
     const char* headers[] = {"RX Frequency", "TX Frequency", "QT/DQT Dec", "QT/DQT Enc", "TX Power",
                              "W/N",          "Scan Add",     "Opt Signal", "PTT ID"};
     const int widths[] = {78, 78, 78, 78, 56, 49, 56, 71, 84};
@@ -55,7 +55,8 @@ TEST_F(ChannelFormTest, DecodingFillsProgrammedRowsAndShowsTheFreeArea) {
     }
     Show();
     EXPECT_EQ(Find<QLabel>("LabBlankChannel").text(), "0");
-    EXPECT_EQ(Row(16), (std::vector<std::string>{"145.12500", "145.12500", "None", "None", "High", "Wide", "No", "None", "Off"}));
+    EXPECT_EQ(Row(16), (std::vector<std::string>{"145.12500", "145.12500", "None", "None", "High", "Wide", "No", "None",
+                                                 "Off"}));
 }
 
 TEST_F(ChannelFormTest, ARecordWithoutAFrequencyIsABlankRow) {
@@ -148,7 +149,7 @@ TEST_F(ChannelFormTest, RandomImagesOpenAndAreWalkedWithoutChangingAByte) {
             session.Image.Set(a, static_cast<std::uint8_t>(round == 0 ? 0x00 : round == 1 ? 0xFF : std::rand()));
         }
         const DataImage before = session.Image;
-        form = std::make_unique<ChannelForm>(session, services.Get());
+        form = std::make_unique<ChannelForm>(session, services.Get(), windows);
         form->DecodeImageToGrid();
         for (int k = 1; k <= 16; ++k) {
             form->SelectCell(k, 1 + round % 9);

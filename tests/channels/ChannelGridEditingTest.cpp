@@ -148,7 +148,8 @@ TEST_F(ChannelFormTest, DeletingTheTransmitFrequencyMakesTheChannelReceiveOnly) 
     EXPECT_EQ(Cell(1, 2), "");
     EXPECT_EQ(Cell(1, 4), "None");
     const std::vector<int> bytes = Record(1);
-    EXPECT_EQ(std::vector<int>(bytes.begin() + 4, bytes.begin() + 12), (std::vector<int>{0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF}));
+    EXPECT_EQ(std::vector<int>(bytes.begin() + 4, bytes.begin() + 12),
+              (std::vector<int>{0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF}));
 }
 
 TEST_F(ChannelFormTest, TransmitFrequenciesAreNormalisedToo) {

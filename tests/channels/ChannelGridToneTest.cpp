@@ -137,11 +137,11 @@ TEST_F(ChannelGridToneTest, ArrowsStepTheValueOfEveryListColumnIntoTheImage) {
         int value;
     };
     const Step steps[] = {
-        {5, Qt::Key_Down, "Low", 0x1D, 0x9F},     {5, Qt::Key_Up, "High", 0x1D, 0xBF},
-        {6, Qt::Key_Up, "Narrow", 0x1D, 0xAF},    {6, Qt::Key_Down, "Wide", 0x1D, 0xBF},
-        {7, Qt::Key_Up, "Yes", 0x17E, 0x01},      {7, Qt::Key_Down, "No", 0x17E, 0x00},
-        {9, Qt::Key_Down, "On", 0x1E, 0xB1},      {9, Qt::Key_Up, "Off", 0x1E, 0xB0},
-        {3, Qt::Key_Down, "67.0", 0x18, 0x9E},    {4, Qt::Key_Down, "67.0", 0x1A, 0x9E},
+        {5, Qt::Key_Down, "Low", 0x1D, 0x9F},  {5, Qt::Key_Up, "High", 0x1D, 0xBF},
+        {6, Qt::Key_Up, "Narrow", 0x1D, 0xAF}, {6, Qt::Key_Down, "Wide", 0x1D, 0xBF},
+        {7, Qt::Key_Up, "Yes", 0x17E, 0x01},   {7, Qt::Key_Down, "No", 0x17E, 0x00},
+        {9, Qt::Key_Down, "On", 0x1E, 0xB1},   {9, Qt::Key_Up, "Off", 0x1E, 0xB0},
+        {3, Qt::Key_Down, "67.0", 0x18, 0x9E}, {4, Qt::Key_Down, "67.0", 0x1A, 0x9E},
     };
     for (const Step& step : steps) {
         GoTo(1, step.column);

@@ -1,0 +1,84 @@
+#include "channels/ChannelEditLists.h"
+
+#include "data/ChannelRecord.h"
+#include "text/StringTable.h"
+
+namespace zelvor {
+
+namespace {
+
+using namespace record;
+
+constexpr int QtDqtAndOptSig = 82;
+constexpr int QtDqtOrOptSig = 83;
+
+constexpr int BusyLockShift = 3;
+constexpr int SpMuteShift = 5;
+constexpr int SpMuteEntries = 3;
+constexpr int BusyLockEntries = 4;
+constexpr std::uint8_t NothingStored = 0xFF;
+
+constexpr int PttIdChoiceMask = 0x0F;
+constexpr int LastPttIdEntry = 1 + FleetListCount;
+
+std::vector<std::string> Words(Language language, const std::vector<int>& numbers) {
+    std::vector<std::string> texts;
+    texts.reserve(numbers.size());
+    for (const int number : numbers) {
+        texts.emplace_back(TableText(language, number));
+    }
+    return texts;
+}
+
+std::uint8_t WithBits(std::uint8_t byte, std::uint8_t mask, int value) {
+    return static_cast<std::uint8_t>((byte & ~mask) | (value & mask));
+}
+
+} // namespace
+
+DependentLists DependentListsOf(bool hasTone, bool hasSignalling, Language language) {
+    std::vector<int> spMute{hasTone ? words::QtDqt : words::Carrier};
+    std::vector<int> busyLock{words::Off, words::Carrier};
+    if (hasTone) {
+        busyLock.push_back(words::QtDqt);
+    }
+    if (hasSignalling) {
+        spMute.push_back(hasTone ? QtDqtAndOptSig : words::CarrierAndOptSig);
+        spMute.push_back(hasTone ? QtDqtOrOptSig : words::CarrierOrOptSig);
+        busyLock.push_back(words::OptionSignalling);
+    }
+    return {Words(language, spMute), Words(language, busyLock)};
+}
+
+int SpMuteEntry(std::uint8_t byte12, int entries) {
+    if ((byte12 & SpMuteMask) == SpMuteMask) {
+        return NoEntry;
+    }
+    const int entry = (byte12 & SpMuteMask) >> SpMuteShift;
+    return entry < entries ? entry : 0;
+}
+
+int BusyLockEntry(std::uint8_t byte12, int entries) {
+    const int entry = (byte12 & BusyLockMask) >> BusyLockShift;
+    return entry < entries ? entry : 0;
+}
+
+std::uint8_t WithSpMuteEntry(std::uint8_t byte12, int entry) {
+    return entry >= 0 && entry < SpMuteEntries ? WithBits(byte12, SpMuteMask, entry << SpMuteShift) : NothingStored;
+}
+
+std::uint8_t WithBusyLockEntry(std::uint8_t byte12, int entry) {
+    return entry >= 0 && entry < BusyLockEntries ? WithBits(byte12, BusyLockMask, entry << BusyLockShift)
+                                                 : NothingStored;
+}
+
+std::uint8_t AutoDialByte(int entry) {
+    return static_cast<std::uint8_t>(entry == NoEntry ? AutoDialFirst : AutoDialFirst + entry);
+}
+
+int CorvanePttIdEntry(std::uint8_t byte14) {
+    const int choice = byte14 & PttIdChoiceMask;
+    return choice <= LastPttIdEntry ? choice : 0;
+}
+
+} // namespace zelvor
