@@ -3,6 +3,7 @@
 #include <QIconEngine>
 #include <QPainter>
 #include <QPixmap>
+#include <QPixmapCache>
 #include <algorithm>
 
 #include "shell/IconShapes.h"
@@ -29,10 +30,21 @@ public:
     }
 
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-        QPixmap picture(size);
-        picture.fill(Qt::transparent);
-        QPainter painter(&picture);
-        paint(&painter, QRect(QPoint(0, 0), size), mode, state);
+        // The window system asks for every size of the window's icon, and for each window anew.
+        const QString key = QStringLiteral("zelvor-icon-%1-%2x%3-%4")
+                                .arg(static_cast<int>(shape_))
+                                .arg(size.width())
+                                .arg(size.height())
+                                .arg(static_cast<int>(mode));
+        QPixmap picture;
+        if (!QPixmapCache::find(key, &picture)) {
+            picture = QPixmap(size);
+            picture.fill(Qt::transparent);
+            QPainter painter(&picture);
+            paint(&painter, QRect(QPoint(0, 0), size), mode, state);
+            painter.end();
+            QPixmapCache::insert(key, picture);
+        }
         return picture;
     }
 

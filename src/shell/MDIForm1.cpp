@@ -8,7 +8,11 @@
 #include <QShortcut>
 #include <array>
 
+#include "channels/ChannelEditForm.h"
 #include "channels/ChannelForm.h"
+#include "channels/EmbedInfoForm.h"
+#include "channels/ScanForm.h"
+#include "channels/TestChannelForm.h"
 #include "data/BlankImage.h"
 #include "data/Session.h"
 #include "link/ComForm.h"
@@ -68,7 +72,10 @@ MDIForm1::MDIForm1(Session& session, Services& services) : session_(session), se
     isStarted_ = true;
 }
 
-MDIForm1::~MDIForm1() = default;
+MDIForm1::~MDIForm1() {
+    // The focus leaves the child windows while they still have all that they use then.
+    hide();
+}
 
 void MDIForm1::SetUpWindow() {
     setObjectName("MDIForm1");
@@ -130,12 +137,21 @@ void MDIForm1::StartClock() {
 void MDIForm1::RegisterChildWindows() {
     children_->Register(ChildWindow::Channels, [this] { return MakeGrid(); });
     children_->Register(ChildWindow::Navigator, [this] { return MakeNavigator(); });
+    children_->Register(ChildWindow::Scan, [this] { return new ScanForm(session_, services_, channelWindows_); });
+    children_->Register(ChildWindow::TestFrequency,
+                        [this] { return new TestChannelForm(session_, services_, channelWindows_); });
+    children_->Register(ChildWindow::EmbeddedMessage,
+                        [this] { return new EmbedInfoForm(session_, services_, channelWindows_); });
+    children_->Register(ChildWindow::ChannelEdit,
+                        [this] { return new ChannelEditForm(session_, services_, channelWindows_); });
 }
 
 ChildForm* MDIForm1::MakeGrid() {
-    auto* grid = new ChannelForm(session_, services_);
-    connect(grid, &ChannelForm::ChannelEditRequested, this,
-            [this] { children_->OpenChildWindow(ChildWindow::ChannelEdit); });
+    auto* grid = new ChannelForm(session_, services_, channelWindows_);
+    connect(grid, &ChannelForm::ChannelEditRequested, this, [this] {
+        children_->OpenChildWindow(ChildWindow::ChannelEdit);
+        channelWindows_.dialog->OpenOnEditChannel();
+    });
     connect(grid, &ChannelForm::ChannelEditHideRequested, this,
             [this] { children_->CloseByHiding(ChildWindow::ChannelEdit); });
     connect(grid, &ChannelForm::ChannelEditUnloadRequested, this,

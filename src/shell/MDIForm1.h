@@ -3,6 +3,7 @@
 #include <QMainWindow>
 #include <memory>
 
+#include "channels/ChannelWindows.h"
 #include "platform/QtLanguage.h"
 
 namespace zelvor {
@@ -66,6 +67,7 @@ private:
     Session& session_;
     Services& services_;
     QtLanguage toolkitLanguage_;
+    ChannelWindows channelWindows_;
     std::unique_ptr<Menus> menus_;
     std::unique_ptr<WindowList> windowList_;
     std::unique_ptr<ChildWindows> children_;

@@ -203,10 +203,22 @@ TEST_F(NavigatorTest, TheFirstClickAfterLoadingIsNeeded) {
 TEST_F(NavigatorTest, NodesOfWindowsToComeDoNothing) {
     OpenMainWindow();
     OpenNavigator();
-    for (int i = 1; i < 8; ++i) {
+    for (const int i : {1, 2, 4, 5}) { // optional features, keys, DTMF, Corvane
         DoubleClickOn(Root()->child(i));
     }
     EXPECT_EQ(session.ChildOpen, (std::array<bool, 10>{true, false, false, false, false, false, false, false, true}));
+}
+
+TEST_F(NavigatorTest, NodesOpenTheirWindows) {
+    OpenMainWindow();
+    OpenNavigator();
+    for (const int i : {3, 6, 7}) { // scan, test frequencies, embedded message
+        DoubleClickOn(Root()->child(i));
+    }
+    EXPECT_TRUE(IsChildShown("ScanForm"));
+    EXPECT_TRUE(IsChildShown("TestChannelForm"));
+    EXPECT_TRUE(IsChildShown("EmbedInfoForm"));
+    EXPECT_EQ(session.ChildOpen, (std::array<bool, 10>{true, false, false, true, false, false, true, true, true}));
 }
 
 TEST_F(NavigatorTest, ClosesByItsButtonAndByItsFrame) {
