@@ -12,7 +12,7 @@ namespace zelvor::bench {
 
 namespace {
 
-constexpr int Runs = 21;
+constexpr int Runs = 15;
 constexpr double LargestRatio = 1.25;
 constexpr double MostExtraMib = 12;
 constexpr double KibPerMib = 1024;

@@ -6,6 +6,8 @@
 #include "shell/MDIForm1.h"
 
 int main(int argc, char** argv) {
+    // The menu bar is the window's own; looking for a desktop's costs a round over the message bus at every start.
+    QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
     QApplication application(argc, argv);
     QApplication::setOrganizationName("Zelvor");
     QApplication::setApplicationName("Zelvor");

@@ -10,4 +10,13 @@ std::string FromQString(const QString& text) {
     return text.toStdString();
 }
 
+QStringList ToQStrings(std::span<const std::string> texts) {
+    QStringList list;
+    list.reserve(static_cast<qsizetype>(texts.size()));
+    for (const std::string& text : texts) {
+        list.append(ToQString(text));
+    }
+    return list;
+}
+
 } // namespace zelvor

@@ -92,6 +92,12 @@ void Boxes::EnterPath(const QString& path) {
         const QLineEdit* edit = NameEditOf(FileDialogOnTop());
         return edit && edit->text() == path;
     });
+    // The list of the completer, which takes the first Escape.
+    if (windows_.Ask([] { return QApplication::activePopupWidget() != nullptr; })) {
+        user_.Press(Qt::Key_Escape);
+        windows_.WaitUntil("the completer's list to close",
+                           [] { return QApplication::activePopupWidget() == nullptr; });
+    }
     user_.Press(Qt::Key_Return);
     WaitUntilGone(FileDialogName);
 }

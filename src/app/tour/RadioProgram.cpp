@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QThread>
+#include <algorithm>
 #include <csignal>
 
 #include <sys/prctl.h>
@@ -67,6 +68,16 @@ void RadioProgram::WaitForText(const QByteArray& text) {
     if (!HasPrinted(text, Patience)) {
         throw Failure("the radio did not print \"" + text.toStdString() + "\" but\n" + printed_.toStdString());
     }
+}
+
+QByteArray RadioProgram::LastLines() {
+    constexpr int count = 12;
+    process_.waitForReadyRead(0);
+    printed_ += process_.readAll();
+    return printed_.trimmed()
+        .split('\n')
+        .mid(std::max<qsizetype>(0, printed_.trimmed().count('\n') + 1 - count))
+        .join('\n');
 }
 
 bool RadioProgram::HasPrinted(const QByteArray& text, std::chrono::milliseconds patience) {

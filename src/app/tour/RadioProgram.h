@@ -26,6 +26,9 @@ public:
     /// Waits until the radio has printed the text, on either channel.
     void WaitForText(const QByteArray& text);
 
+    /// The last lines that the radio has printed, for the report of a failure.
+    [[nodiscard]] QByteArray LastLines();
+
 private:
     [[nodiscard]] bool HasPrinted(const QByteArray& text, std::chrono::milliseconds patience);
 

@@ -5,10 +5,12 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QTableWidget>
 #include <QTest>
 #include <QTreeWidget>
 #include <QWindow>
+#include <memory>
 
 #include "tour/WindowThread.h"
 
@@ -33,7 +35,12 @@ QMenuBar* MenuBar() {
 /// An open menu gets the keys, wherever the window system has the focus.
 QWindow* WindowForKeys() {
     const QWidget* popup = QApplication::activePopupWidget();
-    return popup ? popup->windowHandle() : QGuiApplication::focusWindow();
+    if (popup) {
+        return popup->windowHandle();
+    }
+    QWindow* focus = QGuiApplication::focusWindow();
+    const QWidget* top = WindowOnTop();
+    return focus || !top ? focus : top->windowHandle();
 }
 
 void SendKey(bool press, Qt::Key key, Qt::KeyboardModifiers modifiers) {
@@ -48,11 +55,42 @@ void SendCharacter(bool press, char character) {
     }
 }
 
+std::string NameOf(const QWidget* window) {
+    return window ? window->objectName().toStdString() : "(none)";
+}
+
+bool IsReadyForKeys() {
+    const QWidget* top = WindowOnTop();
+    return top && (QApplication::activeWindow() == top || QApplication::activePopupWidget());
+}
+
+/// A window manager takes its time, and activates by itself what a closed dialog leaves behind; without one, nobody
+/// does.
+void AskForKeys(QWidget& window, int timesAsked) {
+    constexpr int patience = 30;
+    const int firstRequest = QGuiApplication::platformName() == "offscreen" ? 0 : patience;
+    if (timesAsked == firstRequest) {
+        window.activateWindow();
+    } else if (timesAsked == firstRequest + patience) {
+        // The toolkit ignores a window that gets the keys while the completer's list of a closing file dialog is up.
+        QApplication::setActiveWindow(&window);
+    }
+}
+
 } // namespace
 
 QWidget* WindowOnTop() {
     QWidget* modal = QApplication::activeModalWidget();
     return modal ? modal : MainWindow();
+}
+
+std::string WindowsInAWord() {
+    const QWindow* focus = QGuiApplication::focusWindow();
+    const auto* box = qobject_cast<const QMessageBox*>(QApplication::activeModalWidget());
+    return "on top: " + NameOf(WindowOnTop()) + (box ? " \"" + box->text().toStdString() + "\"" : "") +
+           ", active: " + NameOf(QApplication::activeWindow()) +
+           ", keys: " + (focus ? focus->objectName().toStdString() : "(none)") + " at " +
+           NameOf(QApplication::focusWidget()) + ", menu: " + NameOf(QApplication::activePopupWidget());
 }
 
 QWidget* WidgetOnTop(const QString& name) {
@@ -66,15 +104,14 @@ QWidget* WidgetOnTop(const QString& name) {
 }
 
 void User::Activate() {
-    windows_.WaitUntil("an active window", [] {
-        QWidget* top = WindowOnTop();
-        if (!top || QApplication::activePopupWidget()) {
-            return top != nullptr;
-        }
-        if (QApplication::activeWindow() == top && QGuiApplication::focusWindow() == top->windowHandle()) {
+    const std::string top = windows_.Ask([] { return NameOf(WindowOnTop()); });
+    windows_.WaitUntil("the active window to be " + top, [asked = std::make_shared<int>(0)] {
+        if (IsReadyForKeys()) {
             return true;
         }
-        top->activateWindow();
+        if (QWidget* window = WindowOnTop()) {
+            AskForKeys(*window, (*asked)++);
+        }
         return false;
     });
 }

@@ -4,6 +4,7 @@
 #include <QString>
 #include <functional>
 #include <optional>
+#include <string>
 
 class QWidget;
 class QWindow;
@@ -52,6 +53,8 @@ private:
 
 /// For questions to the window thread: the dialog on top, else the main window; null where there is none.
 [[nodiscard]] QWidget* WindowOnTop();
+/// What is on the screen and has the keys, in a line for the report of a failure.
+[[nodiscard]] std::string WindowsInAWord();
 /// The visible widget of that name in the window on top; null where there is none.
 [[nodiscard]] QWidget* WidgetOnTop(const QString& name);
 

@@ -15,6 +15,7 @@
 #include "tour/PrivateHome.h"
 #include "tour/RadioProgram.h"
 #include "tour/Screenshots.h"
+#include "tour/User.h"
 #include "tour/WindowThread.h"
 
 namespace {
@@ -26,9 +27,7 @@ void RememberChinese() {
     settings.setValue("BackUp/Language", "1");
 }
 
-void RunRounds(const PrivateHome& home, WindowThread& windows, Screenshots& screenshots) {
-    RadioProgram radio(QCoreApplication::applicationDirPath() + "/zelvor-radio", home.File("radio.dat"));
-    std::cout << "ok  zelvor-radio is ready on port 1" << std::endl;
+void RunRounds(const PrivateHome& home, WindowThread& windows, RadioProgram& radio, Screenshots& screenshots) {
     Job(windows, radio, screenshots,
         {English(), SampleRows(), EnglishEdit(), SampleRecords(), home.DataFile("english.dat"), QString()})
         .Run();
@@ -39,11 +38,24 @@ void RunRounds(const PrivateHome& home, WindowThread& windows, Screenshots& scre
         .Run();
 }
 
-void TakeLastPicture(Screenshots& screenshots) {
+void ReportWindows(WindowThread& windows, Screenshots& screenshots) {
     try {
+        std::cout << windows.Ask(WindowsInAWord) << std::endl;
         screenshots.TakeAtOnce("failed");
     } catch (const Failure&) {
         // There is no window left, or it does not answer any more. The first failure is what counts.
+    }
+}
+
+void RunWithRadio(const PrivateHome& home, WindowThread& windows, Screenshots& screenshots) {
+    RadioProgram radio(QCoreApplication::applicationDirPath() + "/zelvor-radio", home.File("radio.dat"), {"--trace"});
+    std::cout << "ok  zelvor-radio is ready on port 1" << std::endl;
+    try {
+        RunRounds(home, windows, radio, screenshots);
+    } catch (const Failure&) {
+        std::cout << "The radio's last lines:\n" << radio.LastLines().toStdString() << std::endl;
+        ReportWindows(windows, screenshots);
+        throw;
     }
 }
 
@@ -52,12 +64,7 @@ void RunTour(const Options& options, PrivateHome& home) {
     WindowThread windows{std::chrono::seconds(options.timeout)};
     try {
         Screenshots screenshots(windows, QString::fromLocal8Bit(options.screenshots.c_str()));
-        try {
-            RunRounds(home, windows, screenshots);
-        } catch (const Failure&) {
-            TakeLastPicture(screenshots);
-            throw;
-        }
+        RunWithRadio(home, windows, screenshots);
     } catch (const Failure& failure) {
         std::cout << "FAILED  " << failure.what() << std::endl;
         home.Remove();
