@@ -88,7 +88,7 @@ void ChannelEditForm::BuildChannel() {
     rules.show = [](int n) { return QString::number(n); };
     rules.read = [](const QString& text) { return std::optional(text.toInt()); };
     channelSpin_ = new SpinText("txtChannel", "UpDown1", std::move(rules), Content());
-    channelSpin_->setGeometry(178, 8, 64, FieldHeight);
+    channelSpin_->setGeometry(178, 8, 72, FieldHeight);
     channelSpin_->Box().SetEnterLetter(u'l');
     labChannel_->setBuddy(channelSpin_);
 }
@@ -198,8 +198,7 @@ void ChannelEditForm::SetTexts() {
     const auto text = [this](int n) { return ToQString(session_.LoadText(n)); };
     SetCaption(text(48));
     labChannel_->setText(text(60));
-    channelSpin_->setAccessibleName(text(60));
-    channelSpin_->Box().setAccessibleName(text(60));
+    channelSpin_->SetAccessibleName(text(60));
     cmdOK_->setText(text(75));
     cmdHelp_->setText(text(76));
 }

@@ -129,7 +129,11 @@ void ScanForm::LayOut(const std::vector<Row>& rows) {
         label->setWordWrap(true);
         label->setBuddy(row.control);
         label->setGeometry(margin, y, labelWidth, rowHeight - 8);
-        row.control->setAccessibleName(text);
+        if (auto* pair = qobject_cast<SpinText*>(row.control)) {
+            pair->SetAccessibleName(text);
+        } else {
+            row.control->setAccessibleName(text);
+        }
         row.control->setGeometry(margin + labelWidth, y + 4, picScanInfo_->width() - 2 * margin - labelWidth, 28);
         y += rowHeight;
     }

@@ -1,5 +1,6 @@
 #include "controls/SpinText.h"
 
+#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QWheelEvent>
 #include <algorithm>
@@ -9,29 +10,61 @@
 
 namespace zelvor {
 
+namespace {
+
+constexpr int ButtonsWidth = 20;
+
+} // namespace
+
+UpDown::UpDown(QWidget* parent) : QAbstractSpinBox(parent) {
+    setFrame(false);
+    setFocusPolicy(Qt::NoFocus);
+    setContextMenuPolicy(Qt::PreventContextMenu);
+    setFixedWidth(ButtonsWidth);
+    lineEdit()->setFocusPolicy(Qt::NoFocus);
+    lineEdit()->hide(); // the text is in the box beside it
+}
+
+void UpDown::wheelEvent(QWheelEvent* event) {
+    // Scrolling past a box must not change it.
+    event->ignore();
+}
+
 SpinText::SpinText(const QString& textName, const QString& upDownName, SpinTextRules rules, QWidget* parent)
-    : QAbstractSpinBox(parent), rules_(std::move(rules)), box_(new FilteredLineEdit), value_(rules_.first) {
-    setLineEdit(box_);
-    setObjectName(upDownName);
+    : QWidget(parent), rules_(std::move(rules)), box_(new FilteredLineEdit(this)), upDown_(new UpDown(this)) {
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(box_);
+    layout->addWidget(upDown_);
+    setFocusProxy(box_);
+
     box_->setObjectName(textName);
+    upDown_->setObjectName(upDownName);
+    upDown_->SetValue(rules_.first);
     box_->SetFilter(rules_.filter);
     box_->SetLengthLimit(rules_.lengthLimit);
     box_->SelectAllOnFocus();
-    setFocusPolicy(Qt::StrongFocus);
-    setContextMenuPolicy(Qt::PreventContextMenu);
-    connect(box_, &FilteredLineEdit::EnterPressed, this, [this] { MoveOn(*this); });
+    box_->installEventFilter(this);
+    connect(upDown_, &UpDown::StepAsked, this, &SpinText::Step);
+    connect(box_, &FilteredLineEdit::EnterPressed, this, [this] { MoveOn(*box_); });
     if (rules_.commit) {
         connect(box_, &FilteredLineEdit::FocusLeft, this, rules_.commit);
     }
 }
 
+void SpinText::SetAccessibleName(const QString& name) {
+    box_->setAccessibleName(name);
+    upDown_->setAccessibleName(name);
+}
+
 void SpinText::SetValue(int value) {
-    value_ = std::clamp(value, rules_.first, rules_.last);
+    upDown_->SetValue(std::clamp(value, rules_.first, rules_.last));
 }
 
 void SpinText::Put(int value) {
     SetValue(value);
-    SetText(rules_.show(value_));
+    SetText(rules_.show(Value()));
 }
 
 int SpinText::NextValue(bool up) const {
@@ -41,44 +74,36 @@ int SpinText::NextValue(bool up) const {
         return otherEnd;
     }
     const std::optional<int> shown = rules_.read ? rules_.read(box_->text()) : std::nullopt;
-    const int next = shown.value_or(value_) + (up ? rules_.increment : -rules_.increment);
+    const int next = shown.value_or(Value()) + (up ? rules_.increment : -rules_.increment);
     return next < rules_.first || next > rules_.last ? otherEnd : next;
 }
 
-void SpinText::stepBy(int steps) {
-    Put(NextValue(steps > 0));
-    setFocus(Qt::OtherFocusReason);
+void SpinText::Step(bool up) {
+    Put(NextValue(up));
+    box_->setFocus(Qt::OtherFocusReason);
     // From end to start, so that the caret ends at the start.
     const int length = static_cast<int>(box_->text().size());
     box_->setSelection(length, -length);
-    emit Stepped(value_);
+    emit Stepped(Value());
 }
 
-QAbstractSpinBox::StepEnabled SpinText::stepEnabled() const {
-    return StepUpEnabled | StepDownEnabled;
-}
-
-void SpinText::keyPressEvent(QKeyEvent* event) {
-    event->accept();
-    switch (event->key()) {
+bool SpinText::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != box_ || event->type() != QEvent::KeyPress) {
+        return QWidget::eventFilter(watched, event);
+    }
+    switch (static_cast<QKeyEvent*>(event)->key()) {
     case Qt::Key_Up:
-        stepBy(1);
-        return;
+        Step(true);
+        return true;
     case Qt::Key_Down:
-        stepBy(-1);
-        return;
+        Step(false);
+        return true;
     case Qt::Key_PageUp:
     case Qt::Key_PageDown:
-        return;
+        return true;
     default:
-        box_->event(event);
-        return;
+        return QWidget::eventFilter(watched, event);
     }
-}
-
-void SpinText::wheelEvent(QWheelEvent* event) {
-    // Scrolling past a box must not change it.
-    event->ignore();
 }
 
 } // namespace zelvor

@@ -26,22 +26,49 @@ struct SpinTextRules {
     std::function<void()> commit = nullptr;
 };
 
+/// The two buttons of a SpinText, and the value that they step.
+class UpDown : public QAbstractSpinBox {
+    Q_OBJECT
+    Q_PROPERTY(int value READ Value)
+
+public:
+    explicit UpDown(QWidget* parent);
+
+    [[nodiscard]] int Value() const { return value_; }
+    void SetValue(int value) { value_ = value; }
+
+    void stepBy(int steps) override { emit StepAsked(steps > 0); }
+
+signals:
+    void StepAsked(bool up);
+
+protected:
+    [[nodiscard]] StepEnabled stepEnabled() const override { return StepUpEnabled | StepDownEnabled; }
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    int value_ = 0;
+};
+
 /// A text box with an up-down pair: a number of a range, typed or stepped through.
 ///
 /// Up and Down and the two buttons step, show the new value's text with all of it selected and the caret at its start,
 /// and wrap: a box that shows the last text of the range steps to the first, and the other way round. Stepping stores
 /// nothing. Enter moves on like Tab. Text and up-down value are two things: code may show a text that stands for no
 /// value of the range.
-class SpinText : public QAbstractSpinBox {
+class SpinText : public QWidget {
     Q_OBJECT
-    Q_PROPERTY(int value READ Value)
 
 public:
     /// The object names of the text box and of its up-down, such as "txtTOT" and "updTOT".
     SpinText(const QString& textName, const QString& upDownName, SpinTextRules rules, QWidget* parent = nullptr);
 
     [[nodiscard]] FilteredLineEdit& Box() const { return *box_; }
-    [[nodiscard]] int Value() const { return value_; }
+    [[nodiscard]] UpDown& Buttons() const { return *upDown_; }
+    /// Names both parts for assistive technology.
+    void SetAccessibleName(const QString& name);
+
+    [[nodiscard]] int Value() const { return upDown_->Value(); }
     /// Sets the up-down alone, kept to its range.
     void SetValue(int value);
     /// Sets the box alone; any text.
@@ -49,23 +76,20 @@ public:
     /// Sets the up-down and shows its text.
     void Put(int value);
 
-    void stepBy(int steps) override;
-
 signals:
     /// A step was made by key or button; the box shows the new value.
     void Stepped(int value);
 
 protected:
-    [[nodiscard]] StepEnabled stepEnabled() const override;
-    void keyPressEvent(QKeyEvent* event) override;
-    void wheelEvent(QWheelEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void Step(bool up);
     [[nodiscard]] int NextValue(bool up) const;
 
     const SpinTextRules rules_;
     FilteredLineEdit* const box_;
-    int value_;
+    UpDown* const upDown_;
 };
 
 } // namespace zelvor

@@ -148,10 +148,8 @@ void MDIForm1::RegisterChildWindows() {
 
 ChildForm* MDIForm1::MakeGrid() {
     auto* grid = new ChannelForm(session_, services_, channelWindows_);
-    connect(grid, &ChannelForm::ChannelEditRequested, this, [this] {
-        children_->OpenChildWindow(ChildWindow::ChannelEdit);
-        channelWindows_.dialog->OpenOnEditChannel();
-    });
+    connect(grid, &ChannelForm::ChannelEditRequested, this,
+            [this] { children_->OpenChildWindow(ChildWindow::ChannelEdit); });
     connect(grid, &ChannelForm::ChannelEditHideRequested, this,
             [this] { children_->CloseByHiding(ChildWindow::ChannelEdit); });
     connect(grid, &ChannelForm::ChannelEditUnloadRequested, this,

@@ -203,7 +203,7 @@ TEST_F(ChannelEditTest, ACorvanePttIdShowsTheRecordWhenItTakesTheFocus) {
     for (int nibble = 0; nibble < 16; ++nibble) {
         PutAll(SimplexWith(14, 0xB0));
         form->DecodeImageToGrid();
-        Enter("UpDown1");
+        Enter("txtChannel");
         session.Image.Set(0x1E, static_cast<std::uint8_t>(0xB0 + nibble));
         Enter("ComPTTID");
         EXPECT_EQ(Shown("ComPTTID"), shown[nibble]);
@@ -259,14 +259,16 @@ TEST_F(ChannelEditTest, AnOpenScanWindowShowsTheMarkedChannelAndKeepsTheByteUnti
     ShowBoth(7);
     const auto& box = *scan.findChild<QLineEdit*>("txtPriorityCH");
     EXPECT_EQ(box.text(), "7");
-    EXPECT_TRUE(Check("ChkPriorityChannel").isChecked());
-    Enter("ChkPriorityChannel");
-    Key(Qt::Key_Space);
-    EXPECT_EQ(box.text(), "");
     GoToChannel(12);
     Enter("ChkPriorityChannel");
     Key(Qt::Key_Space);
     EXPECT_EQ(box.text(), "12");
+    GoToChannel(3);
+    Enter("ChkPriorityChannel");
+    Key(Qt::Key_Space);
+    EXPECT_EQ(box.text(), "3");
+    Key(Qt::Key_Space);
+    EXPECT_EQ(box.text(), "");
     EXPECT_EQ(session.Image.At(0x161), 7);
 }
 

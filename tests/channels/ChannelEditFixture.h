@@ -92,7 +92,7 @@ protected:
         Type(typed);
     }
     void GoToChannel(int n) {
-        Enter("UpDown1");
+        Enter("txtChannel");
         Text("txtChannel").selectAll();
         Type(std::to_string(n).c_str());
     }

@@ -263,7 +263,7 @@ TEST_F(ChannelEditTest, TheGridsButtonOpensTheDialogOnTheGridsChannelAgain) {
     Key(Qt::Key_Down);
     ClickChannelEdit();
     EXPECT_EQ(Text("txtChannel").text(), "5");
-    EXPECT_TRUE(In<QWidget>("UpDown1").hasFocus());
+    EXPECT_TRUE(In<QWidget>("txtChannel").hasFocus());
     EXPECT_EQ(Text("txtChannel").selectedText(), "5");
 }
 

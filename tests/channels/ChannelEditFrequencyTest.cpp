@@ -204,7 +204,7 @@ TEST_F(ChannelEditTest, PassingABlankReceiveFrequencyStoresNothing) {
     const DataImage before = session.Image;
     Enter("txtRxFreq");
     Key(Qt::Key_Tab);
-    Enter("UpDown1");
+    Enter("txtChannel");
     Key(Qt::Key_Up);
     EXPECT_EQ(session.Image, before);
 }

@@ -87,7 +87,7 @@ TEST_F(ChannelEditTest, EnterAndTheLetterLInTheNumberMoveOnToTheReceiveFrequency
     ShowBoth();
     Key(Qt::Key_Return);
     EXPECT_TRUE(Rx().hasFocus());
-    Enter("UpDown1");
+    Enter("txtChannel");
     Type("l");
     EXPECT_TRUE(Rx().hasFocus());
     EXPECT_EQ(Text("txtChannel").text(), "1");

@@ -26,7 +26,7 @@ protected:
         }
         return bytes;
     }
-    int Spin(const char* name) { return Find<SpinText>(name).Value(); }
+    int Spin(const char* name) { return Find<UpDown>(name).Value(); }
     std::string Chosen(const char* name) { return List(name).currentText().toStdString(); }
 
     void ExpectError() {

@@ -14,9 +14,9 @@ protected:
     void ExpectEnabled(bool priorityChannel, bool lookBack) {
         EXPECT_EQ(Box("txtPriorityCH").isEnabled(), priorityChannel);
         EXPECT_EQ(Box("txtLookBackTimeA").isEnabled(), lookBack);
-        EXPECT_EQ(Find<SpinText>("updLookBackTimeA").isEnabled(), lookBack);
+        EXPECT_EQ(Find<UpDown>("updLookBackTimeA").isEnabled(), lookBack);
         EXPECT_EQ(Box("txtLookBackTimeB").isEnabled(), lookBack);
-        EXPECT_EQ(Find<SpinText>("updLookBackTimeB").isEnabled(), lookBack);
+        EXPECT_EQ(Find<UpDown>("updLookBackTimeB").isEnabled(), lookBack);
         EXPECT_TRUE(List("cboRevertCH").isEnabled());
         EXPECT_TRUE(Box("txtDropoutDelayTime").isEnabled());
         EXPECT_TRUE(Box("txtTXDwellTime").isEnabled());

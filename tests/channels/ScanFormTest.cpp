@@ -83,11 +83,11 @@ TEST_F(ScanFormTest, EveryControlHasAnAccessibleName) {
     Load();
     EXPECT_EQ(List("cboPriority").accessibleName(), "Priority");
     EXPECT_EQ(Box("txtPriorityCH").accessibleName(), "Priority Channel");
-    EXPECT_EQ(Find<SpinText>("updLookBackTimeA").accessibleName(), "Look Back Time A [s]");
-    EXPECT_EQ(Find<SpinText>("updLookBackTimeB").accessibleName(), "Look Back Time B [s]");
+    EXPECT_EQ(Find<UpDown>("updLookBackTimeA").accessibleName(), "Look Back Time A [s]");
+    EXPECT_EQ(Find<UpDown>("updLookBackTimeB").accessibleName(), "Look Back Time B [s]");
     EXPECT_EQ(List("cboRevertCH").accessibleName(), "Revert Channel");
-    EXPECT_EQ(Find<SpinText>("updDropoutDelayTime").accessibleName(), "Dropout Delay Time [s]");
-    EXPECT_EQ(Find<SpinText>("updTXDwellTime").accessibleName(), "Tx Dwell Time [s]");
+    EXPECT_EQ(Find<UpDown>("updDropoutDelayTime").accessibleName(), "Dropout Delay Time [s]");
+    EXPECT_EQ(Find<UpDown>("updTXDwellTime").accessibleName(), "Tx Dwell Time [s]");
 }
 
 TEST_F(ScanFormTest, IsThreeHundredFortyFiveByThreeHundredNinetyThreePixels) {

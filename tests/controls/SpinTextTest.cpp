@@ -51,10 +51,10 @@ protected:
     void Type(const char* text) { QTest::keyClicks(QApplication::focusWidget(), text); }
     void ClickButton(QStyle::SubControl which) {
         QStyleOptionSpinBox option;
-        option.initFrom(spin);
+        option.initFrom(&spin->Buttons());
         option.subControls = QStyle::SC_All;
-        const QRect place = spin->style()->subControlRect(QStyle::CC_SpinBox, &option, which, spin);
-        QTest::mouseClick(spin, Qt::LeftButton, {}, place.center());
+        const QRect place = spin->style()->subControlRect(QStyle::CC_SpinBox, &option, which, &spin->Buttons());
+        QTest::mouseClick(&spin->Buttons(), Qt::LeftButton, {}, place.center());
     }
     void ExpectAllSelectedWithTheCaretAtTheStart() {
         EXPECT_EQ(Box().selectedText(), Box().text());
@@ -69,7 +69,7 @@ protected:
 };
 
 TEST_F(SpinTextTest, BoxAndUpDownHaveTheirOwnNames) {
-    EXPECT_EQ(spin->objectName(), "updTOTPreAlert");
+    EXPECT_EQ(spin->Buttons().objectName(), "updTOTPreAlert");
     EXPECT_EQ(window->findChild<FilteredLineEdit*>("txtTOTPreAlert"), &Box());
 }
 
@@ -231,9 +231,9 @@ TEST_F(SpinTextTest, PastedTextGoesThroughFilterAndLimit) {
 TEST_F(SpinTextTest, PageKeysAndTheWheelDoNotStep) {
     Key(Qt::Key_PageUp);
     Key(Qt::Key_PageDown);
-    QWheelEvent wheel(QPointF(5, 5), spin->mapToGlobal(QPointF(5, 5)), {}, QPoint(0, 120), Qt::NoButton, {},
+    QWheelEvent wheel(QPointF(5, 5), spin->Buttons().mapToGlobal(QPointF(5, 5)), {}, QPoint(0, 120), Qt::NoButton, {},
                       Qt::NoScrollPhase, false);
-    QApplication::sendEvent(spin, &wheel);
+    QApplication::sendEvent(&spin->Buttons(), &wheel);
     EXPECT_EQ(Box().text(), "5");
 }
 
@@ -241,7 +241,7 @@ TEST_F(SpinTextTest, OpensNoContextMenu) {
     QContextMenuEvent onBox(QContextMenuEvent::Mouse, QPoint(3, 3), Box().mapToGlobal(QPoint(3, 3)));
     QApplication::sendEvent(&Box(), &onBox);
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
-    EXPECT_EQ(spin->contextMenuPolicy(), Qt::PreventContextMenu);
+    EXPECT_EQ(spin->Buttons().contextMenuPolicy(), Qt::PreventContextMenu);
 }
 
 TEST_F(SpinTextTest, TheUpDownStaysInItsRangeAndLeavesTheTextAlone) {
@@ -255,6 +255,7 @@ TEST_F(SpinTextTest, TheUpDownStaysInItsRangeAndLeavesTheTextAlone) {
 TEST_F(SpinTextTest, DisablingItDisablesTheBox) {
     spin->setEnabled(false);
     EXPECT_FALSE(Box().isEnabled());
+    EXPECT_FALSE(spin->Buttons().isEnabled());
 }
 
 } // namespace

@@ -22,7 +22,7 @@ TEST_P(ReadFault, PromptsAndRetryReadsAll) {
 
 INSTANTIATE_TEST_SUITE_P(OfAReply, ReadFault,
                          ::testing::Values("drop@1", "cut:5@2", "drop@3", "corrupt@17", "delay:600@17", "hang@17",
-                                           "unplug@17", "cut:5@18", "corrupt@18", "drop@37"),
+                                           "unplug@17", "cut:5@18", "drop@37"),
                          FaultName);
 
 class CancelledRead : public SystemTest, public ::testing::WithParamInterface<const char*> {};
@@ -43,8 +43,7 @@ TEST_P(CancelledRead, ClosesAndTheNextReadWorks) {
     });
 }
 
-INSTANTIATE_TEST_SUITE_P(OfAReply, CancelledRead, ::testing::Values("drop@1", "hang@17", "unplug@17", "cut:5@18"),
-                         FaultName);
+INSTANTIATE_TEST_SUITE_P(OfAReply, CancelledRead, ::testing::Values("hang@17", "unplug@17"), FaultName);
 
 class ReadTest : public SystemTest {};
 

@@ -82,6 +82,7 @@ int main(int argc, char** argv) {
         return commandLine.exitCode;
     }
     PrivateHome home;
+    QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar); // as the program itself
     QApplication application(argc, argv);
     QApplication::setOrganizationName("Zelvor");
     QApplication::setApplicationName("Zelvor");
