@@ -246,16 +246,21 @@ void CloneEngine::EndRefused() {
 
 void CloneEngine::PromptForConnection() {
     clock_.Sleep(PromptPause);
+    const bool vanished = !port_.IsOpen();
     static_cast<void>(OpenPort()); // a port that stays closed leads back here after a retry
     const MessageAnswer answer = Ask({.title = std::string(clonetexts::Error.In(session_.LanguageFlag)),
                                       .text = std::string(clonetexts::CheckConnections.In(session_.LanguageFlag)),
                                       .icon = MessageIcon::Critical,
                                       .buttons = MessageButtons::RetryCancel,
                                       .defaultButton = MessageAnswer::Retry});
-    if (answer == MessageAnswer::Retry)
-        Retry();
-    else
+    if (answer != MessageAnswer::Retry) {
         Abandon();
+        return;
+    }
+    if (vanished) {
+        ClosePort(); // while the cable was out, its number may have stood for another device of the machine
+    }
+    Retry();
 }
 
 void CloneEngine::Retry() {

@@ -64,6 +64,7 @@ void ComForm::BuildControls() {
     auto* frmPort = new QGroupBox(windowTitle(), this);
     frmPort->setObjectName("frmPort");
     auto* ports = new QGridLayout(frmPort);
+    ports->setHorizontalSpacing(24);
     for (int index = 0; index < PortCount; ++index) {
         auto* option = new QRadioButton(frmPort);
         option->setObjectName(QString("optPort(%1)").arg(index));

@@ -1,5 +1,6 @@
 #include "platform/QtSerialPort.h"
 
+#include <QFileInfo>
 #include <algorithm>
 #include <utility>
 
@@ -34,6 +35,7 @@ bool QtSerialPort::Open() {
     if (device.empty()) {
         return false;
     }
+    device_ = device;
     port_.setPortName(ToQString(device));
     port_.setBaudRate(isProbe_ ? QSerialPort::Baud19200 : QSerialPort::Baud9600);
     port_.setStopBits(isProbe_ ? QSerialPort::OneStop : QSerialPort::TwoStop);
@@ -125,7 +127,10 @@ void QtSerialPort::RaiseReceiveEvent() const {
 }
 
 void QtSerialPort::OnError(QSerialPort::SerialPortError error) {
-    const bool hasVanished = error == QSerialPort::ResourceError || error == QSerialPort::ReadError;
+    // A notification whose bytes were read or cleared before it came is reported in the same words as a device that is
+    // gone.
+    const bool foundNothing = error == QSerialPort::ReadError && QFileInfo::exists(ToQString(device_));
+    const bool hasVanished = error == QSerialPort::ResourceError || (error == QSerialPort::ReadError && !foundNothing);
     if (hasVanished && port_.isOpen()) {
         Close(); // or the device that is gone reports the same error for ever
         QMetaObject::invokeMethod(
