@@ -3,10 +3,8 @@
 #include <QFile>
 #include <QThread>
 #include <algorithm>
-#include <csignal>
 
-#include <sys/prctl.h>
-
+#include "simulator/program/EndWithParent.h"
 #include "tour/Checks.h"
 #include "tour/Failure.h"
 
@@ -29,7 +27,7 @@ RadioProgram::RadioProgram(const QString& program, const QString& memoryFile, co
     : memoryFile_(memoryFile) {
     process_.setProcessChannelMode(QProcess::MergedChannels);
     // The radio does not outlive this process, however that ends.
-    process_.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGTERM); });
+    process_.setChildProcessModifier([] { EndWithParent(); });
     process_.start(program, QStringList{"--port", "1", "--save", memoryFile} + arguments);
     if (!HasPrinted("ready: COM1", Patience)) {
         throw Failure(program.toStdString() + " does not get ready. " + process_.errorString().toStdString() + "\n" +
