@@ -31,6 +31,7 @@ void Job::Run() {
     ShowNavigator();
     EditChannel();
     SaveAs();
+    ShowEditors(); // closing the channel edit dialog commits it: the document is dropped by what follows
     New();
     Open();
     Write();

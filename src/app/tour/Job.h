@@ -47,6 +47,7 @@ private:
     void ShowModel();
     void ShowPorts();
     void ShowNavigator();
+    void ShowEditors();
 
     void EditChannel();
     void LowerPower();

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QRadioButton>
 
 #include "tour/Checks.h"
@@ -35,7 +36,51 @@ QWidget* Navigator() {
     return WidgetOnTop("TreeViewForm");
 }
 
+/// A window that edits the document, and a text that it shows of the sample radio.
+struct Editor {
+    const char* menuEntry; // empty: opened by the grid's button
+    const char* window;
+    const char* box;
+    const char* text;
+    const char* closeButton;
+    const char* screenshot;
+};
+constexpr Editor Editors[] = {
+    {"", "ChannelEditForm", "", "", "cmdOK", "channel-edit"},
+    {"MnuEditScanInformation", "ScanForm", "txtPriorityCH", "1", "cmdClose", "scan-information"},
+    {"MnuEditTestFrequency", "TestChannelForm", "", "", "cmdClose", "test-frequency"},
+    {"MnuEditEmbeddedMessage", "EmbedInfoForm", "txtMsg(0)", "Sample radio", "cmdClose", "embedded-message"},
+};
+
+QWidget* PartOf(const char* window, const char* part) {
+    const QWidget* found = WidgetOnTop(window);
+    return found ? found->findChild<QWidget*>(part) : nullptr;
+}
+
+QString TextOf(const Editor& editor) {
+    const auto* box = qobject_cast<QLineEdit*>(PartOf(editor.window, editor.box));
+    return box ? box->text() : QString("(no box)");
+}
+
 } // namespace
+
+void Job::ShowEditors() {
+    for (const Editor& editor : Editors) {
+        if (*editor.menuEntry == '\0') {
+            user_.ClickOn("Channel Edit", [] { return PartOf("ChannelForm", "cmdChannelEdit"); });
+        } else {
+            user_.ChooseByMouse("MnuEdit", editor.menuEntry);
+        }
+        windows_.WaitUntil(editor.window, [&editor] { return WidgetOnTop(editor.window) != nullptr; });
+        if (*editor.box != '\0') {
+            CheckEqual(editor.box, windows_.Ask([&editor] { return TextOf(editor); }), editor.text);
+        }
+        screenshots_.Take(editor.screenshot);
+        user_.ClickOn(editor.closeButton, [&editor] { return PartOf(editor.window, editor.closeButton); });
+        windows_.WaitUntil("the window to close", [&editor] { return WidgetOnTop(editor.window) == nullptr; });
+    }
+    Done("channel edit, scan, test frequency and embedded message windows open and close");
+}
 
 void Job::ShowMenu() {
     user_.OpenMenu("MnuProgram");
