@@ -1,2 +1,7 @@
 include(GNUInstallDirs)
-install(TARGETS zelvor zelvor-radio RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(TARGETS zelvor RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+if(TARGET zelvor-radio)
+  install(TARGETS zelvor-radio RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+  install(FILES packaging/zelvor-radio.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+endif()
+install(FILES resources/org.zelvor.Zelvor.svg DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/icons/hicolor/scalable/apps)
