@@ -52,7 +52,12 @@ public:
         received_.insert(received_.end(), bytes.begin(), bytes.end());
         return received_;
     }
-    void Unplug() override { terminal_.Unplug(); }
+    void Unplug() override {
+        // The terminal's number may go to a test that runs beside this one.
+        user_.Unlink("COM3");
+        user_.Link("COM3", "/dev/no such device");
+        terminal_.Unplug();
+    }
     void HoldElsewhere() override {
         holder_.start(PORT_HOLDER, {QString::fromStdString(terminal_.DevicePath())});
         ASSERT_TRUE(holder_.waitForReadyRead(5000)) << "The other program did not get the port";

@@ -18,6 +18,7 @@ public:
     void Link(const QString& name, const std::string& device) {
         QFile::link(QString::fromStdString(device), folder_.filePath(name));
     }
+    void Unlink(const QString& name) { QFile::remove(folder_.filePath(name)); }
 
 private:
     QDir folder_{QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
