@@ -34,18 +34,6 @@ constexpr TextPair GridFormat{
 constexpr TextPair HintText{"Enter or a click edits a cell, Up and Down step through its values, Esc goes back.",
                             "按回车键或单击可编辑单元格，上下方向键选择数值，Esc 键还原。"};
 
-/// Splits a table format: captions of the columns between "|", each with a leading "^" for centred, then ";" and the
-/// corner's caption.
-QStringList CaptionsOf(std::string_view format) {
-    const QStringList parts = ToQString(format).split(';');
-    QStringList captions = parts.first().split('|');
-    for (QString& caption : captions) {
-        caption.remove(0, 1);
-    }
-    captions.first() = parts.last();
-    return captions;
-}
-
 std::vector<int> ColumnWidths(int gridWidth) {
     constexpr int percents[] = {10, 11, 11, 11, 11, 8, 7, 8, 10};
     std::vector<int> widths;
@@ -130,7 +118,7 @@ void ChannelForm::SetTexts() {
     for (int k = 1; k <= address::ChannelCount; ++k) {
         rows.append(QString::number(k));
     }
-    channelGrid_->SetCaptions(CaptionsOf(GridFormat.In(session_.LanguageFlag)), rows);
+    channelGrid_->SetFormat(ToQString(GridFormat.In(session_.LanguageFlag)), rows);
     channelGrid_->FitCells(ColumnWidths(GridPlace.width()));
     channelGrid_->setAccessibleName(text(195).trimmed());
     labBlankChannel_->setAccessibleName(text(78));
