@@ -67,7 +67,10 @@ void SpinText::Put(int value) {
     SetText(rules_.show(Value()));
 }
 
-int SpinText::NextValue(bool up) const {
+std::optional<int> SpinText::NextValue(bool up) const {
+    if (rules_.step) {
+        return rules_.step(box_->text(), up);
+    }
     const int end = up ? rules_.last : rules_.first;
     const int otherEnd = up ? rules_.first : rules_.last;
     if (box_->text() == rules_.show(end)) {
@@ -75,11 +78,13 @@ int SpinText::NextValue(bool up) const {
     }
     const std::optional<int> shown = rules_.read ? rules_.read(box_->text()) : std::nullopt;
     const int next = shown.value_or(Value()) + (up ? rules_.increment : -rules_.increment);
-    return next < rules_.first || next > rules_.last ? otherEnd : next;
+    return std::clamp(next, rules_.first, rules_.last);
 }
 
 void SpinText::Step(bool up) {
-    Put(NextValue(up));
+    if (const auto next = NextValue(up)) {
+        Put(*next);
+    }
     box_->setFocus(Qt::OtherFocusReason);
     // From end to start, so that the caret ends at the start.
     const int length = static_cast<int>(box_->text().size());

@@ -22,6 +22,9 @@ struct SpinTextRules {
     /// The value that a typed text stands for, from which a step then starts; nothing: the step starts from the
     /// up-down's value, as it does without this rule.
     std::function<std::optional<int>(const QString& text)> read = nullptr;
+    /// A way of stepping that differs from adding the increment and wrapping at the ends: the next value, or nothing
+    /// where the step is to change nothing.
+    std::function<std::optional<int>(const QString& text, bool up)> step = nullptr;
     /// The focus left: bring the text into form and store it.
     std::function<void()> commit = nullptr;
 };
@@ -53,9 +56,9 @@ private:
 /// A text box with an up-down pair: a number of a range, typed or stepped through.
 ///
 /// Up and Down and the two buttons step, show the new value's text with all of it selected and the caret at its start,
-/// and wrap: a box that shows the last text of the range steps to the first, and the other way round. Stepping stores
-/// nothing. Enter moves on like Tab. Text and up-down value are two things: code may show a text that stands for no
-/// value of the range.
+/// and wrap: a box that shows the last text of the range steps to the first, and the other way round; from any other
+/// text a step ends at the range's end at most. Stepping stores nothing. Enter moves on like Tab. Text and up-down
+/// value are two things: code may show a text that stands for no value of the range.
 class SpinText : public QWidget {
     Q_OBJECT
 
@@ -85,7 +88,7 @@ protected:
 
 private:
     void Step(bool up);
-    [[nodiscard]] int NextValue(bool up) const;
+    [[nodiscard]] std::optional<int> NextValue(bool up) const;
 
     const SpinTextRules rules_;
     FilteredLineEdit* const box_;
