@@ -38,11 +38,13 @@ std::optional<fs::path> FollowLinks(fs::path path) {
     constexpr int MostLinks = 40;
     std::error_code error;
     for (int i = 0; i < MostLinks; ++i) {
-        if (!fs::is_symlink(fs::symlink_status(path, error)))
+        if (!fs::is_symlink(fs::symlink_status(path, error))) {
             return path;
+        }
         const fs::path target = fs::read_symlink(path, error);
-        if (error)
+        if (error) {
             return std::nullopt;
+        }
         path = path.parent_path() / target;
     }
     return std::nullopt;
@@ -74,8 +76,9 @@ fs::path UnusedNameBeside(const fs::path& target) {
 
 bool CopyTail(const fs::path& from, std::ostream& to) {
     std::ifstream file(from, std::ios::binary);
-    if (!file.is_open())
+    if (!file.is_open()) {
         return false;
+    }
     file.seekg(static_cast<std::streamoff>(DataFileSize));
     std::vector<char> block(static_cast<std::size_t>(CopyBlock));
     while (file && to) {
@@ -85,15 +88,50 @@ bool CopyTail(const fs::path& from, std::ostream& to) {
     return file.eof() && to.good();
 }
 
-bool WriteWhole(const fs::path& path, const DataFileBytes& bytes, const std::optional<fs::path>& tailFrom) {
-    std::ofstream file(path, std::ios::binary | std::ios::trunc);
+bool WriteBytes(std::ostream& file, const DataFileBytes& bytes) {
     file.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
-    if (!file || (tailFrom && !CopyTail(*tailFrom, file)))
-        return false;
+    return file.good();
+}
+
+template<typename FileStream>
+bool Finish(FileStream& file) {
     file.flush();
     const bool flushed = file.good();
     file.close();
     return flushed && file.good();
+}
+
+enum class Replacement {
+    Done,
+    Failed,
+    NotAllowed, // the directory takes no new file, or not in place of this one
+};
+
+/// status is the target's; the new file takes over the rights and the tail of one that exists.
+Replacement ReplaceFile(const fs::path& target, const fs::file_status& status, const DataFileBytes& bytes) {
+    const TemporaryFile temporary(UnusedNameBeside(target));
+    std::ofstream file(temporary.Path(), std::ios::binary | std::ios::trunc);
+    if (!file.is_open()) {
+        return Replacement::NotAllowed;
+    }
+    const bool exists = fs::exists(status);
+    if (!WriteBytes(file, bytes) || (exists && !CopyTail(target, file)) || !Finish(file)) {
+        return Replacement::Failed;
+    }
+    std::error_code error;
+    if (exists) {
+        fs::permissions(temporary.Path(), status.permissions(), error);
+        if (error) {
+            return Replacement::Failed;
+        }
+    }
+    fs::rename(temporary.Path(), target, error);
+    return error ? Replacement::NotAllowed : Replacement::Done;
+}
+
+bool WriteInPlace(const fs::path& path, const DataFileBytes& bytes) {
+    std::fstream file(path, std::ios::binary | std::ios::in | std::ios::out);
+    return WriteBytes(file, bytes) && Finish(file);
 }
 
 } // namespace
@@ -108,49 +146,55 @@ DataFileBytes EncodeDataFile(const DataImage& image) {
 }
 
 std::optional<DataImage> DecodeDataFile(std::span<const std::uint8_t> bytes) {
-    if (bytes.size() != DataFileSize || !std::equal(DataFileMagic.begin(), DataFileMagic.end(), bytes.begin()))
+    if (bytes.size() != DataFileSize || !std::equal(DataFileMagic.begin(), DataFileMagic.end(), bytes.begin())) {
         return std::nullopt;
+    }
     return DataImage::FromAddressOrder(bytes.subspan<DataFileHeadSize, DataImage::Size>());
 }
 
 DataFileRead ReadDataFile(const fs::path& path) {
     std::error_code error;
-    if (!fs::is_regular_file(path, error))
+    if (!fs::is_regular_file(path, error)) {
         return {DataFileError::Unreadable, {}};
+    }
     std::ifstream file(path, std::ios::binary);
-    if (!file.is_open())
+    if (!file.is_open()) {
         return {DataFileError::Unreadable, {}};
+    }
     std::array<std::uint8_t, DataFileSize + 1> bytes{}; // one more than a file may have shows that it has too many
     file.read(reinterpret_cast<char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
-    if (file.bad())
+    if (file.bad()) {
         return {DataFileError::Unreadable, {}};
+    }
     const auto count = static_cast<std::size_t>(file.gcount());
     const std::optional<DataImage> image = DecodeDataFile(std::span<const std::uint8_t>(bytes).first(count));
-    if (!image)
+    if (!image) {
         return {DataFileError::WrongType, {}};
+    }
     return {DataFileError::None, *image};
 }
 
 bool WriteDataFile(const fs::path& path, const DataImage& image) {
     const std::optional<fs::path> target = FollowLinks(path);
-    if (!target || !target->has_filename())
+    if (!target || !target->has_filename()) {
         return false;
+    }
     std::error_code error;
     const fs::file_status status = fs::status(*target, error);
     const bool exists = status.type() != fs::file_type::not_found;
-    if (exists && !MayReplace(*target, status))
+    if (exists && !MayReplace(*target, status)) {
         return false;
-
-    const TemporaryFile temporary(UnusedNameBeside(*target));
-    if (!WriteWhole(temporary.Path(), EncodeDataFile(image), exists ? target : std::nullopt))
-        return false;
-    if (exists) {
-        fs::permissions(temporary.Path(), status.permissions(), error);
-        if (error)
-            return false;
     }
-    fs::rename(temporary.Path(), *target, error);
-    return !error;
+    const DataFileBytes bytes = EncodeDataFile(image);
+    switch (ReplaceFile(*target, status, bytes)) {
+    case Replacement::Done:
+        return true;
+    case Replacement::Failed:
+        return false;
+    case Replacement::NotAllowed:
+        return exists && WriteInPlace(*target, bytes);
+    }
+    return false;
 }
 
 } // namespace zelvor

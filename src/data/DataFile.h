@@ -38,6 +38,8 @@ struct DataFileRead {
 /// Writes the file so that its 1040 bytes appear whole or not at all, whatever happens meanwhile. An existing file
 /// keeps its access rights and, where it is longer, its tail. Returns false, the old file untouched, where it cannot be
 /// written (also when the existing file is read-only or no regular file).
+///
+/// A writable file in a directory that may not be changed is written in place, and so not indivisibly.
 [[nodiscard]] bool WriteDataFile(const std::filesystem::path& path, const DataImage& image);
 
 } // namespace zelvor

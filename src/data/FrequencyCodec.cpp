@@ -36,8 +36,9 @@ Decimal Distance(Decimal a, Decimal b) {
 Decimal OnRaster(Decimal megahertz) {
     const Decimal near5 = Decimal::Of(NearestOnRaster(megahertz, Raster5kHz), TensOfHertzPlaces);
     const Decimal near625 = Decimal::Of(NearestOnRaster(megahertz, Raster625kHz), TensOfHertzPlaces);
-    if (megahertz == near5 || megahertz == near625)
+    if (megahertz == near5 || megahertz == near625) {
         return megahertz;
+    }
     return Distance(megahertz, near5) < Distance(megahertz, near625) ? near5 : near625;
 }
 
@@ -45,8 +46,9 @@ Decimal OnRaster(Decimal megahertz) {
 
 std::string FrequencyText(std::span<const std::uint8_t, 4> bytes) {
     std::string digits;
-    for (std::size_t i = bytes.size(); i-- > 0;)
+    for (std::size_t i = bytes.size(); i-- > 0;) {
         digits += Decimal::Of((bytes[i] >> 4) * 10 + (bytes[i] & 0x0F)).Format(2, 0);
+    }
     digits.insert(3, 1, '.');
     return FrequencyFormat(Decimal::Leading(digits));
 }
@@ -56,8 +58,9 @@ bool IsZeroFrequency(std::span<const std::uint8_t, 4> bytes) {
 }
 
 FrequencyBytes EncodeFrequency(std::string_view text) {
-    if (text.empty())
+    if (text.empty()) {
         return {0xFF, 0xFF, 0xFF, 0xFF};
+    }
     // The digits are taken by their place in the text: a number of five digits before the point shifts them all.
     const std::string digits = (Decimal::Leading(text) * 10).Format(4, 4);
     const auto pair = [&digits](std::size_t place) {
@@ -79,10 +82,12 @@ NormalisedFrequency NormaliseFrequency(std::string_view text, const BandLimits& 
     const Decimal megahertz = Decimal::Leading(text);
     const Decimal lowest = Decimal::Of(LowestMHz);
     const Decimal highest = Decimal::Of(HighestMHz);
-    if (megahertz > Decimal::Of(limits.BandUpperMHz))
+    if (megahertz > Decimal::Of(limits.BandUpperMHz)) {
         return {FrequencyFormat(std::min(megahertz, highest)), true};
-    if (megahertz < Decimal::Of(limits.BandLowerMHz))
+    }
+    if (megahertz < Decimal::Of(limits.BandLowerMHz)) {
         return {FrequencyFormat(std::max(megahertz, lowest)), true};
+    }
     return {FrequencyFormat(OnRaster(megahertz)), false};
 }
 

@@ -67,8 +67,9 @@ constexpr std::string_view HexDigits = "0123456789ABCDEF";
 std::optional<std::uint8_t> HexPair(std::string_view text) {
     const std::size_t high = HexDigits.find(text[0]);
     const std::size_t low = HexDigits.find(text[1]);
-    if (high == std::string_view::npos || low == std::string_view::npos)
+    if (high == std::string_view::npos || low == std::string_view::npos) {
         return std::nullopt;
+    }
     return static_cast<std::uint8_t>(high * 16 + low);
 }
 
@@ -158,8 +159,9 @@ Band TestFrequencyBand(std::uint8_t market) {
 
 BandLimits SetBandLimits(const DataImage& image) {
     const std::uint8_t family = image.At(address::Family);
-    if (family == 0x00 || family == 0xFF)
+    if (family == 0x00 || family == 0xFF) {
         return {136, 174};
+    }
     return {100, 550};
 }
 
@@ -179,16 +181,18 @@ std::string BuildMainTitle(const DataImage& image, std::string_view baseName, La
 
 ModelIdentity IdentityOf(const DataImage& image) {
     ModelIdentity identity{};
-    for (int i = 0; i < address::IdentitySize; ++i)
+    for (int i = 0; i < address::IdentitySize; ++i) {
         identity[static_cast<std::size_t>(i)] = image.At(address::Identity + i);
+    }
     return identity;
 }
 
 std::string IdentityToText(const ModelIdentity& identity) {
     std::string text;
     for (const std::uint8_t byte : identity) {
-        if (!text.empty())
+        if (!text.empty()) {
             text += ':';
+        }
         text += HexDigits[byte >> 4];
         text += HexDigits[byte & 0x0F];
     }
@@ -198,12 +202,14 @@ std::string IdentityToText(const ModelIdentity& identity) {
 std::optional<FamilyAndMarket> ParseIdentityText(std::string_view text) {
     constexpr std::size_t MarketPlace = 15;
     constexpr std::size_t FamilyPlace = 18;
-    if (text.size() < FamilyPlace + 2)
+    if (text.size() < FamilyPlace + 2) {
         return std::nullopt;
+    }
     const std::optional<std::uint8_t> market = HexPair(text.substr(MarketPlace, 2));
     const std::optional<std::uint8_t> family = HexPair(text.substr(FamilyPlace, 2));
-    if (!market || !family)
+    if (!market || !family) {
         return std::nullopt;
+    }
     return FamilyAndMarket{*family, *market};
 }
 

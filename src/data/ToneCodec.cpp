@@ -46,36 +46,43 @@ int DigitAt(std::string_view text, std::size_t place) {
 std::string DqtText(ToneWord word) {
     const int code = word.lo + 256 * (word.hi & CodeHighBit);
     std::string text = "D";
-    for (const int digit : {code / 64, code % 64 / 8, code % 8})
+    for (const int digit : {code / 64, code % 64 / 8, code % 8}) {
         text += static_cast<char>('0' + digit);
+    }
     text += (word.hi & InvertedBit) != 0 ? 'I' : 'N';
     return text;
 }
 
 std::string NormaliseDqt(std::string_view text) {
     constexpr std::size_t Length = 5;
-    if (text == "D")
+    if (text == "D") {
         return "D000N";
-    std::string result(text);
-    if (result.size() < Length)
-        result.append(Length - result.size(), '0');
-    for (std::size_t i = 1; i < Length - 1; ++i) {
-        if (result[i] == '.')
-            result[i] = '0';
-        else if (static_cast<unsigned char>(result[i]) > '7')
-            result[i] = '7';
     }
-    if (result[Length - 1] != 'I')
+    std::string result(text);
+    if (result.size() < Length) {
+        result.append(Length - result.size(), '0');
+    }
+    for (std::size_t i = 1; i < Length - 1; ++i) {
+        if (result[i] == '.') {
+            result[i] = '0';
+        } else if (static_cast<unsigned char>(result[i]) > '7') {
+            result[i] = '7';
+        }
+    }
+    if (result[Length - 1] != 'I') {
         result[Length - 1] = 'N';
+    }
     return result;
 }
 
 std::string NormaliseQt(std::string_view text) {
     const Decimal value = Decimal::Leading(text);
-    if (value > Decimal::Of(2541, 1))
+    if (value > Decimal::Of(2541, 1)) {
         return "254.1";
-    if (value < Decimal::Of(670, 1))
+    }
+    if (value < Decimal::Of(670, 1)) {
         return "67.0";
+    }
     // Half a tenth less, then rounded: further decimals are cut off.
     return (value - Decimal::Of(5, 2)).Format(1, 1);
 }
@@ -83,33 +90,39 @@ std::string NormaliseQt(std::string_view text) {
 } // namespace
 
 std::optional<std::string> ToneText(ToneWord word, Language language) {
-    if (word.hi == 0x00 || word.hi == 0xFF)
+    if (word.hi == 0x00 || word.hi == 0xFF) {
         return std::string(TableText(language, words::None));
-    if ((word.hi & DqtBit) != 0)
+    }
+    if ((word.hi & DqtBit) != 0) {
         return DqtText(word);
+    }
     const int tenths = word.hi * 256 + word.lo;
-    if (tenths < 100 || tenths > 9999)
+    if (tenths < 100 || tenths > 9999) {
         return std::nullopt;
+    }
     return Decimal::Of(tenths, 1).Format(2, 1);
 }
 
 ToneWord ToneEncoder::Encode(std::string_view text, Language language) {
-    if (text == TableText(language, words::None))
+    if (text == TableText(language, words::None)) {
         return {};
+    }
     const bool isDqt = Holds(text, 'd');
     std::int64_t value = 0;
     if (isDqt) {
         value = 64 * DigitAt(text, 1) + 8 * DigitAt(text, 2) + DigitAt(text, 3);
-        if (Holds(text, 'n'))
+        if (Holds(text, 'n')) {
             inverted_ = false;
-        else if (Holds(text, 'i'))
+        } else if (Holds(text, 'i')) {
             inverted_ = true;
+        }
     } else {
         value = Decimal::Leading(text).Rounded(1);
     }
     ToneWord word{static_cast<std::uint8_t>(value % 256), static_cast<std::uint8_t>(value / 256)};
-    if (isDqt)
+    if (isDqt) {
         word.hi = static_cast<std::uint8_t>(((word.hi | DqtMark) & ~InvertedBit) | (inverted_ ? InvertedBit : 0));
+    }
     return word;
 }
 
@@ -119,20 +132,24 @@ std::vector<std::string> BuildToneList(Language language) {
     list.emplace_back(TableText(language, words::None));
     list.insert(list.end(), QtTones.begin(), QtTones.end());
     for (const char polarity : {'N', 'I'}) {
-        for (const std::string_view code : DqtCodes)
+        for (const std::string_view code : DqtCodes) {
             list.emplace_back(1, 'D').append(code).push_back(polarity);
+        }
     }
     return list;
 }
 
 std::string NormaliseTone(std::string_view text, Language language) {
     const std::string_view none = TableText(language, words::None);
-    if (text.empty() || text == none)
+    if (text.empty() || text == none) {
         return std::string(none);
-    if (text.front() == 'D')
+    }
+    if (text.front() == 'D') {
         return NormaliseDqt(text);
-    if (text.front() == 'N' || text.front() == 'I')
+    }
+    if (text.front() == 'N' || text.front() == 'I') {
         return "67.0";
+    }
     return NormaliseQt(text);
 }
 

@@ -4,6 +4,7 @@
 
 #include "link/CloneFrames.h"
 #include "link/CloneTexts.h"
+#include "text/CommonTexts.h"
 
 namespace zelvor {
 
@@ -56,8 +57,9 @@ void CloneEngine::Load() {
 }
 
 void CloneEngine::Start() {
-    if (!loaded_ || !MayUnload())
+    if (!loaded_ || !MayUnload()) {
         return;
+    }
     BeginSession();
     port_.SetBufferSizes(RadioInputBufferSize, RadioOutputBufferSize);
     const bool open = OpenPort();
@@ -68,15 +70,17 @@ void CloneEngine::Start() {
     observer_.OnButtonsEnabled(false);
     state_.Running = true;
     state_.Finished = false;
-    if (open)
+    if (open) {
         Run(*ctrTimer_, FirstSendInterval);
-    else
+    } else {
         FailFast();
+    }
 }
 
 void CloneEngine::Cancel() {
-    if (!MayUnload())
+    if (!MayUnload()) {
         return;
+    }
     state_.CancelPressed = true;
     observer_.OnUnloadRequested();
 }
@@ -90,32 +94,38 @@ bool CloneEngine::Unload() {
 }
 
 void CloneEngine::OnSendTimer() {
-    if (!loaded_ || link_.CommState == link_.SentState)
+    if (!loaded_ || link_.CommState == link_.SentState) {
         return;
+    }
     const bool open = OpenPort();
     ctrTimer_->SetEnabled(false);
     messageTimer_->SetEnabled(false);
     if (!open) {
-        if (!abandoned_)
+        if (!abandoned_) {
             FailFast();
+        }
         return;
     }
     SendCommand();
     link_.SentState = link_.CommState;
-    if (Current() != ConnectState::EndSession)
+    if (Current() != ConnectState::EndSession) {
         Run(*messageTimer_, IsReading() ? ReadTimeout : WriteTimeout);
-    if (!abandoned_)
+    }
+    if (!abandoned_) {
         RunEndTest();
+    }
 }
 
 void CloneEngine::OnTimeout() {
-    if (!loaded_)
+    if (!loaded_) {
         return;
+    }
     messageTimer_->SetEnabled(false);
-    if (state_.Finished)
+    if (state_.Finished) {
         observer_.OnUnloadRequested();
-    else
+    } else {
         PromptForConnection();
+    }
 }
 
 bool CloneEngine::IsReading() const {
@@ -131,16 +141,18 @@ void CloneEngine::BeginSession() {
 }
 
 bool CloneEngine::OpenPort() {
-    if (port_.IsOpen())
+    if (port_.IsOpen()) {
         return true;
+    }
     port_.SetNumber(session_.CommPortNumber);
     port_.SetSettings(RadioPortSettings);
     return port_.Open();
 }
 
 void CloneEngine::ClosePort() {
-    if (port_.IsOpen())
+    if (port_.IsOpen()) {
         port_.Close();
+    }
 }
 
 void CloneEngine::ClearPort() {
@@ -149,8 +161,9 @@ void CloneEngine::ClearPort() {
 }
 
 void CloneEngine::Run(Timer& timer, int milliseconds) {
-    if (!loaded_) // closed from inside a wait or a message
+    if (!loaded_) { // closed from inside a wait or a message
         return;
+    }
     timer.SetInterval(milliseconds);
     timer.SetEnabled(true);
 }
@@ -203,13 +216,15 @@ void CloneEngine::Send(std::span<const std::uint8_t> command) {
 void CloneEngine::RunEndTest() {
     const bool ending = Current() == ConnectState::EndSession;
     if (link_.TransferMode == transfer::Reading) {
-        if (ending && link_.StepCount >= RepeatedReadStep)
+        if (ending && link_.StepCount >= RepeatedReadStep) {
             Complete(clonetexts::ReadingCompleted);
+        }
     } else if (link_.TransferMode == transfer::Writing) {
-        if ((ending || Current() == ConnectState::CloseData) && link_.StepCount >= WriteDoneStep)
+        if ((ending || Current() == ConnectState::CloseData) && link_.StepCount >= WriteDoneStep) {
             Complete(clonetexts::WritingCompleted);
-        else if (ending)
+        } else if (ending) {
             EndRefused();
+        }
     }
 }
 
@@ -217,6 +232,7 @@ void CloneEngine::Complete(const TextPair& text) {
     const bool reading = IsReading();
     link_.TransferMode = transfer::Done;
     messageTimer_->SetEnabled(false);
+    observer_.OnTransferDone();
     clock_.WaitProcessingEvents(CompletedWait);
     ClosePort();
     clock_.Sleep(CompletedPause);
@@ -226,12 +242,12 @@ void CloneEngine::Complete(const TextPair& text) {
                     .buttons = MessageButtons::Ok,
                     .defaultButton = MessageAnswer::Ok});
     session_.PriorityChannelError = false;
+    session_.OwnIdError = false;
+    session_.TxCodeError = false;
     if (reading) {
         session_.CurrentFileName = Session::DefaultFileName;
         observer_.OnReadCompleted();
     } else {
-        session_.OwnIdError = false;
-        session_.TxCodeError = false;
         observer_.OnWriteCompleted();
     }
     state_.Finished = true;
@@ -248,7 +264,7 @@ void CloneEngine::PromptForConnection() {
     clock_.Sleep(PromptPause);
     const bool vanished = !port_.IsOpen();
     static_cast<void>(OpenPort()); // a port that stays closed leads back here after a retry
-    const MessageAnswer answer = Ask({.title = std::string(clonetexts::Error.In(session_.LanguageFlag)),
+    const MessageAnswer answer = Ask({.title = std::string(commontexts::Error.In(session_.LanguageFlag)),
                                       .text = std::string(clonetexts::CheckConnections.In(session_.LanguageFlag)),
                                       .icon = MessageIcon::Critical,
                                       .buttons = MessageButtons::RetryCancel,

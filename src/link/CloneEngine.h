@@ -30,6 +30,8 @@ public:
     virtual void OnProgress(int value) = 0;
     /// cmdOK, cmdCancel and cmdHelp together.
     virtual void OnButtonsEnabled(bool enabled) = 0;
+    /// All is transferred and the End is sent; the box that says so follows after a moment in which events are served.
+    virtual void OnTransferDone() = 0;
     /// The image is read and the document renamed: the grid is to be decoded and the title to be set.
     virtual void OnReadCompleted() = 0;
     virtual void OnWriteCompleted() = 0;

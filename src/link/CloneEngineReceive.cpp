@@ -4,6 +4,7 @@
 #include "link/CloneEngine.h"
 #include "link/CloneFrames.h"
 #include "link/CloneTexts.h"
+#include "text/CommonTexts.h"
 
 namespace zelvor {
 
@@ -14,8 +15,9 @@ constexpr int FastFailureInterval = 3; // milliseconds
 } // namespace
 
 void CloneEngine::OnReceive(ReceiveReason reason) {
-    if (reason != ReceiveReason::DataReceived || !loaded_)
+    if (reason != ReceiveReason::DataReceived || !loaded_) {
         return;
+    }
     if (deaf_) {
         port_.ClearInput();
         return;
@@ -31,10 +33,11 @@ void CloneEngine::OnReceive(ReceiveReason reason) {
         ReceiveConfirmation();
         break;
     case ConnectState::TransferData:
-        if (IsReading())
+        if (IsReading()) {
             ReceiveBlock();
-        else
+        } else {
             ReceivePacketReply();
+        }
         break;
     case ConnectState::CloseData:
         ReceiveCloseReply();
@@ -56,8 +59,9 @@ bool CloneEngine::ReadsAcknowledge() {
 }
 
 void CloneEngine::ReceiveEntryReply() {
-    if (!ReadsAcknowledge())
+    if (!ReadsAcknowledge()) {
         return LetTimeoutDecide();
+    }
     Enter(ConnectState::RequestIdentity);
     MoveOn();
 }
@@ -67,8 +71,9 @@ void CloneEngine::ReceiveIdentity() {
     const std::vector<std::uint8_t> piece = ReadUpTo(wire::IdentityLength);
     std::vector<std::uint8_t>& identity = state_.RadioIdentity;
     identity.insert(identity.end(), piece.begin(), piece.end());
-    if (identity.size() != wire::IdentityLength)
+    if (identity.size() != wire::IdentityLength) {
         return LetTimeoutDecide();
+    }
     if (IsReading()) {
         // Block 7 overwrites both with what the memory holds there.
         session_.Image.Set(address::Market, identity[address::Market - address::Identity]);
@@ -79,33 +84,38 @@ void CloneEngine::ReceiveIdentity() {
 }
 
 void CloneEngine::ReceiveConfirmation() {
-    if (!ReadsAcknowledge())
+    if (!ReadsAcknowledge()) {
         return LetTimeoutDecide();
+    }
     Enter(ConnectState::TransferData);
-    if (link_.TransferMode == transfer::Writing)
+    if (link_.TransferMode == transfer::Writing) {
         CheckModel();
+    }
     MoveOn();
 }
 
 void CloneEngine::CheckModel() {
-    if (!IsModelWrong(state_.RadioIdentity, session_.Image))
+    if (!IsModelWrong(state_.RadioIdentity, session_.Image)) {
         return;
+    }
     messageTimer_->SetEnabled(false);
-    const MessageAnswer answer = Ask({.title = std::string(clonetexts::Warning.In(session_.LanguageFlag)),
+    const MessageAnswer answer = Ask({.title = std::string(commontexts::Warning.In(session_.LanguageFlag)),
                                       .text = std::string(clonetexts::ModelTypeWrong.In(session_.LanguageFlag)),
                                       .icon = MessageIcon::Exclamation,
                                       .buttons = MessageButtons::OkCancel,
                                       .defaultButton = MessageAnswer::Cancel});
     deaf_ = false;
-    if (answer != MessageAnswer::Ok)
+    if (answer != MessageAnswer::Ok) {
         Enter(ConnectState::EndSession);
+    }
 }
 
 void CloneEngine::ReceiveBlock() {
     const std::vector<std::uint8_t> reply = ReadUpTo(wire::ReadReplyLength);
     StoreReadBlock(session_.Image, link_.StepCount, reply); // also of a reply that fails the test
-    if (reply.empty() || reply.front() != wire::ReadReplyByte)
+    if (reply.empty() || reply.front() != wire::ReadReplyByte) {
         return FailFast();
+    }
     Enter(ConnectState::CloseData);
     MoveOn();
 }
@@ -115,12 +125,14 @@ void CloneEngine::ReceivePacketReply() {
     ++link_.StepCount;
     AdvanceAddress(link_);
     RaiseProgress();
-    if (!acknowledged)
+    if (!acknowledged) {
         return FailFast();
-    if (link_.StepCount == WriteDoneStep)
+    }
+    if (link_.StepCount == WriteDoneStep) {
         Enter(ConnectState::CloseData);
-    else
+    } else {
         link_.SentState = NothingSent; // the state stays, and the next packet is due
+    }
     MoveOn();
 }
 
@@ -130,8 +142,9 @@ void CloneEngine::ReceiveCloseReply() {
         RaiseProgress();
         return;
     }
-    if (!ReadsAcknowledge())
+    if (!ReadsAcknowledge()) {
         return FailFast();
+    }
     Enter(ConnectState::TransferData);
     if (link_.StepCount == RepeatedReadStep) {
         Enter(ConnectState::EndSession);
@@ -145,8 +158,9 @@ void CloneEngine::ReceiveCloseReply() {
 
 void CloneEngine::ReceiveEndReply() {
     // Once the dialog is about to close, messageTimer is what closes it.
-    if (ReadsAcknowledge() && !state_.Finished)
+    if (ReadsAcknowledge() && !state_.Finished) {
         messageTimer_->SetEnabled(false);
+    }
 }
 
 void CloneEngine::MoveOn() {
@@ -164,8 +178,9 @@ void CloneEngine::FailFast() {
 }
 
 void CloneEngine::RaiseProgress() {
-    if (progress_ < progressMaximum_)
+    if (progress_ < progressMaximum_) {
         SetProgress(progress_ + 1);
+    }
 }
 
 void CloneEngine::SetProgress(int value) {

@@ -57,8 +57,9 @@ const PacketRange* RangeOfStep(int step) {
 }
 
 void PrepareImage(DataImage& image) {
-    for (int group = 0; group < ClearedGroups; ++group)
+    for (int group = 0; group < ClearedGroups; ++group) {
         image.Set(group * address::ChannelSize + ClearedByteOfGroup, 0x00);
+    }
     image.Set(address::EncoderMuteByte, 0xFF);
     image.Set(ClearedAddress, 0x00);
 }
@@ -80,8 +81,9 @@ void BuildWritePacket(LinkState& link, DataImage& image) {
     link.TxBuffer[1] = LowByte(link.AddrHigh);
     link.TxBuffer[2] = LowByte(link.AddrLow);
     link.TxBuffer[3] = LowByte(length);
-    if (!range)
+    if (!range) {
         return;
+    }
 
     const auto data = link.TxBuffer.begin() + wire::HeadLength;
     if (link.StepCount == 1) {
@@ -89,25 +91,30 @@ void BuildWritePacket(LinkState& link, DataImage& image) {
         return;
     }
     const int first = range->firstAddress + (link.StepCount - range->firstStep) * range->length;
-    for (int i = 0; i < length; ++i)
+    for (int i = 0; i < length; ++i) {
         data[i] = image.At(first + i);
+    }
 }
 
 void StoreReadBlock(DataImage& image, int stepCount, std::span<const std::uint8_t> reply) {
-    if (stepCount < 1 || stepCount > ReadBlockCount)
+    if (stepCount < 1 || stepCount > ReadBlockCount) {
         return;
-    if (reply.size() <= wire::HeadLength)
+    }
+    if (reply.size() <= wire::HeadLength) {
         return;
+    }
     int address = (stepCount - 1) * wire::BlockLength;
     const auto data = reply.subspan(wire::HeadLength);
-    for (const std::uint8_t byte : data.first(std::min<std::size_t>(data.size(), wire::BlockLength)))
+    for (const std::uint8_t byte : data.first(std::min<std::size_t>(data.size(), wire::BlockLength))) {
         image.Set(address++, byte);
+    }
 }
 
 void AdvanceAddress(LinkState& link) {
     if (link.TransferMode == transfer::Reading) {
-        if (link.StepCount < RepeatedReadStep)
+        if (link.StepCount < RepeatedReadStep) {
             link.AddrLow += wire::BlockLength;
+        }
     } else if (link.StepCount == StepBehindTuning) {
         link.AddrHigh = address::Identity / AddressPage;
         link.AddrLow = address::Identity % AddressPage;

@@ -2,11 +2,9 @@
 
 #include "text/Language.h"
 
-/// Texts of the message boxes of a transfer.
+/// Texts of the message boxes of a transfer; their titles are common ones.
 namespace zelvor::clonetexts {
 
-inline constexpr TextPair Error{"Error", "错误"};
-inline constexpr TextPair Warning{"Warning", "警告"};
 inline constexpr TextPair ReadingCompleted{"Reading Completed", "读取完毕"};
 inline constexpr TextPair WritingCompleted{"Writing Completed", "写入完毕"};
 inline constexpr TextPair ModelTypeWrong{"Model type is wrong.Overwrite?", "机型类型错误。是否改写？"};

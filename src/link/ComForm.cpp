@@ -34,10 +34,12 @@ public:
 };
 
 QString DeviceText(const PortDescription& port, Language language) {
-    if (port.devicePath.empty())
+    if (port.devicePath.empty()) {
         return ToQString(NoDevice.In(language));
-    if (port.description.empty())
+    }
+    if (port.description.empty()) {
         return ToQString(port.devicePath);
+    }
     return ToQString(port.devicePath + " - " + port.description);
 }
 
@@ -55,8 +57,9 @@ ComForm::ComForm(Session& session, Services& services, QWidget* parent)
 ComForm::~ComForm() = default;
 
 void ComForm::done(int result) {
-    if (port_->IsOpen())
+    if (port_->IsOpen()) {
         port_->Close();
+    }
     QDialog::done(result);
 }
 
@@ -93,15 +96,17 @@ void ComForm::ProbePorts() {
         option.setEnabled(ProbePort(*port_, services_.clock, number));
     }
     // Also where the probe has just disabled it.
-    if (session_.CommPortNumber >= 1 && session_.CommPortNumber <= PortCount)
+    if (session_.CommPortNumber >= 1 && session_.CommPortNumber <= PortCount) {
         optPort_[static_cast<std::size_t>(session_.CommPortNumber - 1)]->setChecked(true);
+    }
 }
 
 void ComForm::TakeChoice() {
     // With no button set the walk ends behind the last one, and the number is 21.
     int index = 0;
-    while (index < PortCount && !optPort_[static_cast<std::size_t>(index)]->isChecked())
+    while (index < PortCount && !optPort_[static_cast<std::size_t>(index)]->isChecked()) {
         ++index;
+    }
     session_.CommPortNumber = index + 1;
     emit PortChosen();
     accept();

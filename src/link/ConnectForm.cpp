@@ -56,10 +56,11 @@ ConnectForm::~ConnectForm() {
 }
 
 void ConnectForm::reject() {
-    if (engine_.State().Finished)
+    if (engine_.State().Finished) {
         Unload();
-    else
+    } else {
         engine_.Cancel(); // refuses by itself while a transfer runs
+    }
 }
 
 void ConnectForm::closeEvent(QCloseEvent* event) {
@@ -76,9 +77,14 @@ void ConnectForm::OnProgress(int) {
 }
 
 void ConnectForm::OnButtonsEnabled(bool enabled) {
-    for (QPushButton* button : {buttons_.cmdOK, buttons_.cmdCancel, buttons_.cmdHelp})
+    for (QPushButton* button : {buttons_.cmdOK, buttons_.cmdCancel, buttons_.cmdHelp}) {
         button->setEnabled(enabled);
+    }
     progressTimer_->SetEnabled(true);
+}
+
+void ConnectForm::OnTransferDone() {
+    ShowProgress(); // at once: the radio waits for nothing any more
 }
 
 void ConnectForm::OnReadCompleted() {
@@ -141,8 +147,9 @@ void ConnectForm::ShowHelp() {
 }
 
 void ConnectForm::Unload() {
-    if (unloaded_)
+    if (unloaded_) {
         return;
+    }
     unloaded_ = true;
     progressTimer_->SetEnabled(false);
     const bool cancelPressed = engine_.Unload();

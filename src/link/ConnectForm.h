@@ -43,6 +43,7 @@ protected:
 private:
     void OnProgress(int value) override;
     void OnButtonsEnabled(bool enabled) override;
+    void OnTransferDone() override;
     void OnReadCompleted() override;
     void OnWriteCompleted() override;
     void OnUnloadRequested() override;

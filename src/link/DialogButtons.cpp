@@ -32,8 +32,9 @@ DialogButtons MakeDialogButtons(QDialog& dialog, const Session& session) {
                           MakeButton(dialog, "cmdHelp", session.LoadText(HelpText)), new QHBoxLayout};
     buttons.cmdOK->setDefault(true);
     buttons.row->addStretch();
-    for (QPushButton* button : {buttons.cmdOK, buttons.cmdCancel, buttons.cmdHelp})
+    for (QPushButton* button : {buttons.cmdOK, buttons.cmdCancel, buttons.cmdHelp}) {
         buttons.row->addWidget(button);
+    }
 
     auto* helpKey = new QShortcut(QKeySequence::HelpContents, &dialog);
     QObject::connect(helpKey, &QShortcut::activated, buttons.cmdHelp, &QPushButton::click);

@@ -19,8 +19,9 @@ bool ProbePort(SerialPort& port, Clock& clock, int number) {
     port.SetNumber(number);
     port.SetSettings(ProbePortSettings);
     port.SetReadLength(0);
-    if (!port.Open())
+    if (!port.Open()) {
         return false;
+    }
     port.Send(ProbeCommand);
     clock.Sleep(ProbeWait);
     port.Close();

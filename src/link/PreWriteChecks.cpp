@@ -4,8 +4,7 @@
 #include <string>
 
 #include "data/MemoryMap.h"
-#include "link/CloneTexts.h"
-#include "text/Language.h"
+#include "text/CommonTexts.h"
 
 namespace zelvor {
 
@@ -33,13 +32,14 @@ enum class EmptyLine { No, Yes };
 
 Message ErrorBox(Language language, EmptyLine emptyLine, std::initializer_list<TextPair> names) {
     std::string text(HeadLine.In(language));
-    if (emptyLine == EmptyLine::Yes)
+    if (emptyLine == EmptyLine::Yes) {
         text += LineBreak;
+    }
     for (const TextPair& name : names) {
         text += LineBreak;
         text += name.In(language);
     }
-    return {.title = std::string(clonetexts::Error.In(language)),
+    return {.title = std::string(commontexts::Error.In(language)),
             .text = text,
             .icon = MessageIcon::Critical,
             .buttons = MessageButtons::Ok,
@@ -52,9 +52,11 @@ bool UsesCode(const DataImage& image, int channel) {
 }
 
 bool AnyChannelUsesCode(const DataImage& image) {
-    for (int channel = 1; channel <= address::ChannelCount; ++channel)
-        if (UsesCode(image, channel))
+    for (int channel = 1; channel <= address::ChannelCount; ++channel) {
+        if (UsesCode(image, channel)) {
             return true;
+        }
+    }
     return false;
 }
 
@@ -76,12 +78,15 @@ std::optional<Message> TxCodeBox(Language language, int kind) {
 
 std::optional<Message> CheckBeforeWrite(Session& session) {
     const Language language = session.LanguageFlag;
-    if (session.PriorityChannelError)
+    if (session.PriorityChannelError) {
         return ErrorBox(language, EmptyLine::Yes, {PriorityChannel});
-    if (session.OwnIdError)
+    }
+    if (session.OwnIdError) {
         return ErrorBox(language, EmptyLine::Yes, {OwnFleet, OwnId});
-    if (!session.TxCodeError)
+    }
+    if (!session.TxCodeError) {
         return std::nullopt;
+    }
     if (!AnyChannelUsesCode(session.Image)) {
         session.TxCodeError = false;
         return std::nullopt;

@@ -1,9 +1,9 @@
 #include "platform/QtSerialPort.h"
 
-#include <QFileInfo>
 #include <algorithm>
 #include <utility>
 
+#include "platform/DevicePresence.h"
 #include "platform/LowLatency.h"
 #include "platform/Toolkit.h"
 
@@ -35,7 +35,6 @@ bool QtSerialPort::Open() {
     if (device.empty()) {
         return false;
     }
-    device_ = device;
     port_.setPortName(ToQString(device));
     port_.setBaudRate(isProbe_ ? QSerialPort::Baud19200 : QSerialPort::Baud9600);
     port_.setStopBits(isProbe_ ? QSerialPort::OneStop : QSerialPort::TwoStop);
@@ -127,11 +126,12 @@ void QtSerialPort::RaiseReceiveEvent() const {
 }
 
 void QtSerialPort::OnError(QSerialPort::SerialPortError error) {
+    if (!port_.isOpen()) {
+        return;
+    }
     // A notification whose bytes were read or cleared before it came is reported in the same words as a device that is
     // gone.
-    const bool foundNothing = error == QSerialPort::ReadError && QFileInfo::exists(ToQString(device_));
-    const bool hasVanished = error == QSerialPort::ResourceError || (error == QSerialPort::ReadError && !foundNothing);
-    if (hasVanished && port_.isOpen()) {
+    if (error == QSerialPort::ResourceError || (error == QSerialPort::ReadError && !HasDevice(port_))) {
         Close(); // or the device that is gone reports the same error for ever
         QMetaObject::invokeMethod(
             &queue_, [this] { Raise(ReceiveReason::Error); }, Qt::QueuedConnection);

@@ -48,7 +48,6 @@ private:
     mutable bool hasArrived_ = false; // since the last receive event
     mutable bool isQueued_ = false;   // a receive event
     int number_ = 1;
-    std::string device_; // of the last opening
     bool isProbe_ = false;
     int threshold_ = 0;
     int readLength_ = 0;

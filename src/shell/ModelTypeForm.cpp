@@ -16,6 +16,7 @@
 #include "platform/Services.h"
 #include "platform/Toolkit.h"
 #include "shell/Icons.h"
+#include "text/CommonTexts.h"
 
 namespace zelvor {
 
@@ -26,7 +27,6 @@ constexpr int CaptionText = 93;
 constexpr int ModelText = 94;
 constexpr int FrequencyText = 95;
 
-constexpr TextPair WarningTitle{"Warning", "警告"};
 constexpr TextPair ClearedText{"Frequency will be cleared.", "频率数据将被清除。"};
 
 constexpr int ListWidth = 180;
@@ -71,7 +71,7 @@ void ModelTypeForm::BuildControls() {
     connect(cboModelType_, &QComboBox::currentIndexChanged, this, &ModelTypeForm::FillRanges);
 
     const DialogButtons buttons = MakeDialogButtons(*this, session_);
-    connect(buttons.cmdOK, &QPushButton::clicked, this, &ModelTypeForm::Accept);
+    connect(buttons.cmdOK, &QPushButton::clicked, this, &ModelTypeForm::TakeChoice);
     connect(buttons.cmdCancel, &QPushButton::clicked, this, &ModelTypeForm::reject);
     connect(buttons.cmdHelp, &QPushButton::clicked, this,
             [this] { services_.help.ShowTopic(HelpTopicPath(session_.LanguageFlag, "modelinfo.htm")); });
@@ -113,7 +113,7 @@ bool ModelTypeForm::eventFilter(QObject* watched, QEvent* event) {
     return QDialog::eventFilter(watched, event);
 }
 
-void ModelTypeForm::Accept() {
+void ModelTypeForm::TakeChoice() {
     const bool isChanged = cboModelType_->currentIndex() != loadedModel_ || cboFreq_->currentIndex() != loadedRange_;
     if (isChanged && ConfirmClearing()) {
         StoreVariant();
@@ -123,9 +123,9 @@ void ModelTypeForm::Accept() {
 
 bool ModelTypeForm::ConfirmClearing() {
     const Language language = session_.LanguageFlag;
-    return services_.messages.Show({std::string(WarningTitle.In(language)), std::string(ClearedText.In(language)),
-                                    MessageIcon::Exclamation, MessageButtons::OkCancel, MessageAnswer::Cancel}) ==
-           MessageAnswer::Ok;
+    return services_.messages.Show({std::string(commontexts::Warning.In(language)),
+                                    std::string(ClearedText.In(language)), MessageIcon::Exclamation,
+                                    MessageButtons::OkCancel, MessageAnswer::Cancel}) == MessageAnswer::Ok;
 }
 
 void ModelTypeForm::StoreVariant() {

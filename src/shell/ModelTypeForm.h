@@ -25,7 +25,7 @@ private:
     void BuildControls();
     void SelectVariantOfImage();
     void FillRanges(int modelIndex);
-    void Accept();
+    void TakeChoice();
     [[nodiscard]] bool ConfirmClearing();
     void StoreVariant();
 

@@ -14,13 +14,12 @@
 #include "platform/MessageBoxes.h"
 #include "platform/Services.h"
 #include "shell/DocumentWindows.h"
+#include "text/CommonTexts.h"
 
 namespace zelvor {
 
 namespace {
 
-constexpr TextPair WarningTitle{"Warning", "警告"};
-constexpr TextPair ErrorTitle{"Error", "错误"};
 constexpr TextPair ConfirmationTitle{"Confirmation", "确认"};
 constexpr TextPair ChangedTitle{"Zelvor", "警告"};
 
@@ -67,7 +66,7 @@ void SessionCommands::New() {
     CommitPendingEdit();
     const Language language = session_.LanguageFlag;
     const MessageAnswer answer =
-        services_.messages.Show({std::string(WarningTitle.In(language)), std::string(ClearedText.In(language)),
+        services_.messages.Show({std::string(commontexts::Warning.In(language)), std::string(ClearedText.In(language)),
                                  MessageIcon::Exclamation, MessageButtons::OkCancel, MessageAnswer::Cancel});
     if (answer != MessageAnswer::Ok) {
         return;
@@ -92,7 +91,7 @@ void SessionCommands::Open() {
     ResetWindows();
     const DataFileRead file = ReadDataFile(PathOf(*name));
     if (file.error == DataFileError::WrongType) {
-        services_.messages.Show({std::string(ErrorTitle.In(language)), std::string(WrongFileText.In(language)),
+        services_.messages.Show({std::string(commontexts::Error.In(language)), std::string(WrongFileText.In(language)),
                                  MessageIcon::Critical, MessageButtons::Ok, MessageAnswer::Ok});
     }
     if (file.error != DataFileError::None) {
@@ -127,9 +126,10 @@ void SessionCommands::Save() {
 
 bool SessionCommands::ConfirmOverwrite() {
     const Language language = session_.LanguageFlag;
-    return services_.messages.Show(
-               {std::string(WarningTitle.In(language)), std::string(OverwriteText.In(language)) + session_.BaseName(),
-                MessageIcon::Exclamation, MessageButtons::OkCancel, MessageAnswer::Cancel}) == MessageAnswer::Ok;
+    return services_.messages.Show({std::string(commontexts::Warning.In(language)),
+                                    std::string(OverwriteText.In(language)) + session_.BaseName(),
+                                    MessageIcon::Exclamation, MessageButtons::OkCancel, MessageAnswer::Cancel}) ==
+           MessageAnswer::Ok;
 }
 
 void SessionCommands::SaveAs() {
@@ -169,6 +169,21 @@ void SessionCommands::ChangeModel() {
         BecomeDefaultDocument();
     }
     windows_.ListGrid();
+}
+
+void SessionCommands::EditMemoryMap() {
+    CommitPendingEdit();
+    const auto before = ModelOf(session_);
+    // Before the dialog shows: no window may write into the image behind it.
+    windows_.UnloadEditors();
+    windows_.PlaceGrid();
+    windows_.EditMemory();
+    if (ModelOf(session_) != before) {
+        InitAllFrameData(session_.Image);
+        session_.TakeSnapshot();
+        windows_.DecodeImageToGrid();
+        BecomeDefaultDocument();
+    }
 }
 
 void SessionCommands::ResetWindows() {

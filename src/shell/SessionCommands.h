@@ -19,6 +19,7 @@ public:
     void Save();
     void SaveAs();
     void ChangeModel();
+    void EditMemoryMap();
 
     /// The exit question, and the offer to save a changed document. Returns whether the program may end.
     [[nodiscard]] bool QueryExit();

@@ -23,8 +23,9 @@ std::int64_t Magnitude(std::int64_t value) {
 
 /// factor is not negative.
 std::int64_t SaturatedProduct(std::int64_t value, std::int64_t factor) {
-    if (factor != 0 && Magnitude(value) > Largest / factor)
+    if (factor != 0 && Magnitude(value) > Largest / factor) {
         return value < 0 ? -Largest : Largest;
+    }
     return value * factor;
 }
 
@@ -35,16 +36,18 @@ bool IsDigit(char c) {
 /// The digits of value, filled up with leading zeros.
 std::string Digits(std::int64_t value, int atLeast) {
     std::string text = std::to_string(value);
-    if (text.size() < static_cast<std::size_t>(atLeast))
+    if (text.size() < static_cast<std::size_t>(atLeast)) {
         text.insert(0, static_cast<std::size_t>(atLeast) - text.size(), '0');
+    }
     return text;
 }
 
 /// Takes the digits at the start of text away and returns them.
 std::string_view TakeDigits(std::string_view& text) {
     std::size_t count = 0;
-    while (count < text.size() && IsDigit(text[count]))
+    while (count < text.size() && IsDigit(text[count])) {
         ++count;
+    }
     const std::string_view digits = text.substr(0, count);
     text.remove_prefix(count);
     return digits;
@@ -54,8 +57,9 @@ std::int64_t IntegerUnits(std::string_view digits) {
     std::int64_t value = 0;
     for (const char digit : digits) {
         value = value * 10 + (digit - '0');
-        if (value > LargestInteger)
+        if (value > LargestInteger) {
             return LargestInteger * PowersOfTen.back();
+        }
     }
     return value * PowersOfTen.back();
 }
@@ -63,8 +67,9 @@ std::int64_t IntegerUnits(std::string_view digits) {
 std::int64_t FractionUnits(std::string_view digits) {
     std::int64_t value = 0;
     int place = Decimal::Places;
-    for (const char digit : digits.substr(0, Decimal::Places))
+    for (const char digit : digits.substr(0, Decimal::Places)) {
         value += (digit - '0') * PowerOfTen(--place);
+    }
     return value;
 }
 
@@ -77,11 +82,13 @@ Decimal Decimal::Of(std::int64_t units, int places) {
 }
 
 Decimal Decimal::Leading(std::string_view text) {
-    while (!text.empty() && (text.front() == ' ' || text.front() == '\t'))
+    while (!text.empty() && (text.front() == ' ' || text.front() == '\t')) {
         text.remove_prefix(1);
+    }
     const bool negative = !text.empty() && text.front() == '-';
-    if (negative || (!text.empty() && text.front() == '+'))
+    if (negative || (!text.empty() && text.front() == '+')) {
         text.remove_prefix(1);
+    }
 
     std::int64_t units = IntegerUnits(TakeDigits(text));
     if (!text.empty() && text.front() == '.') {
@@ -101,8 +108,9 @@ std::string Decimal::Format(int integerDigits, int decimals) const {
         text += '.';
         text += Digits(magnitude % PowerOfTen(decimals), decimals);
     }
-    if (rounded < 0)
+    if (rounded < 0) {
         text.insert(0, 1, '-');
+    }
     return text;
 }
 
@@ -114,20 +122,22 @@ std::int64_t Decimal::Rounded(int places) const {
 
 Decimal Decimal::operator-(Decimal other) const {
     Decimal result;
-    if (other.units_ < 0 && units_ > Largest + other.units_)
+    if (other.units_ < 0 && units_ > Largest + other.units_) {
         result.units_ = Largest;
-    else if (other.units_ > 0 && units_ < -Largest + other.units_)
+    } else if (other.units_ > 0 && units_ < -Largest + other.units_) {
         result.units_ = -Largest;
-    else
+    } else {
         result.units_ = units_ - other.units_;
+    }
     return result;
 }
 
 Decimal Decimal::operator*(int factor) const {
     Decimal result;
     result.units_ = SaturatedProduct(units_, Magnitude(factor));
-    if (factor < 0)
+    if (factor < 0) {
         result.units_ = -result.units_;
+    }
     return result;
 }
 

@@ -291,10 +291,12 @@ static_assert(!Entries.back().english.empty() && !CommonEntries.back().empty());
 } // namespace
 
 std::string_view TableText(Language language, int n) {
-    if (n >= 1 && n <= EntryCount)
+    if (n >= 1 && n <= EntryCount) {
         return Entries[static_cast<std::size_t>(n - 1)].In(language);
-    if (n >= FirstCommonEntry && n < FirstCommonEntry + CommonEntryCount)
+    }
+    if (n >= FirstCommonEntry && n < FirstCommonEntry + CommonEntryCount) {
         return CommonEntries[static_cast<std::size_t>(n - FirstCommonEntry)];
+    }
     return {};
 }
 

@@ -8,7 +8,9 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <csignal>
+#include <cstdio>
 #include <fstream>
 #include <string>
 #include <vector>
@@ -137,20 +139,52 @@ TEST(Crash, InTheMiddleOfAWriteLeavesTheOldFileWhole) {
     EXPECT_EQ(FileContent(directory / "radio.dat"), "the old file");
 }
 
-TEST(AccessRights, RefuseAWriteIntoADirectoryThatMayNotBeChanged) {
+TEST(AccessRights, RefuseANewFileInADirectoryThatMayNotBeChanged) {
     const TestDirectory directory;
-    PutFile(directory / "radio.dat", "the old file");
-    fs::permissions(directory / "radio.dat", fs::perms(0666));
     fs::permissions(directory.Path(), fs::perms(0555));
     EXPECT_EQ(AnswerOfChild([&] {
                   if (!BecomeNobody() || std::ofstream(directory / "probe").is_open())
                       return NoFault;
-                  const bool old = WriteDataFile(directory / "radio.dat", SomeImage());
-                  const bool fresh = WriteDataFile(directory / "new.dat", SomeImage());
-                  return old || fresh ? Written : Refused;
+                  return WriteDataFile(directory / "new.dat", SomeImage()) ? Written : Refused;
               }),
               Refused);
-    EXPECT_EQ(FileContent(directory / "radio.dat"), "the old file");
+    EXPECT_TRUE(EntriesOf(directory.Path()).empty());
+}
+
+TEST(AccessRights, AllowAWriteToAWritableFileInADirectoryThatMayNotBeChanged) {
+    for (const std::size_t size : {12u, 1040u, 1100u}) {
+        const TestDirectory directory;
+        PutFile(directory / "radio.dat", std::string(size, 'o'));
+        fs::permissions(directory / "radio.dat", fs::perms(0666));
+        fs::permissions(directory.Path(), fs::perms(0555));
+        EXPECT_EQ(AnswerOfChild([&] {
+                      if (!BecomeNobody() || std::ofstream(directory / "probe").is_open())
+                          return NoFault;
+                      return WriteDataFile(directory / "radio.dat", SomeImage()) ? Written : Refused;
+                  }),
+                  Written);
+        const std::string content = FileContent(directory / "radio.dat");
+        EXPECT_EQ(content.substr(0, 6), "RQ6152");
+        EXPECT_EQ(content.substr(0x143, 2), "\x01\xFF"); // the byte that is not FF, and its neighbour
+        EXPECT_EQ(content.substr(std::min<std::size_t>(content.size(), 1040)), std::string(size > 1040 ? 60 : 0, 'o'));
+        EXPECT_EQ(EntriesOf(directory.Path()), (std::vector<std::string>{"radio.dat"}));
+    }
+}
+
+TEST(AccessRights, AllowAWriteToAWritableFileThatOnlyItsOwnerMayReplace) {
+    if (geteuid() != 0)
+        GTEST_SKIP() << "needs an administrator to make somebody else's file";
+    const TestDirectory directory;
+    PutFile(directory / "radio.dat", std::string(1040, 'o'));
+    fs::permissions(directory / "radio.dat", fs::perms(0666));
+    fs::permissions(directory.Path(), fs::perms(01777));
+    EXPECT_EQ(AnswerOfChild([&] {
+                  if (!BecomeNobody() || std::rename((directory / "radio.dat").c_str(), (directory / "x").c_str()) == 0)
+                      return NoFault;
+                  return WriteDataFile(directory / "radio.dat", SomeImage()) ? Written : Refused;
+              }),
+              Written);
+    EXPECT_EQ(ReadDataFile(directory / "radio.dat").image, SomeImage());
     EXPECT_EQ(EntriesOf(directory.Path()), (std::vector<std::string>{"radio.dat"}));
 }
 

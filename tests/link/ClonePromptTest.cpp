@@ -350,6 +350,24 @@ TEST_P(MissingPort, IsOpenedAgainByTheSendTickWhereItCameBack) {
     EXPECT_EQ(rig.TakeSent(), "02");
 }
 
+TEST_P(MissingPort, OpenedForThePromptIsClosedByTheRetryAndOpenedAnewByItsFirstTick) {
+    rig.ToEntry();
+    rig.Port().Vanish();
+    rig.ports.Present(1);
+    rig.messages.Expect(ConnectionPrompt(), [this] {
+        EXPECT_TRUE(rig.Port().IsOpen());
+        rig.Port().ClearLog();
+        return MessageAnswer::Retry;
+    });
+    rig.clock.Advance(500);
+    EXPECT_EQ(rig.Port().Log(), (std::vector<std::string>{"close", "clear input", "clear output"}));
+    EXPECT_FALSE(rig.Port().IsOpen());
+    rig.Port().ClearLog();
+    rig.clock.Advance(10);
+    EXPECT_EQ(rig.Port().Log(), (std::vector<std::string>{"number 1", "settings 9600,N,8,2", "open", "threshold 1",
+                                                          "send 50 52 4F 47 52 41 4D"}));
+}
+
 TEST_P(MissingPort, BroughtBackBehindThePromptTakesTheEndOfACancel) {
     rig.ToEntry();
     rig.Port().Vanish();

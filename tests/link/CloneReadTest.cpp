@@ -117,12 +117,12 @@ TEST_F(CloneRead, CompletesInOrder) {
     EXPECT_EQ(rig.Count("unload"), 1);
 }
 
-TEST_F(CloneRead, ClearsThePriorityChannelErrorAndNotTheOtherFlags) {
+TEST_F(CloneRead, ClearsTheFlagsThatStopAWrite) {
     rig.session.PriorityChannelError = rig.session.OwnIdError = rig.session.TxCodeError = true;
     Run();
     EXPECT_FALSE(rig.session.PriorityChannelError);
-    EXPECT_TRUE(rig.session.OwnIdError);
-    EXPECT_TRUE(rig.session.TxCodeError);
+    EXPECT_FALSE(rig.session.OwnIdError);
+    EXPECT_FALSE(rig.session.TxCodeError);
 }
 
 TEST_F(CloneRead, RaisesTheBarSixteenTimesAndNotForTheRepeatedBlock) {

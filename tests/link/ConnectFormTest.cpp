@@ -246,6 +246,26 @@ TEST_F(ConnectFormTest, TellsWhatItDoesInBothLanguages) {
     EXPECT_EQ(Status(), "正在写入...");
 }
 
+TEST_F(ConnectFormTest, SaysCompletedUnderTheBoxThatSaysSo) {
+    const auto statusAtBox = [this](TransferDirection direction, const Message& box) {
+        std::string status;
+        ShowActive(Load(direction));
+        fakes.messages.Expect(box, [&] {
+            status = Status();
+            return MessageAnswer::Ok;
+        });
+        Click(*form, "cmdOK");
+        fakes.clock.Advance(1000);
+        return status;
+    };
+    EXPECT_EQ(statusAtBox(TransferDirection::Write, WritingCompleted()), "Completed.");
+    EXPECT_EQ(statusAtBox(TransferDirection::Read, ReadingCompleted()), "Completed.");
+    session.LanguageFlag = Language::Chinese;
+    Message box = ReadingCompleted();
+    box.text = "读取完毕";
+    EXPECT_EQ(statusAtBox(TransferDirection::Read, box), "完毕。");
+}
+
 TEST_F(ConnectFormTest, KeepsItsSizeWhateverItTells) {
     ShowActive(Load(TransferDirection::Read));
     const QSize size = form->size();

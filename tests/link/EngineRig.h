@@ -73,6 +73,7 @@ public:
 
     void OnProgress(int value) override { events.push_back("progress " + std::to_string(value)); }
     void OnButtonsEnabled(bool enabled) override { events.emplace_back(enabled ? "buttons on" : "buttons off"); }
+    void OnTransferDone() override {}
     void OnReadCompleted() override;
     void OnWriteCompleted() override { events.emplace_back("write completed"); }
     void OnUnloadRequested() override { events.emplace_back(engine->Unload() ? "unload cancelled" : "unload"); }

@@ -27,6 +27,7 @@ public:
     }
     Bytes FarEndReceived() override { return ports_.Record("MSComm1").sent; }
     void Unplug() override { ports_.Port("MSComm1")->Vanish(); }
+    void PlugInAnother() override { ports_.Present(Number); }
     void HoldElsewhere() override { ports_.InUse(Number); }
     void ReleaseElsewhere() override { ports_.Present(Number); }
 
@@ -37,7 +38,7 @@ private:
 class RealPortBench : public PortBench {
 public:
     RealPortBench() {
-        user_.Link("COM3", terminal_.DevicePath());
+        user_.Link("COM3", terminal_->DevicePath());
         user_.Link("COM7", "/dev/no such device");
     }
 
@@ -46,9 +47,9 @@ public:
         return QTest::qWaitFor([&] { return condition(); }, 2000);
     }
     void Settle() override { QTest::qWait(20); }
-    void FarEndSends(const Bytes& bytes) override { terminal_.Write(bytes); }
+    void FarEndSends(const Bytes& bytes) override { terminal_->Write(bytes); }
     Bytes FarEndReceived() override {
-        const Bytes bytes = terminal_.Read();
+        const Bytes bytes = terminal_->Read();
         received_.insert(received_.end(), bytes.begin(), bytes.end());
         return received_;
     }
@@ -56,10 +57,15 @@ public:
         // The terminal's number may go to a test that runs beside this one.
         user_.Unlink("COM3");
         user_.Link("COM3", "/dev/no such device");
-        terminal_.Unplug();
+        terminal_->Unplug();
+    }
+    void PlugInAnother() override {
+        terminal_ = std::make_unique<PseudoTerminal>();
+        user_.Unlink("COM3");
+        user_.Link("COM3", terminal_->DevicePath());
     }
     void HoldElsewhere() override {
-        holder_.start(PORT_HOLDER, {QString::fromStdString(terminal_.DevicePath())});
+        holder_.start(PORT_HOLDER, {QString::fromStdString(terminal_->DevicePath())});
         ASSERT_TRUE(holder_.waitForReadyRead(5000)) << "The other program did not get the port";
         ASSERT_EQ(holder_.readLine(), "open\n");
     }
@@ -69,7 +75,7 @@ public:
     }
 
 private:
-    PseudoTerminal terminal_;
+    std::unique_ptr<PseudoTerminal> terminal_ = std::make_unique<PseudoTerminal>();
     UserPorts user_;
     QtSerialPorts ports_;
     QProcess holder_;

@@ -30,6 +30,8 @@ public:
     /// All bytes that the far end has received so far.
     virtual Bytes FarEndReceived() = 0;
     virtual void Unplug() = 0;
+    /// After Unplug: another device has the number now.
+    virtual void PlugInAnother() = 0;
     /// Another program opens the port, or lets go of it.
     virtual void HoldElsewhere() = 0;
     virtual void ReleaseElsewhere() = 0;

@@ -1,7 +1,11 @@
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
 #include <gtest/gtest.h>
 
 #include "PseudoTerminal.h"
 #include "UserPorts.h"
+#include "platform/QtSerialPort.h"
 #include "platform/QtSerialPorts.h"
 
 namespace zelvor {
@@ -62,6 +66,35 @@ TEST_F(QtSerialPortsOfTheUser, FollowALinkThatIsMadeWhileTheProgramRuns) {
                   QStringLiteral("/Zelvor/ports/COM20"));
     anew.Link("COM20", terminal_.DevicePath());
     EXPECT_TRUE(port->Open());
+}
+
+/// One device, under a name of its own.
+class NamedDevice : public SerialPorts {
+public:
+    explicit NamedDevice(std::string path) : path_(std::move(path)) {}
+    std::unique_ptr<SerialPort> Make(std::string_view objectName) override {
+        return std::make_unique<QtSerialPort>(*this, objectName);
+    }
+    PortDescription Describe(int) override { return {path_, {}}; }
+
+private:
+    std::string path_;
+};
+
+TEST(QtSerialPort, NoticesThatItsDeviceIsGoneWhereAnotherHasTakenItsName) {
+    const QTemporaryDir directory;
+    const QString name = directory.filePath("tty");
+    PseudoTerminal terminal;
+    const PseudoTerminal another;
+    ASSERT_TRUE(QFile::link(QString::fromStdString(terminal.DevicePath()), name));
+    NamedDevice ports(name.toStdString());
+    const auto port = ports.Make("MSComm1");
+    port->SetSettings(RadioPortSettings);
+    ASSERT_TRUE(port->Open());
+    ASSERT_TRUE(QFile::remove(name));
+    ASSERT_TRUE(QFile::link(QString::fromStdString(another.DevicePath()), name));
+    terminal.Unplug();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !port->IsOpen(); }, 2000));
 }
 
 } // namespace

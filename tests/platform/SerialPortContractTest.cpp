@@ -265,6 +265,21 @@ TEST_P(SerialPortContract, TellsOnceThatTheDeviceVanishedAndIsClosedThen) {
     EXPECT_FALSE(port->Open());
 }
 
+TEST_P(SerialPortContract, TellsThatTheDeviceVanishedAlsoWhereAnotherHasItsNumberAndOpensThatOne) {
+    const auto port = bench_->OpenPort();
+    Count(*port);
+    port->SetReceiveThreshold(1);
+    bench_->Unplug();
+    bench_->PlugInAnother();
+    EXPECT_TRUE(bench_->WaitFor([&] { return errors_ == 1; }));
+    EXPECT_FALSE(port->IsOpen());
+    ASSERT_TRUE(port->Open());
+    bench_->FarEndSends({1, 2});
+    EXPECT_TRUE(bench_->WaitFor([&] { return port->WaitingBytes() == 2; }));
+    EXPECT_EQ(port->Read(), (Bytes{1, 2}));
+    EXPECT_EQ(errors_, 1);
+}
+
 TEST_P(SerialPortContract, LetsTheHandlerDestroyAPortWhoseDeviceVanished) {
     auto port = bench_->OpenPort();
     port->OnReceive = [&](ReceiveReason) { port.reset(); };

@@ -1,0 +1,11 @@
+#include "platform/DevicePresence.h"
+
+#include <QSerialPortInfo>
+
+namespace zelvor {
+
+bool HasDevice(const QSerialPort& port) {
+    return !QSerialPortInfo(port).isNull();
+}
+
+} // namespace zelvor
