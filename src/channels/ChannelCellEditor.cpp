@@ -60,16 +60,12 @@ void ChannelCellEditor::OnCellClicked() {
 }
 
 void ChannelCellEditor::OnGridKey(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    if (IsEnterKey(*event)) {
         OnCellClicked(); // Enter moves the cursor by the same two rules
         event->accept();
         return;
     }
-    const QString text = event->text();
-    if (text.size() != 1 || (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))) {
-        return;
-    }
-    const QChar character = text.front().toUpper();
+    const QChar character = TypedCharacter(*event).toUpper();
     if (!DigitOrPoint(character).isNull() || IsToneLetter(character.unicode())) {
         OnGridCharacter(character);
         event->accept();
@@ -194,7 +190,6 @@ void ChannelCellEditor::OnTextEnded(bool restore) {
     LeaveText();
     grid_.setFocus();
     grid_.MoveRight();
-    owner_.updateFreeArea();
 }
 
 void ChannelCellEditor::LeaveText() {
@@ -203,6 +198,7 @@ void ChannelCellEditor::LeaveText() {
     }
     CommitText();
     HideEditors();
+    owner_.updateFreeArea();
 }
 
 void ChannelCellEditor::CommitText() {

@@ -67,6 +67,13 @@ public:
     /// Channel n (1 to 16) is the priority channel now.
     void ShowPriorityMark(int n);
 
+    // What the optional features tell, after they have set column 9 of the grid. Neither call acts as a click would.
+
+    /// ComPTTID offers these entries and shows one of them, or none where the channel is blank.
+    void OfferPttIds(const QStringList& entries, int entry);
+    /// The working texts take the PTT ID from the grid's row of the channel, where that is programmed.
+    void TakePttId();
+
     void CloseFromFrame() override;
     [[nodiscard]] std::string_view HelpPage() const override { return "chedit.htm"; }
 

@@ -200,6 +200,19 @@ void ChannelEditForm::ShowPriorityMark(int n) {
     chkPriorityChannel_->setChecked(chkPriorityChannel_->isEnabled() && n == channel_);
 }
 
+// --- PTT ID ----------------------------------------------------------------------------------------------------------
+
+void ChannelEditForm::OfferPttIds(const QStringList& entries, int entry) {
+    comPTTID_->SetEntries(entries);
+    comPTTID_->ShowEntry(HasReceive() ? entry : NoEntry);
+}
+
+void ChannelEditForm::TakePttId() {
+    if (windows_.grid && HasReceive()) {
+        Texts().PttIdText = FromQString(windows_.grid->CellText(channel_, column::PttId));
+    }
+}
+
 // --- What the grid tells ---------------------------------------------------------------------------------------------
 
 void ChannelEditForm::ShowLoadedRow() {

@@ -2,7 +2,9 @@
 
 #include <QLabel>
 #include <QPushButton>
+#include <cmath>
 
+#include "channels/CellTranslation.h"
 #include "channels/CellValues.h"
 #include "channels/ChannelCellEditor.h"
 #include "channels/ChannelEditForm.h"
@@ -35,12 +37,11 @@ constexpr TextPair HintText{"Enter or a click edits a cell, Up and Down step thr
                             "按回车键或单击可编辑单元格，上下方向键选择数值，Esc 键还原。"};
 
 std::vector<int> ColumnWidths(int gridWidth) {
-    constexpr int percents[] = {10, 11, 11, 11, 11, 8, 7, 8, 10};
+    constexpr double percents[] = {10, 11, 11, 11, 11, 8, 7, 8, 10, 11 + 100.0 / 110};
     std::vector<int> widths;
-    for (const int percent : percents) {
-        widths.push_back(PixelsOfTwips(gridWidth * percent / 100));
+    for (const double percent : percents) {
+        widths.push_back(static_cast<int>(std::lround(gridWidth * percent / 100 / TwipsPerPixel)));
     }
-    widths.push_back(PixelsOfTwips(gridWidth * 11 / 100 + gridWidth / 110));
     return widths;
 }
 
@@ -50,11 +51,11 @@ ChannelForm::ChannelForm(Session& session, Services& services, ChannelWindows& w
     : ChildForm(ChildWindow::Channels, "ChannelForm", WindowSize, parent), session_(session), services_(services),
       windows_(windows) {
     windows_.grid = this;
-    ToneListDec = BuildToneList(session_.LanguageFlag);
-    ToneListEnc = BuildToneList(session_.LanguageFlag);
+    BuildToneLists();
     session_.EditChannel = 1;
     BuildGrid();
     BuildControls();
+    SetCaption(" " + ToQString(session_.LoadText(40)));
     SetTexts();
     setFocusProxy(channelGrid_);
 }
@@ -106,9 +107,13 @@ void ChannelForm::BuildControls() {
             [this] { services_.help.ShowTopic(HelpTopicPath(session_.LanguageFlag, HelpPage())); });
 }
 
+void ChannelForm::BuildToneLists() {
+    ToneListDec = BuildToneList(session_.LanguageFlag);
+    ToneListEnc = BuildToneList(session_.LanguageFlag);
+}
+
 void ChannelForm::SetTexts() {
     const auto text = [this](int n) { return ToQString(session_.LoadText(n)); };
-    SetCaption(" " + text(40));
     cmdChannelEdit_->setText(text(59));
     cmdClose_->setText(text(75));
     cmdHelp_->setText(text(76));
@@ -122,6 +127,26 @@ void ChannelForm::SetTexts() {
     channelGrid_->FitCells(ColumnWidths(GridPlace.width()));
     channelGrid_->setAccessibleName(text(195).trimmed());
     labBlankChannel_->setAccessibleName(text(78));
+}
+
+void ChannelForm::SwitchLanguage() {
+    SetTexts();
+    SetCaption(ToQString(NewDocumentChannelCaption(session_.LanguageFlag)));
+    TranslateCells();
+    BuildToneLists();
+}
+
+void ChannelForm::TranslateCells() {
+    for (int k = 1; k <= address::ChannelCount; ++k) {
+        if (channelGrid_->Text(k, column::Rx).isEmpty()) {
+            continue;
+        }
+        for (int column = 1; column <= column::Count; ++column) {
+            const std::string text = FromQString(channelGrid_->Text(k, column));
+            channelGrid_->SetText(k, column,
+                                  ToQString(TranslateCell(column, text, session_.Image, k, session_.LanguageFlag)));
+        }
+    }
 }
 
 void ChannelForm::DecodeImageToGrid() {

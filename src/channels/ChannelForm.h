@@ -40,6 +40,9 @@ public:
     void ShowChannelInCaption(int n);
     /// Shows the bytes that the blank rows leave.
     void UpdateFreeArea();
+    /// Brings the window into the language that the program has changed to: captions, words in the cells, tone lists,
+    /// and the title of a new document. The image stays.
+    void SwitchLanguage();
     /// Hides txtInputBox and comInputStep without committing them.
     void HideEditors();
 
@@ -56,7 +59,9 @@ signals:
 private:
     void BuildGrid();
     void BuildControls();
+    void BuildToneLists();
     void SetTexts();
+    void TranslateCells();
     void OnCursorMoved(int row, int column);
     void OnChannelEdit();
     void OnClose();

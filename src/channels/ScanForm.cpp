@@ -17,6 +17,7 @@
 #include "platform/MessageBoxes.h"
 #include "platform/Services.h"
 #include "platform/Toolkit.h"
+#include "text/CommonTexts.h"
 #include "text/Decimal.h"
 
 namespace zelvor {
@@ -28,7 +29,6 @@ constexpr QSize WindowSize{5175, 5895}; // twips
 constexpr int CaptionNumber = 142;
 constexpr int PriorityChannelDigits = 2;
 
-constexpr TextPair ErrorTitle{"Error", "错误"};
 constexpr TextPair ErrorText{"Channel must be selected\nfrom the programmed Channel's",
                              "必须从已编程的信道中\n选择信道。"};
 
@@ -163,11 +163,8 @@ void ScanForm::Load() {
 
     const DataImage& image = session_.Image;
     const std::uint8_t revertChannel = image.At(scan::RevertChannel.address);
-    const std::uint8_t mode = image.At(scan::PriorityMode.address);
-    if (mode == 0xFF) {
-        cboPriority_->setCurrentIndex(0);
-    } else if (mode < modes.size()) {
-        cboPriority_->setCurrentIndex(mode);
+    if (const auto mode = scan::EntryOf(scan::PriorityMode, image.At(scan::PriorityMode.address))) {
+        cboPriority_->setCurrentIndex(*mode);
     } else {
         ShowMode(std::nullopt);
     }
@@ -291,7 +288,7 @@ int ScanForm::AcceptedPriorityChannel() {
 }
 
 void ScanForm::ShowError() {
-    services_.messages.Show({std::string(ErrorTitle.In(session_.LanguageFlag)),
+    services_.messages.Show({std::string(commontexts::Error.In(session_.LanguageFlag)),
                              std::string(ErrorText.In(session_.LanguageFlag)), MessageIcon::Critical,
                              MessageButtons::Ok});
 }

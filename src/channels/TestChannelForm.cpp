@@ -13,6 +13,7 @@
 #include "platform/MessageBoxes.h"
 #include "platform/Services.h"
 #include "platform/Toolkit.h"
+#include "text/CommonTexts.h"
 
 namespace zelvor {
 
@@ -31,7 +32,6 @@ constexpr int TransmitColumn = 2;
 constexpr int FrequencyLength = 9; // "000.00000"
 
 constexpr TextPair GridFormat{"^Channel|> RX [MHz]|> TX [MHz]", "^信道|> 接收 [MHz]|> 发射 [MHz]"};
-constexpr TextPair WarningTitle{"Warning", "警告"};
 constexpr TextPair ChangedText{
     "Test Frequency data have changed.\nplease execute write to radio before entering into Test Mode.",
     "测试频率数据已更改。\n在进入测试模式之前执行\"向对讲机写入数据\"。"};
@@ -188,7 +188,7 @@ void TestChannelForm::EmptyPair(int row, int column) {
 
 void TestChannelForm::StorePair(int row, int column) {
     const QString result =
-        ToQString(EnterFrequency(session_, services_, FromQString(edit_->Text()), WarningTitle).text);
+        ToQString(EnterFrequency(session_, services_, FromQString(edit_->Text()), commontexts::Warning).text);
     edit_->PutText(result);
     if (msgTestFreq_->Text(row, OtherColumn(column)).isEmpty()) {
         msgTestFreq_->SetText(row, OtherColumn(column), result);
@@ -202,7 +202,7 @@ void TestChannelForm::OnClose() {
     CommitPendingEdit();
     if (TestFrequencyBlock(session_.Image) != SavedBlock) {
         const Language language = session_.LanguageFlag;
-        services_.messages.Show({std::string(WarningTitle.In(language)), std::string(ChangedText.In(language)),
+        services_.messages.Show({std::string(commontexts::Warning.In(language)), std::string(ChangedText.In(language)),
                                  MessageIcon::Exclamation, MessageButtons::Ok, MessageAnswer::Ok});
     }
     emit UnloadRequested();

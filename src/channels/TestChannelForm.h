@@ -47,11 +47,11 @@ private:
 
     Session& session_;
     Services& services_;
-    EditGrid* msgTestFreq_;
-    CellTextEditor* txtTestFreq_;
-    TextCellEdit* edit_;
-    QPushButton* cmdClose_;
-    QPushButton* cmdHelp_;
+    EditGrid* msgTestFreq_ = nullptr;
+    CellTextEditor* txtTestFreq_ = nullptr;
+    TextCellEdit* edit_ = nullptr;
+    QPushButton* cmdClose_ = nullptr;
+    QPushButton* cmdHelp_ = nullptr;
     TestFrequencyBytes SavedBlock; // as it was when the window opened
     bool SkipCellWrite = false;    // the default pairs were filled in, over the emptied cell too
 };

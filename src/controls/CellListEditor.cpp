@@ -3,11 +3,20 @@
 #include <QAbstractItemView>
 #include <QFocusEvent>
 #include <QKeyEvent>
+#include <QStyleOptionComboBox>
 #include <QWheelEvent>
+#include <algorithm>
 
 #include "controls/EditGrid.h"
 
 namespace zelvor {
+
+namespace {
+
+constexpr int EditMargin = 2; // the toolkit's own, on either side of a text box's text
+constexpr int CaretWidth = 1;
+
+} // namespace
 
 CellListEditor::CellListEditor(QWidget* parent) : QComboBox(parent), edit_(new FilteredLineEdit) {
     setLineEdit(edit_);
@@ -21,16 +30,28 @@ CellListEditor::CellListEditor(QWidget* parent) : QComboBox(parent), edit_(new F
 
 void CellListEditor::ShowOver(const EditGrid& grid, const QStringList& entries, const QString& text, bool typing) {
     const QRect cell = grid.CellRect(grid.Row(), grid.Column());
+    setAccessibleName(grid.ColumnName(grid.Column()));
     clear();
     addItems(entries);
     PutText(text);
     edit_->setReadOnly(!typing);
-    setGeometry(cell.x(), cell.y(), cell.width(), sizeHint().height());
+    setGeometry(cell.x(), cell.y(), std::max(cell.width(), ReadableWidth()), sizeHint().height());
     setEnabled(true);
     show();
     raise();
     setFocus();
     edit_->selectAll();
+}
+
+int CellListEditor::ReadableWidth() const {
+    int text = 0;
+    for (int i = 0; i < count(); ++i) {
+        text = std::max(text, fontMetrics().horizontalAdvance(itemText(i)));
+    }
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const QRect field = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    return text + 2 * EditMargin + CaretWidth + width() - field.width();
 }
 
 void CellListEditor::PutText(const QString& text) {

@@ -16,8 +16,9 @@ class CellListEditor : public QComboBox {
 public:
     explicit CellListEditor(QWidget* parent);
 
-    /// Covers the grid's current cell (the height is the list's own) and takes the focus. Choosing an entry from code
-    /// here is no choice of the user's: Chosen is not raised.
+    /// Covers the grid's current cell and takes the focus. The height is the list's own, and where an entry would be
+    /// cut off in the cell's width, the width too. Choosing an entry from code here is no choice of the user's: Chosen
+    /// is not raised.
     void ShowOver(const EditGrid& grid, const QStringList& entries, const QString& text, bool typing);
 
     /// Enters a character as the user would.
@@ -42,6 +43,9 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
+    /// The width in which no entry is cut off.
+    [[nodiscard]] int ReadableWidth() const;
+
     FilteredLineEdit* edit_;
     QChar enterLetter_;
 };

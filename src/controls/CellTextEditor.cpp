@@ -16,6 +16,7 @@ CellTextEditor::CellTextEditor(QWidget* parent) : FilteredLineEdit(parent) {
 }
 
 void CellTextEditor::ShowOver(const EditGrid& grid, const QString& text) {
+    setAccessibleName(grid.ColumnName(grid.Column()));
     const Qt::Alignment alignment = grid.ColumnAlignment(grid.Column());
     setAlignment(alignment);
     setTextMargins(0, 0, alignment.testFlag(Qt::AlignRight) ? CellMargin - FrameMargin : 0, 0);

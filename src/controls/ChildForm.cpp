@@ -1,8 +1,10 @@
 #include "controls/ChildForm.h"
 
+#include <QApplication>
 #include <QScrollBar>
 #include <algorithm>
 
+#include "controls/AccessKeys.h"
 #include "platform/Toolkit.h"
 
 namespace zelvor {
@@ -29,6 +31,13 @@ ChildForm::ChildForm(ChildWindow window, std::string_view objectName, QSize cont
     vScroll1_->setFocusPolicy(Qt::NoFocus);
     connect(hScroll1_, &QScrollBar::valueChanged, this, [this](int value) { picture1_->move(-value, picture1_->y()); });
     connect(vScroll1_, &QScrollBar::valueChanged, this, [this](int value) { picture1_->move(picture1_->x(), -value); });
+    new AccessKeys(*this);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+        // What the mouse is on stays under it.
+        if (now != nullptr && picture1_->isAncestorOf(now) && QApplication::mouseButtons() == Qt::NoButton) {
+            ScrollTo(*now);
+        }
+    });
     resize(contentSize_);
     LayOutScrollBars();
 }
@@ -51,6 +60,18 @@ void ChildForm::resizeEvent(QResizeEvent* event) {
     if (!isMinimized()) {
         LayOutScrollBars();
     }
+}
+
+/// Brings a control of the content into view; one that is larger than the view leaves it as it is.
+void ChildForm::ScrollTo(const QWidget& control) {
+    const auto bring = [](QScrollBar& bar, int first, int last) {
+        if (last - first <= bar.pageStep()) {
+            bar.setValue(std::clamp(bar.value(), last - bar.pageStep(), first));
+        }
+    };
+    const QRect place(control.mapTo(picture1_, QPoint()), control.size());
+    bring(*hScroll1_, place.left(), place.right() + 1);
+    bring(*vScroll1_, place.top(), place.bottom() + 1);
 }
 
 void ChildForm::LayOutScrollBars() {

@@ -12,8 +12,9 @@ class QScrollBar;
 namespace zelvor {
 
 /// A child window of the main window, as every editing dialog is one: a content panel of fixed size that scrolls when
-/// the window is smaller, and the close rules. The main window hosts it in a ChildFrame and does what its signals ask:
-/// it clears the window's ChildOpen entry, hides its entry of the window list, and hides or destroys the window.
+/// the window is smaller and follows the focus, and the close rules. The main window hosts it in a ChildFrame and does
+/// what its signals ask: it clears the window's ChildOpen entry, hides its entry of the window list, and hides or
+/// destroys the window.
 class ChildForm : public QWidget {
     Q_OBJECT
 
@@ -32,6 +33,11 @@ public:
     /// The page of the help that tells about this window, such as "chinfo.htm".
     [[nodiscard]] virtual std::string_view HelpPage() const = 0;
 
+    /// Whether its frame is that of a tool window, which can neither be minimised nor maximised.
+    [[nodiscard]] virtual bool IsToolWindow() const { return false; }
+    /// Whether the window opens at the top left of the main window's client area; others open where there is room.
+    [[nodiscard]] virtual bool OpensAtOrigin() const { return false; }
+
     [[nodiscard]] QSize sizeHint() const override;
 
 signals:
@@ -47,6 +53,7 @@ protected:
 
 private:
     void LayOutScrollBars();
+    void ScrollTo(const QWidget& control);
 
     const ChildWindow window_;
     const QSize contentSize_; // logical pixels

@@ -19,8 +19,11 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
+    void RestoreMaximised();
+
     ChildForm* form_;
 };
 

@@ -9,6 +9,7 @@
 #include <QStyledItemDelegate>
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 #include <utility>
 
 namespace zelvor {
@@ -121,20 +122,30 @@ void EditGrid::SetColumnAlignment(int column, Qt::Alignment alignment) {
     }
 }
 
+QString EditGrid::ColumnName(int column) const {
+    const QTableWidgetItem* header = horizontalHeaderItem(column - 1);
+    return header == nullptr ? QString() : header->text().trimmed();
+}
+
 Qt::Alignment EditGrid::ColumnAlignment(int column) const {
     const QTableWidgetItem* cell = item(0, column - 1);
     return cell == nullptr ? Qt::Alignment(Qt::AlignCenter) : Qt::Alignment(cell->textAlignment());
 }
 
-void EditGrid::FitCells(const std::vector<int>& widths) {
+void EditGrid::FitCells(const std::vector<int>& widths, int ownRowHeight) {
     verticalHeader()->setFixedWidth(widths.front());
     for (int column = 0; column < columnCount(); ++column) {
         setColumnWidth(column, widths[static_cast<std::size_t>(column) + 1]);
     }
+    if (ownRowHeight == 0) {
+        // A rest at the right would look like a column without a caption.
+        const int taken = std::accumulate(widths.begin(), widths.end(), frameWidth());
+        setMask(QRect(0, 0, std::min(taken, width()), height()));
+    }
     const int inner = height() - 2 * frameWidth();
-    const int rowHeight = inner / (rowCount() + 1);
+    const int rowHeight = ownRowHeight > 0 ? ownRowHeight : inner / (rowCount() + 1);
     verticalHeader()->setDefaultSectionSize(rowHeight);
-    horizontalHeader()->setFixedHeight(inner - rowHeight * rowCount());
+    horizontalHeader()->setFixedHeight(ownRowHeight > 0 ? ownRowHeight : inner - rowHeight * rowCount());
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     corner_->setGeometry(frameWidth(), frameWidth(), widths.front(), horizontalHeader()->height());
     FitHeaderFont();
@@ -219,7 +230,11 @@ bool IsEnterKey(const QKeyEvent& event) {
 QChar TypedCharacter(const QKeyEvent& event) {
     constexpr auto commands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
     const QString text = event.text();
-    return text.size() == 1 && !(event.modifiers() & commands) ? text.front() : QChar();
+    if (text.size() != 1 || event.modifiers() & commands) {
+        return {};
+    }
+    const bool padPoint = event.key() == Qt::Key_Comma && event.modifiers().testFlag(Qt::KeypadModifier);
+    return padPoint ? QChar(u'.') : text.front();
 }
 
 } // namespace zelvor

@@ -22,8 +22,8 @@ public:
     /// follow. A caption's first character places it and its column's cells: "^" in the middle, ">" at the right.
     void SetFormat(const QString& format, const QStringList& rowCaptions);
     /// Widths in logical pixels: the header column's, then one a column. The height is shared out among header and
-    /// rows.
-    void FitCells(const std::vector<int>& widths);
+    /// rows, and nothing is shown behind the last column, unless rows have a height of their own: then they scroll.
+    void FitCells(const std::vector<int>& widths, int ownRowHeight = 0);
 
     [[nodiscard]] QString Text(int row, int column) const;
     void SetText(int row, int column, const QString& text);
@@ -33,6 +33,8 @@ public:
     void MoveTo(int row, int column);
     /// One cell to the right, staying in the row's last column.
     void MoveRight();
+    /// A column's caption without the blanks round it.
+    [[nodiscard]] QString ColumnName(int column) const;
     /// How the texts of a column lie in their cells.
     [[nodiscard]] Qt::Alignment ColumnAlignment(int column) const;
     /// The cell's rectangle in the coordinates of the grid's parent.
@@ -61,7 +63,8 @@ private:
     QModelIndex pressed_;
 };
 
-/// What a key pressed on a grid asks for: Enter of either block, or one character typed without a command key.
+/// What a key pressed on a grid asks for: Enter of either block, or one character typed without a command key. The
+/// numeric pad's decimal key is a point, whatever is printed on it.
 [[nodiscard]] bool IsEnterKey(const QKeyEvent& event);
 [[nodiscard]] QChar TypedCharacter(const QKeyEvent& event); // null for any other key
 

@@ -11,11 +11,14 @@ TextCellEdit::TextCellEdit(EditGrid& grid, CellTextEditor& editor) : QObject(&ed
     connect(&editor_, &QLineEdit::textChanged, this, [this](const QString& text) {
         if (open_) {
             grid_.SetText(row_, column_, text);
+            emit Changed(text);
         }
     });
     connect(&editor_, &FilteredLineEdit::EnterPressed, this, &TextCellEdit::OnEnter);
     connect(&editor_, &FilteredLineEdit::EscapePressed, this, &TextCellEdit::OnEscape);
     connect(&editor_, &FilteredLineEdit::FocusLeft, this, &TextCellEdit::OnFocusLeft);
+    // The editor does not travel with its cell.
+    connect(&grid_, &EditGrid::Scrolled, this, &TextCellEdit::OnEscape);
 }
 
 void TextCellEdit::Open() {
@@ -25,6 +28,7 @@ void TextCellEdit::Open() {
     row_ = grid_.Row();
     column_ = grid_.Column();
     CellText = grid_.Text(row_, column_);
+    grid_.scrollToItem(grid_.currentItem());
     editor_.ShowOver(grid_, CellText);
     const int length = static_cast<int>(CellText.size());
     editor_.setSelection(length, -length);

@@ -8,8 +8,9 @@ namespace zelvor {
 class CellTextEditor;
 class EditGrid;
 
-/// The edit of one cell with a text box over it: what is typed shows in the cell at once, and Escape brings the cell's
-/// own text back. The window of the grid opens it, and stores what was entered when a signal asks for it.
+/// The edit of one cell with a text box over it: what is typed shows in the cell at once; Escape, and scrolling the
+/// grid, bring the cell's own text back. The window of the grid opens it, and stores what was entered when a signal
+/// asks for it.
 class TextCellEdit : public QObject {
     Q_OBJECT
 
@@ -35,6 +36,8 @@ public:
     void PutText(const QString& text);
 
 signals:
+    /// The text was changed, by key, paste or code; the cell shows it already. Neither opening nor Escape raises it.
+    void Changed(const QString& text);
     /// Enter: who listens stores the text and closes the edit.
     void Entered();
     /// The focus went elsewhere; the editor is hidden after the signal.

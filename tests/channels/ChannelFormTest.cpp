@@ -37,7 +37,7 @@ TEST_F(ChannelFormTest, TheGridHasNineColumnsAndSixteenNumberedRows) {
     form = std::make_unique<ChannelForm>(session, services.Get(), windows);
     const char* headers[] = {"RX Frequency", "TX Frequency", "QT/DQT Dec", "QT/DQT Enc", "TX Power",
                              "W/N",          "Scan Add",     "Opt Signal", "PTT ID"};
-    const int widths[] = {78, 78, 78, 78, 56, 49, 56, 71, 84};
+    const int widths[] = {78, 78, 78, 78, 57, 50, 57, 71, 85};
     for (int column = 0; column < 9; ++column) {
         EXPECT_EQ(Grid().horizontalHeaderItem(column)->text(), headers[column]);
         EXPECT_EQ(Grid().columnWidth(column), widths[column]) << column;

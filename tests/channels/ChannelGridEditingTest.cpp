@@ -209,6 +209,16 @@ TEST_F(ChannelFormTest, TheNumericPadTypesFrequencies) {
     EXPECT_EQ(Cell(1, 1), "145.50000");
 }
 
+TEST_F(ChannelFormTest, TheNumericPadsDecimalKeyOpensACellWithAPointOnEveryKeyboard) {
+    for (const Qt::Key decimal : {Qt::Key_Period, Qt::Key_Comma}) {
+        Show();
+        QTest::keyClick(&Grid(), decimal, Qt::KeypadModifier);
+        ASSERT_TRUE(TextBox().isVisible());
+        EXPECT_EQ(TextBox().text(), ".");
+        form.reset();
+    }
+}
+
 TEST_F(ChannelFormTest, LeavingTheTextBoxForAnotherCellCommitsIt) {
     Show();
     Type("145");
@@ -217,6 +227,19 @@ TEST_F(ChannelFormTest, LeavingTheTextBoxForAnotherCellCommitsIt) {
     ExpectCursor(4, 1);
     EXPECT_TRUE(TextBox().isVisible()); // over the clicked cell
     EXPECT_EQ(TextBox().text(), "");
+}
+
+TEST_F(ChannelFormTest, LeavingTheTextBoxForAButtonBringsTheFreeAreaUpToDate) {
+    Show();
+    Type("145");
+    Find<QPushButton>("cmdHelp").setFocus();
+    EXPECT_EQ(Find<QLabel>("LabBlankChannel").text(), "240");
+    GoTo(1, 1);
+    Grid().setFocus();
+    Key(Qt::Key_Return);
+    Key(Qt::Key_Delete);
+    Find<QPushButton>("cmdHelp").setFocus();
+    EXPECT_EQ(Find<QLabel>("LabBlankChannel").text(), "256");
 }
 
 TEST_F(ChannelFormTest, AClickOnABlankRowOpensItsReceiveCell) {

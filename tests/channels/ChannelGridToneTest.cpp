@@ -206,6 +206,50 @@ TEST_F(ChannelGridToneTest, TheListOpensAndAClickOnAnEntryStoresIt) {
     EXPECT_TRUE(List().isVisible());
 }
 
+TEST_F(ChannelGridToneTest, NoEntryOfAnyListIsCutOff) {
+    struct Case {
+        Language language;
+        std::uint8_t pttIdType;
+    };
+    for (const Case& shown : {Case{Language::English, 0}, Case{Language::English, 1}, Case{Language::Chinese, 1}}) {
+        session.Image.Set(0x133, shown.pttIdType);
+        Show(shown.language);
+        for (int column = 3; column <= 9; ++column) {
+            GoTo(1, column);
+            Key(Qt::Key_Return);
+            const int room = List().lineEdit()->width() - 4; // less the box's own margins
+            for (int i = 0; i < List().count(); ++i) {
+                EXPECT_LE(List().fontMetrics().horizontalAdvance(List().itemText(i)), room)
+                    << FromQString(List().itemText(i));
+            }
+            List().showPopup();
+            EXPECT_LE(List().view()->sizeHintForColumn(0), List().view()->viewport()->width()) << column;
+            List().hidePopup();
+            Key(Qt::Key_Return);
+        }
+        form.reset();
+    }
+}
+
+TEST_F(ChannelGridToneTest, AListWhoseEntriesFitIsAsWideAsItsCell) {
+    Show();
+    GoTo(1, 3);
+    Key(Qt::Key_Return);
+    EXPECT_EQ(List().width(), 78);
+}
+
+TEST_F(ChannelGridToneTest, AnOpenEditorIsNamedAfterItsColumn) {
+    Show();
+    GoTo(1, 2);
+    Key(Qt::Key_Return);
+    EXPECT_EQ(TextBox().accessibleName(), "TX Frequency");
+    GoTo(1, 6);
+    form->HideEditors();
+    Grid().setFocus();
+    Key(Qt::Key_Return);
+    EXPECT_EQ(List().accessibleName(), "W/N");
+}
+
 TEST_F(ChannelGridToneTest, KeysTypedInColumnsFiveToNineAreRefused) {
     Show();
     for (int column = 5; column <= 9; ++column) {

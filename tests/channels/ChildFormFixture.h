@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 #include <memory>
 #include <random>
+#include <type_traits>
 #include <vector>
 
 #include "channels/ChannelWindows.h"
@@ -30,7 +31,11 @@ protected:
     void Load(Language language = Language::English) {
         session.LanguageFlag = language;
         form.reset();
-        form = std::make_unique<Form>(session, services.Get(), windows);
+        if constexpr (std::is_constructible_v<Form, Session&, Services&, ChannelWindows&>) {
+            form = std::make_unique<Form>(session, services.Get(), windows);
+        } else {
+            form = std::make_unique<Form>(session, services.Get());
+        }
     }
     /// The same, active, with the focus where the window puts it.
     void Show(Language language = Language::English) {
@@ -38,7 +43,9 @@ protected:
         form->show();
         form->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
-        form->setFocus();
+        if (form->focusProxy() != nullptr) {
+            form->setFocus();
+        }
     }
 
     template<typename Control>

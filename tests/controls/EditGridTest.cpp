@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "controls/CellTextEditor.h"
+#include "controls/TextCellEdit.h"
 
 namespace zelvor {
 namespace {
@@ -41,6 +42,40 @@ TEST_F(EditGridTest, CountsRowsAndColumnsFromOne) {
 TEST_F(EditGridTest, SharesItsHeightOutAmongHeaderAndRows) {
     EXPECT_EQ(grid.rowHeight(0), (100 - 2 * grid.frameWidth()) / 4);
     EXPECT_EQ(grid.verticalScrollBar()->maximum(), 0);
+}
+
+TEST_F(EditGridTest, NothingIsShownBehindItsLastColumn) {
+    EXPECT_EQ(grid.width(), 300);
+    EXPECT_EQ(grid.mask().boundingRect(), QRect(0, 0, grid.frameWidth() + 260, 100));
+    grid.FitCells({60, 200, 200}); // more than there is room for
+    EXPECT_EQ(grid.mask().boundingRect(), QRect(0, 0, 300, 100));
+}
+
+TEST_F(EditGridTest, RowsWithAHeightOfTheirOwnScroll) {
+    grid.FitCells({60, 100, 100}, 40);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(grid.horizontalHeader()->height(), 40);
+    EXPECT_EQ(grid.rowHeight(0), 40);
+    EXPECT_EQ(grid.rowHeight(2), 40);
+    EXPECT_GT(grid.verticalScrollBar()->maximum(), 0);
+    const QSignalSpy scrolled(&grid, &EditGrid::Scrolled);
+    grid.verticalScrollBar()->setValue(10);
+    EXPECT_EQ(scrolled.count(), 1);
+}
+
+TEST_F(EditGridTest, ScrollingBringsTheTextOfAnEditedCellBack) {
+    CellTextEditor editor(&panel);
+    TextCellEdit edit(grid, editor);
+    grid.FitCells({60, 100, 100}, 40);
+    QCoreApplication::processEvents();
+    grid.SetText(1, 1, "145");
+    edit.Open();
+    edit.PutText("146");
+    ASSERT_EQ(grid.Text(1, 1), "146");
+    grid.verticalScrollBar()->setValue(10);
+    EXPECT_EQ(grid.Text(1, 1), "145");
+    EXPECT_FALSE(edit.IsOpen());
+    EXPECT_FALSE(editor.isVisible());
 }
 
 TEST_F(EditGridTest, TellsWhereTheCursorWent) {
