@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QUrl>
 #include <utility>
 
 #include "platform/HelpTopic.h"
@@ -11,9 +10,6 @@
 namespace zelvor {
 
 namespace {
-
-constexpr TextPair WindowTitle{"Zelvor Help", "Zelvor 帮助"};
-constexpr QSize WindowSize{720, 560};
 
 QStringList InstalledFolders() {
     const QString program = QCoreApplication::applicationDirPath();
@@ -33,38 +29,26 @@ QtHelpViewer::~QtHelpViewer() {
 
 void QtHelpViewer::ShowTopic(std::string_view path) {
     const auto topic = ParseHelpTopic(path);
-    const QString file = topic ? FindPage(ToQString(PagePathOf(*topic))) : QString();
-    if (file.isEmpty()) {
+    const QString folder = topic ? FolderWith(ToQString(PagePathOf(*topic))) : QString();
+    if (folder.isEmpty()) {
         return;
     }
-    QTextBrowser& window = Window(topic->language);
-    window.setSource(QUrl::fromLocalFile(file));
-    window.show();
-    window.raise();
-    window.activateWindow();
+    if (!window_) {
+        window_ = new HelpWindow;
+    }
+    window_->ShowPage(folder, topic->language, ToQString(topic->page));
+    window_->show();
+    window_->raise();
+    window_->activateWindow();
 }
 
-QString QtHelpViewer::FindPage(const QString& page) const {
+QString QtHelpViewer::FolderWith(const QString& page) const {
     for (const QString& folder : folders_) {
-        const QFileInfo file(folder + u'/' + page);
-        if (file.isFile()) {
-            return file.canonicalFilePath();
+        if (QFileInfo(folder + u'/' + page).isFile()) {
+            return QFileInfo(folder).canonicalFilePath();
         }
     }
     return {};
-}
-
-QTextBrowser& QtHelpViewer::Window(Language language) {
-    if (!window_) {
-        window_ = new QTextBrowser;
-        window_->setObjectName(QStringLiteral("HelpWindow"));
-        window_->setAttribute(Qt::WA_QuitOnClose, false);
-        window_->resize(WindowSize);
-    }
-    const QString title = ToQString(WindowTitle.In(language));
-    window_->setWindowTitle(title);
-    window_->setAccessibleName(title);
-    return *window_;
 }
 
 } // namespace zelvor

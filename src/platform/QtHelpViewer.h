@@ -3,14 +3,14 @@
 #include <QPointer>
 #include <QString>
 #include <QStringList>
-#include <QTextBrowser>
+#include <string_view>
 
 #include "platform/HelpViewer.h"
-#include "text/Language.h"
+#include "platform/HelpWindow.h"
 
 namespace zelvor {
 
-/// Shows the help's pages in a window of its own, "HelpWindow", which stays until the user closes it.
+/// Shows the help's pages in a window of its own, which stays until the user closes it.
 class QtHelpViewer : public HelpViewer {
 public:
     /// Searches the folders that an installed program and one just built have.
@@ -24,11 +24,10 @@ public:
     void ShowTopic(std::string_view path) override;
 
 private:
-    [[nodiscard]] QString FindPage(const QString& page) const;
-    QTextBrowser& Window(Language language);
+    [[nodiscard]] QString FolderWith(const QString& page) const;
 
     QStringList folders_;
-    QPointer<QTextBrowser> window_;
+    QPointer<HelpWindow> window_;
 };
 
 } // namespace zelvor
