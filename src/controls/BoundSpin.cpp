@@ -39,10 +39,9 @@ void BoundSpin::Commit() {
 }
 
 void BoundSpin::PutAndStore(int value) {
-    // A stored value beyond the range, left as it is, keeps its text.
-    SetValue(value);
-    SetText(ToQString(field_.show(value, language_)));
+    // The text is that of the stored byte: a value beyond the range keeps its own, one stored as none has none.
     StoreNumber(image_, field_, value);
+    Load();
 }
 
 } // namespace zelvor

@@ -1,12 +1,15 @@
 #include "controls/FieldForm.h"
 
+#include <QFocusEvent>
 #include <QFrame>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
 
+#include "controls/BoundCheck.h"
+#include "controls/BoundList.h"
+#include "controls/BoundSpin.h"
 #include "controls/PendingEdit.h"
-#include "controls/SpinText.h"
 #include "platform/HelpTopic.h"
 #include "platform/HelpViewer.h"
 #include "platform/Services.h"
@@ -31,7 +34,6 @@ FieldForm::FieldForm(ChildWindow window, std::string_view objectName, QSize cont
     panel_->setObjectName(ToQString(panelName));
     panel_->setGeometry(0, 0, Content()->width(), Content()->height() - ButtonSize.height() - 2 * Margin);
     SetCaption(LoadText(caption));
-    BuildButtons();
 }
 
 FieldForm::~FieldForm() {
@@ -40,6 +42,42 @@ FieldForm::~FieldForm() {
 
 QString FieldForm::LoadText(int n) const {
     return ToQString(session_.LoadText(n));
+}
+
+void FieldForm::LoadFields() {
+    BuildButtons();
+    for (BoundSpin* spin : panel_->findChildren<BoundSpin*>()) {
+        spin->Load();
+    }
+    for (BoundList* list : panel_->findChildren<BoundList*>()) {
+        list->Load();
+    }
+    for (BoundCheck* check : panel_->findChildren<BoundCheck*>()) {
+        check->Load();
+    }
+}
+
+void FieldForm::StartAt(QWidget& first) {
+    first_ = &first;
+}
+
+void FieldForm::showEvent(QShowEvent* event) {
+    ChildForm::showEvent(event);
+    if (first_ != nullptr && !started_) {
+        first_->setFocus();
+    }
+    started_ = true;
+}
+
+/// In place of a focus proxy: for that, the tab key would take the window itself for a stop on its way round, and pass
+/// over the tabs that lie before the first field.
+void FieldForm::focusInEvent(QFocusEvent* event) {
+    ChildForm::focusInEvent(event);
+    if (first_ != nullptr && first_->isVisible()) {
+        first_->setFocus(event->reason());
+    } else {
+        focusNextChild();
+    }
 }
 
 void FieldForm::BuildButtons() {
@@ -54,7 +92,7 @@ void FieldForm::BuildButtons() {
     };
     const auto* cmdClose = button("cmdClose", 2, CloseText);
     const auto* cmdHelp = button("cmdHelp", 1, HelpText);
-    connect(cmdClose, &QPushButton::clicked, this, &FieldForm::CloseFromFrame);
+    connect(cmdClose, &QPushButton::clicked, this, &FieldForm::CloseFromButton);
     connect(cmdHelp, &QPushButton::clicked, this,
             [this] { services_.help.ShowTopic(HelpTopicPath(session_.LanguageFlag, HelpPage())); });
 }
@@ -64,24 +102,31 @@ void FieldForm::CloseFromFrame() {
     emit UnloadRequested();
 }
 
-FieldRows::FieldRows(QWidget& container, Language language)
+void FieldForm::CloseFromButton() {
+    CloseFromFrame();
+}
+
+FieldRows::FieldRows(QWidget& container, Language language, int margin, int spacing)
     : layout_(new QGridLayout(&container)), language_(language) {
-    layout_->setContentsMargins(Margin, Margin, Margin, Margin);
+    layout_->setContentsMargins(margin, margin, margin, margin);
     layout_->setHorizontalSpacing(Margin);
-    layout_->setVerticalSpacing(Margin / 2);
+    layout_->setVerticalSpacing(spacing);
     layout_->setColumnStretch(0, 1);
     layout_->setColumnStretch(1, 1);
 }
 
 QLabel* FieldRows::Add(const QString& labelName, int label, QWidget* control) {
-    const QString text = ToQString(TableText(language_, label));
-    auto* made = new QLabel(text, layout_->parentWidget());
+    return Add(labelName, ToQString(TableText(language_, label)), control);
+}
+
+QLabel* FieldRows::Add(const QString& labelName, const QString& label, QWidget* control) {
+    auto* made = new QLabel(label, layout_->parentWidget());
     made->setObjectName(labelName);
     made->setBuddy(control);
     if (auto* pair = qobject_cast<SpinText*>(control)) {
-        pair->SetAccessibleName(text);
+        pair->SetAccessibleName(label);
     } else {
-        control->setAccessibleName(text);
+        control->setAccessibleName(label);
     }
     const int row = layout_->rowCount();
     layout_->addWidget(made, row, 0);
@@ -91,6 +136,12 @@ QLabel* FieldRows::Add(const QString& labelName, int label, QWidget* control) {
 
 void FieldRows::Add(QWidget* control) {
     layout_->addWidget(control, layout_->rowCount(), 0, 1, 2);
+}
+
+void FieldRows::AddPair(QWidget* left, QWidget* right) {
+    const int row = layout_->rowCount();
+    layout_->addWidget(left, row, 0);
+    layout_->addWidget(right, row, 1);
 }
 
 void FieldRows::End() {

@@ -19,6 +19,7 @@ public:
     ~FieldForm() override;
 
     void CloseFromFrame() override;
+    [[nodiscard]] bool OpensAtOrigin() const override { return true; }
 
 protected:
     /// caption: number of the title in the string table.
@@ -31,24 +32,43 @@ protected:
     [[nodiscard]] Services& TheServices() const { return services_; }
     [[nodiscard]] QString LoadText(int n) const;
 
+    /// Ends the building of the window: adds the buttons, which the tab key reaches after the fields, and lets every
+    /// bound control of the panel show the image: spin texts first, then lists and then check boxes, each kind in the
+    /// order of making.
+    void LoadFields();
+    /// Makes a control the one that gets the focus when the window is opened.
+    void StartAt(QWidget& first);
+    /// The Close button: the same as closing by the frame, unless a control of the window may refuse to be left.
+    virtual void CloseFromButton();
+
+    void showEvent(QShowEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+
 private:
     void BuildButtons();
 
     Session& session_;
     Services& services_;
     QWidget* panel_;
+    QWidget* first_ = nullptr;
+    bool started_ = false; // the window was shown
 };
 
 /// Rows of a label and its control, or of a check box alone, one below the other in a container (a panel, a frame or a
 /// page of tabs). Names each control after its label for assistive technology.
 class FieldRows {
 public:
-    FieldRows(QWidget& container, Language language);
+    /// margin: round the rows; spacing: between them; in pixels.
+    FieldRows(QWidget& container, Language language, int margin = 12, int spacing = 6);
 
     /// Returns the label, named and captioned, with the control as its buddy.
     QLabel* Add(const QString& labelName, int label, QWidget* control);
+    /// The same with a text that is not in the string table.
+    QLabel* Add(const QString& labelName, const QString& label, QWidget* control);
     /// A control without a label, over the whole width: a check box, a frame.
     void Add(QWidget* control);
+    /// Two controls without labels, each over half of the width.
+    void AddPair(QWidget* left, QWidget* right);
     /// What is left of the height stays empty below the rows.
     void End();
 

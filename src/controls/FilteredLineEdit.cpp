@@ -5,6 +5,7 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QSignalBlocker>
 #include <algorithm>
 
 namespace zelvor {
@@ -34,12 +35,20 @@ void FilteredLineEdit::Insert(const QString& text, bool limited) {
     if (isReadOnly()) {
         return;
     }
-    for (const QChar entered : text) {
-        const QChar accepted = filter_ ? filter_(entered) : entered;
-        const bool full = limited && this->text().size() >= lengthLimit_ && !hasSelectedText();
-        if (!accepted.isNull() && !full) {
-            insert(accepted);
+    const QString before = this->text();
+    {
+        // A pasted text is told as one change: who stores each change never sees its beginning alone.
+        const QSignalBlocker quiet(this);
+        for (const QChar entered : text) {
+            const QChar accepted = filter_ ? filter_(entered) : entered;
+            const bool full = limited && this->text().size() >= lengthLimit_ && !hasSelectedText();
+            if (!accepted.isNull() && !full) {
+                insert(accepted);
+            }
         }
+    }
+    if (this->text() != before) {
+        emit textChanged(this->text());
     }
 }
 

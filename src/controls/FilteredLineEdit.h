@@ -28,7 +28,7 @@ public:
     /// A character that, typed, acts as Enter.
     void SetEnterLetter(QChar letter) { enterLetter_ = letter; }
 
-    /// Enters a text as the user would, character by character through the filter.
+    /// Enters a text as the user would, character by character through the filter. textChanged is raised once.
     void Enter(const QString& text) { Insert(text, true); }
 
 signals:

@@ -77,8 +77,11 @@ std::optional<int> SpinText::NextValue(bool up) const {
         return otherEnd;
     }
     const std::optional<int> shown = rules_.read ? rules_.read(box_->text()) : std::nullopt;
-    const int next = shown.value_or(Value()) + (up ? rules_.increment : -rules_.increment);
-    return std::clamp(next, rules_.first, rules_.last);
+    const int start = shown.value_or(Value());
+    if (start == end) {
+        return otherEnd;
+    }
+    return std::clamp(start + (up ? rules_.increment : -rules_.increment), rules_.first, rules_.last);
 }
 
 void SpinText::Step(bool up) {

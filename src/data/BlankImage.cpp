@@ -10,8 +10,9 @@ namespace zelvor {
 namespace {
 
 void Store(DataImage& image, int address, std::initializer_list<std::uint8_t> bytes) {
-    for (const std::uint8_t byte : bytes)
+    for (const std::uint8_t byte : bytes) {
         image.Set(address++, byte);
+    }
 }
 
 void StoreConstants(DataImage& image) {

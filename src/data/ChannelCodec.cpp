@@ -27,14 +27,16 @@ FrequencyBytes FrequencyOf(const RecordBytes& bytes, int at) {
 }
 
 void ClearMissingFrequency(RecordBytes& bytes, int at) {
-    if (IsNoFrequency(ByteOf(bytes, at + FrequencyTopByte)))
+    if (IsNoFrequency(ByteOf(bytes, at + FrequencyTopByte))) {
         std::fill_n(bytes.begin() + at, 4, std::int16_t{0});
+    }
 }
 
 /// A word that is no tone leaves the text of the channel decoded before.
 void TakeTone(std::string& text, const RecordBytes& bytes, int at, Language language) {
-    if (std::optional<std::string> tone = ToneText({ByteOf(bytes, at), ByteOf(bytes, at + 1)}, language))
+    if (std::optional<std::string> tone = ToneText({ByteOf(bytes, at), ByteOf(bytes, at + 1)}, language)) {
         text = *std::move(tone);
+    }
 }
 
 void SetBits(std::uint8_t& byte, std::uint8_t mask, int value) {
@@ -50,8 +52,9 @@ std::uint8_t ScanAddBit(int k) {
 }
 
 void StoreFrequency(DataImage& image, int at, std::string_view text) {
-    for (const std::uint8_t byte : EncodeFrequency(text))
+    for (const std::uint8_t byte : EncodeFrequency(text)) {
         image.Set(at++, byte);
+    }
 }
 
 void StoreTone(DataImage& image, int at, ToneWord word) {
@@ -64,8 +67,9 @@ int ValueOf(std::string_view text) {
 }
 
 void CompleteWith(std::string& text, std::string_view word) {
-    if (text.empty())
+    if (text.empty()) {
         text = word;
+    }
 }
 
 } // namespace
@@ -77,8 +81,9 @@ void SetScanAdd(DataImage& image, int k, bool added) {
 void ChannelCodec::RefreshChannelBytes(const DataImage& image) {
     for (int k = 1; k <= address::ChannelCount; ++k) {
         RecordBytes& bytes = ChannelBytes[static_cast<std::size_t>(k - 1)];
-        for (int j = 0; j < address::ChannelSize; ++j)
+        for (int j = 0; j < address::ChannelSize; ++j) {
             bytes[static_cast<std::size_t>(j)] = image.At(address::Channel(k) + j);
+        }
     }
 }
 
@@ -140,38 +145,43 @@ void ChannelCodec::EncodeChannel(DataImage& image, Language language, int k, boo
     image.Set(at + AutoDial, Texts.AutoDialText.empty()
                                  ? AutoDialFirst
                                  : static_cast<std::uint8_t>(ValueOf(Texts.AutoDialText) + AutoDialBase));
-    if (Texts.ScanAddText == TableText(language, words::Yes))
+    if (Texts.ScanAddText == TableText(language, words::Yes)) {
         SetScanAdd(image, k, true);
-    else if (Texts.ScanAddText == TableText(language, words::No))
+    } else if (Texts.ScanAddText == TableText(language, words::No)) {
         SetScanAdd(image, k, false);
+    }
 }
 
 void ChannelCodec::EncodeSignalling(const DataImage& image, Language language, int k) {
-    if (Texts.OptSignalText == TableText(language, words::None))
+    if (Texts.OptSignalText == TableText(language, words::None)) {
         SetBits(workingByte12_, OptSignalMask, 0);
-    else if (Texts.OptSignalText == TableText(language, words::Dtmf))
+    } else if (Texts.OptSignalText == TableText(language, words::Dtmf)) {
         SetBits(workingByte12_, OptSignalMask, OptSignalDtmf);
-    else if (Texts.OptSignalText == TableText(language, words::Corvane))
+    } else if (Texts.OptSignalText == TableText(language, words::Corvane)) {
         SetBits(workingByte12_, OptSignalMask, OptSignalCorvane);
+    }
     SetBits(workingByte12_, CompanderBit, Texts.CompanderFlag ? CompanderBit : 0);
     SetBits(workingByte12_, BusyLockMask, image.At(address::Channel(k) + Signalling));
 
     // Intended: SP Unmute is read from one fixed byte, and with a mask that hides its very bits, so that only the value
     // zero is seen. As every clone write leaves 0xFF there, documents in the field depend on the carried-over bits
     // staying.
-    if ((image.At(address::EncoderMuteByte) & ~SpMuteMask) == 0)
+    if ((image.At(address::EncoderMuteByte) & ~SpMuteMask) == 0) {
         SetBits(workingByte12_, SpMuteMask, 0);
+    }
 }
 
 void ChannelCodec::EncodeTransmitter(Language language) {
-    if (Texts.PowerText == TableText(language, words::High))
+    if (Texts.PowerText == TableText(language, words::High)) {
         SetBits(workingByte13_, HighPowerBit, HighPowerBit);
-    else if (Texts.PowerText == TableText(language, words::Low))
+    } else if (Texts.PowerText == TableText(language, words::Low)) {
         SetBits(workingByte13_, HighPowerBit, 0);
-    if (Texts.WidthText == TableText(language, words::Wide))
+    }
+    if (Texts.WidthText == TableText(language, words::Wide)) {
         SetBits(workingByte13_, WideBit, WideBit);
-    else if (Texts.WidthText == TableText(language, words::Narrow))
+    } else if (Texts.WidthText == TableText(language, words::Narrow)) {
         SetBits(workingByte13_, WideBit, 0);
+    }
     SetBits(workingByte13_, BeatShiftBit, Texts.BeatShiftFlag ? BeatShiftBit : 0);
     SetBits(workingByte13_, TransmitterFixedBits, TransmitterFixedBits);
 }
@@ -179,13 +189,15 @@ void ChannelCodec::EncodeTransmitter(Language language) {
 void ChannelCodec::EncodePttId(std::uint8_t pttIdType, Language language, bool& txCodeError) {
     const std::string& text = Texts.PttIdText;
     const bool isOff = text == TableText(language, words::Off);
-    if (pttIdType != TypeDtmf && pttIdType != TypeCorvane)
+    if (pttIdType != TypeDtmf && pttIdType != TypeCorvane) {
         return;
+    }
     if (isOff) {
         workingByte14_ = PttIdOff;
     } else if (pttIdType == TypeDtmf) {
-        if (text != TableText(language, words::On))
+        if (text != TableText(language, words::On)) {
             return;
+        }
         workingByte14_ = PttIdOn;
         txCodeError = true;
     } else if (text == TableText(language, words::Own)) {
@@ -198,8 +210,9 @@ void ChannelCodec::EncodePttId(std::uint8_t pttIdType, Language language, bool& 
 
 void ChannelCodec::CompleteChannelDefaults(DataImage& image, Language language, int k, std::string_view rxText) {
     Texts.RxText = Decimal::Leading(rxText).Format(3, 5);
-    if (Texts.TxText.empty())
+    if (Texts.TxText.empty()) {
         Texts.EncText.clear();
+    }
     CompleteWith(Texts.DecText, TableText(language, words::None));
     CompleteWith(Texts.EncText, TableText(language, words::None));
     CompleteWith(Texts.PowerText, TableText(language, words::High));
@@ -207,10 +220,11 @@ void ChannelCodec::CompleteChannelDefaults(DataImage& image, Language language, 
     CompleteWith(Texts.ScanAddText, TableText(language, words::Yes));
     CompleteWith(Texts.OptSignalText, TableText(language, words::None));
     const std::uint8_t pttIdType = image.At(address::PttIdType);
-    if (pttIdType == TypeDtmf || pttIdType == TypeCorvane)
+    if (pttIdType == TypeDtmf || pttIdType == TypeCorvane) {
         CompleteWith(Texts.PttIdText, TableText(language, words::Off));
-    else
+    } else {
         Texts.PttIdText.clear();
+    }
     CompleteWith(Texts.SpMuteText, TableText(language, words::Carrier));
     CompleteWith(Texts.BusyLockText, TableText(language, words::Off));
 

@@ -48,15 +48,19 @@ std::string_view SpMuteWord(std::uint8_t byte12, Language language) {
 }
 
 std::string PttIdWord(std::uint8_t type, std::uint8_t byte14, Language language) {
-    if (type == TypeDtmf)
+    if (type == TypeDtmf) {
         return std::string(TableText(language, (byte14 & PttIdOn) == PttIdOn ? words::On : words::Off));
-    if (type != TypeCorvane)
+    }
+    if (type != TypeCorvane) {
         return {};
+    }
     const int choice = byte14 & 0x0F;
-    if (choice == 1)
+    if (choice == 1) {
         return std::string(TableText(language, words::Own));
-    if (choice >= 2 && choice <= 1 + FleetListCount)
+    }
+    if (choice >= 2 && choice <= 1 + FleetListCount) {
         return FleetListText(language, choice - 1);
+    }
     return std::string(TableText(language, words::Off));
 }
 
@@ -71,16 +75,18 @@ std::string FleetListText(Language language, int n) {
 std::vector<std::string> PttIdTexts(const DataImage& image, Language language) {
     std::vector<std::string> texts;
     const std::uint8_t type = image.At(address::PttIdType);
-    if (type != TypeDtmf && type != TypeCorvane)
+    if (type != TypeDtmf && type != TypeCorvane) {
         return texts;
+    }
     texts.emplace_back(TableText(language, words::Off));
     if (type == TypeDtmf) {
         texts.emplace_back(TableText(language, words::On));
         return texts;
     }
     texts.emplace_back(TableText(language, words::Own));
-    for (int n = 1; n <= FleetListCount; ++n)
+    for (int n = 1; n <= FleetListCount; ++n) {
         texts.push_back(FleetListText(language, n));
+    }
     return texts;
 }
 

@@ -4,15 +4,17 @@ namespace zelvor {
 
 DataImage DataImage::FromAddressOrder(std::span<const std::uint8_t, Size> bytes) {
     DataImage image;
-    for (std::size_t address = 0; address < Size; ++address)
+    for (std::size_t address = 0; address < Size; ++address) {
         image.Set(static_cast<int>(address), bytes[address]);
+    }
     return image;
 }
 
 DataImage::Bytes DataImage::ToAddressOrder() const {
     Bytes bytes{};
-    for (std::size_t address = 0; address < Size; ++address)
+    for (std::size_t address = 0; address < Size; ++address) {
         bytes[address] = At(static_cast<int>(address));
+    }
     return bytes;
 }
 

@@ -11,6 +11,10 @@ std::string_view WordText(const FieldWord& word, Language language) {
     return word.number == 0 ? word.text : TableText(language, word.number);
 }
 
+std::string_view LabelText(const ListField& field, Language language) {
+    return WordText({field.label, field.labelText}, language);
+}
+
 int EntryOf(const ListField& field, std::uint8_t byte) {
     for (const ListField::Exception& exception : field.exceptions) {
         if (exception.byte == byte) {

@@ -20,7 +20,7 @@ inline constexpr std::uint8_t BlankByte = 0xFF;
 /// A word of a list: an entry of the string table or, where number is 0, a text that is the same in both languages.
 struct FieldWord {
     int number = 0;
-    std::string_view text;
+    std::string_view text = {};
 };
 [[nodiscard]] std::string_view WordText(const FieldWord& word, Language language);
 
@@ -41,7 +41,10 @@ struct ListField {
     std::span<const Exception> exceptions = {};
     int otherwise = NoEntry;               // the entry that any other byte shows
     std::optional<std::uint8_t> none = {}; // stored while no entry is selected; nothing: the byte stays
+    std::string_view labelText = {};       // the label, where label is 0: the same in both languages
 };
+
+[[nodiscard]] std::string_view LabelText(const ListField& field, Language language);
 
 /// The entry that a byte shows, or NoEntry.
 [[nodiscard]] int EntryOf(const ListField& field, std::uint8_t byte);

@@ -8,6 +8,7 @@ namespace zelvor::scan {
 
 namespace {
 
+constexpr std::uint8_t BlankByte = 0xFF;
 constexpr int NoHighByte = 0xFF;
 
 /// Seconds in units of 10^-decimals, cut off behind them.
@@ -20,6 +21,13 @@ std::int64_t CutUnits(std::string_view text, int decimals) {
 }
 
 } // namespace
+
+std::optional<std::uint8_t> EntryOf(const ListField& field, std::uint8_t byte) {
+    if (byte == BlankByte) {
+        return field.blank;
+    }
+    return byte < field.words.size() ? std::optional(byte) : std::nullopt;
+}
 
 std::optional<int> Load(const DataImage& image, const TimeField& field) {
     const int low = image.At(field.address);

@@ -21,13 +21,17 @@ struct ListField {
     int label;
     int address;
     std::span<const int> words;
+    std::optional<std::uint8_t> blank = {}; // the number that 0xFF reads as; nothing: it is no legal one
 };
 
 inline constexpr std::array ModeWords{77, 151, 150}; // None, Fixed, Selected
 inline constexpr std::array RevertWords{150, 154, 152,
                                         153}; // Selected, the same + Talk Back, Priority, the same + Talk Back
-inline constexpr ListField PriorityMode{143, 0x160, ModeWords};
+inline constexpr ListField PriorityMode{143, 0x160, ModeWords, 0};
 inline constexpr ListField RevertChannel{147, 0x164, RevertWords};
+
+/// The place of a byte's word among those of the field; nothing for an illegal byte.
+[[nodiscard]] std::optional<std::uint8_t> EntryOf(const ListField& field, std::uint8_t byte);
 
 /// The revert channels that a priority mode offers, as values of RevertChannel.
 inline constexpr std::array<std::uint8_t, 2> RevertWithoutPriority{0, 1};

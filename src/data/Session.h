@@ -9,6 +9,8 @@
 
 #include "data/ChannelCodec.h"
 #include "data/DataImage.h"
+#include "data/TestFrequencies.h"
+#include "data/TuneItems.h"
 #include "text/Language.h"
 
 namespace zelvor {
@@ -42,6 +44,19 @@ struct LinkState {
     std::vector<std::uint8_t> TxBuffer;
 };
 
+/// State of the radio's service mode, shared by the exchange that enters it, test mode and the tuning dialogs.
+struct ServiceState {
+    int TuneItem = 1;      // 1 to 15
+    int TestChannelNo = 1; // 1 to 16
+    bool NarrowMode = false;
+    bool TestAborted = false; // the user gave up at the connection prompt: nothing more is sent to the radio
+    /// What the radio told of its test channels on entry; "0" for an unused one.
+    std::array<TestFrequencyTexts, TestChannelCount> TestFrequencyText;
+    TuneValues Values;
+    /// The radio's manufacturing record, by the index of its bytes.
+    std::array<std::uint8_t, 34> RadioInfoRecord{};
+};
+
 /// What the windows share: the one document and the state round it. Owned by the application, handed on by reference.
 class Session {
 public:
@@ -71,6 +86,7 @@ public:
 
     int CommPortNumber = 1; // 1 to 20, in memory only
     LinkState Link;
+    ServiceState Service;
     ChannelCodec Channels;
 
     static constexpr std::string_view DefaultFileName = "Zelvor.dat";

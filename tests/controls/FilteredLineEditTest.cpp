@@ -49,6 +49,20 @@ TEST_F(FilteredLineEditTest, FiltersPastedComposedAndMouseInsertedText) {
     }
 }
 
+TEST_F(FilteredLineEditTest, TellsAPastedTextAsOneChangeAndARefusedOneNotAtAll) {
+    const QSignalSpy changed(&edit, &QLineEdit::textChanged);
+    QApplication::clipboard()->setText("1x2.3");
+    QTest::keyClick(&edit, Qt::Key_V, Qt::ControlModifier);
+    ASSERT_EQ(changed.count(), 1);
+    EXPECT_EQ(changed.front().front().toString(), "12.3");
+    QApplication::clipboard()->setText("xyz");
+    QTest::keyClick(&edit, Qt::Key_V, Qt::ControlModifier);
+    QTest::keyClicks(&edit, "a");
+    EXPECT_EQ(changed.count(), 1);
+    QTest::keyClicks(&edit, "4");
+    EXPECT_EQ(changed.count(), 2);
+}
+
 TEST_F(FilteredLineEditTest, StopsAtTheLengthUnlessTextIsSelected) {
     QTest::keyClicks(&edit, "1234567");
     EXPECT_EQ(edit.text(), "12345");

@@ -1,0 +1,82 @@
+#include "data/CorvaneFields.h"
+
+#include <algorithm>
+
+#include "text/StringTable.h"
+
+namespace zelvor::corvane {
+
+namespace {
+
+constexpr int AllText = 184;
+constexpr int ErasedNumber[] = {0xFF, 0xFFFF}; // of one byte and of two
+
+/// A number as a step from 1; 0 for an empty text.
+int ReadStep(std::string_view text, const NumberField& field, int base) {
+    return text.empty() ? 0 : std::clamp(LeadingNumber(text) - base, 1, field.last);
+}
+
+} // namespace
+
+// The byte 0 is no fleet, but it shows one below the first; a fleet that is none is stored as 0xFF and shows nothing.
+std::string ShowFleet(int step, Language /*language*/) {
+    return std::to_string(step + ListFleet.base);
+}
+
+int ReadFleet(std::string_view text) {
+    return ReadStep(text, OwnFleet, ListFleet.base);
+}
+
+std::string ShowId(int step, Language /*language*/) {
+    return step == 0 ? std::string() : std::to_string(step + ListId.base);
+}
+
+int ReadId(std::string_view text) {
+    return ReadStep(text, OwnId, ListId.base);
+}
+
+int ReadDelay(std::string_view text) {
+    return std::min(LeadingNumber(text), DelayTime.last);
+}
+
+int ReadTimer(std::string_view text) {
+    return std::min(LeadingNumber(text), MessageModeTimer.last);
+}
+
+std::string ShowListNumber(int number, Language language) {
+    return number == AllNumbers ? std::string(TableText(language, AllText)) : std::to_string(number);
+}
+
+std::string LoadListNumber(const DataImage& image, int n, const ListNumber& field, Language language) {
+    const int address = EntryAddress(n) + field.offset;
+    int stored = 0;
+    for (int i = field.bytes - 1; i >= 0; --i) {
+        stored = stored * 256 + image.At(address + i);
+    }
+    if (stored == ErasedNumber[field.bytes - 1]) {
+        return {};
+    }
+    return ShowListNumber(stored == 0 ? AllNumbers : stored + field.base, language);
+}
+
+int ReadListNumber(std::string_view text, const ListNumber& field) {
+    const int number = LeadingNumber(text);
+    return number == 0 ? AllNumbers : std::clamp(number, field.first, field.last);
+}
+
+void StoreListNumber(DataImage& image, int n, const ListNumber& field, int number) {
+    const int address = EntryAddress(n) + field.offset;
+    int stored = number == AllNumbers ? 0 : number - field.base;
+    for (int i = 0; i < field.bytes; ++i) {
+        image.Set(address + i, static_cast<std::uint8_t>(stored % 256));
+        stored /= 256;
+    }
+}
+
+void EraseEntry(DataImage& image, int n) {
+    for (int i = 0; i < EntrySize; ++i) {
+        image.Set(EntryAddress(n) + i, BlankByte);
+    }
+}
+
+} // namespace zelvor::corvane

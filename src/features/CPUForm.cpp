@@ -1,0 +1,200 @@
+#include "features/CPUForm.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "controls/CellTextEditor.h"
+#include "controls/EditGrid.h"
+#include "controls/PendingEdit.h"
+#include "controls/TextCellEdit.h"
+#include "data/Session.h"
+#include "platform/Toolkit.h"
+
+namespace zelvor {
+
+namespace {
+
+// Numbers of the string table.
+constexpr int CaptionText = 196;
+constexpr int OkText = 96;
+constexpr int CancelText = 97;
+
+constexpr TextPair AddressName{"Address", "地址"};
+
+constexpr int ByteColumns = 16;
+constexpr int ByteRows = static_cast<int>(DataImage::Size) / ByteColumns;
+constexpr int ByteDigits = 2;
+
+// Pixels. The grid is 19 column widths wide: two for the address column, one for each byte, one for the scroll bar.
+constexpr int ColumnWidth = 36;
+constexpr int RowHeight = 25;
+constexpr int VisibleRows = 17; // with the header
+
+/// Capital digits of a number below 16^digits.
+QString HexText(int number, int digits) {
+    return QString::number(number, 16).toUpper().rightJustified(digits, '0');
+}
+
+QString RowCaption(int row) {
+    return QStringLiteral("%1%2_").arg((row - 1) / 16, 2, 10, QLatin1Char('0')).arg(HexText((row - 1) % 16, 1));
+}
+
+QString ColumnCaption(int column) {
+    return HexText(column - 1, 1);
+}
+
+int AddressOf(int row, int column) {
+    return ByteColumns * (row - 1) + column - 1;
+}
+
+QChar HexDigit(QChar entered) {
+    const QChar digit = entered.toUpper();
+    return digit >= u'A' && digit <= u'F' ? digit : Digit(entered);
+}
+
+int DigitValue(QChar digit) {
+    return digit > u'9' ? digit.unicode() - 55 : digit.unicode() - 48;
+}
+
+} // namespace
+
+CPUForm::CPUForm(Session& session, QWidget* parent) : QDialog(parent), session_(session) {
+    setObjectName("CPUForm");
+    setModal(true);
+    setWindowTitle(ToQString(session_.LoadText(CaptionText)));
+    BuildGrid();
+    BuildEditor();
+    ShowImage();
+    LayOut();
+    ShowAddress(msgMemory_->Row(), msgMemory_->Column());
+    msgMemory_->setFocus();
+}
+
+CPUForm::~CPUForm() {
+    edit_->Drop();
+}
+
+void CPUForm::BuildGrid() {
+    msgMemory_ = new EditGrid(ByteRows, ByteColumns, this);
+    msgMemory_->setObjectName("msgMemory");
+    msgMemory_->setAccessibleName(windowTitle());
+    // Whole rows: a cell that is half in view would be scrolled away from under its editor.
+    msgMemory_->setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+    const int frame = 2 * msgMemory_->frameWidth();
+    msgMemory_->setFixedSize(19 * ColumnWidth, VisibleRows * RowHeight + frame);
+    QStringList captions{QString()};
+    for (int column = 1; column <= ByteColumns; ++column) {
+        captions.append(ColumnCaption(column));
+    }
+    QStringList rowCaptions;
+    for (int row = 1; row <= ByteRows; ++row) {
+        rowCaptions.append(RowCaption(row));
+    }
+    msgMemory_->SetCaptions(captions, rowCaptions);
+    std::vector<int> widths(ByteColumns + 1, ColumnWidth);
+    widths.front() = 2 * ColumnWidth;
+    msgMemory_->FitCells(widths, RowHeight);
+    connect(msgMemory_, &EditGrid::CursorMoved, this, &CPUForm::ShowAddress);
+    connect(msgMemory_, &EditGrid::CellClicked, this, &CPUForm::OpenEditor);
+    connect(msgMemory_, &EditGrid::KeyPressed, this, &CPUForm::OnGridKey);
+}
+
+void CPUForm::BuildEditor() {
+    txtMemory_ = new CellTextEditor(this);
+    txtMemory_->setObjectName("txtMemory");
+    txtMemory_->SetFilter(HexDigit);
+    txtMemory_->SetLengthLimit(ByteDigits);
+    edit_ = new TextCellEdit(*msgMemory_, *txtMemory_);
+    connect(edit_, &TextCellEdit::Entered, this, &CPUForm::OnEntered);
+    connect(edit_, &TextCellEdit::Left, this, &CPUForm::StoreText);
+}
+
+void CPUForm::LayOut() {
+    const auto button = [this](const char* name, int text) {
+        auto* made = new QPushButton(ToQString(session_.LoadText(text)), this);
+        made->setObjectName(name);
+        return made;
+    };
+    auto* cmdOK = button("cmdOK", OkText);
+    auto* cmdCancel = button("cmdCancel", CancelText);
+    connect(cmdOK, &QPushButton::clicked, this, &CPUForm::accept);
+    connect(cmdCancel, &QPushButton::clicked, this, &CPUForm::reject);
+    lblAddr_ = new QLabel(this);
+    lblAddr_->setObjectName("lblAddr");
+    lblAddr_->setAccessibleName(ToQString(AddressName.In(session_.LanguageFlag)));
+    lblAddr_->setToolTip(lblAddr_->accessibleName());
+
+    auto* foot = new QHBoxLayout;
+    foot->addWidget(lblAddr_);
+    foot->addStretch();
+    foot->addWidget(cmdOK);
+    foot->addWidget(cmdCancel);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(msgMemory_);
+    layout->addLayout(foot);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void CPUForm::ShowImage() {
+    for (int row = 1; row <= ByteRows; ++row) {
+        for (int column = 1; column <= ByteColumns; ++column) {
+            msgMemory_->SetText(row, column, HexText(session_.Image.At(AddressOf(row, column)), ByteDigits));
+        }
+    }
+}
+
+void CPUForm::ShowAddress(int row, int column) {
+    lblAddr_->setText(RowCaption(row).left(3) + ColumnCaption(column));
+}
+
+void CPUForm::OpenEditor() {
+    edit_->Open();
+    txtMemory_->setAccessibleName(lblAddr_->text());
+}
+
+void CPUForm::OnGridKey(QKeyEvent* event) {
+    if (IsEnterKey(*event)) {
+        OpenEditor();
+        event->accept();
+        return;
+    }
+    const QChar digit = HexDigit(TypedCharacter(*event));
+    if (!digit.isNull()) {
+        OpenEditor();
+        edit_->PutText(digit);
+        event->accept();
+    }
+}
+
+void CPUForm::OnEntered() {
+    StoreText();
+    edit_->Close();
+    if (edit_->Column() < ByteColumns) {
+        msgMemory_->MoveTo(edit_->Row(), edit_->Column() + 1);
+    } else {
+        msgMemory_->MoveTo(edit_->Row() + 1, 1); // stays on the very last cell
+    }
+}
+
+void CPUForm::StoreText() {
+    const QString text = edit_->Text();
+    msgMemory_->SetText(edit_->Row(), edit_->Column(),
+                        text.isEmpty() ? QStringLiteral("FF") : text.rightJustified(ByteDigits, '0'));
+}
+
+void CPUForm::accept() {
+    CommitPendingEdit();
+    for (int row = 1; row <= ByteRows; ++row) {
+        for (int column = 1; column <= ByteColumns; ++column) {
+            const QString text = msgMemory_->Text(row, column);
+            const int value = DigitValue(text.at(0)) * 16 + DigitValue(text.at(1));
+            session_.Image.Set(AddressOf(row, column), static_cast<std::uint8_t>(value));
+        }
+    }
+    QDialog::accept();
+}
+
+} // namespace zelvor

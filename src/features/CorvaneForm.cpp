@@ -1,0 +1,217 @@
+#include "features/CorvaneForm.h"
+
+#include <QKeyEvent>
+#include <algorithm>
+#include <utility>
+
+#include "controls/BoundList.h"
+#include "controls/BoundRows.h"
+#include "controls/BoundSpin.h"
+#include "controls/CellTextEditor.h"
+#include "controls/EditGrid.h"
+#include "controls/FieldTabs.h"
+#include "controls/TextCellEdit.h"
+#include "platform/Toolkit.h"
+
+namespace zelvor {
+
+namespace {
+
+constexpr QSize WindowSize{6285, 5070}; // twips
+constexpr int Margin = 8;
+constexpr QSize GridSize{386, 218}; // pixels
+
+// Numbers of the string table.
+constexpr int CaptionNumber = 45;
+constexpr int FieldsTab = 176;
+constexpr int NumberHeading = 172;
+
+constexpr int FirstStep = 1;
+constexpr int NoStep = 0;
+
+constexpr int FleetColumn = 1;
+constexpr int IdColumn = 2;
+
+const corvane::ListNumber& NumberOf(int column) {
+    return column == FleetColumn ? corvane::ListFleet : corvane::ListId;
+}
+
+constexpr int OtherColumn(int column) {
+    return column == FleetColumn ? IdColumn : FleetColumn;
+}
+
+SpinTextRules SteppedBy(std::function<std::optional<int>(const QString& text, bool up)> step) {
+    SpinTextRules rules;
+    rules.step = std::move(step);
+    return rules;
+}
+
+} // namespace
+
+CorvaneForm::CorvaneForm(Session& session, Services& services, QWidget* parent)
+    : FieldForm(ChildWindow::Corvane, "CorvaneForm", WindowSize, "picCorvane", CaptionNumber, session, services,
+                parent) {
+    auto* tabs = new FieldTabs("SSTab1", Panel());
+    tabs->setGeometry(Panel()->rect().adjusted(Margin, Margin, -Margin, 0));
+    BuildFields(*tabs->AddPage(LoadText(FieldsTab)));
+    BuildFleetList(*tabs->AddPage(LoadText(corvane::FleetListLabel)));
+    LoadFields();
+    ShowFleetList();
+    StartAt(*fleet_);
+}
+
+void CorvaneForm::BuildFields(QWidget& page) {
+    BoundRows rows(page, TheSession());
+    fleet_ = rows.AddSpin("Fleet", corvane::OwnFleet,
+                          SteppedBy([this](const QString& text, bool up) { return StepFleet(text, up); }));
+    id_ = rows.AddSpin("ID", corvane::OwnId,
+                       SteppedBy([this](const QString& text, bool up) { return StepId(text, up); }));
+    rows.AddList("BaudRate", corvane::BaudRate);
+    rows.AddSpin("DelayTime", corvane::DelayTime);
+    rows.AddSpin("MsgModeTimer", corvane::MessageModeTimer);
+    rows.AddCheck("SideTone", corvane::SideTone);
+    rows.End();
+    connect(fleet_, &BoundSpin::Committed, this, [this](int step) { OnOwnCommitted(step, *id_); });
+    connect(id_, &BoundSpin::Committed, this, [this](int step) { OnOwnCommitted(step, *fleet_); });
+}
+
+/// Steps go round among the numbers; none of them empties the box.
+int CorvaneForm::StepOwn(const BoundSpin& box, const NumberField& field, const QString& text, bool up) const {
+    const int end = up ? field.last : FirstStep;
+    const int otherEnd = up ? FirstStep : field.last;
+    if (text == ToQString(field.show(end, TheSession().LanguageFlag))) {
+        return otherEnd;
+    }
+    return std::clamp(box.Value() + (up ? 1 : -1), FirstStep, field.last);
+}
+
+int CorvaneForm::StepFleet(const QString& text, bool up) {
+    if (text.isEmpty()) {
+        id_->PutAndStore(FirstStep);
+        return FirstStep;
+    }
+    return StepOwn(*fleet_, corvane::OwnFleet, text, up);
+}
+
+int CorvaneForm::StepId(const QString& text, bool up) {
+    if (text.isEmpty()) {
+        fleet_->Put(FirstStep); // stored when its own box is left, unlike the ID above
+        return FirstStep;
+    }
+    return StepOwn(*id_, corvane::OwnId, text, up);
+}
+
+void CorvaneForm::OnOwnCommitted(int step, BoundSpin& other) {
+    if (step == NoStep) {
+        other.PutAndStore(NoStep);
+    } else {
+        TheSession().OwnIdError = false;
+    }
+}
+
+void CorvaneForm::BuildFleetList(QWidget& page) {
+    msgFleetList_ = new EditGrid(corvane::FleetListSize, IdColumn, &page);
+    msgFleetList_->setObjectName("msgFleetList");
+    msgFleetList_->setGeometry({QPoint(Margin, Margin), GridSize});
+    txtFleetList_ = new CellTextEditor(&page);
+    txtFleetList_->setObjectName("txtFleetList");
+    txtFleetList_->SetFilter([this](QChar entered) { return AcceptInList(entered); });
+    edit_ = new TextCellEdit(*msgFleetList_, *txtFleetList_);
+    SetGridTexts();
+    connect(msgFleetList_, &EditGrid::CellClicked, this, &CorvaneForm::OpenEditor);
+    connect(msgFleetList_, &EditGrid::KeyPressed, this, &CorvaneForm::OnGridKey);
+    connect(edit_, &TextCellEdit::Changed, this, &CorvaneForm::WriteEntry);
+    connect(edit_, &TextCellEdit::Left, this, &CorvaneForm::WriteEntry);
+    connect(edit_, &TextCellEdit::Entered, this, &CorvaneForm::OnEntered);
+}
+
+void CorvaneForm::SetGridTexts() {
+    const Language language = TheSession().LanguageFlag;
+    QStringList entries;
+    for (int n = 1; n <= corvane::FleetListSize; ++n) {
+        entries.append(QString::number(n));
+    }
+    msgFleetList_->SetCaptions({LoadText(NumberHeading), ToQString(corvane::ListFleet.heading.In(language)),
+                                ToQString(corvane::ListId.heading.In(language))},
+                               entries);
+    const int eighth = GridSize.width() / 8;
+    msgFleetList_->FitCells({2 * eighth, 3 * eighth, 3 * eighth});
+    msgFleetList_->setAccessibleName(LoadText(corvane::FleetListLabel));
+}
+
+void CorvaneForm::ShowFleetList() {
+    const Session& session = TheSession();
+    for (int n = 1; n <= corvane::FleetListSize; ++n) {
+        for (const int column : {FleetColumn, IdColumn}) {
+            msgFleetList_->SetText(
+                n, column,
+                ToQString(corvane::LoadListNumber(session.Image, n, NumberOf(column), session.LanguageFlag)));
+        }
+    }
+}
+
+void CorvaneForm::OpenEditor() {
+    txtFleetList_->SetLengthLimit(NumberOf(msgFleetList_->Column()).digits);
+    edit_->Open();
+}
+
+void CorvaneForm::OnGridKey(QKeyEvent* event) {
+    if (IsEnterKey(*event)) {
+        OpenEditor();
+        event->accept();
+        return;
+    }
+    const QChar character = TypedCharacter(*event).toUpper();
+    if (character == u'A' || !Digit(character).isNull()) {
+        OpenEditor();
+        edit_->PutText(character);
+        event->accept();
+    }
+}
+
+QChar CorvaneForm::AcceptInList(QChar entered) const {
+    const QString text = txtFleetList_->text();
+    if (entered.toUpper() == u'A') {
+        return txtFleetList_->selectedText() == text ? QChar(u'A') : QChar();
+    }
+    return text == "A" ? QChar() : Digit(entered);
+}
+
+void CorvaneForm::OnEntered() {
+    WriteEntry();
+    const int row = edit_->Row();
+    const int column = edit_->Column();
+    edit_->Close();
+    if (column == FleetColumn) {
+        msgFleetList_->MoveTo(row, IdColumn);
+    } else {
+        msgFleetList_->MoveTo(row + 1, FleetColumn);
+    }
+}
+
+/// Runs at every key, so the first digit typed into an empty cell becomes the lower limit already, on purpose: a number
+/// is entered by overtyping digits of one that is there.
+void CorvaneForm::WriteEntry() {
+    Session& session = TheSession();
+    const int row = edit_->Row();
+    const int column = edit_->Column();
+    const int other = OtherColumn(column);
+    if (edit_->Text().isEmpty()) {
+        msgFleetList_->SetText(row, other, QString());
+        corvane::EraseEntry(session.Image, row);
+        return;
+    }
+    const int number = corvane::ReadListNumber(FromQString(edit_->Text()), NumberOf(column));
+    corvane::StoreListNumber(session.Image, row, NumberOf(column), number);
+    if (msgFleetList_->Text(row, other).isEmpty()) {
+        corvane::StoreListNumber(session.Image, row, NumberOf(other), corvane::AllNumbers);
+        // The fleet of an ID that is entered as All is stored only: its cell shows it when the window is opened again.
+        if (column == FleetColumn || number != corvane::AllNumbers) {
+            msgFleetList_->SetText(row, other,
+                                   ToQString(corvane::ShowListNumber(corvane::AllNumbers, session.LanguageFlag)));
+        }
+    }
+    edit_->PutText(ToQString(corvane::ShowListNumber(number, session.LanguageFlag)));
+}
+
+} // namespace zelvor

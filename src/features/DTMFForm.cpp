@@ -1,0 +1,217 @@
+#include "features/DTMFForm.h"
+
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+
+#include "controls/BoundCheck.h"
+#include "controls/BoundList.h"
+#include "controls/BoundRows.h"
+#include "controls/BoundSpin.h"
+#include "controls/CellTextEditor.h"
+#include "controls/DtmfFilter.h"
+#include "controls/EditGrid.h"
+#include "controls/FieldTabs.h"
+#include "controls/PendingEdit.h"
+#include "controls/TextCellEdit.h"
+#include "features/DtmfCodeBox.h"
+#include "platform/MessageBoxes.h"
+#include "platform/Services.h"
+#include "platform/Toolkit.h"
+#include "text/CommonTexts.h"
+
+namespace zelvor {
+
+namespace {
+
+constexpr QSize WindowSize{6285, 5070}; // twips
+// Pixels.
+constexpr int Margin = 8;
+constexpr int StunSpacing = 6;
+constexpr QSize GridSize{386, 218};
+
+constexpr int NumberHeading = 172;
+constexpr int DigitsColumn = 1;
+
+constexpr const char* StunFrame = "Stun"; // in both languages
+constexpr TextPair InvalidData{"Invalid Data.", "无效数据。"};
+
+SpinTextRules StepsThroughTexts(const NumberField& field) {
+    SpinTextRules rules;
+    rules.step = [&field](const QString& text, bool up) { return dtmf::NextText(field, FromQString(text), up); };
+    return rules;
+}
+
+/// D stands for the whole text "D Code": it takes the place of what is in the box.
+void TakeDCodeLetter(FilteredLineEdit& box) {
+    box.SetFilter([&box](QChar entered) {
+        if (entered.toUpper() == u'D' && box.text() != "D") {
+            box.setText("D");
+            box.setCursorPosition(0);
+        }
+        return Digit(entered);
+    });
+}
+
+/// The character that a key of the grid opens the editor with. Shift with a digit stands for what a telephone has on
+/// that key, on every layout of the keyboard.
+QChar DigitOfKey(const QKeyEvent& event) {
+    const bool shifted = event.modifiers().testFlag(Qt::ShiftModifier);
+    if (shifted && event.key() >= Qt::Key_0 && event.key() <= Qt::Key_9) {
+        return event.key() == Qt::Key_3 ? QChar(u'#') : event.key() == Qt::Key_8 ? QChar(u'*') : QChar();
+    }
+    return DtmfDigitFilter(TypedCharacter(event));
+}
+
+} // namespace
+
+DTMFForm::DTMFForm(Session& session, Services& services, QWidget* parent)
+    : FieldForm(ChildWindow::Dtmf, "DTMFForm", WindowSize, "picDTMF", dtmf::Caption, session, services, parent) {
+    auto* tabs = new FieldTabs("SSTab1", Panel());
+    tabs->setGeometry(Panel()->rect().adjusted(Margin, Margin, -Margin, 0));
+    BuildEncodePage(*tabs->AddPage(LoadText(dtmf::EncodeCaption)));
+    BuildDecodePage(*tabs->AddPage(LoadText(dtmf::DecodeCaption)));
+    BuildAutodialPage(*tabs->AddPage(LoadText(dtmf::AutodialCaption)));
+    Load();
+}
+
+void DTMFForm::BuildEncodePage(QWidget& page) {
+    BoundRows rows(page, TheSession());
+    StartAt(*rows.AddSpin("DTMFSpeed", dtmf::Speed, StepsThroughTexts(dtmf::Speed)));
+    rows.AddSpin("FstDigitTime", dtmf::FirstDigitTime, StepsThroughTexts(dtmf::FirstDigitTime));
+    rows.AddSpin("FstDigitDelay", dtmf::FirstDigitDelay);
+    rows.AddSpin("Tone", dtmf::Tone, StepsThroughTexts(dtmf::Tone));
+    TakeDCodeLetter(rows.AddSpin("DCodeAssign", dtmf::DCodeAssignment)->Box());
+    rows.AddCheck("DTMFSideTone", dtmf::SideTone);
+    rows.End();
+}
+
+void DTMFForm::BuildDecodePage(QWidget& page) {
+    BoundRows rows(page, TheSession(), Margin, 5);
+    txtIDCode_ = MakeCode("txtIDCode", dtmf::IdCode);
+    rows.Add("lblIDCode", dtmf::IdCode.label, txtIDCode_);
+    rows.AddList("GroupCode", dtmf::GroupCode);
+    rows.AddSpin("AutoResetTimer", dtmf::AutoResetTimer);
+    rows.AddList("CallAlert", dtmf::CallAlert);
+    rows.AddList("Transpond", dtmf::Transpond);
+    rows.AddCheck("Clear", dtmf::ClearToTranspond);
+    rows.Add(BuildStunFrame());
+    rows.End();
+}
+
+/// Both fields in one row: the page has no height for two.
+QWidget* DTMFForm::BuildStunFrame() {
+    auto* fraStun = new QGroupBox(StunFrame);
+    fraStun->setObjectName("fraStun");
+    auto* row = new QHBoxLayout(fraStun);
+    row->setContentsMargins(Margin, StunSpacing, Margin, StunSpacing);
+    row->setSpacing(Margin);
+    txtStunCode_ = MakeCode("txtStunCode", dtmf::StunCode);
+    cboStunType_ = new BoundList("cboStunType", dtmf::StunType, TheSession().Image, TheSession().LanguageFlag);
+    const auto add = [&](const char* labelName, const QString& text, QWidget* control) {
+        auto* label = new QLabel(text);
+        label->setObjectName(labelName);
+        label->setBuddy(control);
+        control->setAccessibleName(text);
+        row->addWidget(label);
+        row->addWidget(control);
+        return label;
+    };
+    add("lblStunCode", LoadText(dtmf::StunCode.label), txtStunCode_);
+    lblStunType_ = add("lblStunType", LoadText(dtmf::StunType.label), cboStunType_);
+    connect(txtStunCode_, &DtmfCodeBox::Committed, this, &DTMFForm::EnableStunType);
+    return fraStun;
+}
+
+void DTMFForm::BuildAutodialPage(QWidget& page) {
+    msgAutodial_ = new EditGrid(dtmf::AutodialCount, DigitsColumn, &page);
+    msgAutodial_->setObjectName("msgAutodial");
+    msgAutodial_->setGeometry({QPoint(Margin, Margin), GridSize});
+    page.setFocusProxy(msgAutodial_);
+    SetGridTexts();
+    auto* txtAutodial = new CellTextEditor(&page);
+    txtAutodial->setObjectName("txtAutodial");
+    txtAutodial->SetFilter(DtmfDigitFilter);
+    txtAutodial->SetLengthLimit(dtmf::AutodialSize);
+    edit_ = new TextCellEdit(*msgAutodial_, *txtAutodial);
+    connect(msgAutodial_, &EditGrid::CellClicked, edit_, &TextCellEdit::Open);
+    connect(msgAutodial_, &EditGrid::KeyPressed, this, &DTMFForm::OnGridKey);
+    connect(edit_, &TextCellEdit::Changed, this, &DTMFForm::StoreMemory);
+    connect(edit_, &TextCellEdit::Left, this, &DTMFForm::StoreMemory);
+    connect(edit_, &TextCellEdit::Entered, this, &DTMFForm::OnEntered);
+}
+
+void DTMFForm::SetGridTexts() {
+    QStringList numbers;
+    for (int n = 1; n <= dtmf::AutodialCount; ++n) {
+        numbers.append(QString::number(n));
+    }
+    msgAutodial_->SetCaptions({LoadText(NumberHeading), LoadText(dtmf::AutodialCaption)}, numbers);
+    const int inner = GridSize.width() - 2 * msgAutodial_->frameWidth();
+    msgAutodial_->FitCells({inner / 4, inner - inner / 4});
+    msgAutodial_->setAccessibleName(LoadText(dtmf::AutodialCaption));
+}
+
+void DTMFForm::Load() {
+    LoadFields();
+    txtIDCode_->Load();
+    txtStunCode_->Load();
+    EnableStunType();
+    for (int n = 1; n <= dtmf::AutodialCount; ++n) {
+        msgAutodial_->SetText(n, DigitsColumn, QString::fromStdU16String(dtmf::LoadAutodial(TheSession().Image, n)));
+    }
+}
+
+DtmfCodeBox* DTMFForm::MakeCode(const QString& name, const dtmf::CodeField& field) {
+    auto* made = new DtmfCodeBox(name, field, TheSession().Image);
+    connect(made, &DtmfCodeBox::Invalid, this, &DTMFForm::OnInvalidCode);
+    return made;
+}
+
+void DTMFForm::OnInvalidCode() {
+    refused_ = true;
+    const Language language = TheSession().LanguageFlag;
+    TheServices().messages.Show({std::string(commontexts::Error.In(language)), std::string(InvalidData.In(language)),
+                                 MessageIcon::Critical, MessageButtons::Ok});
+}
+
+void DTMFForm::EnableStunType() {
+    const bool hasCode = !txtStunCode_->text().isEmpty();
+    lblStunType_->setEnabled(hasCode);
+    cboStunType_->setEnabled(hasCode);
+}
+
+void DTMFForm::CloseFromButton() {
+    refused_ = false;
+    CommitPendingEdit();
+    if (!refused_) {
+        emit UnloadRequested();
+    }
+}
+
+void DTMFForm::OnGridKey(QKeyEvent* event) {
+    const QChar digit = DigitOfKey(*event);
+    if (!IsEnterKey(*event) && digit.isNull()) {
+        return;
+    }
+    edit_->Open();
+    if (!digit.isNull()) {
+        edit_->PutText(digit);
+    }
+    event->accept();
+}
+
+void DTMFForm::OnEntered() {
+    StoreMemory();
+    edit_->Close();
+    msgAutodial_->MoveTo(edit_->Row() + 1, DigitsColumn);
+}
+
+/// Runs at every key, so Escape brings back the cell's text but not the memory: that keeps what was typed last, on
+/// purpose.
+void DTMFForm::StoreMemory() {
+    dtmf::StoreAutodial(TheSession().Image, edit_->Row(), edit_->Text().toStdU16String());
+}
+
+} // namespace zelvor

@@ -1,0 +1,42 @@
+#include "features/DtmfCodeBox.h"
+
+#include "controls/DtmfFilter.h"
+#include "controls/EnterAsTab.h"
+
+namespace zelvor {
+
+DtmfCodeBox::DtmfCodeBox(const QString& name, const dtmf::CodeField& field, DataImage& image, QWidget* parent)
+    : HoldingLineEdit(
+          [&field](const QString& text) { return dtmf::IsLegalLength(field, static_cast<int>(text.size())); }, parent),
+      field_(field), image_(image) {
+    setObjectName(name);
+    SetFilter(field.decimal ? Digit : DtmfDigitFilter);
+    SetLengthLimit(dtmf::CodeField::Size);
+    EnterMovesOn(*this);
+    connect(this, &DtmfCodeBox::Refused, this, &DtmfCodeBox::Refuse);
+    connect(this, &DtmfCodeBox::FocusLeft, this, &DtmfCodeBox::Commit);
+}
+
+void DtmfCodeBox::Load() {
+    lastGood_ = QString::fromStdU16String(dtmf::LoadCode(image_, field_));
+    setText(lastGood_);
+}
+
+void DtmfCodeBox::Refuse() {
+    emit Invalid();
+    setText(lastGood_);
+    selectAll();
+    Store();
+}
+
+void DtmfCodeBox::Commit() {
+    Store();
+    lastGood_ = text();
+    emit Committed();
+}
+
+void DtmfCodeBox::Store() {
+    dtmf::StoreCode(image_, field_, text().toStdU16String());
+}
+
+} // namespace zelvor
