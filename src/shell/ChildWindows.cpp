@@ -4,6 +4,7 @@
 
 #include "controls/ChildForm.h"
 #include "controls/ChildFrame.h"
+#include "controls/PendingEdit.h"
 #include "shell/WindowArrangement.h"
 #include "shell/WindowList.h"
 
@@ -53,6 +54,9 @@ ChildForm& ChildWindows::Load(ChildWindow window) {
     if (!slot.frame) {
         slot.frame = new ChildFrame(slot.factory());
         area_.addSubWindow(slot.frame);
+        if (slot.frame->Form()->OpensAtOrigin()) {
+            slot.frame->move(0, 0);
+        }
         Connect(*slot.frame->Form());
     }
     return *slot.frame->Form();
@@ -187,6 +191,18 @@ void ChildWindows::UnloadEditors() {
         if (session_.IsOpen(window)) {
             CloseByUnloading(window);
         }
+    }
+}
+
+void ChildWindows::DropEditors() {
+    for (const ChildWindow window : UnloadOrder) {
+        if (const ChildFrame* frame = SlotOf(window).frame) {
+            DropPendingEdit(*frame->Form());
+        }
+    }
+    UnloadEditors();
+    for (const ChildWindow window : UnloadOrder) {
+        Unload(window);
     }
 }
 

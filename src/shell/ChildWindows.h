@@ -54,6 +54,8 @@ public:
     void CloseByUnloading(ChildWindow window);
     /// Unloads every open window but the grid, in the order told for a new document.
     void UnloadEditors();
+    /// Unloads every window but the grid, also those that are only hidden; what is being edited in them is dropped.
+    void DropEditors();
     /// Close All: hides what is open, and clears no ChildOpen entry.
     void CloseAll();
     /// Hides MnuWindow when nothing is open, the navigator included.

@@ -5,6 +5,7 @@
 #include "channels/ChannelForm.h"
 #include "data/ModelCatalogue.h"
 #include "data/Session.h"
+#include "features/CPUForm.h"
 #include "platform/Toolkit.h"
 #include "shell/ChildWindows.h"
 #include "shell/ModelTypeForm.h"
@@ -80,6 +81,10 @@ void DocumentView::ShowTitle() {
 void DocumentView::ChooseModel() {
     ModelTypeForm dialog(session_, services_, &mainWindow_);
     dialog.exec();
+}
+
+void DocumentView::EditMemory() {
+    CPUForm(session_, &mainWindow_).exec();
 }
 
 void DocumentView::ResetAfterTransfer() {

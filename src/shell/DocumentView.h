@@ -26,6 +26,7 @@ public:
     void ListGrid() override;
     void ShowTitle() override;
     void ChooseModel() override;
+    void EditMemory() override;
 
     /// What a transfer that got under way leaves of the windows: no editor open, the grid at its place.
     void ResetAfterTransfer();

@@ -23,6 +23,8 @@ public:
     virtual void ShowTitle() = 0;
     /// Shows ModelTypeForm modally.
     virtual void ChooseModel() = 0;
+    /// Shows CPUForm modally.
+    virtual void EditMemory() = 0;
 };
 
 } // namespace zelvor

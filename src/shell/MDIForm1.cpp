@@ -6,6 +6,7 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QShortcut>
+#include <algorithm>
 #include <array>
 
 #include "channels/ChannelEditForm.h"
@@ -15,6 +16,10 @@
 #include "channels/TestChannelForm.h"
 #include "data/BlankImage.h"
 #include "data/Session.h"
+#include "features/CorvaneForm.h"
+#include "features/DTMFForm.h"
+#include "features/KeyAssign.h"
+#include "features/OptionalForm.h"
 #include "link/ComForm.h"
 #include "platform/Clock.h"
 #include "platform/HelpTopic.h"
@@ -24,8 +29,11 @@
 #include "shell/ChildWindows.h"
 #include "shell/DocumentView.h"
 #include "shell/Icons.h"
+#include "shell/LanguageCommand.h"
+#include "shell/MemoryMapGesture.h"
 #include "shell/Menus.h"
 #include "shell/RememberedSettings.h"
+#include "shell/ServiceCommands.h"
 #include "shell/SessionCommands.h"
 #include "shell/StatusBar1.h"
 #include "shell/Toolbar1.h"
@@ -40,6 +48,8 @@ namespace {
 
 constexpr QSize FirstSize(1100, 720);
 constexpr int StatusBarMilliseconds = 1000;
+/// Test mode has no entry of its own in the window list: it marks the one of the test frequencies.
+constexpr int TestModeListEntry = 6;
 
 struct EditEntry {
     std::string_view name;
@@ -63,6 +73,7 @@ MDIForm1::MDIForm1(Session& session, Services& services) : session_(session), se
     ConnectFileMenu();
     ConnectEditMenu();
     ConnectProgramMenu();
+    ConnectMemoryMapGesture();
     ConnectViewMenu();
     ConnectWindowMenu();
     ConnectHelpMenu();
@@ -99,6 +110,13 @@ void MDIForm1::SetUpWindow() {
     view_ = std::make_unique<DocumentView>(session_, services_, *children_, *windowList_, *this);
     commands_ = std::make_unique<SessionCommands>(session_, services_, *view_);
     transfers_ = std::make_unique<TransferCommands>(session_, services_, *view_, *this);
+    service_ = std::make_unique<ServiceCommands>(
+        session_, services_,
+        ServiceCommands::MainWindow{*this, [this](const std::string& record) { GetDJJInfo(record); },
+                                    [this] { windowList_->Mark(TestModeListEntry); }});
+    language_ = std::make_unique<LanguageCommand>(
+        session_, services_,
+        LanguageCommand::Windows{*children_, *view_, channelWindows_, *this, [this] { ApplyLanguage(); }});
 }
 
 void MDIForm1::RestoreSession() {
@@ -113,8 +131,7 @@ void MDIForm1::RestoreSession() {
     StartClock();
     RestoreModel(session_, services_.settings);
     RestoreLanguage(session_, services_.settings);
-    toolkitLanguage_.Use(session_.LanguageFlag);
-    ApplyMenuCaptions();
+    ApplyLanguage();
     session_.SetOpen(ChildWindow::Channels, true);
     view_->ListGrid();
     InitAllFrameData();
@@ -137,6 +154,11 @@ void MDIForm1::StartClock() {
 void MDIForm1::RegisterChildWindows() {
     children_->Register(ChildWindow::Channels, [this] { return MakeGrid(); });
     children_->Register(ChildWindow::Navigator, [this] { return MakeNavigator(); });
+    children_->Register(ChildWindow::OptionalFeatures,
+                        [this] { return new OptionalForm(session_, services_, channelWindows_); });
+    children_->Register(ChildWindow::KeyAssignment, [this] { return new KeyAssign(session_, services_); });
+    children_->Register(ChildWindow::Dtmf, [this] { return new DTMFForm(session_, services_); });
+    children_->Register(ChildWindow::Corvane, [this] { return new CorvaneForm(session_, services_); });
     children_->Register(ChildWindow::Scan, [this] { return new ScanForm(session_, services_, channelWindows_); });
     children_->Register(ChildWindow::TestFrequency,
                         [this] { return new TestChannelForm(session_, services_, channelWindows_); });
@@ -184,9 +206,18 @@ void MDIForm1::ConnectEditMenu() {
 }
 
 void MDIForm1::ConnectProgramMenu() {
-    menus_->On("MnuProgramRead", [this] { transfers_->Read(); });
-    menus_->On("MnuProgramWrite", [this] { transfers_->Write(); });
+    menus_->On("MnuProgramRead", [this] { Transfer(&TransferCommands::Read); });
+    menus_->On("MnuProgramWrite", [this] { Transfer(&TransferCommands::Write); });
+    menus_->On("MnuProgramTestMode", [this] { service_->EnterTestMode(); });
+    menus_->On("MnuToolRadioInformation", [this] { service_->ShowInformation(); });
     menus_->On("MnuSetupCommunicationPort", [this] { ShowCommunicationPort(); });
+    menus_->On("MnuSetupLanguageFileSetup", [this] { language_->Choose(); });
+}
+
+void MDIForm1::ConnectMemoryMapGesture() {
+    // The entry MnuProgramMemoryMap never shows: this is the only way.
+    connect(new MemoryMapGesture(*centralWidget()), &MemoryMapGesture::Made, this,
+            [this] { commands_->EditMemoryMap(); });
 }
 
 void MDIForm1::ConnectViewMenu() {
@@ -214,8 +245,8 @@ void MDIForm1::ConnectToolbar() {
     toolbar1_->On(1, [this] { commands_->New(); });
     toolbar1_->On(2, [this] { commands_->Open(); });
     toolbar1_->On(3, [this] { commands_->Save(); });
-    toolbar1_->On(7, [this] { transfers_->Read(); });
-    toolbar1_->On(9, [this] { transfers_->Write(); });
+    toolbar1_->On(7, [this] { Transfer(&TransferCommands::Read); });
+    toolbar1_->On(9, [this] { Transfer(&TransferCommands::Write); });
     toolbar1_->On(11, [this] { ShowAbout(); });
 }
 
@@ -232,7 +263,24 @@ void MDIForm1::ApplyMenuCaptions() {
     toolbar1_->ApplyToolTips(session_);
 }
 
+void MDIForm1::ApplyLanguage() {
+    toolkitLanguage_.Use(session_.LanguageFlag);
+    ApplyMenuCaptions();
+}
+
+void MDIForm1::GetDJJInfo(const std::string& record) {
+    auto& kept = session_.Service.RadioInfoRecord;
+    std::copy_n(record.begin(), std::min(record.size(), kept.size()), kept.begin());
+}
+
+/// The transfer wants the port for itself.
+void MDIForm1::Transfer(void (TransferCommands::*transfer)()) {
+    service_->Abort();
+    (transfers_.get()->*transfer)();
+}
+
 void MDIForm1::ShowCommunicationPort() {
+    service_->Abort();
     ComForm dialog(session_, services_, this);
     connect(&dialog, &ComForm::PortChosen, this, [this] { statusBar1_->ShowPort(session_.CommPortNumber); });
     dialog.exec();
@@ -252,7 +300,8 @@ void MDIForm1::ShowHelpOfActiveWindow() {
 }
 
 void MDIForm1::closeEvent(QCloseEvent* event) {
-    if (!commands_->QueryExit()) {
+    // Disabled: the radio's information or its test mode is open, and has to be closed first.
+    if (!isEnabled() || !commands_->QueryExit()) {
         event->ignore();
         return;
     }

@@ -11,8 +11,10 @@ namespace zelvor {
 class ChildForm;
 class ChildWindows;
 class DocumentView;
+class LanguageCommand;
 class Menus;
 class Session;
+class ServiceCommands;
 class SessionCommands;
 class StatusBar1;
 class Timer;
@@ -35,6 +37,8 @@ public:
     void TileMDIBkgd();
     /// Makes the document the blank image of its model; changes nothing else.
     void InitAllFrameData();
+    /// Keeps the radio's manufacturing record, one character a byte.
+    void GetDJJInfo(const std::string& record);
     /// Sets the texts of menus and tool tips in the current language.
     void ApplyMenuCaptions();
 
@@ -55,10 +59,13 @@ private:
     void ConnectFileMenu();
     void ConnectEditMenu();
     void ConnectProgramMenu();
+    void ConnectMemoryMapGesture();
     void ConnectViewMenu();
     void ConnectWindowMenu();
     void ConnectHelpMenu();
     void ConnectToolbar();
+    void ApplyLanguage();
+    void Transfer(void (TransferCommands::*transfer)());
     void ShowCommunicationPort();
     void ShowAbout();
     void ShowHelpPage(std::string_view page);
@@ -74,6 +81,8 @@ private:
     std::unique_ptr<DocumentView> view_;
     std::unique_ptr<SessionCommands> commands_;
     std::unique_ptr<TransferCommands> transfers_;
+    std::unique_ptr<LanguageCommand> language_;
+    std::unique_ptr<ServiceCommands> service_;
     std::unique_ptr<Timer> tmrStatusBar_;
     Toolbar1* toolbar1_ = nullptr;
     StatusBar1* statusBar1_ = nullptr;

@@ -19,6 +19,7 @@ public:
     TreeViewForm(const Session& session, Services& services, QWidget* parent = nullptr);
 
     [[nodiscard]] std::string_view HelpPage() const override { return "treeview.htm"; }
+    [[nodiscard]] bool IsToolWindow() const override { return true; }
 
 signals:
     /// The node of a window was activated.

@@ -142,20 +142,6 @@ TEST_F(MenuTest, CaptionsFollowTheLanguageWhenTheyAreApplied) {
     EXPECT_EQ(TextOf("MnuWindowSub(0)"), " Channel Information [ Channel - 1 ]");
 }
 
-TEST_F(MenuTest, EntriesOfWindowsToComeDoNothing) {
-    OpenMainWindow();
-    const DataImage before = session.Image;
-    for (const char* name :
-         {"MnuFilePrint", "MnuEditOptionalFeatures", "MnuEditKeyAssignment", "MnuEditDTMF", "MnuEditCorvane",
-          "MnuProgramTestMode", "MnuToolRadioInformation", "MnuSetupLanguageFileSetup"}) {
-        SCOPED_TRACE(name);
-        Choose(name);
-        EXPECT_EQ(session.ChildOpen, (std::array<bool, 10>{true}));
-    }
-    ClickToolbar(5);
-    EXPECT_EQ(session.Image, before);
-}
-
 TEST_F(MenuTest, TheToolbarIsHiddenAndShownByItsEntry) {
     OpenMainWindow();
     auto* toolbar = Find<QWidget>("Toolbar1");
@@ -186,6 +172,21 @@ TEST_F(MenuTest, AccessKeysOpenMenusAndChooseEntries) {
     ASSERT_TRUE(menu->isVisible());
     QTest::keyClick(menu, Qt::Key_T);
     EXPECT_FALSE(Find<QWidget>("Toolbar1")->isVisible());
+}
+
+TEST_F(MenuTest, AccessKeysOfTheGridsButtonsComeBeforeThoseOfTheMenus) {
+    OpenMainWindow();
+    auto* grid = Find<QWidget>("ChannelGrid");
+    QTest::keyClick(grid, Qt::Key_E, Qt::AltModifier);
+    EXPECT_FALSE(Find<QMenu>("MnuEdit")->isVisible());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return IsChildShown("ChannelEditForm"); }));
+}
+
+TEST_F(MenuTest, AltAloneLeadsToTheMenusWhoseLettersTheGridHas) {
+    OpenMainWindow();
+    QTest::keyClick(Find<QWidget>("ChannelGrid"), Qt::Key_Alt);
+    QTest::keyClick(window->menuBar(), Qt::Key_E);
+    EXPECT_TRUE(Find<QMenu>("MnuEdit")->isVisible());
 }
 
 } // namespace

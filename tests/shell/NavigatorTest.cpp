@@ -200,25 +200,16 @@ TEST_F(NavigatorTest, TheFirstClickAfterLoadingIsNeeded) {
     EXPECT_FALSE(IsChildShown("ChannelForm"));
 }
 
-TEST_F(NavigatorTest, NodesOfWindowsToComeDoNothing) {
-    OpenMainWindow();
-    OpenNavigator();
-    for (const int i : {1, 2, 4, 5}) { // optional features, keys, DTMF, Corvane
-        DoubleClickOn(Root()->child(i));
-    }
-    EXPECT_EQ(session.ChildOpen, (std::array<bool, 10>{true, false, false, false, false, false, false, false, true}));
-}
-
 TEST_F(NavigatorTest, NodesOpenTheirWindows) {
     OpenMainWindow();
     OpenNavigator();
-    for (const int i : {3, 6, 7}) { // scan, test frequencies, embedded message
+    const char* windows[] = {"OptionalForm", "KeyAssign",       "ScanForm",     "DTMFForm",
+                             "CorvaneForm",  "TestChannelForm", "EmbedInfoForm"};
+    for (int i = 1; i <= 7; ++i) {
         DoubleClickOn(Root()->child(i));
+        EXPECT_TRUE(IsChildShown(windows[i - 1])) << windows[i - 1];
     }
-    EXPECT_TRUE(IsChildShown("ScanForm"));
-    EXPECT_TRUE(IsChildShown("TestChannelForm"));
-    EXPECT_TRUE(IsChildShown("EmbedInfoForm"));
-    EXPECT_EQ(session.ChildOpen, (std::array<bool, 10>{true, false, false, true, false, false, true, true, true}));
+    EXPECT_EQ(session.ChildOpen, (std::array<bool, 10>{true, true, true, true, true, true, true, true, true}));
 }
 
 TEST_F(NavigatorTest, ClosesByItsButtonAndByItsFrame) {
@@ -240,6 +231,15 @@ TEST_F(NavigatorTest, IsNoEntryOfTheWindowList) {
     for (int i = 1; i < 9; ++i) {
         EXPECT_FALSE(Entry("MnuWindowSub(" + std::to_string(i) + ")")->isVisible());
     }
+}
+
+TEST_F(NavigatorTest, IsAToolWindowThatCanNeitherBeMinimisedNorMaximised) {
+    OpenMainWindow();
+    OpenNavigator();
+    const Qt::WindowFlags flags = Child("TreeViewForm")->parentWidget()->windowFlags();
+    EXPECT_FALSE(flags & Qt::WindowMinimizeButtonHint);
+    EXPECT_FALSE(flags & Qt::WindowMaximizeButtonHint);
+    EXPECT_TRUE(flags & Qt::WindowCloseButtonHint);
 }
 
 TEST_F(NavigatorTest, EscapeLeavesItOpen) {

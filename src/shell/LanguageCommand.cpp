@@ -1,0 +1,46 @@
+#include "shell/LanguageCommand.h"
+
+#include <QApplication>
+#include <QPointer>
+#include <QWidget>
+#include <utility>
+
+#include "channels/ChannelForm.h"
+#include "channels/ChannelWindows.h"
+#include "controls/PendingEdit.h"
+#include "shell/ChildWindows.h"
+#include "shell/DocumentView.h"
+#include "shell/LanguageForm.h"
+
+namespace zelvor {
+
+LanguageCommand::LanguageCommand(Session& session, Services& services, Windows windows)
+    : session_(session), services_(services), windows_(std::move(windows)) {}
+
+void LanguageCommand::Choose() {
+    CommitPendingEdit();
+    // No control keeps the focus that would commit by losing it in another language than it was filled in.
+    const QPointer<QWidget> focus = QApplication::focusWidget();
+    if (focus) {
+        focus->clearFocus();
+    }
+    LanguageForm(session_, services_, &windows_.mainWindow).exec();
+    if (session_.LanguageChanged) {
+        Switch();
+    } else if (focus) {
+        focus->setFocus(Qt::OtherFocusReason);
+    }
+}
+
+void LanguageCommand::Switch() {
+    windows_.children.DropEditors();
+    windows_.view.PlaceGrid();
+    windows_.view.ShowTitle();
+    windows_.applyMainWindowTexts();
+    // A grid that was unloaded is made in the current language.
+    if (ChannelForm* grid = windows_.channels.grid) {
+        grid->SwitchLanguage();
+    }
+}
+
+} // namespace zelvor

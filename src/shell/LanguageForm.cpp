@@ -1,0 +1,76 @@
+#include "shell/LanguageForm.h"
+
+#include <QComboBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QPushButton>
+
+#include "data/Session.h"
+#include "link/DialogButtons.h"
+#include "platform/HelpTopic.h"
+#include "platform/HelpViewer.h"
+#include "platform/Services.h"
+#include "platform/Toolkit.h"
+#include "shell/Icons.h"
+
+namespace zelvor {
+
+namespace {
+
+// Numbers of the string table.
+constexpr int CaptionText = 128;
+constexpr int LanguageText = 129;
+constexpr int EnglishText = 121;
+constexpr int ChineseText = 122;
+
+constexpr int ListWidth = 180;
+
+} // namespace
+
+LanguageForm::LanguageForm(Session& session, Services& services, QWidget* parent)
+    : QDialog(parent), session_(session), services_(services), oldLanguage_(session.LanguageFlag) {
+    setObjectName("LanguageForm");
+    setWindowTitle(ToQString(session_.LoadText(CaptionText)));
+    setWindowIcon(MakeIcon(IconShape::Application));
+    BuildControls();
+}
+
+void LanguageForm::BuildControls() {
+    auto* labLanguage = new QLabel(ToQString(session_.LoadText(LanguageText)), this);
+    labLanguage->setObjectName("labLanguage");
+    comLanguage_ = new QComboBox(this);
+    comLanguage_->setObjectName("ComLanguage");
+    comLanguage_->setAccessibleName(labLanguage->text());
+    comLanguage_->setMinimumWidth(ListWidth);
+    comLanguage_->addItem(ToQString(session_.LoadText(EnglishText)));
+    comLanguage_->addItem(ToQString(session_.LoadText(ChineseText)));
+    comLanguage_->setCurrentIndex(session_.LanguageFlag == Language::Chinese ? 1 : 0);
+
+    const DialogButtons buttons = MakeDialogButtons(*this, session_);
+    buttons.cmdOK->setObjectName("CmdOK");
+    buttons.cmdCancel->setObjectName("CmdCancel");
+    buttons.cmdHelp->setObjectName("CmdHelp");
+    connect(buttons.cmdOK, &QPushButton::clicked, this, &LanguageForm::accept);
+    connect(buttons.cmdCancel, &QPushButton::clicked, this, &LanguageForm::reject);
+    connect(buttons.cmdHelp, &QPushButton::clicked, this,
+            [this] { services_.help.ShowTopic(HelpTopicPath(session_.LanguageFlag, "language.htm")); });
+
+    auto* layout = new QFormLayout(this);
+    layout->addRow(labLanguage, comLanguage_);
+    layout->addRow(buttons.row);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void LanguageForm::accept() {
+    session_.LanguageFlag = comLanguage_->currentIndex() == 1 ? Language::Chinese : Language::English;
+    session_.HelpFile = HelpFilePath(session_.LanguageFlag);
+    session_.LanguageChanged = session_.LanguageFlag != oldLanguage_;
+    QDialog::accept();
+}
+
+void LanguageForm::reject() {
+    session_.LanguageChanged = false;
+    QDialog::reject();
+}
+
+} // namespace zelvor

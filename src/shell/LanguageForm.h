@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QDialog>
+
+#include "text/Language.h"
+
+class QComboBox;
+
+namespace zelvor {
+
+class Session;
+struct Services;
+
+/// Choice of the program's language. Shown modally; OK sets LanguageFlag, the help file, and LanguageChanged, which
+/// tells who shows the dialog whether there is anything to switch. Any other end leaves the language.
+class LanguageForm : public QDialog {
+    Q_OBJECT
+
+public:
+    LanguageForm(Session& session, Services& services, QWidget* parent = nullptr);
+
+    void accept() override;
+    void reject() override;
+
+private:
+    void BuildControls();
+
+    Session& session_;
+    Services& services_;
+    const Language oldLanguage_;
+    QComboBox* comLanguage_ = nullptr;
+};
+
+} // namespace zelvor

@@ -1,0 +1,131 @@
+#include "shell/LanguageForm.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+
+#include "shell/ShellTest.h"
+
+namespace zelvor {
+namespace {
+
+class LanguageFormTest : public ShellTest {
+protected:
+    void WithDialog(const std::function<void(QWidget&, QComboBox&)>& whileUp) {
+        ChooseDialog("MnuSetupLanguageFileSetup", [&](QWidget& dialog) {
+            ASSERT_EQ(dialog.objectName(), "LanguageForm");
+            whileUp(dialog, *dialog.findChild<QComboBox*>("ComLanguage"));
+        });
+    }
+    static QString TextOfButton(QWidget& dialog, const char* name) {
+        return dialog.findChild<QPushButton*>(name)->text();
+    }
+};
+
+TEST_F(LanguageFormTest, ShowsItsTextsAndTheLanguageInEnglish) {
+    OpenMainWindow();
+    WithDialog([](QWidget& dialog, QComboBox& list) {
+        EXPECT_EQ(dialog.windowTitle(), "Language File Setup");
+        EXPECT_EQ(dialog.findChild<QLabel*>("labLanguage")->text(), "Language Mode");
+        EXPECT_EQ(list.accessibleName(), "Language Mode");
+        EXPECT_EQ(TextOfButton(dialog, "CmdOK"), "&OK");
+        EXPECT_EQ(TextOfButton(dialog, "CmdCancel"), "&Cancel");
+        EXPECT_EQ(TextOfButton(dialog, "CmdHelp"), "&Help");
+        ASSERT_EQ(list.count(), 2);
+        EXPECT_EQ(list.itemText(0), "English");
+        EXPECT_EQ(list.itemText(1), "Chinese");
+        EXPECT_EQ(list.currentIndex(), 0);
+        EXPECT_FALSE(list.isEditable());
+        dialog.close();
+    });
+}
+
+TEST_F(LanguageFormTest, ShowsItsTextsAndTheLanguageInChinese) {
+    OpenMainWindowInChinese();
+    WithDialog([](QWidget& dialog, QComboBox& list) {
+        EXPECT_EQ(dialog.windowTitle(), "语言文件设置");
+        EXPECT_EQ(dialog.findChild<QLabel*>("labLanguage")->text(), "语言模式");
+        EXPECT_EQ(TextOfButton(dialog, "CmdOK"), "确定(&O)");
+        EXPECT_EQ(TextOfButton(dialog, "CmdCancel"), "取消(&C)");
+        EXPECT_EQ(TextOfButton(dialog, "CmdHelp"), "帮助(&H)");
+        ASSERT_EQ(list.count(), 2);
+        EXPECT_EQ(list.itemText(0), "英文");
+        EXPECT_EQ(list.itemText(1), "中文");
+        EXPECT_EQ(list.currentIndex(), 1);
+        dialog.close();
+    });
+}
+
+TEST_F(LanguageFormTest, OkSetsTheFlagAndTheHelpFile) {
+    OpenMainWindow();
+    WithDialog([](QWidget& dialog, QComboBox& list) {
+        list.setCurrentIndex(1);
+        Click(dialog, "CmdOK");
+    });
+    EXPECT_EQ(session.LanguageFlag, Language::Chinese);
+    EXPECT_TRUE(session.LanguageChanged);
+    EXPECT_TRUE(QString::fromStdString(session.HelpFile).endsWith("\\Zelvor_c.chm"));
+    WithDialog([](QWidget& dialog, QComboBox& list) {
+        list.setCurrentIndex(0);
+        Click(dialog, "CmdOK");
+    });
+    EXPECT_EQ(session.LanguageFlag, Language::English);
+    EXPECT_TRUE(session.LanguageChanged);
+    EXPECT_TRUE(QString::fromStdString(session.HelpFile).endsWith("\\Zelvor_e.chm"));
+}
+
+TEST_F(LanguageFormTest, OkWithTheLanguageOfBeforeChangesNothing) {
+    OpenMainWindow();
+    session.LanguageChanged = true;
+    WithDialog([](QWidget& dialog, QComboBox&) { Click(dialog, "CmdOK"); });
+    EXPECT_EQ(session.LanguageFlag, Language::English);
+    EXPECT_FALSE(session.LanguageChanged);
+}
+
+TEST_F(LanguageFormTest, AnyOtherEndChangesNothing) {
+    OpenMainWindow();
+    const std::vector<std::function<void(QWidget&)>> ends{
+        [](QWidget& dialog) { Click(dialog, "CmdCancel"); },
+        [](QWidget& dialog) { dialog.close(); },
+        [](QWidget& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); },
+    };
+    for (const auto& end : ends) {
+        session.LanguageChanged = true; // of an earlier switch
+        WithDialog([&](QWidget& dialog, QComboBox& list) {
+            list.setCurrentIndex(1);
+            end(dialog);
+        });
+        EXPECT_EQ(session.LanguageFlag, Language::English);
+        EXPECT_FALSE(session.LanguageChanged);
+        EXPECT_TRUE(QString::fromStdString(session.HelpFile).endsWith("\\Zelvor_e.chm"));
+    }
+}
+
+TEST_F(LanguageFormTest, HelpShowsItsPage) {
+    OpenMainWindow();
+    WithDialog([](QWidget& dialog, QComboBox&) {
+        Click(dialog, "CmdHelp");
+        dialog.activateWindow();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == &dialog; }));
+        QTest::keyClick(&dialog, Qt::Key_F1);
+        dialog.close();
+    });
+    ASSERT_EQ(fakes.help.Topics().size(), 2U);
+    for (const std::string& topic : fakes.help.Topics()) {
+        EXPECT_TRUE(QString::fromStdString(topic).endsWith("\\Zelvor_e.chm::/html/language.htm"));
+    }
+}
+
+TEST_F(LanguageFormTest, HelpShowsTheChinesePageInChinese) {
+    OpenMainWindowInChinese();
+    WithDialog([](QWidget& dialog, QComboBox&) {
+        Click(dialog, "CmdHelp");
+        dialog.close();
+    });
+    ASSERT_EQ(fakes.help.Topics().size(), 1U);
+    EXPECT_TRUE(QString::fromStdString(fakes.help.Topics()[0]).endsWith("\\Zelvor_c.chm::/html/language.htm"));
+}
+
+} // namespace
+} // namespace zelvor

@@ -1,0 +1,177 @@
+#include <QApplication>
+#include <QLabel>
+#include <QPushButton>
+#include <map>
+
+#include "ShellTest.h"
+#include "link/ScriptedRadio.h"
+#include "service/DJJInfoForm.h"
+#include "service/TestForm.h"
+
+namespace zelvor {
+namespace {
+
+/// The main window with a radio in service mode behind its ports; every command not told otherwise is acknowledged.
+class ServiceCommandsTest : public ShellTest {
+protected:
+    void SetUp() override {
+        fakes.ports.OnMake = [this](FakeSerialPort& port) {
+            port.OnSend = [this, &port](std::span<const std::uint8_t> command) {
+                const std::string hex = Hex(command);
+                sent.push_back(hex);
+                const Bytes reply = ReplyTo(hex);
+                fakes.clock.At(2, [this, &port, reply] {
+                    if (!reply.empty() && fakes.ports.Port("MSComm1") == &port && port.IsOpen()) {
+                        port.Deliver(reply);
+                    }
+                });
+            };
+        };
+        OpenMainWindow();
+    }
+
+    [[nodiscard]] Bytes ReplyTo(const std::string& command) const {
+        if (silent) {
+            return {};
+        }
+        if (command == "02") {
+            return {0x50, 0x34, 0x36, 0x31, 0x38, 0x01, 0xF8, 0xFF};
+        }
+        if (command == "4E 52 4B") {
+            Bytes record(34, '-');
+            record[13] = 'Z';
+            for (std::size_t i = 0; i < 8; ++i) {
+                record[17 + i] = static_cast<std::uint8_t>('1' + i);
+            }
+            return record;
+        }
+        if (command == "50") {
+            return Bytes(10, 0x20);
+        }
+        if (command == "05") {
+            return Bytes(62, 0x11);
+        }
+        if (command.starts_with("10 ")) {
+            Bytes record;
+            const int channel = std::stoi(command.substr(3), nullptr, 16);
+            for (int i = 0; i < 8; ++i) {
+                record.push_back(session.Image.At(0x280 + (channel - 1) * 8 + i));
+            }
+            return record;
+        }
+        return {0x06};
+    }
+
+    [[nodiscard]] QString Text(const char* label) const { return Find<QLabel>(label)->text(); }
+
+    std::vector<std::string> sent;
+    bool silent = false;
+};
+
+const Message Prompt{"Error", "please check all connections and communication port settings.", MessageIcon::Critical,
+                     MessageButtons::RetryCancel, MessageAnswer::Retry};
+
+TEST_F(ServiceCommandsTest, RadioInformationShowsTheRadiosSerialNumberOverADisabledMainWindow) {
+    Choose("MnuToolRadioInformation");
+    EXPECT_TRUE(window->isEnabled());
+    fakes.clock.Advance(500);
+    ASSERT_NE(Find<DJJInfoForm>("DJJInfoForm"), nullptr);
+    EXPECT_TRUE(Find<DJJInfoForm>("DJJInfoForm")->isVisible());
+    EXPECT_TRUE(Find<DJJInfoForm>("DJJInfoForm")->isEnabled());
+    EXPECT_FALSE(window->isEnabled());
+    EXPECT_EQ(Text("LabSN"), " Z 12345678");
+    EXPECT_EQ(Text("LabModel"), "4618");
+    EXPECT_EQ(Text("LabFreq"), "VHF: 136-174 MHz(M)");
+    EXPECT_EQ(session.Service.RadioInfoRecord[0], '-');
+    EXPECT_EQ(session.Service.RadioInfoRecord[33], '-');
+}
+
+TEST_F(ServiceCommandsTest, ClosingTheInformationEnablesTheMainWindowWhicheverWay) {
+    for (const bool byButton : {true, false}) {
+        Choose("MnuToolRadioInformation");
+        fakes.clock.Advance(500);
+        if (byButton) {
+            QTest::mouseClick(Find<DJJInfoForm>("DJJInfoForm")->findChild<QPushButton*>("cmdClose"), Qt::LeftButton);
+        } else {
+            Find<DJJInfoForm>("DJJInfoForm")->close();
+        }
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_TRUE(window->isEnabled());
+        EXPECT_EQ(Find<DJJInfoForm>("DJJInfoForm"), nullptr);
+    }
+}
+
+TEST_F(ServiceCommandsTest, ASilentRadioPromptsAndCancelLeavesEverythingAsItWas) {
+    silent = true;
+    fakes.messages.Expect(Prompt, MessageAnswer::Cancel);
+    Choose("MnuToolRadioInformation");
+    fakes.clock.Advance(1000);
+    EXPECT_EQ(fakes.messages.Pending(), 0);
+    EXPECT_TRUE(window->isEnabled());
+    EXPECT_EQ(Find<DJJInfoForm>("DJJInfoForm"), nullptr);
+    EXPECT_EQ(sent, std::vector<std::string>{"50 52 4F 47 52 41 4D"});
+}
+
+TEST_F(ServiceCommandsTest, TestModeOpensOverADisabledMainWindowAndEndsWithEnd) {
+    Choose("MnuProgramTestMode");
+    fakes.clock.Advance(1000);
+    auto* form = Find<TestForm>("TestForm");
+    ASSERT_NE(form, nullptr);
+    EXPECT_TRUE(form->isVisible());
+    EXPECT_TRUE(form->isEnabled());
+    EXPECT_FALSE(window->isEnabled());
+    sent.clear();
+    QTest::mouseClick(form->findChild<QPushButton*>("cmdClose"), Qt::LeftButton);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(sent, (std::vector<std::string>{"11 01", "45"}));
+    EXPECT_TRUE(window->isEnabled());
+    EXPECT_EQ(Find<TestForm>("TestForm"), nullptr);
+}
+
+TEST_F(ServiceCommandsTest, TheMainWindowDoesNotCloseWhileTestModeIsOpen) {
+    Choose("MnuProgramTestMode");
+    fakes.clock.Advance(1000);
+    EXPECT_FALSE(window->close());
+    EXPECT_TRUE(window->isVisible());
+}
+
+TEST_F(ServiceCommandsTest, DestroyingTheMainWindowWithTestModeOpenIsHarmless) {
+    Choose("MnuProgramTestMode");
+    fakes.clock.Advance(1000);
+    window.reset();
+    fakes.clock.Advance(1000);
+}
+
+TEST_F(ServiceCommandsTest, ATransferEndsAnExchangeThatIsUnderWay) {
+    Choose("MnuToolRadioInformation");
+    fakes.clock.Advance(101);
+    ChooseDialog("MnuProgramRead", [](QWidget& dialog) { Click(dialog, "cmdCancel"); });
+    sent.clear();
+    fakes.clock.Advance(1000);
+    EXPECT_TRUE(sent.empty());
+    EXPECT_TRUE(window->isEnabled());
+}
+
+TEST_F(ServiceCommandsTest, TestModeMarksTheSeventhEntryOfTheWindowList) {
+    Choose("MnuEditTestFrequency");
+    Choose("MnuEditScanInformation");
+    EXPECT_FALSE(Entry("MnuWindowSub(6)")->isChecked());
+    Choose("MnuProgramTestMode");
+    fakes.clock.Advance(1000);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return QApplication::activeWindow() == Find<TestForm>("TestForm"); }));
+    EXPECT_TRUE(Entry("MnuWindowSub(6)")->isChecked());
+    EXPECT_FALSE(Entry("MnuWindowSub(3)")->isChecked());
+}
+
+TEST_F(ServiceCommandsTest, AShortRecordKeepsTheRest) {
+    window->GetDJJInfo(std::string(34, 'x'));
+    window->GetDJJInfo("ab");
+    EXPECT_EQ(session.Service.RadioInfoRecord[0], 'a');
+    EXPECT_EQ(session.Service.RadioInfoRecord[1], 'b');
+    EXPECT_EQ(session.Service.RadioInfoRecord[2], 'x');
+    window->GetDJJInfo(std::string(40, 'y'));
+    EXPECT_EQ(session.Service.RadioInfoRecord[33], 'y');
+}
+
+} // namespace
+} // namespace zelvor
