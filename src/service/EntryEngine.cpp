@@ -1,0 +1,222 @@
+#include "service/EntryEngine.h"
+
+#include "data/TestFrequencies.h"
+#include "data/TuneItems.h"
+#include "platform/MessageBoxes.h"
+#include "service/ServiceFrames.h"
+#include "service/TestChannels.h"
+
+namespace zelvor {
+
+namespace {
+
+// Milliseconds.
+constexpr int FirstSendInterval = 100;
+constexpr int StepInterval = 1;
+constexpr int Timeout = 100;
+constexpr int EntryFailureInterval = 2;
+constexpr int FailureInterval = 1;
+constexpr int DonePause = 30;
+constexpr int RefusedPause = 10;
+
+// Values of StepCount in a test mode entry: 1 to 16 are channels.
+constexpr int AllChannelsStep = 17;
+constexpr int MismatchStep = 30;
+
+/// Intended: the Chinese title is that of a warning.
+constexpr TextPair MismatchTitle{"Error", "警告"};
+constexpr TextPair MismatchText{"Test Frequency mismatch.\nExecute read data from radio\nor write to radio.",
+                                "测试频率不匹配。\n执行\"从对讲机读取数据\"\n或\"向对讲机写入数据\"。"};
+
+} // namespace
+
+EntryEngine::EntryEngine(Session& session, SerialPort& port, Clock& clock, MessageBoxes& messages,
+                         EntryObserver& observer)
+    : RadioExchange(session, port, clock, messages, "OverTimer", Timeout), observer_(observer) {}
+
+void EntryEngine::Start(bool infoMode) {
+    Stop();
+    SetUpPort();
+    InfoMode = infoMode;
+    EntryDone = false;
+    link_.StepCount = 1;
+    if (link_.SentState == SendEntry) {
+        link_.SentState = NothingSent; // left by a transfer that was given up; the first tick would do nothing
+    }
+    Enter(SendEntry, FirstSendInterval);
+}
+
+void EntryEngine::Abort() {
+    Stop();
+    ClosePort();
+}
+
+void EntryEngine::SendCommand() {
+    switch (State()) {
+    case SendEntry:
+        ExpectBytes(1);
+        Transmit(InfoMode ? service::InformationEntry : service::TuningEntry);
+        break;
+    case AskIdentity:
+        Transmit({service::IdentityRequest});
+        ExpectBytes(service::IdentityLength);
+        break;
+    case ConfirmIdentity:
+        Transmit({service::AcknowledgeByte});
+        ExpectBytes(1);
+        break;
+    case ConfirmRecord:
+    case ConfirmNext:
+        ExpectBytes(1);
+        Transmit({service::AcknowledgeByte});
+        break;
+    default:
+        if (InfoMode) {
+            SendInformationCommand();
+        } else {
+            SendTestModeCommand();
+        }
+    }
+}
+
+void EntryEngine::SendInformationCommand() {
+    switch (State()) {
+    case AskRecord:
+        Transmit(service::ManufacturingRecord);
+        ExpectBytes(service::ManufacturingRecordLength);
+        break;
+    case AskNext:
+        Transmit({service::UnusedRecord});
+        ExpectBytes(service::UnusedRecordLength);
+        break;
+    default:
+        ExpectBytes(1);
+        Transmit({service::End});
+    }
+}
+
+void EntryEngine::SendTestModeCommand() {
+    if (State() == AskRecord) {
+        Transmit({service::ReadTuningData});
+        ExpectBytes(TuningRecordSize);
+    } else {
+        Transmit({service::SetChannel, static_cast<std::uint8_t>(link_.StepCount)});
+        ExpectBytes(service::ChannelRecordLength);
+    }
+}
+
+void EntryEngine::Receive() {
+    if (TakeReply()) {
+        MoveOn();
+    } else {
+        FailFast(State() == SendEntry ? EntryFailureInterval : FailureInterval);
+    }
+}
+
+bool EntryEngine::TakeReply() {
+    switch (State()) {
+    case AskIdentity: {
+        const std::vector<std::uint8_t> identity = Read(service::IdentityLength);
+        return !identity.empty() && identity.front() == service::IdentityFirstByte;
+    }
+    case AskRecord: {
+        if (InfoMode) {
+            return TakeInformationRecord();
+        }
+        const std::vector<std::uint8_t> record = Read(TuningRecordSize);
+        StoreTuningData(record, session_.Image, session_.Service.Values);
+        return record.size() == TuningRecordSize;
+    }
+    case AskNext:
+        if (InfoMode) {
+            return Read(service::UnusedRecordLength).size() == service::UnusedRecordLength;
+        }
+        TakeTestFrequency();
+        return true;
+    default:
+        return ReadsAcknowledge();
+    }
+}
+
+bool EntryEngine::TakeInformationRecord() {
+    const std::vector<std::uint8_t> record = Read(service::ManufacturingRecordLength);
+    if (record.size() != service::ManufacturingRecordLength) {
+        return false;
+    }
+    observer_.OnInformation(std::string(record.begin(), record.end()));
+    return true;
+}
+
+void EntryEngine::TakeTestFrequency() {
+    const std::vector<std::uint8_t> reply = Read(service::ChannelRecordLength);
+    if (reply.size() != service::ChannelRecordLength) {
+        return;
+    }
+    const auto record = std::span(reply).first<address::TestFrequencyPairSize>();
+    const int channel = link_.StepCount;
+    session_.Service.TestFrequencyText[static_cast<std::size_t>(channel - 1)] = TestFrequencyTextOf(record);
+    if (!AgreesWithImage(record, session_.Image, channel)) {
+        link_.StepCount = MismatchStep;
+    }
+}
+
+void EntryEngine::MoveOn() {
+    if (InfoMode && State() == SendEnd) {
+        FinishInformation();
+    } else if (!InfoMode && State() == ConfirmNext) {
+        CountChannel();
+    } else {
+        Enter(State() + 1, StepInterval);
+    }
+}
+
+void EntryEngine::CountChannel() {
+    ++link_.StepCount;
+    if (link_.StepCount > MismatchStep) {
+        RefuseTestMode();
+    } else if (link_.StepCount == AllChannelsStep) {
+        FinishTestMode();
+    } else {
+        Enter(AskNext, StepInterval);
+    }
+}
+
+void EntryEngine::FinishInformation() {
+    observer_.OnExchangeDone();
+    Stop();
+    ClosePort();
+    clock_.Sleep(DonePause);
+    observer_.OnInformationReady();
+}
+
+void EntryEngine::FinishTestMode() {
+    EntryDone = true;
+    observer_.OnExchangeDone();
+    Stop();
+    ClosePort();
+    clock_.Sleep(DonePause);
+    observer_.OnTestModeReady();
+}
+
+/// The radio is left in its tuning mode, with no End.
+void EntryEngine::RefuseTestMode() {
+    Stop();
+    ClosePort();
+    clock_.Sleep(RefusedPause);
+    messages_.Show({.title = std::string(MismatchTitle.In(session_.LanguageFlag)),
+                    .text = std::string(MismatchText.In(session_.LanguageFlag)),
+                    .icon = MessageIcon::Critical,
+                    .buttons = MessageButtons::Ok});
+}
+
+void EntryEngine::Retry() {
+    link_.StepCount = 1;
+    Enter(SendEntry, StepInterval);
+}
+
+void EntryEngine::GiveUp() {
+    Stop();
+    ClosePort();
+}
+
+} // namespace zelvor

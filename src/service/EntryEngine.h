@@ -1,0 +1,72 @@
+#pragma once
+
+#include <string>
+
+#include "service/RadioExchange.h"
+
+namespace zelvor {
+
+/// What the owner of an EntryEngine is told.
+class EntryObserver {
+public:
+    virtual ~EntryObserver() = default;
+    /// The radio's 34-byte manufacturing record, one character a byte.
+    virtual void OnInformation(const std::string& record) = 0;
+    /// The exchange has succeeded: the main window is to be disabled. OnInformationReady or OnTestModeReady follows.
+    virtual void OnExchangeDone() = 0;
+    virtual void OnInformationReady() = 0;
+    virtual void OnTestModeReady() = 0;
+};
+
+/// The exchange that fetches the radio's manufacturing record, and the one that enters test mode: one machine.
+/// docs/service-engines.md draws both.
+class EntryEngine : public RadioExchange {
+public:
+    EntryEngine(Session& session, SerialPort& port, Clock& clock, MessageBoxes& messages, EntryObserver& observer);
+
+    /// Either starts anew where an exchange is under way.
+    void StartInformation() { Start(true); }
+    void StartTestMode() { Start(false); }
+    /// Ends an exchange without a word, for a command that wants the port for itself.
+    void Abort();
+
+    [[nodiscard]] bool IsInfoMode() const { return InfoMode; }
+    [[nodiscard]] bool IsEntryDone() const { return EntryDone; }
+
+private:
+    /// Information: 1 Entry, 2 identity, 3 acknowledge, 4 record, 5 acknowledge, 6 unused record, 7 acknowledge, 8 End.
+    /// Test mode: 1 Entry, 2 identity, 3 acknowledge, 4 tuning data, 5 acknowledge, 6 channel StepCount, 7 acknowledge.
+    enum : std::uint8_t {
+        SendEntry = 1,
+        AskIdentity,
+        ConfirmIdentity,
+        AskRecord,
+        ConfirmRecord,
+        AskNext,
+        ConfirmNext,
+        SendEnd
+    };
+
+    void Start(bool infoMode);
+    void SendCommand() override;
+    void Receive() override;
+    void Retry() override;
+    void GiveUp() override;
+
+    void SendInformationCommand();
+    void SendTestModeCommand();
+    [[nodiscard]] bool TakeReply();
+    [[nodiscard]] bool TakeInformationRecord();
+    void TakeTestFrequency();
+    void MoveOn();
+    void CountChannel();
+    void FinishInformation();
+    void FinishTestMode();
+    void RefuseTestMode();
+
+    EntryObserver& observer_;
+    bool InfoMode = false;
+    bool EntryDone = false; // all test channels agree, and test mode opens
+};
+
+} // namespace zelvor

@@ -1,0 +1,317 @@
+#include "service/TuningEngine.h"
+
+#include <utility>
+
+#include "service/ServiceFrames.h"
+
+namespace zelvor {
+
+namespace {
+
+// Milliseconds.
+constexpr int Timeout = 100;
+constexpr int StepInterval = 1;
+constexpr int PageInterval = 3;
+constexpr int PageConfirmInterval = 5;
+constexpr int EndingInterval = 5;
+constexpr int DropBeforeEndingInterval = 5;
+constexpr int DropBeforePageInterval = 7;
+constexpr int MeasurePause = 550; // the window stays alive meanwhile
+constexpr int MeasureInterval = 10;
+constexpr int FailureInterval = 2;
+constexpr int LoopStep = 1;
+
+constexpr int First = 1; // the first state of every operation
+constexpr int Second = 2;
+constexpr int Third = 3;
+
+} // namespace
+
+TuningEngine::TuningEngine(Session& session, SerialPort& port, Clock& clock, MessageBoxes& messages, TuningPlan plan,
+                           TuningSource& source, TuningObserver& observer)
+    : RadioExchange(session, port, clock, messages, "tmrOverTime", Timeout), plan_(std::move(plan)), source_(source),
+      observer_(observer) {}
+
+void TuningEngine::Load() {
+    link_.SentState = NothingSent;
+    session_.Service.TestAborted = false;
+    SetUpPort();
+}
+
+void TuningEngine::ChangePage(int page) {
+    CurrentPage = page;
+    PttDropPending = PttDropPending || PttOn;
+    Start(TunePage, PageInterval);
+}
+
+void TuningEngine::SendValue(std::uint8_t operation) {
+    if (running_ && TuneOp != TuneSlider && TuneOp != TuneText) {
+        valuePending_ = true;
+        return;
+    }
+    Start(operation, StepInterval);
+}
+
+void TuningEngine::PressPtt() {
+    PttOn = !PttOn;
+    Start(TunePtt, StepInterval);
+}
+
+void TuningEngine::ToggleMeasuring() {
+    measuring_ = !measuring_;
+    if (measuring_) {
+        Start(TuneMeasure, StepInterval);
+    } else if (!IsAwaitingReply()) {
+        StopSending();
+        running_ = false;
+    }
+}
+
+void TuningEngine::Start(std::uint8_t operation, int interval) {
+    if (closing_) {
+        return;
+    }
+    TuneOp = operation;
+    running_ = true;
+    if (!IsAwaitingReply()) {
+        link_.SentState = NothingSent;
+    }
+    Request(First, interval);
+}
+
+void TuningEngine::End() {
+    running_ = false;
+    if (std::exchange(valuePending_, false)) {
+        Start(TuneSlider, StepInterval);
+    }
+}
+
+void TuningEngine::Close(Ending ending) {
+    if (closing_) {
+        return;
+    }
+    if (!session_.Service.TestAborted) {
+        Done = false;
+        valuePending_ = false;
+        measuring_ = false;
+        PttDropPending = PttDropPending || PttOn;
+        Start(ending == Ending::Ok ? TuneOk : TuneCancel, EndingInterval);
+        closing_ = true;
+        while (!Done) {
+            clock_.WaitProcessingEvents(LoopStep);
+        }
+    }
+    closing_ = true;
+    Stop();
+    ClosePort();
+}
+
+/// Values are set, and the transmitter is keyed, with the transmitter as it is.
+bool TuningEngine::IsDropDue() const {
+    return PttDropPending && State() == First && (TuneOp == TunePage || TuneOp == TuneOk || TuneOp == TuneCancel);
+}
+
+int TuningEngine::LastCancelState() const {
+    return plan_.kind == TuningKind::Points ? 2 * Pages() + 1 : Second;
+}
+
+void TuningEngine::SendCommand() {
+    ExpectBytes(1);
+    if (IsDropDue()) {
+        Transmit(service::PttOff);
+        return;
+    }
+    switch (TuneOp) {
+    case TunePage:
+        SendPageCommand();
+        break;
+    case TunePtt:
+        Transmit(PttOn ? service::PttOn : service::PttOff);
+        break;
+    case TuneOk:
+    case TuneCancel:
+        SendEnding();
+        break;
+    case TuneMeasure:
+        if (State() == First) {
+            Transmit({plan_.itemCode, service::ReadMeasurement});
+        } else {
+            Transmit({service::AcknowledgeByte});
+        }
+        break;
+    default:
+        SendSet(CurrentPage, source_.Value(CurrentPage));
+    }
+}
+
+void TuningEngine::SendPageCommand() {
+    switch (State()) {
+    case First:
+        Transmit({Code(CurrentPage), service::Select});
+        break;
+    case Second:
+        ExpectBytes(service::PointLength);
+        Transmit({service::ReadPoint});
+        break;
+    default:
+        Transmit({service::AcknowledgeByte});
+    }
+}
+
+void TuningEngine::SendEnding() {
+    if (plan_.kind == TuningKind::Measured) {
+        SendMeasuredEnding();
+    } else if (TuneOp == TuneOk) {
+        Transmit({Code(CurrentPage), service::Store});
+    } else {
+        SendRestoring();
+    }
+}
+
+void TuningEngine::SendMeasuredEnding() {
+    if (State() == First) {
+        SendSet(0, TuneOp == TuneOk ? source_.Value(0) : source_.OldValue(0));
+    } else {
+        Transmit({plan_.itemCode, service::Store});
+    }
+}
+
+/// Every page is selected and set in turn; the last state stores. A single value is selected and set alone.
+void TuningEngine::SendRestoring() {
+    const int page = (State() - First) / 2;
+    if (page >= Pages()) {
+        Transmit({Code(Pages() - 1), service::Store});
+    } else if (State() % 2 == First) {
+        Transmit({Code(page), service::Select});
+    } else {
+        SendSet(page, source_.OldValue(page));
+    }
+}
+
+void TuningEngine::SendSet(int page, int value) {
+    Transmit({Code(page), service::SetValue, static_cast<std::uint8_t>(value)});
+}
+
+void TuningEngine::Receive() {
+    if (IsDropDue()) {
+        ReceiveDrop();
+        return;
+    }
+    switch (TuneOp) {
+    case TunePage:
+        ReceivePageReply();
+        break;
+    case TunePtt:
+        ReceivePtt();
+        break;
+    case TuneOk:
+    case TuneCancel:
+        ReceiveEnding();
+        break;
+    case TuneMeasure:
+        ReceiveMeasurement();
+        break;
+    default:
+        if (ReadsAcknowledge()) {
+            End();
+        } else {
+            FailFast(FailureInterval);
+        }
+    }
+}
+
+void TuningEngine::ReceiveDrop() {
+    if (!ReadsAcknowledge()) {
+        FailFast(FailureInterval);
+        return;
+    }
+    PttOn = false;
+    PttDropPending = false;
+    observer_.OnLamp(false);
+    Enter(First, TuneOp == TunePage ? DropBeforePageInterval : DropBeforeEndingInterval);
+}
+
+void TuningEngine::ReceivePageReply() {
+    const bool good =
+        State() == Second ? Read(service::PointLength).size() == service::PointLength : ReadsAcknowledge();
+    if (!good) {
+        FailFast(FailureInterval);
+        return;
+    }
+    switch (State()) {
+    case First:
+        Enter(Second, PageInterval);
+        break;
+    case Second:
+        observer_.OnPointRead(CurrentPage);
+        Enter(Third, PageConfirmInterval);
+        break;
+    default:
+        End();
+    }
+}
+
+void TuningEngine::ReceivePtt() {
+    if (!ReadsAcknowledge()) {
+        FailFast(FailureInterval);
+        return;
+    }
+    if (!PttOn) {
+        PttDropPending = false;
+    }
+    observer_.OnLamp(PttOn);
+    End();
+}
+
+void TuningEngine::ReceiveMeasurement() {
+    if (State() == First) {
+        const std::vector<std::uint8_t> reply = Read(1);
+        if (reply.empty()) {
+            FailFast(FailureInterval);
+            return;
+        }
+        observer_.OnMeasured(reply.front());
+        Enter(Second, StepInterval);
+    } else if (!ReadsAcknowledge()) {
+        FailFast(FailureInterval);
+    } else if (measuring_) {
+        Enter(First, MeasurePause + MeasureInterval);
+    } else {
+        running_ = false;
+    }
+}
+
+void TuningEngine::ReceiveEnding() {
+    if (!ReadsAcknowledge()) {
+        FailFast(FailureInterval);
+        return;
+    }
+    const bool oneStep = TuneOp == TuneOk && plan_.kind != TuningKind::Measured;
+    if (oneStep || State() >= LastCancelState()) {
+        Finish();
+    } else {
+        Enter(State() + 1, StepInterval);
+    }
+}
+
+void TuningEngine::Finish() {
+    Stop();
+    ClosePort();
+    Done = true;
+}
+
+/// The operation in progress begins again.
+void TuningEngine::Retry() {
+    Enter(First, StepInterval);
+}
+
+void TuningEngine::GiveUp() {
+    Stop();
+    ClosePort();
+    session_.Service.TestAborted = true;
+    Done = true;
+    running_ = false;
+    observer_.OnUnloadRequested();
+}
+
+} // namespace zelvor

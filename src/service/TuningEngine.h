@@ -1,0 +1,106 @@
+#pragma once
+
+#include <vector>
+
+#include "service/RadioExchange.h"
+
+namespace zelvor {
+
+/// What a tuning dialog adjusts: pages with linked values, one value, or a value that the radio measures.
+enum class TuningKind { Points, Single, Measured };
+
+struct TuningPlan {
+    TuningKind kind = TuningKind::Single;
+    std::uint8_t itemCode = 0;
+    std::vector<std::uint8_t> pointCodes; // one a page; the item's own code where there is one value
+};
+
+/// What a tuning dialog tells its engine.
+class TuningSource {
+public:
+    virtual ~TuningSource() = default;
+    /// 0 to 255: of a page as it is now, and as the radio held it when the dialog opened.
+    [[nodiscard]] virtual int Value(int page) const = 0;
+    [[nodiscard]] virtual int OldValue(int page) const = 0;
+};
+
+/// What the owner of a TuningEngine is told.
+class TuningObserver {
+public:
+    virtual ~TuningObserver() = default;
+    virtual void OnLamp(bool transmitting) = 0;
+    /// The radio has gone to the page's point: its controls are to be refreshed.
+    virtual void OnPointRead(int page) = 0;
+    virtual void OnMeasured(int value) = 0;
+    /// The user has given up at the connection prompt: the dialog is to be closed.
+    virtual void OnUnloadRequested() = 0;
+};
+
+/// The tuning of one item on the live radio, without a window.
+class TuningEngine : public RadioExchange {
+public:
+    TuningEngine(Session& session, SerialPort& port, Clock& clock, MessageBoxes& messages, TuningPlan plan,
+                 TuningSource& source, TuningObserver& observer);
+
+    /// The dialog loads; nothing is sent.
+    void Load();
+
+    /// The page comes to the front. A keyed transmitter is dropped first.
+    void ChangePage(int page);
+    /// The value of the page in front was changed by its slider or by its text; the latest one gets to the radio.
+    void SliderMoved() { SendValue(TuneSlider); }
+    void TextChanged() { SendValue(TuneText); }
+    void PressPtt();
+    /// Starts or ends the measuring.
+    void ToggleMeasuring();
+    [[nodiscard]] bool IsMeasuring() const { return measuring_; }
+
+    enum class Ending { Ok, Cancel };
+    /// Stores the value, or brings the old values back; keeps the event loop running until the radio has it, unless the
+    /// user has given up. The port is closed then. Calls from inside do nothing.
+    void Close(Ending ending);
+
+private:
+    /// Values of TuneOp.
+    enum : std::uint8_t { TunePage, TuneSlider, TuneText, TunePtt, TuneOk, TuneCancel, TuneMeasure };
+
+    void SendValue(std::uint8_t operation);
+    void Start(std::uint8_t operation, int interval);
+    void End();
+    [[nodiscard]] bool IsDropDue() const;
+    [[nodiscard]] std::uint8_t Code(int page) const { return plan_.pointCodes[static_cast<std::size_t>(page)]; }
+    [[nodiscard]] int Pages() const { return static_cast<int>(plan_.pointCodes.size()); }
+    [[nodiscard]] int LastCancelState() const;
+
+    void SendCommand() override;
+    void SendPageCommand();
+    void SendEnding();
+    void SendRestoring();
+    void SendMeasuredEnding();
+    void SendSet(int page, int value);
+    void Receive() override;
+    void ReceiveDrop();
+    void ReceivePageReply();
+    void ReceivePtt();
+    void ReceiveMeasurement();
+    void ReceiveEnding();
+    void Finish();
+    void Retry() override;
+    void GiveUp() override;
+    [[nodiscard]] bool EndsAtTimeout() override { return session_.Service.TestAborted || Done; }
+
+    const TuningPlan plan_;
+    TuningSource& source_;
+    TuningObserver& observer_;
+    std::uint8_t TuneOp = TunePage;
+    int CurrentPage = 0;
+    bool PttOn = false;          // what the user has asked for
+    bool PttDropPending = false; // the transmitter is to be unkeyed before the operation goes on
+    bool Done = false;           // ends the wait of Close
+    bool running_ = false;       // an operation is under way
+    bool valuePending_ = false;  // a value waits for it
+    bool measuring_ = false;
+    bool closing_ = false;
+};
+
+} // namespace zelvor

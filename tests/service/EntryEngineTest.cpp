@@ -1,0 +1,288 @@
+#include "service/EntryEngine.h"
+
+#include <gtest/gtest.h>
+
+#include "service/ServiceRig.h"
+
+namespace zelvor {
+namespace {
+
+class EntryEngineTest : public ::testing::Test, public EntryObserver {
+protected:
+    EntryEngineTest() {
+        for (int i = 0; i < 8; ++i) {
+            rig.session.Image.Set(0x280 + i, Bytes("00 50 12 14 00 50 22 14")[static_cast<std::size_t>(i)]);
+        }
+    }
+
+    void OnInformation(const std::string& record) override {
+        information = record;
+        events.emplace_back("information");
+    }
+    void OnExchangeDone() override { events.emplace_back(rig.IsPortOpen() ? "done, port open" : "done, port closed"); }
+    void OnInformationReady() override { events.emplace_back("show information"); }
+    void OnTestModeReady() override { events.emplace_back("show test mode"); }
+
+    [[nodiscard]] static Commands TestModeCommands() {
+        Commands commands{"54 55 4E 49 4E 47 20", "02", "06", "05", "06"};
+        for (const char* channel :
+             {"01", "02", "03", "04", "05", "06", "07", "08", "09", "0A", "0B", "0C", "0D", "0E", "0F", "10"}) {
+            commands.push_back(std::string("10 ") + channel);
+            commands.emplace_back("06");
+        }
+        return commands;
+    }
+
+    ServiceRig rig;
+    std::unique_ptr<SerialPort> port = rig.ports.Make("MSComm1");
+    EntryEngine engine{rig.session, *port, rig.clock, rig.messages, *this};
+    std::vector<std::string> events;
+    std::string information;
+};
+
+const Commands InformationCommands{"50 52 4F 47 52 41 4D", "02", "06", "4E 52 4B", "06", "50", "06", "45"};
+
+TEST_F(EntryEngineTest, InformationSendsItsEightCommandsAndShowsTheDialog) {
+    engine.StartInformation();
+    rig.clock.Advance(1000);
+    EXPECT_EQ(rig.sent, InformationCommands);
+    EXPECT_EQ(rig.times.front(), 100);
+    EXPECT_EQ(events, (std::vector<std::string>{"information", "done, port open", "show information"}));
+    EXPECT_EQ(rig.clock.Sleeps(), std::vector{30});
+    EXPECT_FALSE(rig.IsPortOpen());
+    EXPECT_FALSE(rig.IsRunning("ctrTimer"));
+    EXPECT_FALSE(rig.IsRunning("OverTimer"));
+}
+
+TEST_F(EntryEngineTest, InformationHandsOnTheThirtyFourBytesAsTheyCame) {
+    engine.StartInformation();
+    rig.clock.Advance(1000);
+    ASSERT_EQ(information.size(), 34U);
+    EXPECT_EQ(information[0], '\0');
+    EXPECT_EQ(information[13], 'A');
+    EXPECT_EQ(information.substr(17, 8), "01234567");
+    EXPECT_EQ(information[33], '!');
+}
+
+TEST_F(EntryEngineTest, InformationChangesNothingOfTheImage) {
+    const DataImage before = rig.session.Image;
+    engine.StartInformation();
+    rig.clock.Advance(1000);
+    EXPECT_EQ(rig.session.Image, before);
+}
+
+TEST_F(EntryEngineTest, ThePortIsTriedOnceBeforeAnythingIsSent) {
+    engine.StartInformation();
+    EXPECT_EQ(static_cast<FakeSerialPort&>(*port).Log(),
+              (std::vector<std::string>{"buffers 1024 512", "number 1", "settings 9600,N,8,2", "open", "binary",
+                                        "clear input", "clear output", "close"}));
+}
+
+TEST_F(EntryEngineTest, TheNextCommandFollowsAMillisecondBehindAGoodReply) {
+    engine.StartInformation();
+    rig.clock.Advance(1000);
+    for (std::size_t i = 1; i < rig.times.size(); ++i) {
+        EXPECT_EQ(rig.times[i] - rig.times[i - 1], 3) << i; // two for the reply
+    }
+}
+
+TEST_F(EntryEngineTest, EntryAsksForTuningDataAndSixteenChannelsAndSendsNoEnd) {
+    engine.StartTestMode();
+    rig.clock.Advance(1000);
+    EXPECT_EQ(rig.sent, TestModeCommands());
+    EXPECT_EQ(events, (std::vector<std::string>{"done, port open", "show test mode"}));
+    EXPECT_TRUE(engine.IsEntryDone());
+    EXPECT_EQ(rig.clock.Sleeps(), std::vector{30});
+    EXPECT_FALSE(rig.IsPortOpen());
+}
+
+TEST_F(EntryEngineTest, EntryStoresTheTuningRecordAndTheTestFrequencies) {
+    engine.StartTestMode();
+    rig.clock.Advance(1000);
+    EXPECT_EQ(rig.session.Service.Values.TestPointHighPower, 111);
+    EXPECT_EQ(rig.session.Image.AtIndex(86), 112);
+    EXPECT_EQ(rig.session.Service.TestFrequencyText[0].receive, "141.25000");
+    EXPECT_EQ(rig.session.Service.TestFrequencyText[0].transmit, "142.25000");
+    EXPECT_EQ(rig.session.Service.TestFrequencyText[15].receive, "0");
+    EXPECT_EQ(rig.session.Service.TestFrequencyText[15].transmit, "0");
+}
+
+TEST_F(EntryEngineTest, AMismatchEndsTheEntryWithABox) {
+    rig.replies["10 03"] = "00 50 12 14 00 50 22 14";
+    rig.messages.Expect({"Error", "Test Frequency mismatch.\nExecute read data from radio\nor write to radio.",
+                         MessageIcon::Critical, MessageButtons::Ok, MessageAnswer::Ok},
+                        MessageAnswer::Ok);
+    engine.StartTestMode();
+    rig.clock.Advance(1000);
+    EXPECT_EQ(rig.sent.back(), "06"); // of channel 3, and no End
+    EXPECT_EQ(rig.sent.size(), 5U + 2 * 3);
+    EXPECT_TRUE(events.empty());
+    EXPECT_FALSE(engine.IsEntryDone());
+    EXPECT_EQ(rig.clock.Sleeps(), std::vector{10});
+    EXPECT_FALSE(rig.IsPortOpen());
+    EXPECT_EQ(rig.messages.Pending(), 0);
+}
+
+TEST_F(EntryEngineTest, TheChineseMismatchBoxIsTitledAWarning) {
+    rig.session.LanguageFlag = Language::Chinese;
+    rig.replies["10 10"] = "00 50 12 14 00 50 22 14";
+    rig.messages.Expect({"警告", "测试频率不匹配。\n执行\"从对讲机读取数据\"\n或\"向对讲机写入数据\"。",
+                         MessageIcon::Critical, MessageButtons::Ok, MessageAnswer::Ok},
+                        MessageAnswer::Ok);
+    engine.StartTestMode();
+    rig.clock.Advance(1000);
+    EXPECT_EQ(rig.messages.Pending(), 0);
+}
+
+TEST_F(EntryEngineTest, AMismatchOfTheFirstChannelIsReportedToo) {
+    rig.replies["10 01"] = "FF FF FF FF FF FF FF FF";
+    rig.messages.Expect({"Error", "Test Frequency mismatch.\nExecute read data from radio\nor write to radio.",
+                         MessageIcon::Critical, MessageButtons::Ok, MessageAnswer::Ok},
+                        MessageAnswer::Ok);
+    engine.StartTestMode();
+    rig.clock.Advance(1000);
+    EXPECT_EQ(rig.messages.Pending(), 0);
+    EXPECT_EQ(rig.session.Service.TestFrequencyText[0].receive, "0");
+}
+
+// Faults, at every reply of both exchanges.
+
+struct FaultCase {
+    bool information;
+    int reply;
+    Fault fault;
+};
+
+class EntryFaults : public EntryEngineTest, public ::testing::WithParamInterface<FaultCase> {
+protected:
+    void Start() {
+        rig.Spoil(GetParam().reply, GetParam().fault);
+        if (GetParam().information) {
+            engine.StartInformation();
+        } else {
+            engine.StartTestMode();
+        }
+    }
+    [[nodiscard]] Commands Good() const { return GetParam().information ? InformationCommands : TestModeCommands(); }
+};
+
+TEST_P(EntryFaults, RetryRunsTheWholeSessionAgainAndItSucceeds) {
+    rig.messages.Expect(ConnectionPrompt(), [this] {
+        rig.ports.Present(1);
+        return MessageAnswer::Retry;
+    });
+    Start();
+    rig.clock.Advance(3000);
+    EXPECT_EQ(rig.FaultsFired(), 1);
+    EXPECT_EQ(rig.messages.Pending(), 0);
+    const Commands good = Good();
+    ASSERT_GE(rig.sent.size(), good.size());
+    EXPECT_EQ(Commands(rig.sent.end() - static_cast<std::ptrdiff_t>(good.size()), rig.sent.end()), good);
+    EXPECT_EQ(events.back(), GetParam().information ? "show information" : "show test mode");
+}
+
+TEST_P(EntryFaults, CancelEndsItWithoutAnotherByteAndTheNextExchangeWorks) {
+    rig.messages.Expect(ConnectionPrompt(), [this] {
+        rig.ports.Present(1);
+        return MessageAnswer::Cancel;
+    });
+    Start();
+    rig.clock.Advance(3000);
+    EXPECT_EQ(rig.messages.Pending(), 0);
+    EXPECT_EQ(static_cast<int>(rig.sent.size()), GetParam().reply);
+    EXPECT_FALSE(rig.IsPortOpen());
+    EXPECT_FALSE(rig.IsRunning("ctrTimer"));
+    EXPECT_EQ(rig.session.Link.SentState, 55);
+    rig.sent.clear();
+    engine.StartInformation();
+    rig.clock.Advance(3000);
+    EXPECT_EQ(rig.sent, InformationCommands);
+}
+
+std::vector<FaultCase> AllFaults() {
+    std::vector<FaultCase> cases;
+    for (const Fault fault : {Fault::Drop, Fault::Cut, Fault::Corrupt, Fault::Late, Fault::Vanish}) {
+        for (int reply = 1; reply <= 8; ++reply) {
+            // The ten bytes of reply 6 and the record of reply 4 are not looked at.
+            if (fault != Fault::Corrupt || (reply != 4 && reply != 6)) {
+                cases.push_back({true, reply, fault});
+            }
+        }
+        for (const int reply : {1, 2, 3, 4, 5, 6, 7, 21, 36, 37}) {
+            // A record may hold anything; a channel's must match and is no matter of the connection.
+            const bool isData = reply == 4 || (reply >= 6 && reply % 2 == 0);
+            if (fault != Fault::Corrupt || !isData) {
+                cases.push_back({false, reply, fault});
+            }
+        }
+    }
+    return cases;
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryReply, EntryFaults, ::testing::ValuesIn(AllFaults()));
+
+TEST_F(EntryEngineTest, ASilentRadioBringsThePromptAHundredMillisecondsBehindTheCommand) {
+    rig.replies["50 52 4F 47 52 41 4D"] = "";
+    std::int64_t prompted = -1;
+    rig.messages.Expect(ConnectionPrompt(), [&] {
+        prompted = rig.clock.TickCount();
+        return MessageAnswer::Cancel;
+    });
+    engine.StartInformation();
+    rig.clock.Advance(1000);
+    EXPECT_EQ(prompted, 200);
+}
+
+TEST_F(EntryEngineTest, AWrongFirstIdentityByteFailsAtOnceWhateverTheRest) {
+    rig.replies["02"] = "51 34 36 31 38 01 F8 FF";
+    std::int64_t prompted = -1;
+    rig.messages.Expect(ConnectionPrompt(), [&] {
+        prompted = rig.clock.TickCount();
+        return MessageAnswer::Cancel;
+    });
+    engine.StartInformation();
+    rig.clock.Advance(1000);
+    EXPECT_EQ(prompted, 100 + 3 + 2 + 1);
+}
+
+TEST_F(EntryEngineTest, APortThatCannotBeOpenedPromptsAtOnce) {
+    rig.ports.Missing(1);
+    std::int64_t prompted = -1;
+    rig.messages.Expect(ConnectionPrompt(), [&] {
+        prompted = rig.clock.TickCount();
+        return MessageAnswer::Cancel;
+    });
+    engine.StartTestMode();
+    rig.clock.Advance(1000);
+    EXPECT_EQ(prompted, 101);
+    EXPECT_TRUE(rig.sent.empty());
+}
+
+TEST_F(EntryEngineTest, AnotherStartBeginsAnew) {
+    engine.StartInformation();
+    rig.clock.Advance(107);
+    engine.StartTestMode();
+    rig.TakeSent();
+    rig.clock.Advance(1000);
+    EXPECT_EQ(rig.sent, TestModeCommands());
+}
+
+TEST_F(EntryEngineTest, AStateLeftByAnAbandonedTransferDoesNotKeepItFromStarting) {
+    rig.session.Link.SentState = 1;
+    engine.StartInformation();
+    rig.clock.Advance(1000);
+    EXPECT_EQ(rig.sent, InformationCommands);
+}
+
+TEST_F(EntryEngineTest, AbortSendsNothingMore) {
+    engine.StartInformation();
+    rig.clock.Advance(104);
+    engine.Abort();
+    rig.TakeSent();
+    rig.clock.Advance(1000);
+    EXPECT_TRUE(rig.sent.empty());
+    EXPECT_FALSE(rig.IsPortOpen());
+}
+
+} // namespace
+} // namespace zelvor

@@ -1,0 +1,78 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "data/Session.h"
+#include "platform/Services.h"
+#include "platform/fakes/FakeClock.h"
+#include "platform/fakes/FakeFileDialogs.h"
+#include "platform/fakes/FakeHelpViewer.h"
+#include "platform/fakes/FakeMessageBoxes.h"
+#include "platform/fakes/FakePageDevice.h"
+#include "platform/fakes/FakeSerialPort.h"
+#include "platform/fakes/FakeSettingsStore.h"
+
+namespace zelvor {
+
+/// "50 52 4F".
+[[nodiscard]] std::string Hex(std::span<const std::uint8_t> bytes);
+[[nodiscard]] std::vector<std::uint8_t> Bytes(const std::string& hex);
+
+[[nodiscard]] Message ConnectionPrompt();
+
+enum class Fault { None, Drop, Cut, Corrupt, Late, Vanish };
+
+/// A radio in service mode behind every port that is made, in its plainest form and on virtual time: it answers each
+/// command by itself, in whatever order they come. Channel records are those of the session's image.
+class ServiceRig {
+public:
+    static constexpr int ReplyDelay = 2; // milliseconds
+
+    ServiceRig();
+
+    Session session;
+    FakeClock clock;
+    FakeSerialPorts ports;
+    FakeMessageBoxes messages;
+    FakeSettingsStore settings;
+    FakeFileDialogs files;
+    FakeHelpViewer help;
+    FakePageDevice pages;
+    Services services{ports, settings, messages, files, clock, help, pages}; // for a window
+
+    /// Every command as it was sent, and when it was.
+    std::vector<std::string> sent;
+    std::vector<std::int64_t> times;
+    /// Replies that differ from the usual ones, by command; an empty one is silence.
+    std::map<std::string, std::string> replies;
+    int measured = 77;
+
+    /// Spoils reply n, counted from 1.
+    void Spoil(int reply, Fault fault);
+    [[nodiscard]] int FaultsFired() const { return faultsFired_; }
+    [[nodiscard]] int Replies() const { return replies_; }
+
+    /// What was sent since the last call.
+    std::vector<std::string> TakeSent();
+    [[nodiscard]] bool IsPortOpen() const;
+    [[nodiscard]] bool IsRunning(std::string_view timer) const;
+
+private:
+    void Serve(FakeSerialPort& port, const std::string& command);
+    [[nodiscard]] std::string UsualReply(const std::string& command) const;
+    [[nodiscard]] std::string ChannelRecord(int channel) const;
+
+    int replies_ = 0;
+    int spoiledReply_ = 0;
+    int faultsFired_ = 0;
+    Fault fault_ = Fault::None;
+};
+
+using Commands = std::vector<std::string>;
+
+} // namespace zelvor
