@@ -14,7 +14,7 @@ enum class FaultKind {
     Corrupt, // all bits of its first byte are inverted
     Cut,     // only its first `value` bytes are sent
     Delay,   // it begins `value` milliseconds late
-    Hang,    // it is not sent, and the radio has left programming mode: nothing but Entry wakes it
+    Hang,    // it is not sent, and the radio has left its mode: nothing but an entry wakes it
     Unplug,  // the port vanishes in its place
 };
 

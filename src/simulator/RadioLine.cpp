@@ -38,7 +38,7 @@ void RadioLine::Advance(LineTime now) {
         } else if (!arriving_.empty() && *next == arriving_.front().time) {
             ReceiveByte();
         } else {
-            FallSilent();
+            FallSilent(*next);
         }
     }
 }
@@ -49,8 +49,7 @@ void RadioLine::ReceiveByte() {
     lastArrival_ = arrived.time;
     taken_.push_back(arrived.byte);
     if (std::optional<Reaction> reaction = responder_.Take(arrived.byte)) {
-        EndCommand(arrived.time, reaction->commandLength);
-        React(arrived.time, std::move(*reaction));
+        Complete(arrived.time, std::move(*reaction));
     } else if (taken_.size() > 2 * LongestCommand) {
         SkipFirst(arrived.time, taken_.size() - LongestCommand);
     }
@@ -65,7 +64,7 @@ void RadioLine::React(LineTime time, Reaction reaction) {
         for (const Fault& fault : outcome.fired) {
             listener_.FaultFired(time, fault);
         }
-        if (outcome.hang || outcome.unplug) {
+        if (outcome.hang) {
             responder_.Restart();
         }
         if (outcome.unplug) {
@@ -107,11 +106,12 @@ void RadioLine::SendByte() {
     ScheduleByte();
 }
 
-/// Tells the listener of the command that the bytes taken end with, and of what was skipped before it.
-void RadioLine::EndCommand(LineTime time, std::size_t commandLength) {
-    SkipFirst(time, taken_.size() - std::min(commandLength, taken_.size()));
-    listener_.CommandTaken(time, taken_);
+/// Tells the listener of the command that the bytes taken end with, and of what was skipped before it; then reacts.
+void RadioLine::Complete(LineTime time, Reaction reaction) {
+    SkipFirst(time, taken_.size() - std::min(reaction.commandLength, taken_.size()));
+    listener_.CommandTaken(time, taken_, reaction.description);
     taken_.clear();
+    React(time, std::move(reaction));
 }
 
 void RadioLine::SkipFirst(LineTime time, std::size_t count) {
@@ -125,12 +125,15 @@ std::optional<LineTime> RadioLine::SilenceDeadline() const {
     if (taken_.empty() || !arriving_.empty()) {
         return std::nullopt;
     }
-    return lastArrival_ + SilenceLimit;
+    return lastArrival_ + responder_.Patience().value_or(SilenceLimit);
 }
 
-void RadioLine::FallSilent() {
-    responder_.LineSilent();
-    SkipFirst(lastArrival_, taken_.size());
+void RadioLine::FallSilent(LineTime time) {
+    if (std::optional<Reaction> reaction = responder_.LineSilent()) {
+        Complete(time, std::move(*reaction));
+    } else {
+        SkipFirst(lastArrival_, taken_.size());
+    }
 }
 
 } // namespace zelvor

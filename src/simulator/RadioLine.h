@@ -4,6 +4,7 @@
 #include <deque>
 #include <optional>
 #include <span>
+#include <string_view>
 #include <vector>
 
 #include "simulator/FaultPlan.h"
@@ -23,7 +24,8 @@ public:
     /// The plug is pulled: nothing under way arrives any more.
     virtual void Unplugged(LineTime time) = 0;
 
-    virtual void CommandTaken(LineTime time, std::span<const std::uint8_t> command) = 0;
+    /// `description` names commands of the service protocol and is empty for others.
+    virtual void CommandTaken(LineTime time, std::span<const std::uint8_t> command, std::string_view description) = 0;
     virtual void BytesSkipped(LineTime time, std::span<const std::uint8_t> bytes) = 0;
     virtual void ReplySent(LineTime time, std::span<const std::uint8_t> reply) = 0;
     virtual void FaultFired(LineTime time, const Fault& fault) = 0;
@@ -34,7 +36,8 @@ public:
 /// A radio on a serial line of 9600 baud, 8 data bits, 2 stop bits: bytes in both directions take their time, replies
 /// pass the fault plan. It owns no clock: the caller tells the time and asks when it is next needed.
 ///
-/// A command that stops half way is forgotten after SilenceLimit, so that a broken one does not swallow the next.
+/// A command that stops half way is forgotten after SilenceLimit, so that a broken one does not swallow the next. A
+/// responder that takes a shorter silence for the end of a command tells so by its patience.
 class RadioLine {
 public:
     static constexpr LineTime SilenceLimit = std::chrono::milliseconds(500);
@@ -67,9 +70,9 @@ private:
     void React(LineTime time, Reaction reaction);
     void Unplug(LineTime time);
     void SendByte();
-    void EndCommand(LineTime time, std::size_t commandLength);
+    void Complete(LineTime time, Reaction reaction);
     void SkipFirst(LineTime time, std::size_t count);
-    void FallSilent();
+    void FallSilent(LineTime time);
     void ScheduleByte();
     [[nodiscard]] std::optional<LineTime> SilenceDeadline() const;
 

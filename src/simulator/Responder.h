@@ -3,15 +3,18 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <vector>
+
+#include "simulator/LineTime.h"
 
 namespace zelvor {
 
 /// What a command did to the session between programming device and radio.
 enum class SessionEvent {
     None,
-    Started, // the radio is in programming mode, from the first step on
-    Ended,   // the radio has left programming mode at the other side's request
+    Started, // the radio is in one of its modes for programming devices, from the first step on
+    Ended,   // the radio has left the mode at the other side's request
 };
 
 /// A complete command, and the radio's answer to it.
@@ -19,6 +22,7 @@ struct Reaction {
     std::size_t commandLength = 0;   // the command is the last so many bytes taken; any before them were skipped
     std::vector<std::uint8_t> reply; // empty where the radio stays silent
     SessionEvent session = SessionEvent::None;
+    std::string description{}; // "Set channel 3", for commands of the service protocol
 };
 
 /// The radio's side of a protocol, one byte at a time. It knows neither line nor clock: RadioLine feeds it.
@@ -29,10 +33,14 @@ public:
     /// Takes the next byte from the line; a reaction where it completes a command.
     [[nodiscard]] virtual std::optional<Reaction> Take(std::uint8_t byte) = 0;
 
-    /// The line has been silent in the middle of a command: its bytes so far are forgotten, the session goes on.
-    virtual void LineSilent() = 0;
+    /// How long the line has to be silent before LineSilent is called; nothing for the line's own limit.
+    [[nodiscard]] virtual std::optional<LineTime> Patience() const { return std::nullopt; }
 
-    /// The radio is switched off and on: out of programming mode, the memory stays.
+    /// The line has been silent in the middle of a command: a reaction where the silence completes it. Otherwise its
+    /// bytes so far are forgotten, and the session goes on.
+    [[nodiscard]] virtual std::optional<Reaction> LineSilent() = 0;
+
+    /// The radio is switched off and on: out of its mode, the memory stays.
     virtual void Restart() = 0;
 };
 

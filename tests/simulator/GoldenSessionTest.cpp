@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "Feed.h"
-#include "simulator/CloneResponder.h"
+#include "simulator/RadioResponder.h"
 
 namespace zelvor {
 namespace {
@@ -119,7 +119,7 @@ std::size_t ByteCount(const std::vector<Exchange>& session) {
     return count;
 }
 
-void ExpectSession(const std::vector<Exchange>& session, CloneResponder& radio) {
+void ExpectSession(const std::vector<Exchange>& session, RadioResponder& radio) {
     std::size_t n = 0;
     for (const Exchange& exchange : session) {
         EXPECT_EQ(Feed(radio, exchange.command), exchange.reply) << "exchange " << n;
@@ -129,28 +129,28 @@ void ExpectSession(const std::vector<Exchange>& session, CloneResponder& radio) 
 
 TEST(GoldenSession, AReadSessionIsAnsweredByteForByte) {
     DataImage memory = PatternMemory();
-    CloneResponder radio(memory);
+    RadioResponder radio(memory);
     const std::vector<Exchange> session = ReadSession();
     ASSERT_EQ(session.size(), 38U);
     ASSERT_EQ(ByteCount(session), 1278U);
     ExpectSession(session, radio);
     EXPECT_EQ(memory, PatternMemory()) << "a read changes nothing";
-    EXPECT_EQ(radio.State(), CloneState::Idle);
+    EXPECT_EQ(radio.Clone().State(), CloneState::Idle);
 }
 
 TEST(GoldenSession, AWriteSessionIsAcknowledgedPacketForPacket) {
     DataImage memory = PatternMemory();
-    CloneResponder radio(memory);
+    RadioResponder radio(memory);
     const std::vector<Exchange> session = WriteSession();
     ASSERT_EQ(session.size(), 53U);
     ASSERT_EQ(ByteCount(session), 1041U);
     ExpectSession(session, radio);
-    EXPECT_EQ(radio.State(), CloneState::Idle);
+    EXPECT_EQ(radio.Clone().State(), CloneState::Idle);
 }
 
 TEST(GoldenSession, AWriteSessionStoresItsDataAndNothingElse) {
     DataImage memory = PatternMemory();
-    CloneResponder radio(memory);
+    RadioResponder radio(memory);
     ExpectSession(WriteSession(), radio);
     EXPECT_EQ(memory.At(0x000), 1);       // packet 1
     EXPECT_EQ(memory.At(0x00F), 1 + 30);  //
@@ -176,7 +176,7 @@ TEST(GoldenSession, AWriteSessionStoresItsDataAndNothingElse) {
 
 TEST(GoldenSession, CommandsInOneRunAreAnsweredLikeCommandsOneByOne) {
     DataImage memory = PatternMemory();
-    CloneResponder radio(memory);
+    RadioResponder radio(memory);
     Bytes commands;
     Bytes replies;
     for (const std::vector<Exchange>& session : {ReadSession(), WriteSession()}) {

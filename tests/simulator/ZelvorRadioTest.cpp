@@ -284,6 +284,52 @@ TEST_F(ZelvorRadioTest, TracesEveryExchangeInHexadecimal) {
     EXPECT_NE(radio.Err().find("fault corrupt@4 fired"), std::string::npos);
 }
 
+TEST_F(ZelvorRadioTest, ServesAnInformationSessionAndTracesItsCommandsByName) {
+    RadioProcess radio(directory, {"--trace"});
+    ASSERT_TRUE(radio.WaitForOut("ready: "));
+    const TerminalHost host(Link());
+    Enter(host);
+    const Bytes record = host.Ask(Text("NRK"), 34);
+    ASSERT_EQ(record.size(), 34U);
+    EXPECT_EQ(Bytes(record.begin() + 17, record.begin() + 25), Text("10024618"));
+    EXPECT_EQ(host.Ask({0x06}, 1), Acknowledged);
+    EXPECT_EQ(host.Ask({0x50}, 10), (Bytes{0, 1, 2, 3, 4, 5, 6, 7, 8, 9}));
+    EXPECT_EQ(host.Ask({0x06}, 1), Acknowledged);
+    EXPECT_EQ(host.Ask({0x45}, 1), Acknowledged);
+    for (const char* line :
+         {"] > 50 52 4F 47 52 41 4D\n", "] > 02\n", "] > 06\n", "] > 4E 52 4B (Read manufacturing record)\n",
+          "] > 06 (Acknowledge)\n", "] > 50 (Read unused record)\n", "] > 45 (End)\n"}) {
+        EXPECT_NE(radio.Out().find(line), std::string::npos) << line << "in\n" << radio.Out();
+    }
+}
+
+TEST_F(ZelvorRadioTest, ServesATuningSessionAndSavesWhatWasStored) {
+    const fs::path saved = directory / "saved.dat";
+    RadioProcess radio(directory, {"--trace", "--save", saved.string()});
+    ASSERT_TRUE(radio.WaitForOut("ready: "));
+    const TerminalHost host(Link());
+    ASSERT_EQ(host.Ask(Text("TUNING "), 1), Acknowledged);
+    EXPECT_EQ(host.Ask({0x02}, 8), (Bytes{0x50, 0x34, 0x36, 0x31, 0x38, 0x01, 0xF8, 0xFF}));
+    const Bytes before = host.Ask({0x05}, 62);
+    ASSERT_EQ(before.size(), 62U);
+    EXPECT_EQ(before[11], 0x45);
+    EXPECT_EQ(host.Ask({0x10, 0x01}, 8), (Bytes{0x00, 0x50, 0x50, 0x15, 0x00, 0x00, 0x51, 0x15}));
+    EXPECT_EQ(host.Ask({0x30, 0x20, 0xC8}, 1), Acknowledged);
+    EXPECT_EQ(host.Ask({0x33, 0x20, 0xC9}, 1), Acknowledged);
+    EXPECT_EQ(host.Ask({0x30, 0x0E}, 1), Acknowledged);
+    EXPECT_EQ(host.Ask({0x45}, 1), Acknowledged);
+    ASSERT_TRUE(test::Eventually([&] { return fs::exists(saved) && fs::file_size(saved) == 1040; }));
+    const Bytes file = FileBytes(saved);
+    EXPECT_EQ(file[16 + 0x185], 0xC8);
+    EXPECT_EQ(file[16 + 0x184], 0xC9);
+    EXPECT_EQ(file[16 + 0x183], 0x43);
+    for (const char* line :
+         {"] > 54 55 4E 49 4E 47 20 (Tuning entry)\n", "] > 02 (Identity request)\n", "] > 05 (Read tuning data)\n",
+          "] > 10 01 (Set channel 1)\n", "] > 30 20 C8 (Set item 1 Low to 200)\n", "] > 30 0E (Store item 1 Low)\n"}) {
+        EXPECT_NE(radio.Out().find(line), std::string::npos) << line << "in\n" << radio.Out();
+    }
+}
+
 TEST_F(ZelvorRadioTest, TellsAtItsEndWhichFaultsNeverFired) {
     RadioProcess radio(directory, {"--fault", "drop@1", "--fault", "drop@900"});
     ASSERT_TRUE(radio.WaitForOut("ready: "));

@@ -132,8 +132,8 @@ void RadioServer::PlugInAgain() {
     Remark(Now(), "plugged in again: COM" + std::to_string(options_.port) + " -> " + terminal_->PortPath().string());
 }
 
-void RadioServer::CommandTaken(LineTime time, std::span<const std::uint8_t> command) {
-    Trace(time, '>', command);
+void RadioServer::CommandTaken(LineTime time, std::span<const std::uint8_t> command, std::string_view description) {
+    Trace(time, '>', command, description);
 }
 
 void RadioServer::BytesSkipped(LineTime time, std::span<const std::uint8_t> bytes) {
@@ -175,9 +175,10 @@ void RadioServer::TellUnusedFaults() {
     }
 }
 
-void RadioServer::Trace(LineTime time, char direction, std::span<const std::uint8_t> bytes) {
+void RadioServer::Trace(LineTime time, char direction, std::span<const std::uint8_t> bytes,
+                        std::string_view description) {
     if (options_.trace) {
-        trace_.Bytes(time, direction, bytes);
+        trace_.Bytes(time, direction, bytes, description);
     }
 }
 

@@ -5,9 +5,9 @@
 #include <string>
 
 #include "data/DataImage.h"
-#include "simulator/CloneResponder.h"
 #include "simulator/FaultPlan.h"
 #include "simulator/RadioLine.h"
+#include "simulator/RadioResponder.h"
 #include "simulator/program/Options.h"
 #include "simulator/program/PortLink.h"
 #include "simulator/program/PseudoTerminal.h"
@@ -31,7 +31,7 @@ public:
 private:
     void Deliver(std::uint8_t byte) override;
     void Unplugged(LineTime time) override;
-    void CommandTaken(LineTime time, std::span<const std::uint8_t> command) override;
+    void CommandTaken(LineTime time, std::span<const std::uint8_t> command, std::string_view description) override;
     void BytesSkipped(LineTime time, std::span<const std::uint8_t> bytes) override;
     void ReplySent(LineTime time, std::span<const std::uint8_t> reply) override;
     void FaultFired(LineTime time, const Fault& fault) override;
@@ -43,7 +43,7 @@ private:
     void PlugInAgain();
     [[nodiscard]] bool OpenPort();
     [[nodiscard]] bool Save();
-    void Trace(LineTime time, char direction, std::span<const std::uint8_t> bytes);
+    void Trace(LineTime time, char direction, std::span<const std::uint8_t> bytes, std::string_view description = {});
     void Remark(LineTime time, const std::string& text);
     void TellUnusedFaults();
     [[nodiscard]] LineTime Now() const;
@@ -51,7 +51,7 @@ private:
 
     Options options_;
     DataImage memory_;
-    CloneResponder responder_{memory_};
+    RadioResponder responder_{memory_};
     FaultPlan faults_;
     RadioLine line_{responder_, faults_, *this};
     PortLink link_;

@@ -4,11 +4,15 @@
 
 namespace zelvor {
 
-void TracePrinter::Bytes(LineTime time, char direction, std::span<const std::uint8_t> bytes) {
+void TracePrinter::Bytes(LineTime time, char direction, std::span<const std::uint8_t> bytes,
+                         std::string_view description) {
     Begin(time, direction);
     constexpr std::string_view Digits = "0123456789ABCDEF";
     for (const std::uint8_t byte : bytes) {
         out_ << ' ' << Digits[byte >> 4] << Digits[byte & 0x0F];
+    }
+    if (!description.empty()) {
+        out_ << " (" << description << ')';
     }
     out_ << '\n' << std::flush;
 }
