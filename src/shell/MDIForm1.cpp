@@ -14,6 +14,7 @@
 #include "channels/EmbedInfoForm.h"
 #include "channels/ScanForm.h"
 #include "channels/TestChannelForm.h"
+#include "controls/PendingEdit.h"
 #include "data/BlankImage.h"
 #include "data/Session.h"
 #include "features/CorvaneForm.h"
@@ -25,6 +26,7 @@
 #include "platform/HelpTopic.h"
 #include "platform/HelpViewer.h"
 #include "platform/Services.h"
+#include "print/frmPrintList.h"
 #include "shell/AboutForm.h"
 #include "shell/ChildWindows.h"
 #include "shell/DocumentView.h"
@@ -195,6 +197,7 @@ void MDIForm1::ConnectFileMenu() {
     menus_->On("MnuFileOpen", QKeySequence::Open, [this] { commands_->Open(); });
     menus_->On("MnuFileSave", QKeySequence::Save, [this] { commands_->Save(); });
     menus_->On("MnuFileSaveAs", QKeySequence::SaveAs, [this] { commands_->SaveAs(); });
+    menus_->On("MnuFilePrint", QKeySequence::Print, [this] { ShowPrintList(); });
     menus_->On("MnuFileExit", [this] { close(); });
     menus_->On("MnuModelInformation", [this] { commands_->ChangeModel(); });
 }
@@ -245,6 +248,7 @@ void MDIForm1::ConnectToolbar() {
     toolbar1_->On(1, [this] { commands_->New(); });
     toolbar1_->On(2, [this] { commands_->Open(); });
     toolbar1_->On(3, [this] { commands_->Save(); });
+    toolbar1_->On(5, [this] { ShowPrintList(); });
     toolbar1_->On(7, [this] { Transfer(&TransferCommands::Read); });
     toolbar1_->On(9, [this] { Transfer(&TransferCommands::Write); });
     toolbar1_->On(11, [this] { ShowAbout(); });
@@ -284,6 +288,11 @@ void MDIForm1::ShowCommunicationPort() {
     ComForm dialog(session_, services_, this);
     connect(&dialog, &ComForm::PortChosen, this, [this] { statusBar1_->ShowPort(session_.CommPortNumber); });
     dialog.exec();
+}
+
+void MDIForm1::ShowPrintList() {
+    CommitPendingEdit();
+    frmPrintList(session_, services_, this).exec();
 }
 
 void MDIForm1::ShowAbout() {

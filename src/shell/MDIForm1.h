@@ -67,6 +67,7 @@ private:
     void ApplyLanguage();
     void Transfer(void (TransferCommands::*transfer)());
     void ShowCommunicationPort();
+    void ShowPrintList();
     void ShowAbout();
     void ShowHelpPage(std::string_view page);
     void ShowHelpOfActiveWindow();
