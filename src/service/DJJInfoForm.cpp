@@ -1,0 +1,135 @@
+#include "service/DJJInfoForm.h"
+
+#include <QCloseEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QShortcut>
+#include <QVBoxLayout>
+#include <array>
+
+#include "data/MemoryMap.h"
+#include "data/ModelCatalogue.h"
+#include "data/Windows1252.h"
+#include "platform/HelpTopic.h"
+#include "platform/HelpViewer.h"
+#include "platform/Services.h"
+#include "platform/Toolkit.h"
+#include "service/ServiceControls.h"
+
+namespace zelvor {
+
+namespace {
+
+// Numbers of the string table.
+constexpr int CaptionText = 190;
+constexpr int ModelTypeText = 94;
+constexpr int FrequencyText = 191;
+constexpr int SerialNumberText = 192;
+constexpr int VersionText = 193;
+constexpr int CloseText = 75;
+constexpr int HelpText = 76;
+
+/// Nothing that the radio tells reaches this text.
+constexpr const char* FixedVersion = "V1.0";
+
+// Places in the manufacturing record.
+constexpr std::size_t SerialPrefix = 13;
+constexpr std::size_t SerialFirst = 17;
+constexpr std::size_t SerialLast = 24;
+
+constexpr int FieldWidth = 220; // logical pixels
+
+struct ModelTexts {
+    std::string_view model;
+    std::string_view range;
+};
+
+/// A known family with a market that it does not have shows neither text.
+ModelTexts TextsOf(const DataImage& image) {
+    const std::uint8_t family = image.At(address::Family);
+    if (const ModelVariant* variant = FindVariant(family, image.At(address::Market))) {
+        return {variant->infoModel, variant->infoBand};
+    }
+    if (IsFamilyByte(family)) {
+        return {};
+    }
+    return {"4613", "VHF: 136-174 MHz(K)"};
+}
+
+} // namespace
+
+DJJInfoForm::DJJInfoForm(Session& session, Services& services, QWidget* parent)
+    : QDialog(parent), session_(session), services_(services) {
+    setObjectName("DJJInfoForm");
+    setWindowTitle(ToQString(session_.LoadText(CaptionText)));
+
+    auto* fields = new QGridLayout;
+    fields->setHorizontalSpacing(16);
+    fields->setVerticalSpacing(10);
+    const ModelTexts model = TextsOf(session_.Image);
+    AddField(*fields, "lblModelType", ModelTypeText, "LabModel", ToQString(model.model));
+    AddField(*fields, "lblFrequency", FrequencyText, "LabFreq", ToQString(model.range));
+    AddField(*fields, "lblSerialNum", SerialNumberText, "LabSN", SerialNumber());
+    AddField(*fields, "lblVersion", VersionText, "LabVersion", FixedVersion);
+
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    const auto button = [&](const char* name, int text) {
+        auto* made = new QPushButton(ToQString(session_.LoadText(text)), this);
+        made->setObjectName(name);
+        buttons->addWidget(made);
+        return made;
+    };
+    auto* cmdClose = button("cmdClose", CloseText);
+    auto* cmdHelp = button("cmdHelp", HelpText);
+    cmdClose->setDefault(true);
+    cmdHelp->setAutoDefault(false);
+    connect(cmdClose, &QPushButton::clicked, this, &QWidget::close);
+    connect(cmdHelp, &QPushButton::clicked, this, &DJJInfoForm::ShowHelp);
+    connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this, &DJJInfoForm::ShowHelp);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setSpacing(14);
+    layout->addLayout(fields);
+    layout->addLayout(buttons);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    AlignButtons(*this);
+    cmdClose->setFocus(); // the fields take the focus too, for copying
+}
+
+void DJJInfoForm::AddField(QGridLayout& layout, const char* labelName, int label, const char* name,
+                           const QString& text) {
+    auto* caption = new QLabel(ToQString(session_.LoadText(label)), this);
+    caption->setObjectName(labelName);
+    auto* value = MakeDisplay(name, FieldWidth, this);
+    ShowOn(*value, caption->text(), text);
+    value->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    const int row = layout.rowCount();
+    layout.addWidget(caption, row, 0);
+    layout.addWidget(value, row, 1);
+}
+
+QString DJJInfoForm::SerialNumber() const {
+    const auto& record = session_.Service.RadioInfoRecord;
+    QString text(u' ');
+    text += QChar(Windows1252Character(record[SerialPrefix]));
+    text += u' ';
+    for (std::size_t i = SerialFirst; i <= SerialLast; ++i) {
+        text += QChar(Windows1252Character(record[i]));
+    }
+    return text;
+}
+
+void DJJInfoForm::ShowHelp() {
+    services_.help.ShowTopic(HelpTopicPath(session_.LanguageFlag, "radioinfo.htm"));
+}
+
+void DJJInfoForm::closeEvent(QCloseEvent* event) {
+    event->accept();
+    deleteLater();
+    emit Unloaded();
+}
+
+} // namespace zelvor

@@ -1,0 +1,304 @@
+#include "service/TestForm.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QListWidget>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <array>
+
+#include "controls/FieldList.h"
+#include "data/TuneItems.h"
+#include "platform/Services.h"
+#include "platform/Toolkit.h"
+#include "service/Lamp.h"
+#include "service/ServiceControls.h"
+#include "service/TestChannels.h"
+#include "service/TestFrame.h"
+#include "service/TuningForm.h"
+#include "service/TuningReport.h"
+
+namespace zelvor {
+
+namespace {
+
+// Numbers of the string table.
+constexpr int CaptionText = 197;
+constexpr int TestChannelText = 198;
+constexpr int TestSignallingText = 199;
+constexpr int ChannelNoText = 200;
+constexpr int SignallingText = 201;
+constexpr int RxText = 202;
+constexpr int TxText = 203;
+constexpr int WideText = 204;
+constexpr int NarrowText = 205;
+constexpr int TuningModeText = 206;
+constexpr int PrintText = 207;
+constexpr int CloseText = 75;
+constexpr int NoneText = 77;
+constexpr int OnText = 89;
+constexpr int OffText = 85;
+
+/// What a test signalling sends and expects, as numbers of the string table.
+struct Signalling {
+    int receive;
+    int transmit;
+};
+constexpr std::array<Signalling, 9> Signallings{{{NoneText, NoneText},
+                                                 {NoneText, 1906},
+                                                 {1907, 1907},
+                                                 {1908, 1908},
+                                                 {1909, 1909},
+                                                 {1910, 1910},
+                                                 {1911, 1911},
+                                                 {1912, 1913},
+                                                 {NoneText, 220}}};
+
+constexpr const char* NoFrequency = "FFF.FFFFFMHz";
+constexpr const char* PttCaption = "PTT";
+
+constexpr TestFrame::Names ChannelNames{"frmTestChannel",
+                                        "lblChannelNo",
+                                        "ComChannel",
+                                        {"PicChannelRx", "lblCHRx", "LabRxFreq"},
+                                        {"PicChannelTx", "lblCHTx", "LabTxFreq"}};
+constexpr TestFrame::Names SignalNames{"frmTestSignal",
+                                       "lblSignal",
+                                       "ComSignal",
+                                       {"PicSignalRx", "lblSignalRx", "LabRxSignal"},
+                                       {"PicSignalTx", "lblSignalTx", "LabTxSignal"}};
+
+// Logical pixels.
+constexpr int ColumnSpacing = 12;
+constexpr int RowPadding = 3;  // above and below an item
+constexpr int ListMargin = 48; // beside the longest item
+
+} // namespace
+
+TestForm::TestForm(Session& session, Services& services, QWidget* parent)
+    : QDialog(parent), session_(session), services_(services), port_(services.ports.Make("MSComm1")),
+      engine_(session, *port_, services.clock, services.messages, *this) {
+    setObjectName("TestForm");
+    setWindowTitle(Text(CaptionText));
+    BuildFrames();
+    BuildItemList();
+    auto* left = new QVBoxLayout;
+    left->addWidget(frmTestChannel_);
+    left->addStretch();
+    left->addWidget(frmTestSignal_);
+    left->addStretch();
+    left->addLayout(BuildRadioButtons());
+    auto* upper = new QHBoxLayout;
+    upper->setSpacing(ColumnSpacing);
+    upper->addLayout(left);
+    upper->addWidget(LvwTuneSel_);
+    auto* layout = new QVBoxLayout(this);
+    layout->setSpacing(ColumnSpacing);
+    layout->addLayout(upper);
+    layout->addLayout(BuildWindowButtons());
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    AlignButtons(*this);
+
+    LoadChannels();
+    ShowSignalling(1);
+    PicWide_->Light(lamp::Chosen);
+    OnLamps(false);
+    engine_.Load();
+}
+
+TestForm::~TestForm() = default;
+
+QString TestForm::Text(int n) const {
+    return ToQString(session_.LoadText(n));
+}
+
+void TestForm::BuildFrames() {
+    const auto texts = [this](int title, int list) {
+        return TestFrame::Texts{Text(title), Text(list), Text(RxText), Text(TxText), Text(OnText), Text(OffText)};
+    };
+    frmTestChannel_ = new TestFrame(ChannelNames, texts(TestChannelText, ChannelNoText), this);
+    connect(&frmTestChannel_->List(), &FieldList::Selected, this, &TestForm::OnChannelChosen);
+
+    frmTestSignal_ = new TestFrame(SignalNames, texts(TestSignallingText, SignallingText), this);
+    QStringList numbers;
+    for (std::size_t number = 1; number <= Signallings.size(); ++number) {
+        numbers.append(QString::number(number));
+    }
+    frmTestSignal_->List().SetEntries(numbers);
+    frmTestSignal_->List().ShowEntry(0);
+    connect(&frmTestSignal_->List(), &FieldList::Selected, this, &TestForm::OnSignallingChosen);
+
+    const int labelWidth = std::max(frmTestChannel_->LabelWidth(), frmTestSignal_->LabelWidth());
+    frmTestChannel_->SetLabelWidth(labelWidth);
+    frmTestSignal_->SetLabelWidth(labelWidth);
+}
+
+void TestForm::BuildItemList() {
+    LvwTuneSel_ = new QListWidget(this);
+    LvwTuneSel_->setObjectName("LvwTuneSel");
+    LvwTuneSel_->setAccessibleName(SpokenName(Text(TuningModeText)));
+    LvwTuneSel_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    const QFontMetrics metrics = LvwTuneSel_->fontMetrics();
+    const int rowHeight = metrics.height() + 2 * RowPadding;
+    int width = 0;
+    for (int number = 1; number <= TuneItemCount; ++number) {
+        auto* item = new QListWidgetItem(Text(TuneItemOf(number).name), LvwTuneSel_);
+        item->setSizeHint({0, rowHeight});
+        width = std::max(width, metrics.horizontalAdvance(item->text()));
+    }
+    LvwTuneSel_->setFixedWidth(width + ListMargin);
+    LvwTuneSel_->setMinimumHeight(TuneItemCount * rowHeight + 2 * LvwTuneSel_->frameWidth());
+    connect(LvwTuneSel_, &QListWidget::itemSelectionChanged, this, &TestForm::OnItemChosen);
+    connect(LvwTuneSel_, &QListWidget::itemDoubleClicked, this, [this] { engine_.Tune(); });
+}
+
+QPushButton* TestForm::AddButton(QHBoxLayout& row, const char* name, const QString& text) {
+    auto* button = new QPushButton(text, this);
+    button->setObjectName(name);
+    button->setAutoDefault(false);
+    row.addWidget(button);
+    return button;
+}
+
+/// What the radio does, each button behind its lamp.
+QHBoxLayout* TestForm::BuildRadioButtons() {
+    auto* row = new QHBoxLayout;
+    const auto button = [&](Lamp*& light, const char* lampName, const char* name, const QString& text,
+                            const LampWords& words) {
+        light = new Lamp(lampName, words, this);
+        row->addWidget(light);
+        return AddButton(*row, name, text);
+    };
+    const auto width = [this](int text) {
+        return LampWords{SpokenName(Text(text)), Text(OnText), Text(OnText), Text(OffText)};
+    };
+    auto* cmdWide = button(PicWide_, "PicWide", "cmdWide", Text(WideText), width(WideText));
+    auto* cmdNarrow = button(PicNarrow_, "PicNarrow", "CmdNarrow", Text(NarrowText), width(NarrowText));
+    auto* cmdPtt = button(PicPtt_, "PicPtt", "CmdPTT", PttCaption, {PttCaption, Text(RxText), Text(TxText), {}});
+    connect(cmdWide, &QPushButton::clicked, this, [this] { OnWidthPressed(true); });
+    connect(cmdNarrow, &QPushButton::clicked, this, [this] { OnWidthPressed(false); });
+    connect(cmdPtt, &QPushButton::clicked, this, [this] { engine_.PressPtt(); });
+    return row;
+}
+
+QHBoxLayout* TestForm::BuildWindowButtons() {
+    auto* row = new QHBoxLayout;
+    row->addStretch();
+    CmdTune_ = AddButton(*row, "CmdTune", Text(TuningModeText));
+    auto* cmdPrint = AddButton(*row, "CmdPrint", Text(PrintText));
+    auto* cmdClose = AddButton(*row, "cmdClose", Text(CloseText));
+    CmdTune_->setEnabled(false);
+    connect(CmdTune_, &QPushButton::clicked, this, [this] { engine_.Tune(); });
+    connect(cmdPrint, &QPushButton::clicked, this, [this] { PrintTuningReport(session_, services_); });
+    connect(cmdClose, &QPushButton::clicked, this, &QWidget::close);
+    return row;
+}
+
+/// The channels that the radio has told, or none: then a single "1" stands in the list.
+void TestForm::LoadChannels() {
+    QStringList numbers;
+    int first = 1;
+    for (int channel = TestChannelCount; channel >= 1; --channel) {
+        if (IsTestChannelOffered(session_.Service.TestFrequencyText[static_cast<std::size_t>(channel - 1)])) {
+            numbers.prepend(QString::number(channel));
+            first = channel;
+        }
+    }
+    offersChannels_ = !numbers.isEmpty();
+    session_.Service.TestChannelNo = first;
+    frmTestChannel_->List().SetEntries(offersChannels_ ? numbers : QStringList("1"));
+    frmTestChannel_->List().ShowEntry(0);
+    ShowChannel();
+}
+
+void TestForm::ShowChannel() {
+    if (!offersChannels_) {
+        frmTestChannel_->ShowTexts(NoFrequency, Text(NoneText));
+        return;
+    }
+    const TestFrequencyTexts& texts =
+        session_.Service.TestFrequencyText[static_cast<std::size_t>(session_.Service.TestChannelNo - 1)];
+    frmTestChannel_->ShowTexts(ToQString(texts.receive + "MHz"), ToQString(texts.transmit + "MHz"));
+}
+
+void TestForm::ShowSignalling(int number) {
+    const Signalling& signalling = Signallings[static_cast<std::size_t>(number - 1)];
+    frmTestSignal_->ShowTexts(Text(signalling.receive), Text(signalling.transmit));
+}
+
+void TestForm::OnChannelChosen(int index) {
+    if (index >= 0) {
+        engine_.ChooseChannel(frmTestChannel_->List().itemText(index).toInt());
+        ShowChannel();
+    }
+}
+
+void TestForm::OnSignallingChosen(int index) {
+    if (index >= 0) {
+        engine_.ChooseSignalling(index + 1);
+        ShowSignalling(index + 1);
+    }
+}
+
+void TestForm::OnItemChosen() {
+    const QList<QListWidgetItem*> chosen = LvwTuneSel_->selectedItems();
+    if (!chosen.isEmpty()) {
+        session_.Service.TuneItem = LvwTuneSel_->row(chosen.front()) + 1;
+        CmdTune_->setEnabled(true);
+    }
+}
+
+void TestForm::OnWidthPressed(bool wide) {
+    engine_.ChooseWide(wide);
+    (wide ? PicWide_ : PicNarrow_)->Light(lamp::Chosen);
+    (wide ? PicNarrow_ : PicWide_)->Darken();
+}
+
+void TestForm::OnLamps(bool transmitting) {
+    PicPtt_->Light(transmitting ? lamp::Transmit : lamp::Idle);
+    frmTestChannel_->ShowTransmitting(transmitting);
+    frmTestSignal_->ShowTransmitting(transmitting);
+}
+
+void TestForm::OnTuningReady() {
+    tuning_ = true;
+    setEnabled(false);
+    TuningForm* dialog = MakeTuningForm(session_, services_, this);
+    connect(dialog, &TuningForm::Unloaded, this, [this] {
+        tuning_ = false;
+        setEnabled(true);
+        activateWindow();
+    });
+    dialog->setEnabled(true); // a window of a disabled one begins disabled
+    dialog->show();
+}
+
+void TestForm::OnUnloadRequested() {
+    close();
+}
+
+void TestForm::changeEvent(QEvent* event) {
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
+        emit Activated();
+    }
+}
+
+void TestForm::closeEvent(QCloseEvent* event) {
+    if (tuning_) { // the port is the tuning dialog's
+        event->ignore();
+        return;
+    }
+    event->accept();
+    if (unloaded_) {
+        return;
+    }
+    unloaded_ = true;
+    setEnabled(false);
+    engine_.Close();
+    deleteLater();
+    emit Unloaded();
+}
+
+} // namespace zelvor

@@ -1,0 +1,80 @@
+#pragma once
+
+#include <QDialog>
+#include <memory>
+
+#include "data/Session.h"
+#include "platform/SerialPort.h"
+#include "service/TestEngine.h"
+
+class QHBoxLayout;
+class QListWidget;
+class QPushButton;
+
+namespace zelvor {
+
+class Lamp;
+class TestFrame;
+struct Services;
+
+/// Test mode: puts the radio on a test channel with a test signalling, keys it, and opens the tuning dialogs. Keeps the
+/// radio in the mode until it is closed; the main window is disabled meanwhile.
+class TestForm : public QDialog, private TestObserver {
+    Q_OBJECT
+
+public:
+    TestForm(Session& session, Services& services, QWidget* parent = nullptr);
+    ~TestForm() override;
+
+    [[nodiscard]] const TestEngine& Engine() const { return engine_; }
+
+    /// Escape: the same as cmdClose.
+    void reject() override { close(); }
+
+signals:
+    void Activated();
+    /// The window is gone, whichever way it was closed.
+    void Unloaded();
+
+protected:
+    void changeEvent(QEvent* event) override;
+    /// Refused while a tuning dialog is open.
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void OnLamps(bool transmitting) override;
+    void OnTuningReady() override;
+    void OnUnloadRequested() override;
+
+    [[nodiscard]] QString Text(int n) const;
+    void BuildFrames();
+    void BuildItemList();
+    [[nodiscard]] QHBoxLayout* BuildRadioButtons();
+    [[nodiscard]] QHBoxLayout* BuildWindowButtons();
+    QPushButton* AddButton(QHBoxLayout& row, const char* name, const QString& text);
+
+    void LoadChannels();
+    void ShowChannel();
+    void ShowSignalling(int number);
+    void OnChannelChosen(int index);
+    void OnSignallingChosen(int index);
+    void OnItemChosen();
+    void OnWidthPressed(bool wide);
+
+    Session& session_;
+    Services& services_;
+    std::unique_ptr<SerialPort> port_; // MSComm1
+    TestEngine engine_;
+    TestFrame* frmTestChannel_ = nullptr;
+    TestFrame* frmTestSignal_ = nullptr;
+    Lamp* PicPtt_ = nullptr;
+    Lamp* PicWide_ = nullptr;
+    Lamp* PicNarrow_ = nullptr;
+    QListWidget* LvwTuneSel_ = nullptr;
+    QPushButton* CmdTune_ = nullptr;
+    bool offersChannels_ = false;
+    bool tuning_ = false;
+    bool unloaded_ = false;
+};
+
+} // namespace zelvor

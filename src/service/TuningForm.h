@@ -1,0 +1,92 @@
+#pragma once
+
+#include <QDialog>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "data/Session.h"
+#include "platform/SerialPort.h"
+#include "service/FrequencyPoints.h"
+#include "service/LinkedValues.h"
+#include "service/TuningDialogs.h"
+#include "service/TuningEngine.h"
+
+class QHBoxLayout;
+class QLineEdit;
+class QProgressBar;
+class QPushButton;
+class QTabWidget;
+
+namespace zelvor {
+
+class Lamp;
+class TuningPage;
+struct Services;
+
+/// The four tuning dialogs: one design in four sizes. Adjusts one item on the live radio; its values go to the radio
+/// only. Closing by the frame is Cancel.
+class TuningForm : public QDialog, private TuningObserver, private TuningSource {
+    Q_OBJECT
+
+public:
+    TuningForm(Session& session, Services& services, const TuningDialog& dialog, QWidget* parent = nullptr);
+    ~TuningForm() override;
+
+    /// Escape: the same as CmdCancel.
+    void reject() override { close(); }
+
+signals:
+    /// The window is gone, whichever way it was closed.
+    void Unloaded();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void OnLamp(bool transmitting) override;
+    void OnPointRead(int page) override;
+    void OnMeasured(int value) override;
+    void OnUnloadRequested() override;
+    [[nodiscard]] int Value(int page) const override;
+    [[nodiscard]] int OldValue(int page) const override;
+
+    [[nodiscard]] QString Text(int n) const;
+    void BuildPages(const TuningDialog& dialog);
+    void AddPage(TunePoint point, int index);
+    void BuildMeasure();
+    [[nodiscard]] QHBoxLayout* BuildButtons();
+    QPushButton* AddButton(QHBoxLayout& row, const char* name, const QString& text);
+    void AddPtt(QHBoxLayout& row);
+    void AddStart(QHBoxLayout& row);
+    [[nodiscard]] PointFrequency FrequencyAt(TunePoint point) const;
+    void LoadValues(const TuningDialog& dialog);
+    [[nodiscard]] QString FrequencyText(TunePoint point, bool transmit) const;
+
+    enum class Source { Slider, Text };
+    void Change(int page, int value, Source source);
+    void ShowValues();
+    void OnPageChanged(int page);
+    void EnableSlider(int page);
+
+    Session& session_;
+    Services& services_;
+    const TuningKind kind_;
+    std::optional<FrequencyPoints> frequencies_;
+    std::optional<LinkedValues> values_;
+    std::unique_ptr<SerialPort> port_; // MSComm1
+    TuningEngine engine_;
+    TuningEngine::Ending ending_ = TuningEngine::Ending::Cancel;
+    QTabWidget* SSTabTune_ = nullptr;
+    std::vector<TuningPage*> pages_;
+    QLineEdit* txtTuneValue_ = nullptr; // of the measuring dialog
+    QProgressBar* PrgValue_ = nullptr;
+    Lamp* PicStart_ = nullptr;
+    Lamp* PicPtt_ = nullptr;
+    bool unloaded_ = false;
+};
+
+/// The dialog of Session's TuneItem and NarrowMode.
+[[nodiscard]] TuningForm* MakeTuningForm(Session& session, Services& services, QWidget* parent);
+
+} // namespace zelvor

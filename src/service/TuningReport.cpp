@@ -1,0 +1,106 @@
+#include "service/TuningReport.h"
+
+#include <array>
+
+#include "data/Session.h"
+#include "platform/Clock.h"
+#include "platform/MessageBoxes.h"
+#include "platform/PageDevice.h"
+#include "platform/Services.h"
+#include "print/ReportHead.h"
+#include "text/StringTable.h"
+
+namespace zelvor {
+
+namespace {
+
+constexpr TextPair ConfirmationTitle{"Confirmation", "确认"};
+constexpr TextPair ConfirmationText{"All tuning data print out.", "打印输出所有调谐数据。"};
+
+constexpr int QuestionWait = 200; // milliseconds
+
+constexpr double TitleRow = 2;
+
+// Head: a label and its text a row.
+constexpr double HeadLabelColumn = 4;
+constexpr double HeadTextColumn = 30;
+constexpr double HeadRow = 4;
+
+constexpr double SectionRow = 10;
+constexpr double ColumnHeadRow = 12;
+constexpr double FirstItemRow = 13;
+
+constexpr std::string_view NoValue = "---";
+
+/// A column of the table, with the number of its head in the string table.
+struct Column {
+    double column;
+    int head;
+    TunePoint point;
+};
+constexpr std::array<Column, TunePointCount> Columns{{{25, 238, TunePoint::Test},
+                                                      {35, 91, TunePoint::Low},
+                                                      {45, 239, TunePoint::LowPrime},
+                                                      {55, 241, TunePoint::Center},
+                                                      {65, 240, TunePoint::HighPrime},
+                                                      {75, 90, TunePoint::High},
+                                                      {95, 87, TunePoint::Narrow}}};
+
+void AddHead(std::vector<CellText>& texts, const DataImage& image, std::string_view fileName, Language language) {
+    const ModelVariant& variant = ReportVariantOf(image);
+    const std::array<std::string_view, 4> values{variant.reportModel, variant.reportMarket, variant.reportRange,
+                                                 fileName};
+    constexpr std::array labels{94, 246, 95, 247};
+    for (std::size_t i = 0; i < labels.size(); ++i) {
+        const double row = HeadRow + static_cast<double>(i);
+        texts.push_back({HeadLabelColumn, row, std::string(TableText(language, labels[i]))});
+        texts.push_back({HeadTextColumn, row, std::string(values[i])});
+    }
+}
+
+} // namespace
+
+std::vector<CellText> BuildTuningReport(const DataImage& image, const TuneValues& values, std::string_view fileName,
+                                        Language language) {
+    std::vector<CellText> texts;
+    AddHead(texts, image, fileName, language);
+    texts.push_back({0, SectionRow, std::string(TableText(language, 248))});
+    for (const Column& column : Columns) {
+        texts.push_back({column.column, ColumnHeadRow, std::string(TableText(language, column.head))});
+    }
+    for (int number = 1; number <= TuneItemCount; ++number) {
+        const TuneItemRow& item = TuneItemOf(number);
+        const double row = FirstItemRow + number - 1;
+        texts.push_back({0, row, std::string(TableText(language, item.name))});
+        for (const Column& column : Columns) {
+            const bool exists = item.Cell(column.point).Exists();
+            texts.push_back(
+                {column.column, row,
+                 exists ? std::to_string(TuneValueOf(item, column.point, image, values)) : std::string(NoValue)});
+        }
+    }
+    return texts;
+}
+
+void PrintTuningReport(Session& session, Services& services) {
+    const Language language = session.LanguageFlag;
+    services.clock.WaitProcessingEvents(QuestionWait);
+    const MessageAnswer answer = services.messages.Show({.title = std::string(ConfirmationTitle.In(language)),
+                                                         .text = std::string(ConfirmationText.In(language)),
+                                                         .icon = MessageIcon::Question,
+                                                         .buttons = MessageButtons::OkCancel,
+                                                         .defaultButton = MessageAnswer::Cancel});
+    if (answer != MessageAnswer::Ok || !services.pages.BeginDocument(ReportTitle.In(language))) {
+        return;
+    }
+    PageDevice& device = services.pages;
+    const PageGrid grid(device, PageGrid::Units::Exact);
+    PrintTitle(device, grid, TitleRow, ReportTitle.In(language));
+    PrintCells(device, grid,
+               BuildTuningReport(session.Image, session.Service.Values, session.CurrentFileName, language),
+               grid.PageWidth());
+    PrintFoot(device, grid, 1);
+    device.EndDocument();
+}
+
+} // namespace zelvor

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+#include "data/DataImage.h"
+#include "data/TuneItems.h"
+#include "print/PageGrid.h"
+#include "text/Language.h"
+
+namespace zelvor {
+
+class Session;
+struct Services;
+
+/// The texts of the tuning report below its title: head and table, at their cells.
+[[nodiscard]] std::vector<CellText> BuildTuningReport(const DataImage& image, const TuneValues& values,
+                                                      std::string_view fileName, Language language);
+
+/// Prints one page with all tuning data, after a question. A failing printer ends it without a word.
+void PrintTuningReport(Session& session, Services& services);
+
+} // namespace zelvor
