@@ -61,6 +61,7 @@ void RadioExchange::OnReceive(ReceiveReason reason) {
     awaiting_ = false;
     if (superseded_) {
         superseded_ = false;
+        ReceiveSuperseded();
         port_.ClearInput();
         Run(*ctrTimer_, NextTick);
         return;

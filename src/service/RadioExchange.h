@@ -41,6 +41,8 @@ protected:
     virtual void SendCommand() = 0;
     /// Takes the reply to the last command.
     virtual void Receive() = 0;
+    /// Takes the reply to a command whose place another request has taken; what is not read of it is thrown away.
+    virtual void ReceiveSuperseded() {}
     /// The user's answers to the connection prompt; SentState is reset already.
     virtual void Retry() = 0;
     virtual void GiveUp() = 0;

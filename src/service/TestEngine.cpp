@@ -96,6 +96,7 @@ void TestEngine::Close() {
 }
 
 void TestEngine::SendCommand() {
+    pttSent_.reset();
     switch (State()) {
     case SendIt:
         SendFirst();
@@ -117,7 +118,7 @@ void TestEngine::SendCommand() {
 void TestEngine::SendFirst() {
     ExpectBytes(1);
     if (PttDropPending) {
-        Transmit(service::PttOff);
+        TransmitPtt(false);
         return;
     }
     switch (TestCommand) {
@@ -130,7 +131,7 @@ void TestEngine::SendFirst() {
         Transmit({service::SetSignalling, static_cast<std::uint8_t>(signalling_)});
         break;
     case TestCommandKind::Ptt:
-        Transmit(PttOn ? service::PttOn : service::PttOff);
+        TransmitPtt(PttOn);
         break;
     case TestCommandKind::Tune:
         clock_.Sleep(TunePause);
@@ -153,6 +154,18 @@ void TestEngine::SendEnd() {
     clock_.WaitProcessingEvents(EndWait);
     CloseDone = true;
     Transmit({service::End});
+}
+
+void TestEngine::TransmitPtt(bool on) {
+    pttSent_ = on;
+    Transmit(on ? service::PttOn : service::PttOff);
+}
+
+/// The radio is keyed or unkeyed all the same, and the lamps are to say so.
+void TestEngine::ReceiveSuperseded() {
+    if (pttSent_ && ReadsAcknowledge()) {
+        observer_.OnLamps(*pttSent_);
+    }
 }
 
 void TestEngine::Receive() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "service/RadioExchange.h"
 
 namespace zelvor {
@@ -51,6 +53,8 @@ private:
     void SendFirst();
     void SendEnd();
     void Receive() override;
+    void ReceiveSuperseded() override;
+    void TransmitPtt(bool on);
     void ReceiveFirst();
     void ReceivePttDrop();
     void ReceivePtt();
@@ -64,10 +68,11 @@ private:
     TestObserver& observer_;
     TestCommandKind TestCommand = TestCommandKind::SetChannel;
     int signalling_ = 1;
-    bool ChannelOnly = false;    // the channel command is not followed by a signalling command
-    bool PttOn = false;          // what the user has asked for
-    bool PttDropPending = false; // the transmitter is to be unkeyed before the command in progress goes out
-    bool CloseDone = false;      // ends the wait of Close
+    bool ChannelOnly = false;     // the channel command is not followed by a signalling command
+    std::optional<bool> pttSent_; // the command whose reply is due keys or unkeys the radio
+    bool PttOn = false;           // what the user has asked for
+    bool PttDropPending = false;  // the transmitter is to be unkeyed before the command in progress goes out
+    bool CloseDone = false;       // ends the wait of Close
     bool closing_ = false;
 };
 

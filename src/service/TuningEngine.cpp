@@ -116,9 +116,10 @@ int TuningEngine::LastCancelState() const {
 }
 
 void TuningEngine::SendCommand() {
+    pttSent_.reset();
     ExpectBytes(1);
     if (IsDropDue()) {
-        Transmit(service::PttOff);
+        TransmitPtt(false);
         return;
     }
     switch (TuneOp) {
@@ -126,7 +127,7 @@ void TuningEngine::SendCommand() {
         SendPageCommand();
         break;
     case TunePtt:
-        Transmit(PttOn ? service::PttOn : service::PttOff);
+        TransmitPtt(PttOn);
         break;
     case TuneOk:
     case TuneCancel:
@@ -190,6 +191,18 @@ void TuningEngine::SendRestoring() {
 
 void TuningEngine::SendSet(int page, int value) {
     Transmit({Code(page), service::SetValue, static_cast<std::uint8_t>(value)});
+}
+
+void TuningEngine::TransmitPtt(bool on) {
+    pttSent_ = on;
+    Transmit(on ? service::PttOn : service::PttOff);
+}
+
+/// The radio is keyed or unkeyed all the same, and the lamps are to say so.
+void TuningEngine::ReceiveSuperseded() {
+    if (pttSent_ && ReadsAcknowledge()) {
+        observer_.OnLamp(*pttSent_);
+    }
 }
 
 void TuningEngine::Receive() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "service/RadioExchange.h"
@@ -79,6 +80,8 @@ private:
     void SendMeasuredEnding();
     void SendSet(int page, int value);
     void Receive() override;
+    void ReceiveSuperseded() override;
+    void TransmitPtt(bool on);
     void ReceiveDrop();
     void ReceivePageReply();
     void ReceivePtt();
@@ -94,11 +97,12 @@ private:
     TuningObserver& observer_;
     std::uint8_t TuneOp = TunePage;
     int CurrentPage = 0;
-    bool PttOn = false;          // what the user has asked for
-    bool PttDropPending = false; // the transmitter is to be unkeyed before the operation goes on
-    bool Done = false;           // ends the wait of Close
-    bool running_ = false;       // an operation is under way
-    bool valuePending_ = false;  // a value waits for it
+    std::optional<bool> pttSent_; // the command whose reply is due keys or unkeys the radio
+    bool PttOn = false;           // what the user has asked for
+    bool PttDropPending = false;  // the transmitter is to be unkeyed before the operation goes on
+    bool Done = false;            // ends the wait of Close
+    bool running_ = false;        // an operation is under way
+    bool valuePending_ = false;   // a value waits for it
     bool measuring_ = false;
     bool closing_ = false;
 };

@@ -99,6 +99,18 @@ TEST_F(TestEngineTest, PressingPttAgainBeforeTheRadioHasAnsweredStillUnkeysIt) {
     EXPECT_FALSE(engine.IsPttOn());
 }
 
+TEST_F(TestEngineTest, TheLampsFollowARadioThatIsUnkeyedWhileAnotherCommandWaits) {
+    Open();
+    engine.PressPtt();
+    rig.clock.Advance(50);
+    engine.PressPtt();
+    rig.clock.Advance(2); // sent at 1, its answer comes at 3
+    engine.ChooseWide(false);
+    rig.clock.Advance(50);
+    EXPECT_EQ(rig.sent, (Commands{"08 0D", "08 0E", "47"}));
+    EXPECT_EQ(lamps, (std::vector<std::string>{"transmit", "idle"}));
+}
+
 TEST_F(TestEngineTest, WideAndNarrowAreSentAndRemembered) {
     Open();
     engine.ChooseWide(false);

@@ -116,6 +116,18 @@ TEST_F(TuningEngineTest, PttKeysAndUnkeysTheRadio) {
     EXPECT_EQ(dialog.events, (std::vector<std::string>{"transmit", "idle"}));
 }
 
+TEST_F(TuningEngineTest, TheLampFollowsARadioThatIsUnkeyedWhileAPageChangeWaits) {
+    OpenSixPages();
+    engine->PressPtt();
+    rig.clock.Advance(50);
+    engine->PressPtt();
+    rig.clock.Advance(2);
+    engine->ChangePage(1);
+    rig.clock.Advance(200);
+    EXPECT_EQ(rig.sent, (Commands{"08 0D", "08 0E", "30 0D", "07", "06"}));
+    EXPECT_EQ(dialog.events, (std::vector<std::string>{"transmit", "idle", "point 1"}));
+}
+
 TEST_F(TuningEngineTest, ValuesAreSetWithTheTransmitterKeyed) {
     OpenSixPages();
     engine->PressPtt();
