@@ -33,6 +33,17 @@ const std::vector<Row>& SampleRows() {
     return rows;
 }
 
+const std::vector<Row>& SampleRowsInChinese() {
+    static const std::vector<Row> rows{
+        {1, {"145.12500", "145.12500", "无", "无", "高", "宽带", "有", "无", "关"}},
+        {4, {"145.50000", "145.50000", "67.0", "250.3", "低", "宽带", "无", "无", "关"}},
+        {5, {"151.82000", "151.82000", "D023N", "D023N", "高", "窄带", "有", "无", "关"}},
+        {11, {"160.65000", "156.05000", "无", "无", "高", "宽带", "无", "DTMF", "开"}},
+        {13, {"162.40000", "", "无", "无", "低", "窄带", "有", "无", "关"}},
+    };
+    return rows;
+}
+
 const std::vector<Row>& WrittenRowsInChinese() {
     static const std::vector<Row> rows{
         {1, {"145.12500", "145.12500", "无", "无", "高", "宽带", "有", "无", "关"}},
@@ -41,6 +52,16 @@ const std::vector<Row>& WrittenRowsInChinese() {
         {12, {"145.00500", "146.50000", "88.5", "D230N", "高", "宽带", "有", "无", "关"}},
         {14, {"162.55000", "", "162.2", "无", "低", "宽带", "无", "无", "关"}},
         {16, {"174.00000", "174.00000", "241.8", "D411N", "高", "窄带", "有", "无", "关"}},
+    };
+    return rows;
+}
+
+const std::vector<Row>& WrittenRowsInEnglish() {
+    static const std::vector<Row> rows{
+        {1, {"145.12500", "145.12500", "None", "None", "High", "Wide", "Yes", "None", "Off"}},
+        {11, {"160.65000", "156.05000", "None", "None", "High", "Wide", "No", "None", "On"}},
+        {12, {"145.00500", "146.50000", "88.5", "D230N", "High", "Wide", "Yes", "None", "Off"}},
+        {14, {"162.55000", "", "162.2", "None", "Low", "Wide", "No", "None", "Off"}},
     };
     return rows;
 }

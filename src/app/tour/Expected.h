@@ -25,8 +25,11 @@ struct Edit {
 
 /// The grid after a read of the sample radio, all rows.
 [[nodiscard]] const std::vector<Row>& SampleRows();
-/// Rows of the grid in Chinese after a read of the radio that EnglishEdit was written to.
+/// Some of them in Chinese.
+[[nodiscard]] const std::vector<Row>& SampleRowsInChinese();
+/// Rows of the grid after a read of the radio that EnglishEdit was written to, in either language.
 [[nodiscard]] const std::vector<Row>& WrittenRowsInChinese();
+[[nodiscard]] const std::vector<Row>& WrittenRowsInEnglish();
 
 [[nodiscard]] const Edit& EnglishEdit();
 [[nodiscard]] const Edit& ChineseEdit();

@@ -29,13 +29,20 @@ void Job::Run() {
     Read();
     CheckGrid();
     ShowNavigator();
+    SwitchLanguage();
+    ShowHelp();
     EditChannel();
+    EditFeatures();
+    EditMemoryMap();
     SaveAs();
     ShowEditors(); // closing the channel edit dialog commits it: the document is dropped by what follows
     New();
     Open();
+    PrintReport();
     Write();
     CheckRadio();
+    ShowRadioInformation();
+    RunTestMode();
     Exit();
     CheckSettings();
 }

@@ -1,8 +1,6 @@
 // The dialogs that only show something or choose something.
 
 #include <QApplication>
-#include <QComboBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
 
@@ -10,6 +8,7 @@
 #include "tour/Job.h"
 #include "tour/Program.h"
 #include "tour/Screenshots.h"
+#include "tour/WindowOnTop.h"
 #include "tour/WindowThread.h"
 
 namespace zelvor::tour {
@@ -17,16 +16,6 @@ namespace zelvor::tour {
 namespace {
 
 // Questions to the window thread.
-
-QString TextOnTop(const QString& label) {
-    const auto* found = qobject_cast<QLabel*>(WidgetOnTop(label));
-    return found ? found->text() : QString("(no label)");
-}
-
-QString ChoiceOnTop(const QString& list) {
-    const auto* found = qobject_cast<QComboBox*>(WidgetOnTop(list));
-    return found ? found->currentText() : QString("(no list)");
-}
 
 const QRadioButton* FirstPort() {
     return qobject_cast<QRadioButton*>(WidgetOnTop("optPort(0)"));
@@ -51,11 +40,6 @@ constexpr Editor Editors[] = {
     {"MnuEditTestFrequency", "TestChannelForm", "", "", "cmdClose", "test-frequency"},
     {"MnuEditEmbeddedMessage", "EmbedInfoForm", "txtMsg(0)", "Sample radio", "cmdClose", "embedded-message"},
 };
-
-QWidget* PartOf(const char* window, const char* part) {
-    const QWidget* found = WidgetOnTop(window);
-    return found ? found->findChild<QWidget*>(part) : nullptr;
-}
 
 QString TextOf(const Editor& editor) {
     const auto* box = qobject_cast<QLineEdit*>(PartOf(editor.window, editor.box));
@@ -102,8 +86,8 @@ void Job::ShowAbout() {
 void Job::ShowModel() {
     user_.ChooseByMouse("MnuModel", "MnuModelInformation");
     boxes_.ExpectDialog("ModelTypeForm", words_.modelCaption);
-    CheckEqual("model chosen", windows_.Ask([] { return ChoiceOnTop("cboModelType"); }), "4618 (VHF)");
-    CheckEqual("range chosen", windows_.Ask([] { return ChoiceOnTop("cboFreq"); }), "136-174 MHz(M)");
+    CheckEqual("model chosen", windows_.Ask([] { return TextOnTop("cboModelType"); }), "4618 (VHF)");
+    CheckEqual("range chosen", windows_.Ask([] { return TextOnTop("cboFreq"); }), "136-174 MHz(M)");
     screenshots_.Take("model-information");
     user_.Click("cmdCancel");
     boxes_.WaitUntilGone("ModelTypeForm");

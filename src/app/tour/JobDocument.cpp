@@ -7,6 +7,7 @@
 #include "tour/Program.h"
 #include "tour/RadioProgram.h"
 #include "tour/Screenshots.h"
+#include "tour/WindowOnTop.h"
 #include "tour/WindowThread.h"
 
 namespace zelvor::tour {
@@ -23,7 +24,7 @@ constexpr int PowerColumn = 5;
 
 void Job::EditChannel() {
     const Edit& edit = round_.edit;
-    user_.ClickCell(edit.channel, 1);
+    user_.ClickCell("ChannelGrid", edit.channel, 1);
     windows_.WaitUntil("the editor of the cell", [] { return WidgetOnTop("txtInputBox") != nullptr; });
     user_.Type(edit.receive);
     screenshots_.Take("frequency-editor");
@@ -52,7 +53,7 @@ void Job::EditChannel() {
 }
 
 void Job::LowerPower() {
-    user_.ClickCell(FirstChannel, PowerColumn);
+    user_.ClickCell("ChannelGrid", FirstChannel, PowerColumn);
     windows_.WaitUntil("the editor of the cell", [] { return WidgetOnTop("comInputStep") != nullptr; });
     user_.Press(Qt::Key_Down);
     user_.Press(Qt::Key_Return);

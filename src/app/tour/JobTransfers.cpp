@@ -24,7 +24,7 @@ struct Region {
 constexpr Region Head{0x000, 0x010};
 constexpr Region Channels{0x010, 0x110};
 constexpr Region Settings{0x110, 0x180};
-constexpr Region Tuning{0x180, 0x1B8};
+constexpr Region TuningValues{0x180, 0x1B8};
 constexpr Region Identity{0x1B8, 0x1C0};
 constexpr Region MoreSettings{0x1C0, 0x340};
 constexpr Region Unwritten{0x340, 0x400};
@@ -44,10 +44,11 @@ void Job::Read() {
     user_.ChooseByKeys(Qt::Key_P, Qt::Key_R);
     RunTransfer(words_.readCaption, ReadSteps, words_.readCompleted, "read");
     CheckTitle("Zelvor.dat");
-    readMemory_ = radio_.Memory();
-    CheckBytes("the document against the radio's memory", program_->Image(), readMemory_);
-    CheckRegion("channels read", readMemory_, Channels, round_.records);
-    CheckRegion("identity read", readMemory_, Identity, Hex("50 34 36 31 38 01 F8 FF"));
+    const QByteArray memory = radio_.Memory();
+    CheckBytes("the document against the radio's memory", program_->Image(), memory);
+    CheckRegion("channels read", memory, Channels, round_.records);
+    CheckRegion("tuning values read", memory, TuningValues, round_.tuning.region);
+    CheckRegion("identity read", memory, Identity, Hex("50 34 36 31 38 01 F8 FF"));
     Done("Program > Read from Radio: all 1024 bytes");
 }
 
@@ -72,14 +73,15 @@ void Job::Write() {
 
 void Job::CheckRadio() {
     const QByteArray memory = radio_.Memory();
+    const QByteArray saved = MemoryOfDataFile(round_.dataFile);
     CheckRegion("head after the write", memory, Head, WrittenHead());
     CheckRegion("channels after the write", memory, Channels, Edited(WrittenRecords(round_.records)));
-    CheckRegion("settings after the write", memory, Settings, Part(readMemory_, Settings));
-    CheckRegion("tuning after the write", memory, Tuning, TuningRegion());
+    CheckRegion("settings after the write", memory, Settings, Part(saved, Settings));
+    CheckRegion("tuning after the write", memory, TuningValues, round_.tuning.region);
     CheckRegion("identity after the write", memory, Identity, Hex("50 34 36 31 38 01 F8 FF"));
-    CheckRegion("more settings after the write", memory, MoreSettings, Part(readMemory_, MoreSettings));
+    CheckRegion("more settings after the write", memory, MoreSettings, Part(saved, MoreSettings));
     CheckRegion("the last 192 bytes after the write", memory, Unwritten, UnwrittenEnd());
-    Done("the radio holds the edited channels; tuning and the last 192 bytes are untouched");
+    Done("the radio holds the edited channels and settings; tuning and the last 192 bytes are untouched");
 }
 
 void Job::RunTransfer(const QString& caption, int maximum, const Box& completed, const QString& picture) {

@@ -11,6 +11,7 @@
 #include "platform/QtServices.h"
 #include "shell/MDIForm1.h"
 #include "tour/User.h"
+#include "tour/WindowOnTop.h"
 #include "tour/WindowThread.h"
 
 namespace zelvor::tour {

@@ -68,6 +68,12 @@ void RadioProgram::WaitForText(const QByteArray& text) {
     }
 }
 
+void RadioProgram::ForgetLines() {
+    process_.waitForReadyRead(0);
+    process_.readAll();
+    printed_.clear();
+}
+
 QByteArray RadioProgram::LastLines() {
     constexpr int count = 12;
     process_.waitForReadyRead(0);

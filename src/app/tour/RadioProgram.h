@@ -26,6 +26,9 @@ public:
     /// Waits until the radio has printed the text, on either channel.
     void WaitForText(const QByteArray& text);
 
+    /// What was printed until now does not count for WaitForText any more.
+    void ForgetLines();
+
     /// The last lines that the radio has printed, for the report of a failure.
     [[nodiscard]] QByteArray LastLines();
 

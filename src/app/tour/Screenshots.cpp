@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QPainter>
 #include <QScreen>
 #include <QWidget>
@@ -22,6 +23,24 @@ bool IsOffscreen() {
     return QGuiApplication::platformName() == "offscreen";
 }
 
+/// Where a window lies in the pile, by what it is opened over.
+int HeightOf(const QWidget* window) {
+    constexpr int modal = 100;
+    constexpr int help = 200;
+    constexpr int popup = 300;
+    if (window->windowType() == Qt::Popup) {
+        return popup;
+    }
+    if (window->objectName() == "HelpWindow") {
+        return help;
+    }
+    int height = window == QApplication::activeModalWidget() ? modal : 0;
+    for (const QWidget* parent = window->parentWidget(); parent; parent = parent->parentWidget()) {
+        ++height;
+    }
+    return height;
+}
+
 /// Main window first, what came later behind it.
 QList<QWidget*> OpenWindows() {
     QList<QWidget*> windows;
@@ -30,15 +49,8 @@ QList<QWidget*> OpenWindows() {
             windows.append(window);
         }
     }
-    std::stable_sort(windows.begin(), windows.end(), [](const QWidget* a, const QWidget* b) {
-        const auto rank = [](const QWidget* window) {
-            return window->windowType() == Qt::Popup             ? 3
-                   : window == QApplication::activeModalWidget() ? 2
-                   : window->parentWidget()                      ? 1
-                                                                 : 0;
-        };
-        return rank(a) < rank(b);
-    });
+    std::stable_sort(windows.begin(), windows.end(),
+                     [](const QWidget* a, const QWidget* b) { return HeightOf(a) < HeightOf(b); });
     return windows;
 }
 
@@ -100,8 +112,21 @@ void Screenshots::TakeAtOnce(const QString& what) {
     }
     // Grabbed by the window thread and compressed by this one, which a transfer does not wait for.
     const QImage picture = windows_.Ask(Grab);
-    const QString name = QString("%1-%2-%3.png").arg(++count_, 2, 10, QChar(u'0')).arg(what, language_);
-    Check("the screenshot " + name.toStdString(), picture.save(directory_ + "/" + name));
+    const QString path = NextPath(what, "png");
+    Check("the screenshot " + path.toStdString(), picture.save(path));
+}
+
+void Screenshots::Keep(const QString& what, const QString& file) {
+    if (directory_.isEmpty()) {
+        return;
+    }
+    const QString path = NextPath(what, "pdf");
+    QFile::remove(path); // of an earlier tour
+    Check("the copy " + path.toStdString(), QFile::copy(file, path));
+}
+
+QString Screenshots::NextPath(const QString& what, const QString& suffix) {
+    return QString("%1/%2-%3-%4.%5").arg(directory_).arg(++count_, 2, 10, QChar(u'0')).arg(what, language_, suffix);
 }
 
 } // namespace zelvor::tour

@@ -17,8 +17,12 @@ public:
     void Take(const QString& what);
     /// Does not wait: something is moving.
     void TakeAtOnce(const QString& what);
+    /// Copies a file there, "NN-what-language.pdf".
+    void Keep(const QString& what, const QString& file);
 
 private:
+    [[nodiscard]] QString NextPath(const QString& what, const QString& suffix);
+
     WindowThread& windows_;
     QString directory_;
     QString language_;

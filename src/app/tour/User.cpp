@@ -2,33 +2,28 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QListWidget>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
-#include <QMessageBox>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QTableWidget>
 #include <QTest>
 #include <QTreeWidget>
 #include <QWindow>
 #include <memory>
 
+#include "tour/Checks.h"
+#include "tour/WindowOnTop.h"
 #include "tour/WindowThread.h"
 
 namespace zelvor::tour {
 
 namespace {
 
-QWidget* MainWindow() {
-    for (QWidget* window : QApplication::topLevelWidgets()) {
-        if (qobject_cast<QMainWindow*>(window) && window->isVisible()) {
-            return window;
-        }
-    }
-    return nullptr;
-}
-
 QMenuBar* MenuBar() {
-    auto* window = qobject_cast<QMainWindow*>(MainWindow());
+    auto* window = qobject_cast<QMainWindow*>(WindowOnTop());
     return window ? window->menuBar() : nullptr;
 }
 
@@ -55,10 +50,6 @@ void SendCharacter(bool press, char character) {
     }
 }
 
-std::string NameOf(const QWidget* window) {
-    return window ? window->objectName().toStdString() : "(none)";
-}
-
 bool IsReadyForKeys() {
     const QWidget* top = WindowOnTop();
     return top && (QApplication::activeWindow() == top || QApplication::activePopupWidget());
@@ -79,32 +70,11 @@ void AskForKeys(QWidget& window, int timesAsked) {
 
 } // namespace
 
-QWidget* WindowOnTop() {
-    QWidget* modal = QApplication::activeModalWidget();
-    return modal ? modal : MainWindow();
-}
-
-std::string WindowsInAWord() {
-    const QWindow* focus = QGuiApplication::focusWindow();
-    const auto* box = qobject_cast<const QMessageBox*>(QApplication::activeModalWidget());
-    return "on top: " + NameOf(WindowOnTop()) + (box ? " \"" + box->text().toStdString() + "\"" : "") +
-           ", active: " + NameOf(QApplication::activeWindow()) +
-           ", keys: " + (focus ? focus->objectName().toStdString() : "(none)") + " at " +
-           NameOf(QApplication::focusWidget()) + ", menu: " + NameOf(QApplication::activePopupWidget());
-}
-
-QWidget* WidgetOnTop(const QString& name) {
-    const QWidget* top = WindowOnTop();
-    for (QWidget* widget : top ? top->findChildren<QWidget*>(name) : QList<QWidget*>()) {
-        if (widget->isVisible()) {
-            return widget;
-        }
-    }
-    return nullptr;
-}
-
 void User::Activate() {
-    const std::string top = windows_.Ask([] { return NameOf(WindowOnTop()); });
+    const std::string top = windows_.Ask([] {
+        const QWidget* window = WindowOnTop();
+        return window ? window->objectName().toStdString() : "(none)";
+    });
     windows_.WaitUntil("the active window to be " + top, [asked = std::make_shared<int>(0)] {
         if (IsReadyForKeys()) {
             return true;
@@ -136,25 +106,27 @@ std::optional<User::Place> User::Middle(QWidget* widget) {
     if (!widget || !widget->isVisible() || !widget->isEnabled()) {
         return std::nullopt;
     }
-    return Place{widget->window()->windowHandle(), widget->mapTo(widget->window(), widget->rect().center())};
+    return PlaceIn(*widget, widget->rect());
 }
 
-void User::ClickAt(const std::string& what, const std::function<std::optional<Place>()>& find, bool twice) {
+User::Place User::PlaceIn(const QWidget& widget, const QRect& area) {
+    return {widget.window()->windowHandle(), widget.mapTo(widget.window(), area.center())};
+}
+
+User::Place User::WaitFor(const std::string& what, const FindPlace& find) {
     Activate();
     std::optional<Place> place;
     windows_.WaitUntil(what, [&] {
         place = find();
         return place.has_value();
     });
-    const auto send = [at = *place](void (*event)(QWindow*, Qt::MouseButton, Qt::KeyboardModifiers, QPoint, int)) {
-        WindowThread::Post([=] { event(at.window, Qt::LeftButton, Qt::NoModifier, at.point, -1); });
-    };
-    if (twice) {
-        send(QTest::mouseDClick);
-        return;
-    }
-    send(QTest::mousePress);
-    send(QTest::mouseRelease);
+    return *place;
+}
+
+void User::ClickAt(const std::string& what, const FindPlace& find, Qt::KeyboardModifiers modifiers) {
+    const Place at = WaitFor(what, find);
+    WindowThread::Post([=] { QTest::mousePress(at.window, Qt::LeftButton, modifiers, at.point); });
+    WindowThread::Post([=] { QTest::mouseRelease(at.window, Qt::LeftButton, modifiers, at.point); });
 }
 
 void User::ClickOn(const std::string& what, const std::function<QWidget*()>& find) {
@@ -165,16 +137,39 @@ void User::Click(const QString& name) {
     ClickOn("the control " + name.toStdString(), [&] { return WidgetOnTop(name); });
 }
 
-void User::ClickCell(int row, int column) {
-    ClickAt("the channel grid", [=]() -> std::optional<Place> {
-        auto* grid = qobject_cast<QTableWidget*>(WidgetOnTop("ChannelGrid"));
-        if (!grid) {
-            return std::nullopt;
-        }
-        QWidget* viewport = grid->viewport();
-        const QPoint cell = grid->visualItemRect(grid->item(row - 1, column - 1)).center();
-        return Place{grid->window()->windowHandle(), viewport->mapTo(grid->window(), cell)};
+void User::ClickCell(const QString& table, int row, int column) {
+    ClickAt("the table " + table.toStdString(), [=]() -> std::optional<Place> {
+        auto* grid = qobject_cast<QTableWidget*>(WidgetOnTop(table));
+        return grid ? std::optional(PlaceIn(*grid->viewport(), grid->visualItemRect(grid->item(row - 1, column - 1))))
+                    : std::nullopt;
     });
+}
+
+void User::ClickRow(const QString& list, int row) {
+    ClickAt("the list " + list.toStdString(), [=]() -> std::optional<Place> {
+        auto* found = qobject_cast<QListWidget*>(WidgetOnTop(list));
+        return found ? std::optional(PlaceIn(*found->viewport(), found->visualItemRect(found->item(row - 1))))
+                     : std::nullopt;
+    });
+}
+
+void User::ClickTab(const QString& tabs, int page) {
+    ClickAt("the tabs " + tabs.toStdString(), [=]() -> std::optional<Place> {
+        auto* found = qobject_cast<QTabWidget*>(WidgetOnTop(tabs));
+        return found ? std::optional(PlaceIn(*found->tabBar(), found->tabBar()->tabRect(page - 1))) : std::nullopt;
+    });
+}
+
+void User::TabTo(const QString& control) {
+    constexpr int patience = 60; // more than any window has controls
+    const auto isThere = [=] {
+        const QWidget* focus = QApplication::focusWidget();
+        return focus && focus->objectName() == control;
+    };
+    for (int presses = 0; !windows_.Ask(isThere); ++presses) {
+        Check("the Tab key leads to " + control.toStdString(), presses < patience);
+        Press(Qt::Key_Tab);
+    }
 }
 
 void User::DoubleClickNode(const QString& text) {
@@ -185,10 +180,10 @@ void User::DoubleClickNode(const QString& text) {
         if (nodes.isEmpty()) {
             return std::nullopt;
         }
-        const QPoint node = tree->visualItemRect(nodes.first()).center();
-        return Place{tree->window()->windowHandle(), tree->viewport()->mapTo(tree->window(), node)};
+        return PlaceIn(*tree->viewport(), tree->visualItemRect(nodes.first()));
     };
-    ClickAt("the node " + text.toStdString(), find, true);
+    const Place at = WaitFor("the node " + text.toStdString(), find);
+    WindowThread::Post([=] { QTest::mouseDClick(at.window, Qt::LeftButton, Qt::NoModifier, at.point); });
 }
 
 void User::ChooseByKeys(Qt::Key menu, Qt::Key entry) {
@@ -204,8 +199,7 @@ void User::OpenMenu(const QString& menu) {
         if (!found) {
             return std::nullopt;
         }
-        const QPoint title = bar->actionGeometry(found->menuAction()).center();
-        return Place{bar->window()->windowHandle(), bar->mapTo(bar->window(), title)};
+        return PlaceIn(*bar, bar->actionGeometry(found->menuAction()));
     });
     windows_.WaitUntil("the open menu " + menu.toStdString(), [=] {
         const QWidget* popup = QApplication::activePopupWidget();

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+class QRect;
 class QWidget;
 class QWindow;
 
@@ -25,11 +26,23 @@ public:
     void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     /// ASCII characters.
     void Type(const QString& text);
+    /// Presses Tab until the control has the focus.
+    void TabTo(const QString& control);
 
     /// Clicks the middle of the visible widget of that name in the dialog on top, else in the main window.
     void Click(const QString& name);
     void ClickOn(const std::string& what, const std::function<QWidget*()>& find);
-    void ClickCell(int row, int column);
+    /// Rows, columns and pages count from 1.
+    void ClickCell(const QString& table, int row, int column);
+    void ClickRow(const QString& list, int row);
+    void ClickTab(const QString& tabs, int page);
+    /// Clicks a place in a window, found by the window thread.
+    struct Place {
+        QWindow* window = nullptr;
+        QPoint point;
+    };
+    using FindPlace = std::function<std::optional<Place>()>;
+    void ClickAt(const std::string& what, const FindPlace& find, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     void DoubleClickNode(const QString& text);
 
     /// Chooses a menu entry by its access keys, such as Alt+F, A.
@@ -41,21 +54,12 @@ public:
     void CloseMenu();
 
 private:
-    struct Place {
-        QWindow* window = nullptr;
-        QPoint point;
-    };
-    void ClickAt(const std::string& what, const std::function<std::optional<Place>()>& find, bool twice = false);
+    /// The place once it is there.
+    [[nodiscard]] Place WaitFor(const std::string& what, const FindPlace& find);
     static std::optional<Place> Middle(QWidget* widget);
+    static Place PlaceIn(const QWidget& widget, const QRect& area);
 
     WindowThread& windows_;
 };
-
-/// For questions to the window thread: the dialog on top, else the main window; null where there is none.
-[[nodiscard]] QWidget* WindowOnTop();
-/// What is on the screen and has the keys, in a line for the report of a failure.
-[[nodiscard]] std::string WindowsInAWord();
-/// The visible widget of that name in the window on top; null where there is none.
-[[nodiscard]] QWidget* WidgetOnTop(const QString& name);
 
 } // namespace zelvor::tour

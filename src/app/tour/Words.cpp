@@ -21,6 +21,10 @@ Box SaveQuestion(const QString& title, const QString& text) {
             QMessageBox::Yes};
 }
 
+Box PrintQuestion(const QString& title, const QString& text) {
+    return {title, text, QMessageBox::Question, QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel};
+}
+
 Box ConnectionPrompt(const QString& title, const QString& text) {
     return {title, text, QMessageBox::Critical, QMessageBox::Retry | QMessageBox::Cancel, QMessageBox::Retry};
 }
@@ -43,12 +47,21 @@ const Words& English() {
         .portLabel = "COM1",
         .channelNode = " Channel Information",
         .fileFilter = "QPK Data Files(*.dat)",
+        .languageCaption = "Language File Setup",
+        .helpTitle = "Zelvor Help",
+        .helpFolder = "en",
+        .memoryCaption = "Memory Map",
+        .informationCaption = "Radio Information",
+        .testModeCaption = "Test Mode",
+        .none = "None",
+        .printCaption = "Print Out List",
         .readCompleted = Completed("Reading Completed"),
         .writeCompleted = Completed("Writing Completed"),
         .cleared = Warning("Warning", "All data will be cleared."),
         .exit = ExitQuestion("Confirmation", "Do you wish to exit Zelvor program？"),
         .changed = SaveQuestion("Zelvor", "Do you wish to save the changes in \"Zelvor.DAT\" ?"),
         .noConnection = ConnectionPrompt("Error", "please check all connections and communication port settings."),
+        .printTuning = PrintQuestion("Confirmation", "All tuning data print out."),
     };
     return words;
 }
@@ -68,12 +81,21 @@ const Words& Chinese() {
         .portLabel = "通信口1",
         .channelNode = " 信道信息",
         .fileFilter = "QPK 数据文件 (*.dat)",
+        .languageCaption = "语言文件设置",
+        .helpTitle = "Zelvor 帮助",
+        .helpFolder = "zh",
+        .memoryCaption = "内存指针图",
+        .informationCaption = "对讲机信息",
+        .testModeCaption = "测试模式",
+        .none = "无",
+        .printCaption = "打印列表",
         .readCompleted = Completed("读取完毕"),
         .writeCompleted = Completed("写入完毕"),
         .cleared = Warning("警告", "所有数据将被清除."),
         .exit = ExitQuestion("确认", "是否退出 Zelvor 程序？"),
         .changed = SaveQuestion("警告", "文件已更改,是否保存?"),
         .noConnection = ConnectionPrompt("错误", "检查所有连接及通信端口设置。"),
+        .printTuning = PrintQuestion("确认", "打印输出所有调谐数据。"),
     };
     return words;
 }

@@ -24,12 +24,22 @@ struct Words {
     QString channelNode; // of the navigator
     QString fileFilter;
 
+    QString languageCaption;
+    QString helpTitle;
+    QString helpFolder; // of the pages
+    QString memoryCaption;
+    QString informationCaption;
+    QString testModeCaption;
+    QString none;
+    QString printCaption;
+
     Box readCompleted;
     Box writeCompleted;
     Box cleared;
     Box exit;
     Box changed;
     Box noConnection;
+    Box printTuning;
 };
 
 [[nodiscard]] const Words& English();

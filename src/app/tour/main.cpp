@@ -15,7 +15,7 @@
 #include "tour/PrivateHome.h"
 #include "tour/RadioProgram.h"
 #include "tour/Screenshots.h"
-#include "tour/User.h"
+#include "tour/WindowOnTop.h"
 #include "tour/WindowThread.h"
 
 namespace {
@@ -29,12 +29,31 @@ void RememberChinese() {
 
 void RunRounds(const PrivateHome& home, WindowThread& windows, RadioProgram& radio, Screenshots& screenshots) {
     Job(windows, radio, screenshots,
-        {English(), SampleRows(), EnglishEdit(), SampleRecords(), home.DataFile("english.dat"), QString()})
+        {.words = English(),
+         .rows = SampleRows(),
+         .otherWords = Chinese(),
+         .otherRows = SampleRowsInChinese(),
+         .edit = EnglishEdit(),
+         .features = EnglishFeatures(),
+         .tuning = EnglishTuning(),
+         .records = SampleRecords(),
+         .memoryByte = "35",
+         .dataFile = home.DataFile("english.dat"),
+         .exitFile = QString()})
         .Run();
     RememberChinese();
     Job(windows, radio, screenshots,
-        {Chinese(), WrittenRowsInChinese(), ChineseEdit(), RecordsAfterEnglishEdit(), home.DataFile("chinese.dat"),
-         home.DataFile("exit.dat")})
+        {.words = Chinese(),
+         .rows = WrittenRowsInChinese(),
+         .otherWords = English(),
+         .otherRows = WrittenRowsInEnglish(),
+         .edit = ChineseEdit(),
+         .features = ChineseFeatures(),
+         .tuning = ChineseTuning(),
+         .records = RecordsAfterEnglishEdit(),
+         .memoryByte = "39",
+         .dataFile = home.DataFile("chinese.dat"),
+         .exitFile = home.DataFile("exit.dat")})
         .Run();
 }
 

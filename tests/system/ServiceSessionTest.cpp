@@ -1,0 +1,294 @@
+// The service engines against zelvor-radio in a process of its own, over a pseudo-terminal and in real time. Every
+// fault leads to the connection prompt, which is answered by Retry. On a busy machine the prompt may come without a
+// fault too: the tests look at what a session achieves in the end.
+
+#include <QByteArray>
+#include <QTemporaryDir>
+#include <algorithm>
+#include <chrono>
+#include <fstream>
+#include <iterator>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "data/Session.h"
+#include "platform/QtServices.h"
+#include "simulator/RadioProcess.h"
+#include "simulator/SampleRadio.h"
+#include "system/ServiceListeners.h"
+
+namespace zelvor::test {
+namespace {
+
+class ServiceSession : public ::testing::Test {
+protected:
+    ServiceSession() { session.Image = SampleRadioMemory(); }
+
+    void StartRadio(const std::vector<std::string>& faults) {
+        std::vector<std::string> arguments{"--trace", "--unplugged", "200", "--save", Saved()};
+        for (const std::string& fault : faults) {
+            arguments.insert(arguments.end(), {"--fault", fault});
+        }
+        // Where the port numbers of this process are looked up.
+        radio = std::make_unique<RadioProcess>(qgetenv("XDG_CONFIG_HOME").toStdString(), arguments);
+        user.radio = radio.get();
+        ASSERT_TRUE(radio->WaitForOut("ready: COM1"));
+    }
+
+    /// Keeps the event loop running until the condition holds.
+    template<typename Condition>
+    [[nodiscard]] bool Soon(Condition condition) {
+        constexpr int step = 5;
+        constexpr std::int64_t patience = 20'000; // milliseconds
+        const std::int64_t end = Clock().TickCount() + patience;
+        while (!condition()) {
+            if (Clock().TickCount() > end) {
+                return false;
+            }
+            Clock().WaitProcessingEvents(step);
+        }
+        return true;
+    }
+
+    /// One text behind the other, with others between them.
+    [[nodiscard]] bool RadioSoonPrints(const std::vector<std::string>& texts) {
+        return Soon([&] {
+            const std::string out = radio->Out();
+            std::size_t place = 0;
+            for (const std::string& text : texts) {
+                place = out.find(text, place);
+                if (place == std::string::npos) {
+                    return false;
+                }
+                place += text.size();
+            }
+            return true;
+        });
+    }
+
+    void ExpectInformation(EntryListener& listener) {
+        ASSERT_TRUE(Soon([&] { return listener.isInformationReady; })) << radio->Out();
+        ASSERT_EQ(listener.information.size(), 34U);
+        EXPECT_EQ(listener.information[13], 'A');
+        EXPECT_EQ(listener.information.substr(17, 8), "10024618");
+    }
+
+    void ExpectFired(const std::string& fault) {
+        EXPECT_NE(radio->Err().find("fault " + fault + " fired"), std::string::npos) << radio->Err();
+        EXPECT_FALSE(user.shown.empty());
+        for (const Message& message : user.shown) {
+            EXPECT_EQ(message.text, "please check all connections and communication port settings.");
+        }
+    }
+
+    /// The memory that the radio has kept at the end of its last session.
+    [[nodiscard]] std::vector<char> SavedFile() const {
+        std::ifstream file(Saved(), std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    }
+
+    [[nodiscard]] zelvor::Clock& Clock() { return machine.Get().clock; }
+    [[nodiscard]] std::unique_ptr<SerialPort> MakePort() { return machine.Get().ports.Make("MSComm1"); }
+    [[nodiscard]] std::string Saved() const { return directory.filePath("radio.dat").toStdString(); }
+
+    QTemporaryDir directory;
+    QtServices machine;
+    Session session;
+    std::unique_ptr<RadioProcess> radio;
+    RetryingUser user{machine.Get().clock};
+};
+
+TEST_F(ServiceSession, InformationIsFetchedAndTheRadioLeavesItsMode) {
+    StartRadio({});
+    const std::unique_ptr<SerialPort> port = MakePort();
+    EntryListener listener;
+    EntryEngine engine(session, *port, Clock(), user, listener);
+    engine.StartInformation();
+    ExpectInformation(listener);
+    EXPECT_FALSE(port->IsOpen());
+    for (const char* line : {"] > 4E 52 4B (Read manufacturing record)\n", "] > 50 (Read unused record)\n",
+                             "] < 00 01 02 03 04 05 06 07 08 09\n", "] > 45 (End)\n"}) {
+        EXPECT_TRUE(RadioSoonPrints({line})) << line << "in\n" << radio->Out();
+    }
+}
+
+class InformationFault : public ServiceSession, public ::testing::WithParamInterface<const char*> {};
+
+TEST_P(InformationFault, LeadsToThePromptAndRetryFetchesTheInformation) {
+    StartRadio({GetParam()});
+    const std::unique_ptr<SerialPort> port = MakePort();
+    EntryListener listener;
+    EntryEngine engine(session, *port, Clock(), user, listener);
+    engine.StartInformation();
+    ExpectInformation(listener);
+    ExpectFired(GetParam());
+}
+
+std::string FaultLabel(const ::testing::TestParamInfo<const char*>& fault) {
+    std::string name(fault.param);
+    std::replace(name.begin(), name.end(), '@', '_');
+    std::replace(name.begin(), name.end(), ':', '_');
+    return name;
+}
+
+// Replies: 1 Entry, 2 identity, 4 manufacturing record, 6 unused record, 8 End; the others acknowledge.
+INSTANTIATE_TEST_SUITE_P(OfAReply, InformationFault, ::testing::Values("drop@4", "cut:33@4", "hang@7", "unplug@6"),
+                         FaultLabel);
+
+class TestModeEntry : public ServiceSession, public ::testing::WithParamInterface<const char*> {};
+
+TEST_P(TestModeEntry, FetchesTuningDataAndTestFrequenciesWhateverReplyIsSpoilt) {
+    const std::string fault = GetParam();
+    StartRadio(fault == "none" ? std::vector<std::string>{} : std::vector<std::string>{fault});
+    const std::unique_ptr<SerialPort> port = MakePort();
+    EntryListener listener;
+    EntryEngine engine(session, *port, Clock(), user, listener);
+    session.Image.Set(0x185, 0x00);
+    engine.StartTestMode();
+    ASSERT_TRUE(Soon([&] { return listener.isTestModeReady; })) << radio->Out();
+    EXPECT_FALSE(port->IsOpen());
+    EXPECT_EQ(session.Image.At(0x185), 0x45);
+    EXPECT_EQ(session.Service.Values.TestPointHighPower, 0x43);
+    EXPECT_EQ(session.Service.TestFrequencyText[0], (TestFrequencyTexts{"155.05000", "155.10000"}));
+    EXPECT_EQ(session.Service.TestFrequencyText[5], (TestFrequencyTexts{"155.40000", "155.40000"}));
+    EXPECT_EQ(session.Service.TestFrequencyText[6], (TestFrequencyTexts{"0", "0"}));
+    EXPECT_NE(radio->Out().find("] > 10 10 (Set channel 16)\n"), std::string::npos);
+    EXPECT_EQ(radio->Out().find("(End)"), std::string::npos) << "the radio stays in its mode";
+    if (fault != "none") {
+        ExpectFired(fault);
+    }
+}
+
+// Replies: 1 Entry, 2 identity, 4 tuning record, 4 + 2n channel n; the others acknowledge.
+INSTANTIATE_TEST_SUITE_P(OfAReply, TestModeEntry, ::testing::Values("none", "cut:61@4", "drop@20", "unplug@9"),
+                         FaultLabel);
+
+TEST_F(ServiceSession, InformationFollowsATestModeEntryThatWasLeftOpen) {
+    StartRadio({});
+    const std::unique_ptr<SerialPort> port = MakePort();
+    EntryListener listener;
+    EntryEngine engine(session, *port, Clock(), user, listener);
+    engine.StartTestMode();
+    ASSERT_TRUE(Soon([&] { return listener.isTestModeReady; })) << radio->Out();
+    engine.StartInformation();
+    ExpectInformation(listener);
+}
+
+/// Test mode and the tuning of one item, from the entry to End.
+class TuningRun : public ServiceSession {
+protected:
+    void EnterTestMode() {
+        EntryEngine engine(session, *entryPort, Clock(), user, entry);
+        engine.StartTestMode();
+        ASSERT_TRUE(Soon([&] { return entry.isTestModeReady; })) << radio->Out();
+    }
+
+    void StartTuning(TestEngine& engine, int item) {
+        session.Service.TuneItem = item;
+        test.isTuningReady = false;
+        engine.Tune();
+        ASSERT_TRUE(Soon([&] { return test.isTuningReady; })) << radio->Out();
+    }
+
+    /// High power on the page "Low": 0x45 becomes 200.
+    void TuneHighPower(TuningEngine::Ending ending) {
+        const std::unique_ptr<SerialPort> port = MakePort();
+        TuningListener dialog;
+        dialog.oldValues = {0x43, 0x45, 0x44, 0x43, 0x42, 0x41};
+        dialog.values = dialog.oldValues;
+        TuningEngine engine(session, *port, Clock(), user, {TuningKind::Points, 18, {18, 48, 51, 49, 52, 50}}, dialog,
+                            dialog);
+        engine.Load();
+        engine.ChangePage(1);
+        EXPECT_TRUE(Soon([&] { return dialog.pageRead == 1; })) << radio->Out();
+        dialog.values[1] = 200;
+        engine.SliderMoved();
+        EXPECT_TRUE(RadioSoonPrints({"] > 30 20 C8 (Set item 1 Low to 200)\n"})) << radio->Out();
+        engine.Close(ending);
+        EXPECT_FALSE(dialog.isUnloadRequested);
+        EXPECT_FALSE(port->IsOpen());
+    }
+
+    /// The whole session; item 1's point Low is `stored` at its end.
+    void RunSession(TuningEngine::Ending ending, int stored) {
+        ASSERT_NO_FATAL_FAILURE(EnterTestMode());
+        const std::unique_ptr<SerialPort> port = MakePort();
+        TestEngine engine(session, *port, Clock(), user, test);
+        engine.Load();
+        ASSERT_TRUE(RadioSoonPrints({"] > 11 01 (Set signalling 1)\n"})) << radio->Out();
+        engine.PressPtt();
+        ASSERT_TRUE(Soon([&] { return test.isTransmitting; })) << radio->Out();
+        engine.ChooseChannel(2);
+        ASSERT_TRUE(RadioSoonPrints({"] > 08 0E (PTT off)\n", "] > 10 02 (Set channel 2)\n", "] > 06 (Acknowledge)\n"}))
+            << radio->Out();
+        ASSERT_NO_FATAL_FAILURE(StartTuning(engine, 1));
+        ASSERT_NO_FATAL_FAILURE(TuneHighPower(ending));
+        session.Image.Set(0x185, 0x00);
+        ASSERT_NO_FATAL_FAILURE(StartTuning(engine, 1));
+        EXPECT_EQ(session.Image.At(0x185), stored) << "what the next Read tuning data brings";
+        engine.Close();
+        ASSERT_TRUE(RadioSoonPrints({"] > 45 (End)\n"})) << radio->Out();
+        EXPECT_FALSE(test.isUnloadRequested);
+        ASSERT_TRUE(Soon([&] { return SavedFile().size() == 1040; }));
+        EXPECT_EQ(static_cast<unsigned char>(SavedFile()[16 + 0x185]), stored);
+        EXPECT_EQ(static_cast<unsigned char>(SavedFile()[16 + 0x184]), 0x44);
+    }
+
+    std::unique_ptr<SerialPort> entryPort = MakePort();
+    EntryListener entry;
+    TestListener test;
+};
+
+TEST_F(TuningRun, OkStoresTheValueInTheRadio) {
+    StartRadio({});
+    RunSession(TuningEngine::Ending::Ok, 200);
+}
+
+TEST_F(TuningRun, CancelBringsTheOldValuesBack) {
+    StartRadio({});
+    RunSession(TuningEngine::Ending::Cancel, 0x45);
+}
+
+class TuningFault : public TuningRun, public ::testing::WithParamInterface<const char*> {};
+
+TEST_P(TuningFault, LeadsToThePromptAndRetryGoesOn) {
+    StartRadio({GetParam()});
+    RunSession(TuningEngine::Ending::Ok, 200);
+    ExpectFired(GetParam());
+}
+
+// Replies behind the 37 of the entry: 38 channel, 40 signalling, 41 PTT on, 42 PTT off, 43 channel, 45 tuning record,
+// 47 select, then in the dialog 48 select, 49 point, 51 set, 52 store; 39, 44, 46 and 50 acknowledge.
+INSTANTIATE_TEST_SUITE_P(OfAReply, TuningFault, ::testing::Values("drop@41", "cut:61@45", "unplug@51", "corrupt@52"),
+                         FaultLabel);
+
+TEST_F(TuningRun, AMeasuredItemIsMeasuredAgainAndAgainAndItsLastValueStored) {
+    StartRadio({});
+    ASSERT_NO_FATAL_FAILURE(EnterTestMode());
+    const std::unique_ptr<SerialPort> port = MakePort();
+    TestEngine engine(session, *port, Clock(), user, test);
+    engine.Load();
+    ASSERT_TRUE(RadioSoonPrints({"] > 11 01 (Set signalling 1)\n"})) << radio->Out();
+    ASSERT_NO_FATAL_FAILURE(StartTuning(engine, 12));
+    TuningListener dialog;
+    {
+        const std::unique_ptr<SerialPort> tuningPort = MakePort();
+        TuningEngine tuning(session, *tuningPort, Clock(), user, {TuningKind::Measured, 28, {28}}, dialog, dialog);
+        tuning.Load();
+        tuning.ToggleMeasuring();
+        ASSERT_TRUE(Soon([&] { return dialog.measured.size() >= 2; })) << radio->Out();
+        tuning.ToggleMeasuring();
+        dialog.values[0] = dialog.measured[1];
+        tuning.Close(TuningEngine::Ending::Ok);
+    }
+    EXPECT_GT(dialog.measured[1], 100);
+    ASSERT_NO_FATAL_FAILURE(StartTuning(engine, 12));
+    EXPECT_EQ(session.Image.At(0x1AC), dialog.measured[1]);
+    engine.Close();
+}
+
+} // namespace
+} // namespace zelvor::test
