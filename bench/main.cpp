@@ -1,10 +1,11 @@
-// zelvor-bench [clone] [start] [data]: measures those parts, or all of them, and prints the table.
+// zelvor-bench [clone] [start] [data] [print]: measures those parts, or all of them, and prints the table.
 
 #include <QApplication>
 #include <QTemporaryDir>
 
 #include "CloneFigures.h"
 #include "DataFigures.h"
+#include "PrintFigures.h"
 #include "Report.h"
 #include "StartFigures.h"
 
@@ -41,6 +42,9 @@ int main(int argc, char** argv) {
     }
     if (isWanted("data")) {
         zelvor::bench::AddDataFigures(report);
+    }
+    if (isWanted("print")) {
+        zelvor::bench::AddPrintFigures(report);
     }
     report.Print();
     return report.IsComplete() ? 0 : 1;

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include "controls/CellTextEditor.h"
@@ -108,6 +109,8 @@ void CPUForm::BuildEditor() {
     txtMemory_->SetFilter(HexDigit);
     txtMemory_->SetLengthLimit(ByteDigits);
     edit_ = new TextCellEdit(*msgMemory_, *txtMemory_);
+    // A click on the scroll bar would give the focus to the grid, and so store the text that scrolling is to drop.
+    msgMemory_->verticalScrollBar()->setFocusProxy(txtMemory_);
     connect(edit_, &TextCellEdit::Entered, this, &CPUForm::OnEntered);
     connect(edit_, &TextCellEdit::Left, this, &CPUForm::StoreText);
 }

@@ -1,8 +1,12 @@
 #include "platform/QtPageDevice.h"
 
+#include <QCoreApplication>
+#include <QDialogButtonBox>
+#include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QPrintDialog>
 #include <QPrinterInfo>
+#include <QPushButton>
 #include <utility>
 
 #include "platform/QtDialogs.h"
@@ -17,11 +21,10 @@ constexpr double LineWidthTwips = 10;
 
 // Without an explicit choice the toolkit prints to a PDF file where the system has no default printer.
 void UseSystemPrinter(QPrinter& printer) {
-    const auto printers = QPrinterInfo::availablePrinters();
     const QPrinterInfo preferred = QPrinterInfo::defaultPrinter();
     if (!preferred.isNull()) {
         printer.setPrinterName(preferred.printerName());
-    } else if (!printers.isEmpty()) {
+    } else if (const auto printers = QPrinterInfo::availablePrinters(); !printers.isEmpty()) {
         printer.setPrinterName(printers.constFirst().printerName());
     }
     printer.setOutputFormat(QPrinter::NativeFormat);
@@ -30,6 +33,25 @@ void UseSystemPrinter(QPrinter& printer) {
 void UseFile(QPrinter& printer, const QString& file) {
     printer.setOutputFormat(QPrinter::PdfFormat);
     printer.setOutputFileName(file);
+}
+
+/// The first proportional font with Chinese characters, which have Latin ones too; the usual font where there is none.
+QString FamilyWithChinese() {
+    for (const QString& family : QFontDatabase::families(QFontDatabase::SimplifiedChinese)) {
+        if (QFontDatabase::isSmoothlyScalable(family) && !QFontDatabase::isFixedPitch(family)) {
+            return family;
+        }
+    }
+    return QFont().family();
+}
+
+// The dialog only chooses: its button must not promise to print.
+void NameButtonOk(const QPrintDialog& dialog) {
+    if (const auto* buttons = dialog.findChild<QDialogButtonBox*>()) {
+        if (QPushButton* ok = buttons->button(QDialogButtonBox::Ok)) {
+            ok->setText(QCoreApplication::translate("QPlatformTheme", "OK"));
+        }
+    }
 }
 
 } // namespace
@@ -41,24 +63,36 @@ QtPageDevice::~QtPageDevice() {
 }
 
 bool QtPageDevice::IsAvailable() {
-    return !pdfFile_.isEmpty() || !QPrinterInfo::availablePrinters().isEmpty();
+    return PrintsToFile() || !QPrinterInfo::availablePrinters().isEmpty();
+}
+
+bool QtPageDevice::PrintsToFile() const {
+    return !pdfFile_.isEmpty() || (isChosen_ && !printer_->outputFileName().isEmpty());
 }
 
 bool QtPageDevice::ShowSetup() {
-    if (!IsAvailable()) {
+    if (!isChosen_) {
+        MakePrinter();
+    }
+    QPrintDialog dialog(printer_.get(), DialogParent());
+    dialog.setObjectName(QStringLiteral("dlgPrint"));
+    dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
+    NameButtonOk(dialog);
+    if (dialog.exec() != QDialog::Accepted) {
         return false;
     }
-    QPrintDialog dialog(&Printer(), DialogParent());
-    dialog.setObjectName(QStringLiteral("dlgPrint"));
-    dialog.setOptions(QAbstractPrintDialog::PrintShowPageSize);
-    return dialog.exec() == QDialog::Accepted;
+    isChosen_ = true;
+    return true;
 }
 
 bool QtPageDevice::BeginDocument(std::string_view name) {
     if (painter_.isActive() || !IsAvailable()) {
         return false;
     }
-    Printer().setDocName(ToQString(name));
+    if (!isChosen_) {
+        MakePrinter(); // anew: the system's default printer may be another one by now
+    }
+    printer_->setDocName(ToQString(name));
     if (!painter_.begin(printer_.get())) {
         return false;
     }
@@ -67,8 +101,12 @@ bool QtPageDevice::BeginDocument(std::string_view name) {
     return true;
 }
 
-void QtPageDevice::NewPage() {
-    printer_->newPage();
+bool QtPageDevice::NewPage() {
+    if (printer_->newPage()) {
+        return true;
+    }
+    EndDocument();
+    return false;
 }
 
 void QtPageDevice::EndDocument() {
@@ -86,17 +124,20 @@ double QtPageDevice::PageHeight() const {
 }
 
 void QtPageDevice::SetFont(const PageFont& font) {
-    font_ = QFont();
-    if (!font.family.empty()) {
-        font_.setFamily(ToQString(font.family));
+    if (family_.isEmpty()) {
+        family_ = FamilyWithChinese();
     }
+    font_ = QFont(font.family.empty() ? family_ : ToQString(font.family));
     font_.setPointSizeF(font.pointSize);
     font_.setBold(font.bold);
+    font_.setStyleStrategy(QFont::PreferNoShaping); // no script of ours needs it, and it takes a tenth of the time
+    stretch_ = font.stretch;
+    ascent_ = QFontMetricsF(font_, printer_.get()).ascent();
     painter_.setFont(font_);
 }
 
 double QtPageDevice::TextWidth(std::string_view text) const {
-    return TwipsOf(QFontMetricsF(font_, printer_.get()).horizontalAdvance(ToQString(text)));
+    return TwipsOf(QFontMetricsF(font_, printer_.get()).horizontalAdvance(ToQString(text))) * stretch_;
 }
 
 double QtPageDevice::TextHeight() const {
@@ -104,24 +145,29 @@ double QtPageDevice::TextHeight() const {
 }
 
 void QtPageDevice::DrawText(double x, double y, std::string_view text) {
-    const double ascent = QFontMetricsF(font_, printer_.get()).ascent();
-    painter_.drawText(QPointF(DotsOf(x), DotsOf(y) + ascent), ToQString(text));
+    const QPointF start(DotsOf(x), DotsOf(y) + ascent_);
+    if (stretch_ == 1) {
+        painter_.drawText(start, ToQString(text));
+        return;
+    }
+    painter_.save();
+    painter_.translate(start);
+    painter_.scale(stretch_, 1);
+    painter_.drawText(QPointF(), ToQString(text));
+    painter_.restore();
 }
 
 void QtPageDevice::DrawLine(double x1, double y1, double x2, double y2) {
     painter_.drawLine(QPointF(DotsOf(x1), DotsOf(y1)), QPointF(DotsOf(x2), DotsOf(y2)));
 }
 
-QPrinter& QtPageDevice::Printer() {
-    if (!printer_) {
-        printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
-        if (pdfFile_.isEmpty()) {
-            UseSystemPrinter(*printer_);
-        } else {
-            UseFile(*printer_, pdfFile_);
-        }
+void QtPageDevice::MakePrinter() {
+    printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    if (pdfFile_.isEmpty()) {
+        UseSystemPrinter(*printer_);
+    } else {
+        UseFile(*printer_, pdfFile_);
     }
-    return *printer_;
 }
 
 double QtPageDevice::DotsOf(double twips) const {

@@ -10,7 +10,8 @@
 
 namespace zelvor {
 
-/// A printer of the system, or a PDF file in its place.
+/// A printer of the system, or a PDF file in its place. Texts are set in a font that has Chinese characters too, so
+/// that they stay texts in a PDF file.
 class QtPageDevice : public PageDevice {
 public:
     /// With a file the pages go there as PDF, whatever printers there are.
@@ -22,7 +23,7 @@ public:
     [[nodiscard]] bool IsAvailable() override;
     [[nodiscard]] bool ShowSetup() override;
     [[nodiscard]] bool BeginDocument(std::string_view name) override;
-    void NewPage() override;
+    [[nodiscard]] bool NewPage() override;
     void EndDocument() override;
     [[nodiscard]] double PageWidth() const override;
     [[nodiscard]] double PageHeight() const override;
@@ -33,14 +34,19 @@ public:
     void DrawLine(double x1, double y1, double x2, double y2) override;
 
 private:
-    QPrinter& Printer();
+    void MakePrinter();
+    [[nodiscard]] bool PrintsToFile() const;
     [[nodiscard]] double DotsOf(double twips) const;
     [[nodiscard]] double TwipsOf(double dots) const;
 
     QString pdfFile_;
-    std::unique_ptr<QPrinter> printer_; // made when first needed: asking for the system's printers takes time
+    std::unique_ptr<QPrinter> printer_; // made when needed: asking for the system's printers takes time
+    bool isChosen_ = false;             // printer_ is as the set-up dialog left it
     QPainter painter_;
+    QString family_; // of texts without a family of their own; looked up once
     QFont font_;
+    double ascent_ = 0; // of the font, in dots
+    double stretch_ = 1;
 };
 
 } // namespace zelvor

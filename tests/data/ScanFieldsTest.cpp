@@ -58,5 +58,19 @@ TEST(ScanFields, ALookBackByteOfZeroIsNoTime) {
     EXPECT_FALSE(scan::Load(image, scan::LookBackTimeA).has_value());
 }
 
+TEST(ScanFields, AModeThatWasNeverStoredReadsAsNone) {
+    EXPECT_EQ(scan::EntryOf(scan::PriorityMode, 0), 0);
+    EXPECT_EQ(scan::EntryOf(scan::PriorityMode, 2), 2);
+    EXPECT_EQ(scan::EntryOf(scan::PriorityMode, 3), std::nullopt);
+    EXPECT_EQ(scan::EntryOf(scan::PriorityMode, 0xFE), std::nullopt);
+    EXPECT_EQ(scan::EntryOf(scan::PriorityMode, 0xFF), 0);
+}
+
+TEST(ScanFields, ARevertChannelThatWasNeverStoredReadsAsNothing) {
+    EXPECT_EQ(scan::EntryOf(scan::RevertChannel, 3), 3);
+    EXPECT_EQ(scan::EntryOf(scan::RevertChannel, 4), std::nullopt);
+    EXPECT_EQ(scan::EntryOf(scan::RevertChannel, 0xFF), std::nullopt);
+}
+
 } // namespace
 } // namespace zelvor

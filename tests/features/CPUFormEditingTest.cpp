@@ -229,6 +229,28 @@ TEST_F(CPUFormEditingTest, TheWheelOverTheGridCancelsTheEdit) {
     EXPECT_FALSE(Editor().isVisible());
 }
 
+TEST_F(CPUFormEditingTest, AClickOnTheScrollBarCancelsTheEdit) {
+    QScrollBar& bar = *Grid().verticalScrollBar();
+    Grid().SetText(1, 1, "5C");
+    Type("3");
+    ASSERT_EQ(Grid().Text(1, 1), "3");
+    QTest::mouseClick(&bar, Qt::LeftButton, {}, {bar.width() / 2, bar.height() - 4});
+    EXPECT_GT(bar.value(), 0);
+    EXPECT_EQ(Grid().Text(1, 1), "5C");
+    EXPECT_FALSE(Editor().isVisible());
+    EXPECT_TRUE(Grid().hasFocus());
+}
+
+TEST_F(CPUFormEditingTest, AClickOnTheScrollBarThatScrollsNothingLeavesTheEditOpen) {
+    QScrollBar& bar = *Grid().verticalScrollBar();
+    Grid().SetText(1, 1, "5C");
+    Type("3");
+    QTest::mouseClick(&bar, Qt::LeftButton, {}, {bar.width() / 2, 4});
+    EXPECT_EQ(bar.value(), 0);
+    EXPECT_TRUE(Editor().hasFocus());
+    EXPECT_EQ(Editor().text(), "3");
+}
+
 // --- Ending the dialog while a cell is edited ------------------------------------------------------------------------
 
 TEST_F(CPUFormEditingTest, OkTakesTheTextThatIsBeingEdited) {

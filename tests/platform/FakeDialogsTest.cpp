@@ -130,7 +130,7 @@ TEST(FakePageDevice, KeepsTextsWithTheirPlaceAndFont) {
     ASSERT_TRUE(device.BeginDocument("Report"));
     device.SetFont({.pointSize = 16, .bold = true});
     device.DrawText(100, 200, "Title");
-    device.NewPage();
+    ASSERT_TRUE(device.NewPage());
     device.DrawLine(1, 2, 3, 4);
     device.EndDocument();
     ASSERT_EQ(device.Pages().size(), 2U);
@@ -154,6 +154,19 @@ TEST(FakePageDevice, MeasuresEveryCharacterAlike) {
     device.SetFont({.pointSize = 16});
     EXPECT_EQ(device.TextWidth("abc"), 480);
     device.EndDocument();
+}
+
+TEST(FakePageDevice, EndsTheDocumentWhereItIsToldToFail) {
+    FakePageDevice device;
+    device.FailAtPage(2);
+    ASSERT_TRUE(device.BeginDocument("Report"));
+    EXPECT_FALSE(device.NewPage());
+    EXPECT_EQ(device.Failures(), 1);
+    EXPECT_EQ(device.Pages().size(), 1U);
+    EXPECT_TRUE(device.Documents().empty());
+    device.FailAtPage(1);
+    EXPECT_FALSE(device.BeginDocument("Report"));
+    EXPECT_EQ(device.Failures(), 2);
 }
 
 TEST(FakePageDevice, FailsOnDrawingOutsideOfADocument) {

@@ -1,8 +1,13 @@
+#include <QDialogButtonBox>
 #include <QFile>
+#include <QLineEdit>
+#include <QPrintDialog>
 #include <QPrinterInfo>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+#include "platform/ModalDriver.h"
 #include "platform/QtPageDevice.h"
 #include "platform/fakes/FakePageDevice.h"
 
@@ -78,9 +83,9 @@ TEST(QtPageDevice, MakesAPdfFileOfAsManyPagesAsWereBegun) {
     PdfPrinter printer;
     ASSERT_TRUE(printer.device.BeginDocument("Zelvor Report"));
     printer.device.DrawText(100, 100, "First page 信道");
-    printer.device.NewPage();
+    ASSERT_TRUE(printer.device.NewPage());
     printer.device.DrawLine(0, 0, 1440, 1440);
-    printer.device.NewPage();
+    ASSERT_TRUE(printer.device.NewPage());
     printer.device.EndDocument();
     const QByteArray pdf = ContentOf(printer.file);
     EXPECT_TRUE(pdf.startsWith("%PDF-"));
@@ -107,14 +112,66 @@ TEST(QtPageDevice, PutsLinesAndTextsWhereTheyAreToldInTwips) {
     EXPECT_TRUE(drawing.contains("\n600 -")) << drawing.toStdString();
 }
 
-TEST(QtPageDevice, HasNoPrinterWhereTheSystemHasNone) {
-    if (!QPrinterInfo::availablePrinters().isEmpty()) {
-        GTEST_SKIP() << "This machine has a printer";
+TEST(QtPageDevice, NarrowsLettersAsTheirFontSays) {
+    PdfPrinter printer;
+    ASSERT_TRUE(printer.device.BeginDocument("Report"));
+    printer.device.SetFont({.pointSize = 10});
+    const double width = printer.device.TextWidth("Report");
+    const double height = printer.device.TextHeight();
+    printer.device.SetFont({.pointSize = 10, .stretch = 0.8});
+    EXPECT_DOUBLE_EQ(printer.device.TextWidth("Report"), 0.8 * width);
+    EXPECT_EQ(printer.device.TextHeight(), height);
+    printer.device.DrawText(720, 0, "Report");
+    printer.device.EndDocument();
+    const QByteArray drawing = DrawingOf(printer.file);
+    EXPECT_TRUE(drawing.contains("0.800000000 0 0 1 600 ")) << drawing.toStdString();
+}
+
+class SystemWithoutPrinter : public testing::Test {
+protected:
+    void SetUp() override {
+        if (!QPrinterInfo::availablePrinters().isEmpty()) {
+            GTEST_SKIP() << "This machine has a printer";
+        }
     }
-    QtPageDevice device;
-    EXPECT_FALSE(device.IsAvailable());
-    EXPECT_FALSE(device.ShowSetup());
-    EXPECT_FALSE(device.BeginDocument("Report"));
+
+    QTemporaryDir folder_;
+    QString file_ = folder_.filePath("chosen.pdf");
+    QtPageDevice device_;
+};
+
+TEST_F(SystemWithoutPrinter, HasNothingToPrintOn) {
+    EXPECT_FALSE(device_.IsAvailable());
+    EXPECT_FALSE(device_.BeginDocument("Report"));
+}
+
+TEST_F(SystemWithoutPrinter, PrintsToAFileChosenInTheSetUpDialog) {
+    WithNextDialog<QPrintDialog>([this](QPrintDialog& dialog) {
+        EXPECT_EQ(dialog.objectName(), "dlgPrint");
+        auto* fileName = dialog.findChild<QLineEdit*>("filename");
+        ASSERT_NE(fileName, nullptr);
+        fileName->setText(file_);
+        const auto* buttons = dialog.findChild<QDialogButtonBox*>();
+        ASSERT_NE(buttons, nullptr);
+        EXPECT_EQ(buttons->button(QDialogButtonBox::Ok)->text(), "OK");
+        buttons->button(QDialogButtonBox::Ok)->click();
+    });
+    EXPECT_TRUE(device_.ShowSetup());
+    EXPECT_TRUE(device_.IsAvailable());
+    for (int document = 0; document < 2; ++document) {
+        ASSERT_TRUE(device_.BeginDocument("Report"));
+        device_.DrawText(100, 100, "Report");
+        device_.EndDocument();
+        EXPECT_TRUE(ContentOf(file_).startsWith("%PDF-"));
+        EXPECT_TRUE(QFile::remove(file_));
+    }
+}
+
+TEST_F(SystemWithoutPrinter, StillHasNothingToPrintOnAfterACancelledDialog) {
+    WithNextDialog<QPrintDialog>([](QPrintDialog& dialog) { dialog.reject(); });
+    EXPECT_FALSE(device_.ShowSetup());
+    EXPECT_FALSE(device_.IsAvailable());
+    EXPECT_FALSE(device_.BeginDocument("Report"));
 }
 
 TEST(QtPageDevice, DoesNotBeginWhereTheFileCannotBeWritten) {

@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QLabel>
 #include <QLibraryInfo>
+#include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QPushButton>
@@ -130,6 +131,20 @@ TEST_F(LanguageSwitchTest, CancelAfterAChoiceClosesNothingAlsoAfterAnEarlierSwit
     EXPECT_EQ(window->focusWidget(), focus);
     EXPECT_EQ(session.LanguageFlag, Language::Chinese);
     EXPECT_EQ(TextOf("MnuFile"), "文件(&F)");
+}
+
+TEST_F(LanguageSwitchTest, CancelLeavesTheOrderOfTheWindows) {
+    OpenMainWindow();
+    for (const char* entry : {"MnuEditScanInformation", "MnuEditKeyAssignment", "MnuEditCorvane"}) {
+        Choose(entry);
+    }
+    Switch(1, "CmdCancel");
+    QStringList fromBottomToTop;
+    for (const QMdiSubWindow* frame : window->findChild<QMdiArea*>()->subWindowList(QMdiArea::StackingOrder)) {
+        fromBottomToTop.append(frame->windowTitle());
+    }
+    EXPECT_EQ(fromBottomToTop,
+              (QStringList{" Channel Information [ Channel-1 ]", "Scan Information", "Key Assignment", " Corvane"}));
 }
 
 TEST_F(LanguageSwitchTest, AWindowOpenedAfterwardsIsInTheNewLanguage) {

@@ -40,14 +40,24 @@ bool FakePageDevice::BeginDocument(std::string_view name) {
     }
     isInDocument_ = true;
     name_ = name;
+    page_ = 0;
     SetFont({});
-    pages_.emplace_back();
-    return true;
+    return BeginPage();
 }
 
-void FakePageDevice::NewPage() {
+bool FakePageDevice::NewPage() {
     CheckInDocument();
+    return BeginPage();
+}
+
+bool FakePageDevice::BeginPage() {
+    if (++page_ == failingPage_) {
+        ++failures_;
+        isInDocument_ = false;
+        return false;
+    }
     pages_.emplace_back();
+    return true;
 }
 
 void FakePageDevice::EndDocument() {
@@ -71,11 +81,12 @@ void FakePageDevice::SetFont(const PageFont& font) {
     family_ = font.family;
     pointSize_ = font.pointSize;
     bold_ = font.bold;
+    stretch_ = font.stretch;
 }
 
 double FakePageDevice::TextWidth(std::string_view text) const {
     CheckInDocument();
-    return static_cast<double>(CharacterCount(text)) * pointSize_ * CharacterWidthPerPoint;
+    return static_cast<double>(CharacterCount(text)) * pointSize_ * CharacterWidthPerPoint * stretch_;
 }
 
 double FakePageDevice::TextHeight() const {
@@ -86,7 +97,7 @@ double FakePageDevice::TextHeight() const {
 void FakePageDevice::DrawText(double x, double y, std::string_view text) {
     CheckInDocument();
     if (!pages_.empty()) {
-        pages_.back().texts.push_back({x, y, std::string(text), family_, pointSize_, bold_});
+        pages_.back().texts.push_back({x, y, std::string(text), family_, pointSize_, bold_, stretch_});
     }
 }
 

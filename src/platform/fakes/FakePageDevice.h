@@ -15,6 +15,7 @@ struct FakePageText {
     std::string family;
     double pointSize = 10;
     bool bold = false;
+    double stretch = 1;
 };
 
 struct FakePageLine {
@@ -44,7 +45,7 @@ public:
     [[nodiscard]] bool IsAvailable() override { return isAvailable_; }
     [[nodiscard]] bool ShowSetup() override;
     [[nodiscard]] bool BeginDocument(std::string_view name) override;
-    void NewPage() override;
+    [[nodiscard]] bool NewPage() override;
     void EndDocument() override;
     [[nodiscard]] double PageWidth() const override;
     [[nodiscard]] double PageHeight() const override;
@@ -58,8 +59,12 @@ public:
     void SetAvailable(bool isAvailable) { isAvailable_ = isAvailable; }
     /// In twips; 10800 by 15840 unless told otherwise.
     void SetPageSize(double width, double height);
+    /// The printer fails where page n of a document is to begin; 1: no document can be begun.
+    void FailAtPage(int n) { failingPage_ = n; }
     void ExpectSetup(bool answer) { setups_.push_back(answer); }
 
+    /// How often a FailAtPage has struck.
+    [[nodiscard]] int Failures() const { return failures_; }
     /// The names of the documents sent off.
     [[nodiscard]] const std::vector<std::string>& Documents() const { return documents_; }
     /// The pages of all documents so far, in order, also of one that is not sent off yet.
@@ -67,6 +72,7 @@ public:
 
 private:
     void CheckInDocument() const;
+    [[nodiscard]] bool BeginPage();
 
     bool isAvailable_ = true;
     bool isInDocument_ = false;
@@ -76,6 +82,10 @@ private:
     std::string family_;
     double pointSize_ = 10;
     bool bold_ = false;
+    double stretch_ = 1;
+    int failingPage_ = 0; // none
+    int failures_ = 0;
+    int page_ = 0; // of the document
     std::deque<bool> setups_;
     std::vector<std::string> documents_;
     std::vector<FakePage> pages_;

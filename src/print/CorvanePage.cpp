@@ -1,0 +1,52 @@
+#include <string>
+
+#include "data/CorvaneFields.h"
+#include "print/ReportSections.h"
+#include "print/SectionPage.h"
+
+namespace zelvor {
+
+namespace {
+
+using namespace corvane;
+
+constexpr std::string_view NoFleet = "---";
+constexpr std::string_view NoId = "----";
+
+constexpr double ListTitleRow = 19;
+constexpr double ListHeadRow = 20;
+constexpr double FleetColumn = 30;
+constexpr double IdColumn = 50;
+
+void AddOwn(SectionPage& page) {
+    FieldRows rows(page, pagecells::LabelColumn, pagecells::ValueColumn, pagecells::FirstRow);
+    rows.Add(OwnFleet.label, OrElse(page.ValueOf(OwnFleet), NoFleet));
+    rows.Add(OwnId.label, OrElse(page.ValueOf(OwnId), NoId));
+    rows.Add(BaudRate);
+    rows.Add(DelayTime);
+    rows.Add(MessageModeTimer.label, page.ValueOrOff(MessageModeTimer));
+    rows.Add(SideTone);
+}
+
+void AddFleetList(SectionPage& page) {
+    page.AddWord(pagecells::LabelColumn, ListTitleRow, FleetListLabel);
+    page.Add(FleetColumn, ListHeadRow, ListFleet.heading.In(page.TextLanguage()));
+    page.Add(IdColumn, ListHeadRow, ListId.heading.In(page.TextLanguage()));
+    for (int n = 1; n <= FleetListSize; ++n) {
+        const double row = ListHeadRow + n;
+        page.Add(pagecells::LabelColumn, row, std::to_string(n));
+        page.Add(FleetColumn, row, LoadListNumber(page.Image(), n, ListFleet, page.TextLanguage()));
+        page.Add(IdColumn, row, LoadListNumber(page.Image(), n, ListId, page.TextLanguage()));
+    }
+}
+
+} // namespace
+
+std::vector<CellText> CorvanePage(const DataImage& image, Language language) {
+    SectionPage page(image, language, ReportSection::Corvane);
+    AddOwn(page);
+    AddFleetList(page);
+    return page.Texts();
+}
+
+} // namespace zelvor

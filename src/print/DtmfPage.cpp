@@ -1,0 +1,66 @@
+#include <string>
+
+#include "data/DtmfFields.h"
+#include "print/ReportSections.h"
+#include "print/SectionPage.h"
+
+namespace zelvor {
+
+namespace {
+
+using namespace dtmf;
+
+constexpr double FieldsRow = 14;
+constexpr double DecodeColumn = 70;
+constexpr double DecodeValueColumn = 100;
+
+constexpr double AutodialRow = 23;
+constexpr double DigitsColumn = 8;
+
+/// Stands for 0. Intended: Chinese whatever the language is, as PrintedOff.
+constexpr std::string_view PrintedDCode = "D 码";
+
+void AddEncode(SectionPage& page) {
+    page.AddWord(pagecells::LabelColumn, pagecells::FirstRow, EncodeCaption);
+    FieldRows rows(page, pagecells::LabelColumn, pagecells::ValueColumn, FieldsRow);
+    rows.Add(Speed);
+    rows.Add(FirstDigitTime);
+    rows.Add(FirstDigitDelay);
+    rows.Add(Tone);
+    rows.Add(DCodeAssignment.label,
+             page.IsZero(DCodeAssignment) ? std::string(PrintedDCode) : page.ValueOf(DCodeAssignment));
+    rows.Add(SideTone);
+}
+
+void AddDecode(SectionPage& page) {
+    page.AddWord(DecodeColumn, pagecells::FirstRow, DecodeCaption);
+    FieldRows rows(page, DecodeColumn, DecodeValueColumn, FieldsRow);
+    rows.Add(IdCode.label, Utf8Of(LoadCode(page.Image(), IdCode)));
+    rows.Add(GroupCode.label, page.ValueOrOff(GroupCode));
+    rows.Add(AutoResetTimer);
+    rows.Add(CallAlert);
+    rows.Add(Transpond.label, page.ValueOrOff(Transpond));
+    rows.Add(ClearToTranspond);
+    rows.Add(StunCode.label, Utf8Of(LoadCode(page.Image(), StunCode)));
+    rows.Add(StunType);
+}
+
+void AddAutodial(SectionPage& page) {
+    page.AddWord(pagecells::LabelColumn, AutodialRow, AutodialCaption);
+    for (int n = 1; n <= AutodialCount; ++n) {
+        page.Add(pagecells::LabelColumn, AutodialRow + n, std::to_string(n));
+        page.Add(DigitsColumn, AutodialRow + n, LoadAutodial(page.Image(), n));
+    }
+}
+
+} // namespace
+
+std::vector<CellText> DtmfPage(const DataImage& image, Language language) {
+    SectionPage page(image, language, ReportSection::Dtmf);
+    AddEncode(page);
+    AddDecode(page);
+    AddAutodial(page);
+    return page.Texts();
+}
+
+} // namespace zelvor

@@ -1,0 +1,56 @@
+#include <string>
+
+#include "data/OptionalFields.h"
+#include "print/ReportSections.h"
+#include "print/SectionPage.h"
+#include "text/StringTable.h"
+
+namespace zelvor {
+
+namespace {
+
+using namespace optional_features;
+
+constexpr int LanguageSetupTitle = 128;
+constexpr std::string_view NoCode = "------";
+
+/// Intended: the report of a radio that sends both codes names the language setup.
+std::string PttIdValue(const SectionPage& page) {
+    const bool sendsBoth = page.Image().At(PttId.address) == static_cast<std::uint8_t>(PttIdChoice::Both);
+    return sendsBoth ? std::string(TableText(page.TextLanguage(), LanguageSetupTitle)) : page.ValueOf(PttId);
+}
+
+void AddPttId(FieldRows& rows, const SectionPage& page) {
+    rows.Add(PttIdType);
+    rows.Add(LabelText(PttId, page.TextLanguage()), PttIdValue(page));
+    for (const PttCode& code : PttCodes) {
+        rows.Add(code.label, OrElse(Utf8Of(LoadCode(page.Image(), code)), NoCode));
+    }
+}
+
+} // namespace
+
+std::vector<CellText> OptionalFeaturesPage(const DataImage& image, Language language) {
+    SectionPage page(image, language, ReportSection::OptionalFeatures);
+    FieldRows rows(page, pagecells::LabelColumn, pagecells::ValueColumn, pagecells::FirstRow);
+    rows.Add(TimeOutTimer);
+    rows.Add(TimeOutPreAlert);
+    rows.Add(SquelchLevel);
+    rows.Add(MicSensitivity);
+    rows.Add(BatterySave);
+    rows.Add(Beep);
+    rows.Add(VoiceAnnunciation);
+    rows.Add(ScramblerActivation);
+    rows.Add(ScramblerBackup);
+    AddPttId(rows, page);
+    rows.Add(VoxFunction);
+    rows.Add(VoxGainLevel.label, page.ValueOrOff(VoxGainLevel));
+    rows.Add(VoxDelayTime);
+    rows.Add(CancelOperation);
+    rows.Add(VoxProceedTone);
+    rows.Add(VoxInhibit);
+    rows.Add(CloneMode);
+    return page.Texts();
+}
+
+} // namespace zelvor

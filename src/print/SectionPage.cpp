@@ -1,0 +1,90 @@
+#include "print/SectionPage.h"
+
+#include <QString>
+#include <cstddef>
+
+#include "platform/Toolkit.h"
+#include "text/StringTable.h"
+
+namespace zelvor {
+
+namespace {
+
+constexpr int DisabledWord = 249;
+constexpr int EnabledWordNumber = 250;
+
+} // namespace
+
+SectionPage::SectionPage(const DataImage& image, Language language, ReportSection section)
+    : image_(image), language_(language) {
+    Add(0, pagecells::TitleRow, SectionTitle(section, language));
+}
+
+void SectionPage::Add(double column, double row, std::string_view text) {
+    if (!text.empty()) {
+        texts_.push_back({column, row, std::string(text)});
+    }
+}
+
+void SectionPage::Add(double column, double row, std::u16string_view text) {
+    Add(column, row, Utf8Of(text));
+}
+
+void SectionPage::AddWord(double column, double row, int number) {
+    Add(column, row, TableText(language_, number));
+}
+
+std::string SectionPage::ValueOf(const ListField& field) const {
+    const int entry = EntryOf(field, image_.At(field.address));
+    return entry == ListField::NoEntry ? std::string()
+                                       : std::string(WordText(field.words[static_cast<std::size_t>(entry)], language_));
+}
+
+std::string SectionPage::ValueOf(const NumberField& field) const {
+    return LoadNumber(image_, field, language_).text;
+}
+
+std::string_view SectionPage::EnabledWord(bool enabled) const {
+    return TableText(language_, enabled ? EnabledWordNumber : DisabledWord);
+}
+
+std::string SectionPage::ValueOrOff(const ListField& field) const {
+    return image_.At(field.address) == 0 ? std::string(PrintedOff) : ValueOf(field);
+}
+
+std::string SectionPage::ValueOrOff(const NumberField& field) const {
+    return IsZero(field) ? std::string(PrintedOff) : ValueOf(field);
+}
+
+bool SectionPage::IsZero(const NumberField& field) const {
+    const NumberOnShow shown = LoadNumber(image_, field, language_);
+    return shown.value == 0 && !shown.text.empty();
+}
+
+void FieldRows::Add(std::string_view label, std::string_view value) {
+    page_.Add(labelColumn_, row_, label);
+    page_.Add(valueColumn_, row_, value);
+    ++row_;
+}
+
+void FieldRows::Add(int label, std::string_view value) {
+    Add(TableText(page_.TextLanguage(), label), value);
+}
+
+void FieldRows::Add(const ListField& field) {
+    Add(LabelText(field, page_.TextLanguage()), page_.ValueOf(field));
+}
+
+std::string NumberedWord(int word, int number, Language language) {
+    return std::string(TableText(language, word)) + ' ' + std::to_string(number);
+}
+
+std::string Utf8Of(std::u16string_view text) {
+    return FromQString(QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size())));
+}
+
+std::string OrElse(const std::string& text, std::string_view instead) {
+    return text.empty() ? std::string(instead) : text;
+}
+
+} // namespace zelvor

@@ -1,0 +1,142 @@
+#include "print/frmPrintList.h"
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "data/Session.h"
+#include "link/DialogButtons.h"
+#include "platform/Clock.h"
+#include "platform/HelpTopic.h"
+#include "platform/HelpViewer.h"
+#include "platform/MessageBoxes.h"
+#include "platform/PageDevice.h"
+#include "platform/Services.h"
+#include "platform/Toolkit.h"
+#include "print/DataReport.h"
+
+namespace zelvor {
+
+namespace {
+
+constexpr int CaptionText = 245;
+
+// Unlike the entries of the string table, the Chinese ones have access keys.
+constexpr TextPair SelectAll{"Select &All", "全部选定(&A)"};
+constexpr TextPair ClearAll{"C&lear All", "全部清除(&L)"};
+constexpr TextPair PrintSetup{"P&rint setup", "打印设置(&R)"};
+
+/// Intended: in Chinese whatever the language is.
+constexpr std::string_view NoPrinterTitle = "打印列表";
+constexpr std::string_view NoPrinterText =
+    "打印之前必须已经安装打印机。\n"
+    "要安装打印机，请单击\"开始\"，指向\"设置\",选定\"打印机\"，然后再双击\"添加打印机\"。";
+
+} // namespace
+
+frmPrintList::frmPrintList(Session& session, Services& services, QWidget* parent)
+    : QDialog(parent), session_(session), services_(services) {
+    setObjectName("frmPrintList");
+    setModal(true);
+    setWindowTitle(ToQString(session_.LoadText(CaptionText)));
+
+    auto* choice = new QHBoxLayout;
+    choice->addWidget(MakeItems(), 1);
+    choice->addWidget(MakeSideButtons());
+
+    const DialogButtons buttons = MakeDialogButtons(*this, session_);
+    cmdOK_ = buttons.cmdOK;
+    connect(buttons.cmdOK, &QPushButton::clicked, this, &frmPrintList::Print);
+    connect(buttons.cmdCancel, &QPushButton::clicked, this, &frmPrintList::reject);
+    connect(buttons.cmdHelp, &QPushButton::clicked, this,
+            [this] { services_.help.ShowTopic(HelpTopicPath(session_.LanguageFlag, "print.htm")); });
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(choice);
+    layout->addLayout(buttons.row);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    OnItemClicked();
+}
+
+QWidget* frmPrintList::MakeItems() {
+    auto* panel = new QWidget(this);
+    auto* column = new QVBoxLayout(panel);
+    column->setContentsMargins(0, 0, 0, 0);
+    for (int index = 0; index < ReportSectionCount; ++index) {
+        const std::string_view title = SectionTitle(static_cast<ReportSection>(index), session_.LanguageFlag);
+        auto* item = new QCheckBox(ToQString(title), panel);
+        item->setObjectName(QString("chkPrintItem(%1)").arg(index));
+        connect(item, &QCheckBox::toggled, this, &frmPrintList::OnItemClicked);
+        column->addWidget(item);
+        chkPrintItem_[static_cast<std::size_t>(index)] = item;
+    }
+    return panel;
+}
+
+QWidget* frmPrintList::MakeSideButtons() {
+    const Language language = session_.LanguageFlag;
+    auto* cmdSelectAll = MakeSideButton("cmdSelectAll", SelectAll.In(language));
+    auto* cmdClearAll = MakeSideButton("cmdClearAll", ClearAll.In(language));
+    auto* cmdPrintSetup = MakeSideButton("cmdPrintSetup", PrintSetup.In(language));
+    connect(cmdSelectAll, &QPushButton::clicked, this, [this] { SetAll(true); });
+    connect(cmdClearAll, &QPushButton::clicked, this, [this] { SetAll(false); });
+    connect(cmdPrintSetup, &QPushButton::clicked, this, &frmPrintList::ShowSetup);
+
+    auto* panel = new QWidget(this);
+    auto* column = new QVBoxLayout(panel);
+    column->setContentsMargins(0, 0, 0, 0);
+    for (QPushButton* button : {cmdSelectAll, cmdClearAll, cmdPrintSetup}) {
+        column->addWidget(button);
+    }
+    column->addStretch();
+    return panel;
+}
+
+QPushButton* frmPrintList::MakeSideButton(const char* name, std::string_view text) {
+    auto* button = new QPushButton(ToQString(text), this);
+    button->setObjectName(name);
+    button->setAutoDefault(false);
+    return button;
+}
+
+ReportSelection frmPrintList::Selection() const {
+    ReportSelection selection;
+    for (std::size_t i = 0; i < chkPrintItem_.size(); ++i) {
+        selection.set(i, chkPrintItem_[i]->isChecked());
+    }
+    return selection;
+}
+
+void frmPrintList::SetAll(bool ticked) {
+    for (QCheckBox* item : chkPrintItem_) {
+        item->setChecked(ticked);
+    }
+}
+
+void frmPrintList::OnItemClicked() {
+    cmdOK_->setEnabled(Selection().any());
+}
+
+void frmPrintList::ShowSetup() {
+    static_cast<void>(services_.pages.ShowSetup()); // a cancelled choice leaves the printer as it was
+}
+
+void frmPrintList::Print() {
+    if (services_.pages.IsAvailable()) {
+        PrintDataReport(services_.pages, BuildDataReport(session_.Image, Selection(), session_.CurrentFileName,
+                                                         session_.LanguageFlag, services_.clock.Now()));
+    } else {
+        TellOfNoPrinter();
+    }
+    accept();
+}
+
+void frmPrintList::TellOfNoPrinter() {
+    services_.messages.Show({.title = std::string(NoPrinterTitle),
+                             .text = std::string(NoPrinterText),
+                             .icon = MessageIcon::Exclamation,
+                             .buttons = MessageButtons::Ok});
+}
+
+} // namespace zelvor
