@@ -19,15 +19,15 @@ LanguageCommand::LanguageCommand(Session& session, Services& services, Windows w
 
 void LanguageCommand::Choose() {
     CommitPendingEdit();
-    // No control keeps the focus that would commit by losing it in another language than it was filled in.
+    // No control keeps the focus that would commit by losing it in another language than it was filled in. The main
+    // window takes it: where nothing has it, the toolkit hands it to the grid after the dialog, which raises the grid.
     const QPointer<QWidget> focus = QApplication::focusWidget();
-    if (focus) {
-        focus->clearFocus();
-    }
+    windows_.mainWindow.setFocus(Qt::OtherFocusReason);
     LanguageForm(session_, services_, &windows_.mainWindow).exec();
     if (session_.LanguageChanged) {
         Switch();
-    } else if (focus) {
+    }
+    if (focus && focus->isVisible()) {
         focus->setFocus(Qt::OtherFocusReason);
     }
 }

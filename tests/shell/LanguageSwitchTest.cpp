@@ -138,13 +138,18 @@ TEST_F(LanguageSwitchTest, CancelLeavesTheOrderOfTheWindows) {
     for (const char* entry : {"MnuEditScanInformation", "MnuEditKeyAssignment", "MnuEditCorvane"}) {
         Choose(entry);
     }
-    Switch(1, "CmdCancel");
+    window->activateWindow();
+    ASSERT_NE(QApplication::focusWidget(), nullptr);
+    ChooseDialog("MnuSetupLanguageFileSetup", [&](QWidget& dialog) {
+        dialog.activateWindow();
+        Click(dialog, "CmdCancel");
+        window->activateWindow(); // as the window system does when the dialog has gone
+    });
     QStringList fromBottomToTop;
     for (const QMdiSubWindow* frame : window->findChild<QMdiArea*>()->subWindowList(QMdiArea::StackingOrder)) {
-        fromBottomToTop.append(frame->windowTitle());
+        fromBottomToTop.append(frame->widget()->objectName());
     }
-    EXPECT_EQ(fromBottomToTop,
-              (QStringList{" Channel Information [ Channel-1 ]", "Scan Information", "Key Assignment", " Corvane"}));
+    EXPECT_EQ(fromBottomToTop, (QStringList{"ChannelForm", "ScanForm", "KeyAssign", "CorvaneForm"}));
 }
 
 TEST_F(LanguageSwitchTest, AWindowOpenedAfterwardsIsInTheNewLanguage) {
