@@ -52,10 +52,10 @@ std::vector<int> ChannelsInUse(const DataImage& image) {
 }
 
 /// Adds the block of a channel, which begins in that row, to a page.
-void PrintCurChData(SectionPage& page, int channel, const ChannelTexts& texts, double row) {
+void AddChannelBlock(SectionPage& page, int channel, const ChannelTexts& texts, double row) {
     page.Add(0, row, NumberedWord(label::Channel, channel, page.TextLanguage()));
 
-    FieldRows left(page, pagecells::LabelColumn, LeftValueColumn, row + 1);
+    PageRows left(page, pagecells::LabelColumn, LeftValueColumn, row + 1);
     left.Add(label::RxFrequency, texts.RxText);
     left.Add(label::TxFrequency, texts.TxText);
     left.Add(label::Decode, texts.DecText);
@@ -66,7 +66,7 @@ void PrintCurChData(SectionPage& page, int channel, const ChannelTexts& texts, d
     left.Add(label::WideNarrow, texts.WidthText);
 
     const bool isPriority = page.Image().At(scan::PriorityChannel.address) == channel;
-    FieldRows right(page, RightLabelColumn, RightValueColumn, row + 1);
+    PageRows right(page, RightLabelColumn, RightValueColumn, row + 1);
     right.Add(label::BusyChannelLockout, texts.BusyLockText);
     right.Add(label::PttId, texts.PttIdText);
     right.Add(label::AutodialMemory, texts.AutoDialText);
@@ -78,16 +78,19 @@ void PrintCurChData(SectionPage& page, int channel, const ChannelTexts& texts, d
 
 } // namespace
 
+ChannelTexts PrintCurChData(const DataImage& image, int channel, Language language) {
+    // All of them: what a record leaves open shows the text of the channel before it, as the grid does.
+    return ChannelCodec().DecodeAll(image, language)[static_cast<std::size_t>(channel - 1)];
+}
+
 std::vector<std::vector<CellText>> ChannelInformationPages(const DataImage& image, Language language) {
     const std::vector<int> channels = ChannelsInUse(image);
-    const std::vector<ChannelTexts> decoded = ChannelCodec().DecodeAll(image, language);
     std::vector<std::vector<CellText>> pages;
     auto next = channels.begin();
     do {
         SectionPage page(image, language, ReportSection::ChannelInformation);
         for (int block = 0; block < BlocksPerPage && next != channels.end(); ++block, ++next) {
-            const ChannelTexts& texts = decoded[static_cast<std::size_t>(*next - 1)];
-            PrintCurChData(page, *next, texts, FirstBlockRow + BlockRows * block);
+            AddChannelBlock(page, *next, PrintCurChData(image, *next, language), FirstBlockRow + BlockRows * block);
         }
         pages.push_back(page.Texts());
     } while (next != channels.end());

@@ -19,7 +19,7 @@ constexpr double FleetColumn = 30;
 constexpr double IdColumn = 50;
 
 void AddOwn(SectionPage& page) {
-    FieldRows rows(page, pagecells::LabelColumn, pagecells::ValueColumn, pagecells::FirstRow);
+    PageRows rows(page, pagecells::LabelColumn, pagecells::ValueColumn, pagecells::FirstRow);
     rows.Add(OwnFleet.label, OrElse(page.ValueOf(OwnFleet), NoFleet));
     rows.Add(OwnId.label, OrElse(page.ValueOf(OwnId), NoId));
     rows.Add(BaudRate);

@@ -22,7 +22,7 @@ constexpr std::string_view PrintedDCode = "D 码";
 
 void AddEncode(SectionPage& page) {
     page.AddWord(pagecells::LabelColumn, pagecells::FirstRow, EncodeCaption);
-    FieldRows rows(page, pagecells::LabelColumn, pagecells::ValueColumn, FieldsRow);
+    PageRows rows(page, pagecells::LabelColumn, pagecells::ValueColumn, FieldsRow);
     rows.Add(Speed);
     rows.Add(FirstDigitTime);
     rows.Add(FirstDigitDelay);
@@ -34,7 +34,7 @@ void AddEncode(SectionPage& page) {
 
 void AddDecode(SectionPage& page) {
     page.AddWord(DecodeColumn, pagecells::FirstRow, DecodeCaption);
-    FieldRows rows(page, DecodeColumn, DecodeValueColumn, FieldsRow);
+    PageRows rows(page, DecodeColumn, DecodeValueColumn, FieldsRow);
     rows.Add(IdCode.label, Utf8Of(LoadCode(page.Image(), IdCode)));
     rows.Add(GroupCode.label, page.ValueOrOff(GroupCode));
     rows.Add(AutoResetTimer);

@@ -6,7 +6,7 @@ namespace zelvor {
 
 std::vector<CellText> KeyAssignmentPage(const DataImage& image, Language language) {
     SectionPage page(image, language, ReportSection::KeyAssignment);
-    FieldRows rows(page, pagecells::LabelColumn, pagecells::ValueColumn, pagecells::FirstRow);
+    PageRows rows(page, pagecells::LabelColumn, pagecells::ValueColumn, pagecells::FirstRow);
     for (const ListField& key : key_assignment::Keys) {
         rows.Add(key);
     }

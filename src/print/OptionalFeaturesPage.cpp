@@ -20,7 +20,7 @@ std::string PttIdValue(const SectionPage& page) {
     return sendsBoth ? std::string(TableText(page.TextLanguage(), LanguageSetupTitle)) : page.ValueOf(PttId);
 }
 
-void AddPttId(FieldRows& rows, const SectionPage& page) {
+void AddPttId(PageRows& rows, const SectionPage& page) {
     rows.Add(PttIdType);
     rows.Add(LabelText(PttId, page.TextLanguage()), PttIdValue(page));
     for (const PttCode& code : PttCodes) {
@@ -32,7 +32,7 @@ void AddPttId(FieldRows& rows, const SectionPage& page) {
 
 std::vector<CellText> OptionalFeaturesPage(const DataImage& image, Language language) {
     SectionPage page(image, language, ReportSection::OptionalFeatures);
-    FieldRows rows(page, pagecells::LabelColumn, pagecells::ValueColumn, pagecells::FirstRow);
+    PageRows rows(page, pagecells::LabelColumn, pagecells::ValueColumn, pagecells::FirstRow);
     rows.Add(TimeOutTimer);
     rows.Add(TimeOutPreAlert);
     rows.Add(SquelchLevel);

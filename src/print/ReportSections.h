@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "data/ChannelCodec.h"
 #include "data/DataImage.h"
 #include "print/PageGrid.h"
 #include "text/Language.h"
@@ -17,6 +18,8 @@ namespace zelvor {
 [[nodiscard]] std::vector<CellText> CorvanePage(const DataImage& image, Language language);
 [[nodiscard]] std::vector<CellText> TestFrequencyPage(const DataImage& image, Language language);
 [[nodiscard]] std::vector<CellText> EmbeddedMessagePage(const DataImage& image, Language language);
+/// The texts of channel 1 to 16 that its block shows.
+[[nodiscard]] ChannelTexts PrintCurChData(const DataImage& image, int channel, Language language);
 /// Four channels in use to a page; one page with nothing but its title where none is in use.
 [[nodiscard]] std::vector<std::vector<CellText>> ChannelInformationPages(const DataImage& image, Language language);
 

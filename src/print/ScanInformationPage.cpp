@@ -31,7 +31,7 @@ public:
 
 private:
     SectionPage& page_;
-    FieldRows rows_;
+    PageRows rows_;
 };
 
 } // namespace

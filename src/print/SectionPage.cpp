@@ -61,17 +61,17 @@ bool SectionPage::IsZero(const NumberField& field) const {
     return shown.value == 0 && !shown.text.empty();
 }
 
-void FieldRows::Add(std::string_view label, std::string_view value) {
+void PageRows::Add(std::string_view label, std::string_view value) {
     page_.Add(labelColumn_, row_, label);
     page_.Add(valueColumn_, row_, value);
     ++row_;
 }
 
-void FieldRows::Add(int label, std::string_view value) {
+void PageRows::Add(int label, std::string_view value) {
     Add(TableText(page_.TextLanguage(), label), value);
 }
 
-void FieldRows::Add(const ListField& field) {
+void PageRows::Add(const ListField& field) {
     Add(LabelText(field, page_.TextLanguage()), page_.ValueOf(field));
 }
 

@@ -60,9 +60,9 @@ private:
 };
 
 /// Labels in one column of a page and their values in another, a row each from the first row downwards.
-class FieldRows {
+class PageRows {
 public:
-    FieldRows(SectionPage& page, double labelColumn, double valueColumn, double firstRow)
+    PageRows(SectionPage& page, double labelColumn, double valueColumn, double firstRow)
         : page_(page), labelColumn_(labelColumn), valueColumn_(valueColumn), row_(firstRow) {}
 
     void Add(std::string_view label, std::string_view value);

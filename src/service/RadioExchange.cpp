@@ -31,11 +31,15 @@ void RadioExchange::OnSendTimer() {
     if (!active_ || superseded_ || link_.CommState == link_.SentState) {
         return;
     }
+    const bool wasOpen = port_.IsOpen();
     const bool open = OpenPort();
     ctrTimer_->SetEnabled(false);
     if (!open) {
         FailFast(NextTick);
         return;
+    }
+    if (!wasOpen) {
+        ClearPort(); // of the rest of an answer that was not waited for
     }
     const std::uint8_t sent = link_.CommState;
     awaiting_ = true;

@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QListWidget>
+#include <QPointer>
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -190,9 +191,22 @@ QHBoxLayout* TestForm::BuildWindowButtons() {
     auto* cmdClose = AddButton(*row, "cmdClose", Text(CloseText));
     CmdTune_->setEnabled(false);
     connect(CmdTune_, &QPushButton::clicked, this, [this] { engine_.Tune(); });
-    connect(cmdPrint, &QPushButton::clicked, this, [this] { PrintTuningReport(session_, services_); });
+    connect(cmdPrint, &QPushButton::clicked, this, &TestForm::Print);
     connect(cmdClose, &QPushButton::clicked, this, &QWidget::close);
     return row;
+}
+
+/// Once at a time: a second click, or closing the window, may come while the first waits.
+void TestForm::Print() {
+    if (printing_) {
+        return;
+    }
+    printing_ = true;
+    const QPointer<TestForm> form(this);
+    PrintTuningReport(session_, services_, [form] { return form && !form->unloaded_; });
+    if (form) {
+        printing_ = false;
+    }
 }
 
 /// The channels that the radio has told, or none: then a single "1" stands in the list.

@@ -53,6 +53,7 @@ private:
     [[nodiscard]] QHBoxLayout* BuildWindowButtons();
     QPushButton* AddButton(QHBoxLayout& row, const char* name, const QString& text);
 
+    void Print();
     void LoadChannels();
     void ShowChannel();
     void ShowSignalling(int number);
@@ -74,6 +75,7 @@ private:
     QPushButton* CmdTune_ = nullptr;
     bool offersChannels_ = false;
     bool tuning_ = false;
+    bool printing_ = false;
     bool unloaded_ = false;
 };
 

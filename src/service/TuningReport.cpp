@@ -82,9 +82,12 @@ std::vector<CellText> BuildTuningReport(const DataImage& image, const TuneValues
     return texts;
 }
 
-void PrintTuningReport(Session& session, Services& services) {
+void PrintTuningReport(Session& session, Services& services, const std::function<bool()>& isStillWanted) {
     const Language language = session.LanguageFlag;
     services.clock.WaitProcessingEvents(QuestionWait);
+    if (!isStillWanted()) {
+        return;
+    }
     const MessageAnswer answer = services.messages.Show({.title = std::string(ConfirmationTitle.In(language)),
                                                          .text = std::string(ConfirmationText.In(language)),
                                                          .icon = MessageIcon::Question,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string_view>
 #include <vector>
 
@@ -17,7 +18,8 @@ struct Services;
 [[nodiscard]] std::vector<CellText> BuildTuningReport(const DataImage& image, const TuneValues& values,
                                                       std::string_view fileName, Language language);
 
-/// Prints one page with all tuning data, after a question. A failing printer ends it without a word.
-void PrintTuningReport(Session& session, Services& services);
+/// Prints one page with all tuning data, after a question. A failing printer ends it without a word. The event loop
+/// runs for a moment before the question: isStillWanted tells whether it is to be asked after that.
+void PrintTuningReport(Session& session, Services& services, const std::function<bool()>& isStillWanted);
 
 } // namespace zelvor

@@ -1,5 +1,7 @@
 #include "shell/ServiceCommands.h"
 
+#include <QApplication>
+#include <QTimer>
 #include <QWidget>
 #include <utility>
 
@@ -9,6 +11,12 @@
 #include "service/TestForm.h"
 
 namespace zelvor {
+
+namespace {
+
+constexpr int DialogPollMilliseconds = 50;
+
+} // namespace
 
 ServiceCommands::ServiceCommands(Session& session, Services& services, MainWindow mainWindow)
     : session_(session), services_(services), mainWindow_(std::move(mainWindow)) {}
@@ -45,17 +53,32 @@ void ServiceCommands::OnInformation(const std::string& record) {
 }
 
 void ServiceCommands::OnExchangeDone() {
-    mainWindow_.window.setEnabled(false);
+    // Disabling the main window would disable a dialog or question over it too.
+    if (QApplication::activeModalWidget() == nullptr) {
+        mainWindow_.window.setEnabled(false);
+    }
 }
 
 void ServiceCommands::OnInformationReady() {
-    ShowOver(new DJJInfoForm(session_, services_, &mainWindow_.window));
+    WhenNoDialogIsUp([this] { ShowOver(new DJJInfoForm(session_, services_, &mainWindow_.window)); });
 }
 
 void ServiceCommands::OnTestModeReady() {
-    auto* window = new TestForm(session_, services_, &mainWindow_.window);
-    connect(window, &TestForm::Activated, this, mainWindow_.OnTestModeActive);
-    ShowOver(window);
+    WhenNoDialogIsUp([this] {
+        auto* window = new TestForm(session_, services_, &mainWindow_.window);
+        connect(window, &TestForm::Activated, this, mainWindow_.OnTestModeActive);
+        ShowOver(window);
+    });
+}
+
+/// The user may have opened a dialog while the radio was asked.
+void ServiceCommands::WhenNoDialogIsUp(const std::function<void()>& show) {
+    if (QApplication::activeModalWidget() == nullptr) {
+        mainWindow_.window.setEnabled(false);
+        show();
+    } else {
+        QTimer::singleShot(DialogPollMilliseconds, this, [this, show] { WhenNoDialogIsUp(show); });
+    }
 }
 
 template<typename Window>

@@ -43,6 +43,7 @@ private:
     void OnTestModeReady() override;
 
     [[nodiscard]] EntryEngine& Engine();
+    void WhenNoDialogIsUp(const std::function<void()>& show);
     /// Shows a window that keeps the main window disabled until it is gone.
     template<typename Window>
     void ShowOver(Window* window);

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "service/ServiceRig.h"
 
 namespace zelvor {
@@ -265,6 +267,23 @@ TEST_F(EntryEngineTest, AnotherStartBeginsAnew) {
     rig.TakeSent();
     rig.clock.Advance(1000);
     EXPECT_EQ(rig.sent, TestModeCommands());
+}
+
+TEST_F(EntryEngineTest, WhatIsLeftOfAnEarlierAnswerIsNoAnswerToTheNewEntry) {
+    engine.StartInformation();
+    rig.clock.Advance(200);
+    rig.TakeSent();
+    engine.StartTestMode();
+    // A port that kept what came in while it was closed.
+    auto& fake = static_cast<FakeSerialPort&>(*port);
+    fake.ClearLog();
+    rig.clock.Advance(100);
+    const std::vector<std::string>& log = fake.Log();
+    const auto opened = std::find(log.begin(), log.end(), "open");
+    ASSERT_GE(log.end() - opened, 3);
+    EXPECT_EQ(opened[1], "clear input");
+    EXPECT_EQ(opened[2], "clear output");
+    EXPECT_EQ(rig.sent, Commands{"54 55 4E 49 4E 47 20"});
 }
 
 TEST_F(EntryEngineTest, AStateLeftByAnAbandonedTransferDoesNotKeepItFromStarting) {

@@ -226,5 +226,23 @@ TEST_F(TestFormTest, PrintAsksAndPrintsOnePage) {
     EXPECT_TRUE(rig.sent.empty());
 }
 
+TEST_F(TestFormTest, ASecondClickOnPrintDuringTheFirstAsksNothingMore) {
+    Open();
+    rig.messages.Expect({"Confirmation", "All tuning data print out.", MessageIcon::Question, MessageButtons::OkCancel,
+                         MessageAnswer::Cancel},
+                        MessageAnswer::Cancel);
+    rig.clock.At(100, [this] { Click(*form, "CmdPrint"); });
+    Click(*form, "CmdPrint");
+    EXPECT_EQ(rig.messages.Shown().size(), 1U);
+}
+
+TEST_F(TestFormTest, ClosedBeforeTheQuestionItPrintsNothing) {
+    Open();
+    rig.clock.At(100, [this] { form->close(); });
+    Click(*form, "CmdPrint");
+    EXPECT_TRUE(rig.messages.Shown().empty());
+    EXPECT_TRUE(rig.pages.Documents().empty());
+}
+
 } // namespace
 } // namespace zelvor

@@ -52,7 +52,7 @@ protected:
     }
     const FakePage& Print() {
         ExpectQuestion(MessageAnswer::Ok);
-        PrintTuningReport(session, fakes.Get());
+        PrintTuningReport(session, fakes.Get(), [] { return true; });
         return fakes.pages.Pages().back();
     }
 
@@ -74,7 +74,7 @@ TEST_F(TuningReportTest, HasItsTextsAtTheirCellsInChinese) {
                            .buttons = MessageButtons::OkCancel,
                            .defaultButton = MessageAnswer::Cancel},
                           MessageAnswer::Ok);
-    PrintTuningReport(session, fakes.Get());
+    PrintTuningReport(session, fakes.Get(), [] { return true; });
     ASSERT_EQ(fakes.pages.Pages().size(), 1U);
     testing::ExpectCells(fakes.pages.Pages()[0], "tuning_zh");
     EXPECT_EQ(fakes.pages.Pages()[0].texts[0].text, "Zelvor 对讲机编程信息");
@@ -116,7 +116,7 @@ TEST_F(TuningReportTest, LaysItsCellsOutWithoutRounding) {
 
 TEST_F(TuningReportTest, OnCancelPrintsNothing) {
     ExpectQuestion(MessageAnswer::Cancel);
-    PrintTuningReport(session, fakes.Get());
+    PrintTuningReport(session, fakes.Get(), [] { return true; });
     EXPECT_TRUE(fakes.pages.Pages().empty());
     EXPECT_TRUE(fakes.pages.Documents().empty());
 }
@@ -132,7 +132,7 @@ TEST_F(TuningReportTest, AsksAfterAWaitOfTwoHundredMilliseconds) {
                               waits = fakes.clock.Waits();
                               return MessageAnswer::Cancel;
                           });
-    PrintTuningReport(session, fakes.Get());
+    PrintTuningReport(session, fakes.Get(), [] { return true; });
     EXPECT_EQ(waits, (std::vector<int>{200}));
 }
 
@@ -192,7 +192,7 @@ TEST_F(TuningReportTest, ShortensALongFileNameInTheMiddle) {
 TEST_F(TuningReportTest, WithoutAPrinterEndsWithoutAWord) {
     fakes.pages.SetAvailable(false);
     ExpectQuestion(MessageAnswer::Ok);
-    PrintTuningReport(session, fakes.Get());
+    PrintTuningReport(session, fakes.Get(), [] { return true; });
     EXPECT_TRUE(fakes.pages.Pages().empty());
     EXPECT_EQ(fakes.messages.Shown().size(), 1U);
 }
@@ -200,7 +200,7 @@ TEST_F(TuningReportTest, WithoutAPrinterEndsWithoutAWord) {
 TEST_F(TuningReportTest, OnAPrinterThatFailsEndsWithoutAWord) {
     fakes.pages.FailAtPage(1);
     ExpectQuestion(MessageAnswer::Ok);
-    PrintTuningReport(session, fakes.Get());
+    PrintTuningReport(session, fakes.Get(), [] { return true; });
     EXPECT_EQ(fakes.pages.Failures(), 1);
     EXPECT_TRUE(fakes.pages.Documents().empty());
     EXPECT_EQ(fakes.messages.Shown().size(), 1U);

@@ -135,6 +135,20 @@ TEST_F(ServiceCommandsTest, TheMainWindowDoesNotCloseWhileTestModeIsOpen) {
     EXPECT_TRUE(window->isVisible());
 }
 
+TEST_F(ServiceCommandsTest, ADialogThatWasOpenedMeanwhileComesFirst) {
+    Choose("MnuProgramTestMode");
+    ChooseDialog("MnuHelpAbout", [this](QWidget& dialog) {
+        fakes.clock.Advance(1000);
+        EXPECT_TRUE(dialog.isEnabled());
+        EXPECT_TRUE(window->isEnabled());
+        EXPECT_EQ(Find<TestForm>("TestForm"), nullptr);
+        dialog.close();
+    });
+    ASSERT_TRUE(QTest::qWaitFor([this] { return Find<TestForm>("TestForm") != nullptr; }));
+    EXPECT_FALSE(window->isEnabled());
+    EXPECT_TRUE(Find<TestForm>("TestForm")->isEnabled());
+}
+
 TEST_F(ServiceCommandsTest, DestroyingTheMainWindowWithTestModeOpenIsHarmless) {
     Choose("MnuProgramTestMode");
     fakes.clock.Advance(1000);
