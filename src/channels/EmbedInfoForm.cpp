@@ -1,14 +1,7 @@
 #include "channels/EmbedInfoForm.h"
 
-#include <QFrame>
-#include <QPushButton>
-
 #include "controls/EnterAsTab.h"
 #include "controls/FilteredLineEdit.h"
-#include "controls/PendingEdit.h"
-#include "platform/HelpTopic.h"
-#include "platform/HelpViewer.h"
-#include "platform/Services.h"
 #include "platform/Toolkit.h"
 
 namespace zelvor {
@@ -17,6 +10,7 @@ namespace {
 
 constexpr QSize WindowSize{5100, 2250}; // twips
 constexpr int BoxWidth = 4500;          // twips
+constexpr int CaptionNumber = 47;
 
 /// Typing ends here, although a field holds 32 characters: a longer line comes from a radio, a file or the clipboard.
 constexpr int TypingLimit = 16;
@@ -32,29 +26,21 @@ QFont MessageFont(QFont font) {
 
 } // namespace
 
-EmbedInfoForm::EmbedInfoForm(Session& session, Services& services, ChannelWindows&, QWidget* parent)
-    : ChildForm(ChildWindow::EmbeddedMessage, "EmbedInfoForm", WindowSize, parent), session_(session),
-      services_(services) {
+EmbedInfoForm::EmbedInfoForm(Session& session, Services& services, ChannelWindows& /*windows*/, QWidget* parent)
+    : FieldForm(ChildWindow::EmbeddedMessage, "EmbedInfoForm", WindowSize, "picEmbeddedMsg", CaptionNumber, session,
+                services, parent) {
     BuildBoxes();
-    BuildButtons();
-    SetCaption(ToQString(session_.LoadText(47)));
+    LoadFields();
     Load();
     setFocusProxy(txtMsg_.front());
 }
 
-EmbedInfoForm::~EmbedInfoForm() {
-    DropPendingEdit(*this);
-}
-
 void EmbedInfoForm::BuildBoxes() {
     constexpr int margin = 20;
-    auto* picEmbeddedMsg = new QFrame(Content());
-    picEmbeddedMsg->setObjectName("picEmbeddedMsg");
-    picEmbeddedMsg->setGeometry(0, 0, PixelsOfTwips(WindowSize.width()), 96);
     for (int line = 0; line < embedded_message::LineCount; ++line) {
-        auto* box = new FilteredLineEdit(picEmbeddedMsg);
+        auto* box = new FilteredLineEdit(Panel());
         box->setObjectName(QStringLiteral("txtMsg(%1)").arg(line));
-        box->setAccessibleName(ToQString(LineNames[line].In(session_.LanguageFlag)));
+        box->setAccessibleName(ToQString(LineNames[line].In(TheSession().LanguageFlag)));
         box->setFont(MessageFont(box->font()));
         box->setGeometry(margin, margin + line * 40, PixelsOfTwips(BoxWidth), 28);
         box->SetLengthLimit(TypingLimit, false);
@@ -65,36 +51,16 @@ void EmbedInfoForm::BuildBoxes() {
     }
 }
 
-void EmbedInfoForm::BuildButtons() {
-    const auto button = [this](const char* name, int x, int textNumber) {
-        auto* made = new QPushButton(ToQString(session_.LoadText(textNumber)), Content());
-        made->setObjectName(name);
-        made->setGeometry(x, 104, 100, 30);
-        made->setAutoDefault(true);
-        return made;
-    };
-    const auto* cmdClose = button("cmdClose", 112, 75);
-    const auto* cmdHelp = button("cmdHelp", 220, 76);
-    connect(cmdClose, &QPushButton::clicked, this, &EmbedInfoForm::CloseFromFrame);
-    connect(cmdHelp, &QPushButton::clicked, this,
-            [this] { services_.help.ShowTopic(HelpTopicPath(session_.LanguageFlag, HelpPage())); });
-}
-
 void EmbedInfoForm::Load() {
     for (int line = 0; line < embedded_message::LineCount; ++line) {
-        const std::u16string text = embedded_message::Load(session_.Image, line);
+        const std::u16string text = embedded_message::Load(TheSession().Image, line);
         txtMsg_[static_cast<std::size_t>(line)]->setText(QString::fromStdU16String(text));
     }
 }
 
 void EmbedInfoForm::Commit(int line) {
     const QString text = txtMsg_[static_cast<std::size_t>(line)]->text();
-    embedded_message::Store(session_.Image, line, text.toStdU16String());
-}
-
-void EmbedInfoForm::CloseFromFrame() {
-    CommitPendingEdit();
-    emit UnloadRequested();
+    embedded_message::Store(TheSession().Image, line, text.toStdU16String());
 }
 
 } // namespace zelvor

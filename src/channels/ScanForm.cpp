@@ -1,24 +1,18 @@
 #include "channels/ScanForm.h"
 
-#include <QFrame>
-#include <QLabel>
-#include <QPushButton>
 #include <algorithm>
 
 #include "channels/ChannelEditForm.h"
 #include "controls/EnterAsTab.h"
 #include "controls/FieldList.h"
 #include "controls/FilteredLineEdit.h"
-#include "controls/PendingEdit.h"
 #include "controls/SpinText.h"
+#include "data/Fields.h"
 #include "data/MemoryMap.h"
-#include "platform/HelpTopic.h"
-#include "platform/HelpViewer.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Services.h"
 #include "platform/Toolkit.h"
 #include "text/CommonTexts.h"
-#include "text/Decimal.h"
 
 namespace zelvor {
 
@@ -41,35 +35,31 @@ bool IsProgrammed(const DataImage& image, int n) {
 }
 
 int Number(const QString& text) {
-    return static_cast<int>(Decimal::Leading(FromQString(text)).Rounded());
+    return LeadingNumber(FromQString(text));
 }
 
 } // namespace
 
+// The window list names this window by another text, which begins with a blank.
 ScanForm::ScanForm(Session& session, Services& services, ChannelWindows& windows, QWidget* parent)
-    : ChildForm(ChildWindow::Scan, "ScanForm", WindowSize, parent), session_(session), services_(services),
-      windows_(windows), picScanInfo_(new QFrame(Content())) {
+    : FieldForm(ChildWindow::Scan, "ScanForm", WindowSize, "picScanInfo", CaptionNumber, session, services, parent),
+      windows_(windows) {
     windows_.scan = this;
     BuildControls();
-    BuildButtons();
-    // The window list names this window by another text, which begins with a blank.
-    SetCaption(ToQString(session_.LoadText(CaptionNumber)));
+    LayOut();
+    LoadFields();
     Load();
     setFocusProxy(cboPriority_);
 }
 
-ScanForm::~ScanForm() {
-    DropPendingEdit(*this);
-}
-
 void ScanForm::BuildControls() {
     const auto list = [this](const char* name) {
-        auto* made = new FieldList(picScanInfo_);
+        auto* made = new FieldList(Panel());
         made->setObjectName(name);
         return made;
     };
     cboPriority_ = list("cboPriority");
-    txtPriorityCH_ = new FilteredLineEdit(picScanInfo_);
+    txtPriorityCH_ = new FilteredLineEdit(Panel());
     txtPriorityCH_->setObjectName("txtPriorityCH");
     txtPriorityCH_->SetFilter(Digit);
     txtPriorityCH_->SetLengthLimit(PriorityChannelDigits);
@@ -86,14 +76,6 @@ void ScanForm::BuildControls() {
     connect(txtPriorityCH_, &FilteredLineEdit::FocusLeft, this, &ScanForm::CommitPriorityChannel);
     connect(cboRevertCH_, &FieldList::Selected, this, [this] { RevertText = cboRevertCH_->currentText(); });
     connect(cboRevertCH_, &FieldList::FocusLeft, this, &ScanForm::CommitRevertChannel);
-
-    LayOut({{"lblPriority", scan::PriorityMode.label, cboPriority_},
-            {"lblPriorityCH", scan::PriorityChannel.label, txtPriorityCH_},
-            {"lblLookBackTimeA", scan::LookBackTimeA.label, lookBackTimeA_},
-            {"lblLookBackTimeB", scan::LookBackTimeB.label, lookBackTimeB_},
-            {"lblRevertCH", scan::RevertChannel.label, cboRevertCH_},
-            {"lblDropoutDelayTime", scan::DropoutDelayTime.label, dropoutDelayTime_},
-            {"lblTXDwellTime", scan::TxDwellTime.label, txDwellTime_}});
 }
 
 SpinText* ScanForm::MakeTime(const QString& name, const scan::TimeField& field) {
@@ -109,59 +91,33 @@ SpinText* ScanForm::MakeTime(const QString& name, const scan::TimeField& field) 
         }
         return scan::Read(field, FromQString(text));
     };
-    auto* made = new SpinText("txt" + name, "upd" + name, rules, picScanInfo_);
+    auto* made = new SpinText("txt" + name, "upd" + name, rules, Panel());
     connect(&made->Box(), &FilteredLineEdit::FocusLeft, this, [this, made, &field] { CommitTime(*made, field); });
     return made;
 }
 
-void ScanForm::LayOut(const std::vector<Row>& rows) {
+void ScanForm::LayOut() {
     constexpr int margin = 12;
-    constexpr int rowHeight = 44;
-    constexpr int labelWidth = 160;
-    picScanInfo_->setObjectName("picScanInfo");
-    picScanInfo_->setGeometry(0, 0, PixelsOfTwips(WindowSize.width()),
-                              rowHeight * static_cast<int>(rows.size()) + margin);
-    int y = margin;
-    for (const Row& row : rows) {
-        const QString text = ToQString(session_.LoadText(row.label));
-        auto* label = new QLabel(text, picScanInfo_);
-        label->setObjectName(row.labelName);
-        label->setWordWrap(true);
-        label->setBuddy(row.control);
-        label->setGeometry(margin, y, labelWidth, rowHeight - 8);
-        if (auto* pair = qobject_cast<SpinText*>(row.control)) {
-            pair->SetAccessibleName(text);
-        } else {
-            row.control->setAccessibleName(text);
-        }
-        row.control->setGeometry(margin + labelWidth, y + 4, picScanInfo_->width() - 2 * margin - labelWidth, 28);
-        y += rowHeight;
-    }
-}
-
-void ScanForm::BuildButtons() {
-    const auto button = [this](const char* name, int x, int textNumber) {
-        auto* made = new QPushButton(ToQString(session_.LoadText(textNumber)), Content());
-        made->setObjectName(name);
-        made->setGeometry(x, 347, 100, 30);
-        made->setAutoDefault(true);
-        return made;
-    };
-    const auto* cmdClose = button("cmdClose", 125, 75);
-    const auto* cmdHelp = button("cmdHelp", 233, 76);
-    connect(cmdClose, &QPushButton::clicked, this, &ScanForm::CloseFromFrame);
-    connect(cmdHelp, &QPushButton::clicked, this,
-            [this] { services_.help.ShowTopic(HelpTopicPath(session_.LanguageFlag, HelpPage())); });
+    constexpr int spacing = 20;
+    FieldRows rows(*Panel(), TheSession().LanguageFlag, margin, spacing);
+    rows.Add("lblPriority", scan::PriorityMode.label, cboPriority_);
+    rows.Add("lblPriorityCH", scan::PriorityChannel.label, txtPriorityCH_);
+    rows.Add("lblLookBackTimeA", scan::LookBackTimeA.label, lookBackTimeA_);
+    rows.Add("lblLookBackTimeB", scan::LookBackTimeB.label, lookBackTimeB_);
+    rows.Add("lblRevertCH", scan::RevertChannel.label, cboRevertCH_);
+    rows.Add("lblDropoutDelayTime", scan::DropoutDelayTime.label, dropoutDelayTime_);
+    rows.Add("lblTXDwellTime", scan::TxDwellTime.label, txDwellTime_);
+    rows.End();
 }
 
 void ScanForm::Load() {
     QStringList modes;
     for (const int word : scan::PriorityMode.words) {
-        modes.append(ToQString(session_.LoadText(word)));
+        modes.append(LoadText(word));
     }
     cboPriority_->SetEntries(modes);
 
-    const DataImage& image = session_.Image;
+    const DataImage& image = TheSession().Image;
     const std::uint8_t revertChannel = image.At(scan::RevertChannel.address);
     if (const auto mode = scan::EntryOf(scan::PriorityMode, image.At(scan::PriorityMode.address))) {
         cboPriority_->setCurrentIndex(*mode);
@@ -179,7 +135,7 @@ void ScanForm::Load() {
 }
 
 void ScanForm::LoadTime(SpinText& control, const scan::TimeField& field) {
-    const std::optional<int> value = scan::Load(session_.Image, field);
+    const std::optional<int> value = scan::Load(TheSession().Image, field);
     control.SetValue(value.value_or(field.first));
     control.SetText(value ? ToQString(scan::Show(field, *value)) : QString());
 }
@@ -187,7 +143,7 @@ void ScanForm::LoadTime(SpinText& control, const scan::TimeField& field) {
 /// The byte is stored as it was: showing the mode has overwritten it. A list of two entries shows both meanings, with
 /// priority and without, by the same entry.
 void ScanForm::LoadRevertChannel(std::uint8_t byte) {
-    session_.Image.Set(scan::RevertChannel.address, byte);
+    TheSession().Image.Set(scan::RevertChannel.address, byte);
     const bool legal = byte < scan::RevertChannel.words.size();
     cboRevertCH_->ShowEntry(legal ? byte % cboRevertCH_->count() : -1);
     RevertText = cboRevertCH_->currentText();
@@ -205,7 +161,7 @@ void ScanForm::OnModeSelected(int index) {
     const auto mode = static_cast<scan::Mode>(index);
     if (mode != scan::Mode::Fixed) {
         txtPriorityCH_->clear();
-        session_.Image.Set(scan::PriorityChannel.address, scan::NoChannel);
+        TheSession().Image.Set(scan::PriorityChannel.address, scan::NoChannel);
     }
     ShowMode(mode);
     CommitRevertChannel();
@@ -214,10 +170,10 @@ void ScanForm::OnModeSelected(int index) {
 /// Without a legal mode the image's bytes stay and are shown, and what only Fixed has is off.
 void ScanForm::ShowMode(std::optional<scan::Mode> mode) {
     const bool fixed = mode == scan::Mode::Fixed;
-    session_.PriorityFixedMode = fixed;
-    session_.PriorityChannelError = fixed && !IsChannel(session_.Image.At(scan::PriorityChannel.address));
+    TheSession().PriorityFixedMode = fixed;
+    TheSession().PriorityChannelError = fixed && !IsChannel(TheSession().Image.At(scan::PriorityChannel.address));
     if (!fixed) {
-        session_.PriorityChannelNo = 0;
+        TheSession().PriorityChannelNo = 0;
     }
     txtPriorityCH_->setEnabled(fixed);
     lookBackTimeA_->setEnabled(mode != scan::Mode::None);
@@ -232,7 +188,7 @@ void ScanForm::ShowMode(std::optional<scan::Mode> mode) {
 void ScanForm::RebuildRevertList() {
     QStringList entries;
     for (const std::uint8_t value : scan::RevertChannelsOf(ShownMode())) {
-        entries.append(ToQString(session_.LoadText(scan::RevertChannel.words[value])));
+        entries.append(ToQString(TheSession().LoadText(scan::RevertChannel.words[value])));
     }
     cboRevertCH_->SetEntries(entries);
     const auto found = static_cast<int>(entries.indexOf(RevertText));
@@ -241,7 +197,7 @@ void ScanForm::RebuildRevertList() {
 
 void ScanForm::CommitMode() {
     if (const auto mode = ShownMode()) {
-        session_.Image.Set(scan::PriorityMode.address, static_cast<std::uint8_t>(*mode));
+        TheSession().Image.Set(scan::PriorityMode.address, static_cast<std::uint8_t>(*mode));
     }
 }
 
@@ -249,24 +205,24 @@ void ScanForm::CommitRevertChannel() {
     const int index = cboRevertCH_->currentIndex();
     if (index >= 0) {
         const std::uint8_t value = scan::RevertChannelsOf(ShownMode())[static_cast<std::size_t>(index)];
-        session_.Image.Set(scan::RevertChannel.address, value);
+        TheSession().Image.Set(scan::RevertChannel.address, value);
     }
 }
 
 void ScanForm::CommitTime(SpinText& control, const scan::TimeField& field) {
     const int value = scan::Read(field, FromQString(control.Box().text()));
     control.Put(value);
-    scan::Store(session_.Image, field, value);
+    scan::Store(TheSession().Image, field, value);
 }
 
 void ScanForm::CommitPriorityChannel() {
-    session_.PriorityChannelError = false;
+    TheSession().PriorityChannelError = false;
     const int n = AcceptedPriorityChannel();
     ShowPriorityChannel(n);
-    session_.Image.Set(scan::PriorityChannel.address, n == 0 ? scan::NoChannel : static_cast<std::uint8_t>(n));
-    session_.PriorityChannelError = n == 0 && session_.PriorityFixedMode;
+    TheSession().Image.Set(scan::PriorityChannel.address, n == 0 ? scan::NoChannel : static_cast<std::uint8_t>(n));
+    TheSession().PriorityChannelError = n == 0 && TheSession().PriorityFixedMode;
     PriorityChText = txtPriorityCH_->text();
-    session_.PriorityChannelNo = n;
+    TheSession().PriorityChannelNo = n;
     if (ChannelEditForm* dialog = OpenDialog(); dialog != nullptr && n != 0) {
         dialog->ShowPriorityMark(n);
     }
@@ -280,7 +236,7 @@ int ScanForm::AcceptedPriorityChannel() {
     }
     const int typed = Number(text);
     const int n = std::clamp(typed, 1, address::ChannelCount);
-    if (IsProgrammed(session_.Image, n)) {
+    if (IsProgrammed(TheSession().Image, n)) {
         return n;
     }
     ShowError();
@@ -288,9 +244,9 @@ int ScanForm::AcceptedPriorityChannel() {
 }
 
 void ScanForm::ShowError() {
-    services_.messages.Show({std::string(commontexts::Error.In(session_.LanguageFlag)),
-                             std::string(ErrorText.In(session_.LanguageFlag)), MessageIcon::Critical,
-                             MessageButtons::Ok});
+    TheServices().messages.Show({std::string(commontexts::Error.In(TheSession().LanguageFlag)),
+                                 std::string(ErrorText.In(TheSession().LanguageFlag)), MessageIcon::Critical,
+                                 MessageButtons::Ok});
 }
 
 void ScanForm::ShowPriorityChannel(int n) {
@@ -298,12 +254,7 @@ void ScanForm::ShowPriorityChannel(int n) {
 }
 
 ChannelEditForm* ScanForm::OpenDialog() const {
-    return session_.IsOpen(ChildWindow::ChannelEdit) ? windows_.dialog.data() : nullptr;
-}
-
-void ScanForm::CloseFromFrame() {
-    CommitPendingEdit();
-    emit UnloadRequested();
+    return TheSession().IsOpen(ChildWindow::ChannelEdit) ? windows_.dialog.data() : nullptr;
 }
 
 } // namespace zelvor

@@ -1,10 +1,9 @@
 #pragma once
 
 #include <optional>
-#include <vector>
 
 #include "channels/ChannelWindows.h"
-#include "controls/ChildForm.h"
+#include "controls/FieldForm.h"
 #include "data/ScanFields.h"
 
 namespace zelvor {
@@ -16,32 +15,22 @@ struct Services;
 
 /// The scan block: priority mode and channel, look back times, revert channel and delays, each stored when its control
 /// is left. Keeps Session::PriorityFixedMode, PriorityChannelNo and PriorityChannelError.
-class ScanForm : public ChildForm {
+class ScanForm : public FieldForm {
     Q_OBJECT
 
 public:
     ScanForm(Session& session, Services& services, ChannelWindows& windows, QWidget* parent = nullptr);
-    /// A value that is still being edited is dropped.
-    ~ScanForm() override;
 
     /// Shows a channel (1 to 16, 0 for none) as the priority channel. The image follows when the box is left.
     void ShowPriorityChannel(int n);
 
-    void CloseFromFrame() override;
+    [[nodiscard]] bool OpensAtOrigin() const override { return false; }
     [[nodiscard]] std::string_view HelpPage() const override { return "scaninfo.htm"; }
 
 private:
-    /// A label and its control, in the order of the tab key.
-    struct Row {
-        const char* labelName;
-        int label; // string number
-        QWidget* control;
-    };
-
     void BuildControls();
     SpinText* MakeTime(const QString& name, const scan::TimeField& field);
-    void LayOut(const std::vector<Row>& rows);
-    void BuildButtons();
+    void LayOut();
 
     void Load();
     void LoadTime(SpinText& control, const scan::TimeField& field);
@@ -60,10 +49,7 @@ private:
     void ShowError();
     [[nodiscard]] ChannelEditForm* OpenDialog() const;
 
-    Session& session_;
-    Services& services_;
     ChannelWindows& windows_;
-    QWidget* const picScanInfo_;
     FieldList* cboPriority_ = nullptr;
     FilteredLineEdit* txtPriorityCH_ = nullptr;
     SpinText* lookBackTimeA_ = nullptr;

@@ -1,15 +1,12 @@
 #include "channels/TestChannelForm.h"
 
 #include <QKeyEvent>
-#include <QPushButton>
 
 #include "channels/FrequencyEntry.h"
 #include "controls/CellTextEditor.h"
 #include "controls/EditGrid.h"
 #include "controls/PendingEdit.h"
 #include "controls/TextCellEdit.h"
-#include "platform/HelpTopic.h"
-#include "platform/HelpViewer.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Services.h"
 #include "platform/Toolkit.h"
@@ -22,10 +19,8 @@ namespace {
 // Twips.
 constexpr QSize WindowSize{7440, 6480};
 constexpr QRect GridPlace{120, 120, 7200, 5640};
-constexpr QSize ButtonSize{1500, 450};
-constexpr int ButtonTop = 5910;
-constexpr int CloseLeft = 4200;
-constexpr int HelpLeft = 5820;
+
+constexpr int CaptionNumber = 46;
 
 constexpr int ReceiveColumn = 1;
 constexpr int TransmitColumn = 2;
@@ -48,11 +43,13 @@ QRect PixelRect(const QRect& twips) {
 } // namespace
 
 TestChannelForm::TestChannelForm(Session& session, Services& services, ChannelWindows& /*windows*/, QWidget* parent)
-    : ChildForm(ChildWindow::TestFrequency, "TestChannelForm", WindowSize, parent), session_(session),
-      services_(services), SavedBlock(TestFrequencyBlock(session.Image)) {
+    : FieldForm(ChildWindow::TestFrequency, "TestChannelForm", WindowSize, {}, CaptionNumber, session, services,
+                parent),
+      SavedBlock(TestFrequencyBlock(session.Image)) {
     Content()->setObjectName("picTestFreq");
+    Panel()->resize(Panel()->width(), PixelsOfTwips(GridPlace.y() + GridPlace.height()));
     BuildGrid();
-    BuildButtons();
+    LoadFields();
     SetTexts();
     for (int row = 1; row <= TestChannelCount; ++row) {
         ShowTestChannel(row);
@@ -65,10 +62,10 @@ TestChannelForm::~TestChannelForm() {
 }
 
 void TestChannelForm::BuildGrid() {
-    msgTestFreq_ = new EditGrid(TestChannelCount, TransmitColumn, Content());
+    msgTestFreq_ = new EditGrid(TestChannelCount, TransmitColumn, Panel());
     msgTestFreq_->setObjectName("msgTestFreq");
     msgTestFreq_->setGeometry(PixelRect(GridPlace));
-    txtTestFreq_ = new CellTextEditor(Content());
+    txtTestFreq_ = new CellTextEditor(Panel());
     txtTestFreq_->setObjectName("txtTestFreq");
     txtTestFreq_->setMaxLength(FrequencyLength);
     txtTestFreq_->SetFilter(DigitOrPoint);
@@ -79,37 +76,19 @@ void TestChannelForm::BuildGrid() {
     connect(edit_, &TextCellEdit::Left, this, &TestChannelForm::OnLeft);
 }
 
-void TestChannelForm::BuildButtons() {
-    const auto button = [this](const char* name, int left) {
-        auto* made = new QPushButton(Content());
-        made->setObjectName(name);
-        made->setGeometry(PixelRect({QPoint(left, ButtonTop), ButtonSize}));
-        return made;
-    };
-    cmdClose_ = button("cmdClose", CloseLeft);
-    cmdHelp_ = button("cmdHelp", HelpLeft);
-    connect(cmdClose_, &QPushButton::clicked, this, &TestChannelForm::OnClose);
-    connect(cmdHelp_, &QPushButton::clicked, this,
-            [this] { services_.help.ShowTopic(HelpTopicPath(session_.LanguageFlag, HelpPage())); });
-}
-
 void TestChannelForm::SetTexts() {
-    const auto text = [this](int n) { return ToQString(session_.LoadText(n)); };
-    SetCaption(text(46));
-    cmdClose_->setText(text(75));
-    cmdHelp_->setText(text(76));
     QStringList channels;
     for (int row = 1; row <= TestChannelCount; ++row) {
         channels.append(QString::number(row));
     }
-    msgTestFreq_->SetFormat(ToQString(GridFormat.In(session_.LanguageFlag)), channels);
+    msgTestFreq_->SetFormat(ToQString(GridFormat.In(TheSession().LanguageFlag)), channels);
     const int eighth = PixelsOfTwips(GridPlace.width()) / 8;
     msgTestFreq_->FitCells({eighth, 3 * eighth, 3 * eighth});
-    msgTestFreq_->setAccessibleName(text(185));
+    msgTestFreq_->setAccessibleName(LoadText(185));
 }
 
 void TestChannelForm::ShowTestChannel(int row) {
-    const TestFrequencyTexts texts = ReadTestChannel(session_.Image, row);
+    const TestFrequencyTexts texts = ReadTestChannel(TheSession().Image, row);
     msgTestFreq_->SetText(row, ReceiveColumn, ToQString(texts.receive));
     msgTestFreq_->SetText(row, TransmitColumn, ToQString(texts.transmit));
 }
@@ -172,8 +151,8 @@ void TestChannelForm::Commit() {
     } else {
         StorePair(edit_->Row(), edit_->Column());
     }
-    if (AreTestChannelsEmpty(session_.Image)) {
-        RestoreDefaultTestFrequencies(session_.Image);
+    if (AreTestChannelsEmpty(TheSession().Image)) {
+        RestoreDefaultTestFrequencies(TheSession().Image);
         SkipCellWrite = true;
         for (int row = 1; row <= DefaultTestChannelCount; ++row) {
             ShowTestChannel(row);
@@ -183,34 +162,30 @@ void TestChannelForm::Commit() {
 
 void TestChannelForm::EmptyPair(int row, int column) {
     msgTestFreq_->SetText(row, OtherColumn(column), QString());
-    EraseTestChannel(session_.Image, row);
+    EraseTestChannel(TheSession().Image, row);
 }
 
 void TestChannelForm::StorePair(int row, int column) {
     const QString result =
-        ToQString(EnterFrequency(session_, services_, FromQString(edit_->Text()), commontexts::Warning).text);
+        ToQString(EnterFrequency(TheSession(), TheServices(), FromQString(edit_->Text()), commontexts::Warning).text);
     edit_->PutText(result);
     if (msgTestFreq_->Text(row, OtherColumn(column)).isEmpty()) {
         msgTestFreq_->SetText(row, OtherColumn(column), result);
     }
     WriteTestChannel(
-        session_.Image, row,
+        TheSession().Image, row,
         {FromQString(msgTestFreq_->Text(row, ReceiveColumn)), FromQString(msgTestFreq_->Text(row, TransmitColumn))});
 }
 
-void TestChannelForm::OnClose() {
+/// The warning comes with the button alone, on purpose.
+void TestChannelForm::CloseFromButton() {
     CommitPendingEdit();
-    if (TestFrequencyBlock(session_.Image) != SavedBlock) {
-        const Language language = session_.LanguageFlag;
-        services_.messages.Show({std::string(commontexts::Warning.In(language)), std::string(ChangedText.In(language)),
-                                 MessageIcon::Exclamation, MessageButtons::Ok, MessageAnswer::Ok});
+    if (TestFrequencyBlock(TheSession().Image) != SavedBlock) {
+        const Language language = TheSession().LanguageFlag;
+        TheServices().messages.Show({std::string(commontexts::Warning.In(language)),
+                                     std::string(ChangedText.In(language)), MessageIcon::Exclamation,
+                                     MessageButtons::Ok, MessageAnswer::Ok});
     }
-    emit UnloadRequested();
-}
-
-void TestChannelForm::CloseFromFrame() {
-    // The warning comes with the button alone, on purpose.
-    CommitPendingEdit();
     emit UnloadRequested();
 }
 

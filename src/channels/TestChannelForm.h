@@ -1,22 +1,20 @@
 #pragma once
 
 #include "channels/ChannelWindows.h"
-#include "controls/ChildForm.h"
+#include "controls/FieldForm.h"
 #include "data/TestFrequencies.h"
 
 class QKeyEvent;
-class QPushButton;
 
 namespace zelvor {
 
 class CellTextEditor;
 class EditGrid;
 class TextCellEdit;
-struct Services;
 
 /// The 16 pairs of test frequencies. A pair has both frequencies or none; when the last one is emptied, the default
 /// pairs of the document's market take their place.
-class TestChannelForm : public ChildForm {
+class TestChannelForm : public FieldForm {
     Q_OBJECT
 
 public:
@@ -27,12 +25,11 @@ public:
     /// Moves the cursor to a cell, row 1 to 16 and column 1 (receive) or 2 (transmit), and opens the editor over it.
     void ShowTestEditor(int row, int col);
 
-    void CloseFromFrame() override;
+    [[nodiscard]] bool OpensAtOrigin() const override { return false; }
     [[nodiscard]] std::string_view HelpPage() const override { return "testfreq.htm"; }
 
 private:
     void BuildGrid();
-    void BuildButtons();
     void SetTexts();
     void ShowTestChannel(int row);
 
@@ -43,15 +40,11 @@ private:
     void Commit();
     void EmptyPair(int row, int column);
     void StorePair(int row, int column);
-    void OnClose();
+    void CloseFromButton() override;
 
-    Session& session_;
-    Services& services_;
     EditGrid* msgTestFreq_ = nullptr;
     CellTextEditor* txtTestFreq_ = nullptr;
     TextCellEdit* edit_ = nullptr;
-    QPushButton* cmdClose_ = nullptr;
-    QPushButton* cmdHelp_ = nullptr;
     TestFrequencyBytes SavedBlock; // as it was when the window opened
     bool SkipCellWrite = false;    // the default pairs were filled in, over the emptied cell too
 };
