@@ -27,24 +27,16 @@ constexpr int AbandonWait = 30;
 
 CloneEngine::CloneEngine(Session& session, SerialPort& port, Clock& clock, MessageBoxes& messages,
                          CloneObserver& observer)
-    : session_(session), link_(session.Link), port_(port), clock_(clock), messages_(messages), observer_(observer),
-      ctrTimer_(clock.MakeTimer("ctrTimer")), messageTimer_(clock.MakeTimer("messageTimer")) {
+    : session_(session), link_(session.Link), port_(session, port), clock_(clock), messages_(messages),
+      observer_(observer), ctrTimer_(clock.MakeTimer("ctrTimer")), messageTimer_(clock.MakeTimer("messageTimer")) {
     ctrTimer_->OnTick = [this] { OnSendTimer(); };
     messageTimer_->OnTick = [this] { OnTimeout(); };
-    port_.OnReceive = [this](ReceiveReason reason) { OnReceive(reason); };
-}
-
-CloneEngine::~CloneEngine() {
-    port_.OnReceive = nullptr;
+    port_.Listen([this](ReceiveReason reason) { OnReceive(reason); });
 }
 
 void CloneEngine::Load() {
-    port_.SetBufferSizes(RadioInputBufferSize, RadioOutputBufferSize);
-    if (OpenPort()) {
-        port_.SetBinaryInput();
-        ClearPort();
-        ClosePort();
-    }
+    port_.SetUp();
+    port_.Close();
     ctrTimer_->SetEnabled(false);
     messageTimer_->SetEnabled(false);
     state_ = TransferState{};
@@ -61,12 +53,7 @@ void CloneEngine::Start() {
         return;
     }
     BeginSession();
-    port_.SetBufferSizes(RadioInputBufferSize, RadioOutputBufferSize);
-    const bool open = OpenPort();
-    if (open) {
-        port_.SetBinaryInput();
-        ClearPort();
-    }
+    const bool open = port_.SetUp();
     observer_.OnButtonsEnabled(false);
     state_.Running = true;
     state_.Finished = false;
@@ -89,7 +76,7 @@ bool CloneEngine::Unload() {
     loaded_ = false;
     ctrTimer_->SetEnabled(false);
     messageTimer_->SetEnabled(false);
-    ClosePort();
+    port_.Close();
     return std::exchange(state_.CancelPressed, false);
 }
 
@@ -97,7 +84,7 @@ void CloneEngine::OnSendTimer() {
     if (!loaded_ || link_.CommState == link_.SentState) {
         return;
     }
-    const bool open = OpenPort();
+    const bool open = port_.Open();
     ctrTimer_->SetEnabled(false);
     messageTimer_->SetEnabled(false);
     if (!open) {
@@ -140,26 +127,6 @@ void CloneEngine::BeginSession() {
     Enter(ConnectState::EnterProgramming);
 }
 
-bool CloneEngine::OpenPort() {
-    if (port_.IsOpen()) {
-        return true;
-    }
-    port_.SetNumber(session_.CommPortNumber);
-    port_.SetSettings(RadioPortSettings);
-    return port_.Open();
-}
-
-void CloneEngine::ClosePort() {
-    if (port_.IsOpen()) {
-        port_.Close();
-    }
-}
-
-void CloneEngine::ClearPort() {
-    port_.ClearInput();
-    port_.ClearOutput();
-}
-
 void CloneEngine::Run(Timer& timer, int milliseconds) {
     if (!loaded_) { // closed from inside a wait or a message
         return;
@@ -171,46 +138,41 @@ void CloneEngine::Run(Timer& timer, int milliseconds) {
 void CloneEngine::SendCommand() {
     switch (Current()) {
     case ConnectState::EnterProgramming:
-        port_.SetReceiveThreshold(1);
-        Send(wire::Entry);
+        port_.ExpectBytes(1);
+        port_.Send(wire::Entry);
         break;
     case ConnectState::RequestIdentity:
         state_.RadioIdentity.clear();
-        Send(wire::IdentityRequest);
-        port_.SetReceiveThreshold(1);
+        port_.Send(wire::IdentityRequest);
+        port_.ExpectBytes(1);
         break;
     case ConnectState::ConfirmIdentity:
-        Send(wire::Acknowledge);
-        port_.SetReceiveThreshold(1);
+        port_.Send(wire::Acknowledge);
+        port_.ExpectBytes(1);
         break;
     case ConnectState::TransferData:
         SendData();
         break;
     case ConnectState::CloseData:
-        port_.SetReceiveThreshold(1);
-        Send(IsReading() ? wire::Acknowledge : wire::End);
+        port_.ExpectBytes(1);
+        port_.Send(IsReading() ? wire::Acknowledge : wire::End);
         break;
     case ConnectState::EndSession:
-        Send(wire::End);
-        port_.SetReceiveThreshold(1);
+        port_.Send(wire::End);
+        port_.ExpectBytes(1);
         break;
     }
 }
 
 void CloneEngine::SendData() {
     if (IsReading()) {
-        port_.SetReceiveThreshold(wire::ReadReplyLength);
-        Send(ReadBlockCommand(link_));
+        port_.ExpectBytes(wire::ReadReplyLength);
+        port_.Send(ReadBlockCommand(link_));
     } else {
         BuildWritePacket(link_, session_.Image);
-        port_.SetReceiveThreshold(1);
-        port_.Send(link_.TxBuffer);
+        port_.ExpectBytes(1);
+        port_.SendBuffer();
     }
-}
-
-void CloneEngine::Send(std::span<const std::uint8_t> command) {
-    link_.TxBuffer.assign(command.begin(), command.end());
-    port_.Send(link_.TxBuffer);
 }
 
 void CloneEngine::RunEndTest() {
@@ -234,7 +196,7 @@ void CloneEngine::Complete(const TextPair& text) {
     messageTimer_->SetEnabled(false);
     observer_.OnTransferDone();
     clock_.WaitProcessingEvents(CompletedWait);
-    ClosePort();
+    port_.Close();
     clock_.Sleep(CompletedPause);
     messages_.Show({.title = "",
                     .text = std::string(text.In(session_.LanguageFlag)),
@@ -262,21 +224,12 @@ void CloneEngine::EndRefused() {
 
 void CloneEngine::PromptForConnection() {
     clock_.Sleep(PromptPause);
-    const bool vanished = !port_.IsOpen();
-    static_cast<void>(OpenPort()); // a port that stays closed leads back here after a retry
-    const MessageAnswer answer = Ask({.title = std::string(commontexts::Error.In(session_.LanguageFlag)),
-                                      .text = std::string(clonetexts::CheckConnections.In(session_.LanguageFlag)),
-                                      .icon = MessageIcon::Critical,
-                                      .buttons = MessageButtons::RetryCancel,
-                                      .defaultButton = MessageAnswer::Retry});
-    if (answer != MessageAnswer::Retry) {
+    deaf_ = true;
+    if (port_.AsksToRetry(messages_)) {
+        Retry();
+    } else {
         Abandon();
-        return;
     }
-    if (vanished) {
-        ClosePort(); // while the cable was out, its number may have stood for another device of the machine
-    }
-    Retry();
 }
 
 void CloneEngine::Retry() {
@@ -284,7 +237,7 @@ void CloneEngine::Retry() {
     link_.SentState = NothingSent;
     BeginSession();
     SetProgress(0);
-    ClearPort();
+    port_.Clear();
     deaf_ = false;
     state_.Running = true;
     Run(*ctrTimer_, FirstSendInterval);
@@ -293,18 +246,13 @@ void CloneEngine::Retry() {
 void CloneEngine::Abandon() {
     abandoned_ = true;
     link_.SentState = NothingSent;
-    Send(wire::End);
+    port_.Send(wire::End);
     // Inside this wait the tick sends the current state's command once more, behind the End. Intended.
     Run(*ctrTimer_, StepInterval);
     clock_.WaitProcessingEvents(AbandonWait);
     observer_.OnButtonsEnabled(true);
     state_.Finished = true;
     observer_.OnUnloadRequested();
-}
-
-MessageAnswer CloneEngine::Ask(const Message& message) {
-    deaf_ = true;
-    return messages_.Show(message);
 }
 
 } // namespace zelvor

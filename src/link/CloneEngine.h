@@ -2,13 +2,12 @@
 
 #include <cstdint>
 #include <memory>
-#include <span>
 #include <vector>
 
 #include "data/Session.h"
+#include "link/RadioPort.h"
 #include "platform/Clock.h"
 #include "platform/MessageBoxes.h"
-#include "platform/SerialPort.h"
 
 namespace zelvor {
 
@@ -56,7 +55,6 @@ public:
     };
 
     CloneEngine(Session& session, SerialPort& port, Clock& clock, MessageBoxes& messages, CloneObserver& observer);
-    ~CloneEngine();
     CloneEngine(const CloneEngine&) = delete;
     CloneEngine& operator=(const CloneEngine&) = delete;
 
@@ -89,18 +87,11 @@ private:
     [[nodiscard]] bool IsReading() const;
     void Enter(ConnectState state) { link_.CommState = static_cast<std::uint8_t>(state); }
     void BeginSession();
-    [[nodiscard]] bool OpenPort();
-    void ClosePort();
-    void ClearPort();
     void Run(Timer& timer, int milliseconds);
-    MessageAnswer Ask(const Message& message);
 
     void SendCommand();
     void SendData();
-    void Send(std::span<const std::uint8_t> command);
 
-    [[nodiscard]] std::vector<std::uint8_t> ReadUpTo(int count);
-    [[nodiscard]] bool ReadsAcknowledge();
     void ReceiveEntryReply();
     void ReceiveIdentity();
     void ReceiveConfirmation();
@@ -125,7 +116,7 @@ private:
 
     Session& session_;
     LinkState& link_;
-    SerialPort& port_;
+    RadioPort port_;
     Clock& clock_;
     MessageBoxes& messages_;
     CloneObserver& observer_;

@@ -48,18 +48,8 @@ void CloneEngine::OnReceive(ReceiveReason reason) {
     }
 }
 
-std::vector<std::uint8_t> CloneEngine::ReadUpTo(int count) {
-    port_.SetReadLength(count);
-    return port_.Read();
-}
-
-bool CloneEngine::ReadsAcknowledge() {
-    const std::vector<std::uint8_t> reply = ReadUpTo(1);
-    return !reply.empty() && reply.front() == wire::AcknowledgeByte;
-}
-
 void CloneEngine::ReceiveEntryReply() {
-    if (!ReadsAcknowledge()) {
+    if (!port_.ReadsAcknowledge()) {
         return LetTimeoutDecide();
     }
     Enter(ConnectState::RequestIdentity);
@@ -68,7 +58,7 @@ void CloneEngine::ReceiveEntryReply() {
 
 void CloneEngine::ReceiveIdentity() {
     // The event comes with the first byte; the rest has until the time-out.
-    const std::vector<std::uint8_t> piece = ReadUpTo(wire::IdentityLength);
+    const std::vector<std::uint8_t> piece = port_.Read(wire::IdentityLength);
     std::vector<std::uint8_t>& identity = state_.RadioIdentity;
     identity.insert(identity.end(), piece.begin(), piece.end());
     if (identity.size() != wire::IdentityLength) {
@@ -84,7 +74,7 @@ void CloneEngine::ReceiveIdentity() {
 }
 
 void CloneEngine::ReceiveConfirmation() {
-    if (!ReadsAcknowledge()) {
+    if (!port_.ReadsAcknowledge()) {
         return LetTimeoutDecide();
     }
     Enter(ConnectState::TransferData);
@@ -99,11 +89,13 @@ void CloneEngine::CheckModel() {
         return;
     }
     messageTimer_->SetEnabled(false);
-    const MessageAnswer answer = Ask({.title = std::string(commontexts::Warning.In(session_.LanguageFlag)),
-                                      .text = std::string(clonetexts::ModelTypeWrong.In(session_.LanguageFlag)),
-                                      .icon = MessageIcon::Exclamation,
-                                      .buttons = MessageButtons::OkCancel,
-                                      .defaultButton = MessageAnswer::Cancel});
+    deaf_ = true;
+    const MessageAnswer answer =
+        messages_.Show({.title = std::string(commontexts::Warning.In(session_.LanguageFlag)),
+                        .text = std::string(clonetexts::ModelTypeWrong.In(session_.LanguageFlag)),
+                        .icon = MessageIcon::Exclamation,
+                        .buttons = MessageButtons::OkCancel,
+                        .defaultButton = MessageAnswer::Cancel});
     deaf_ = false;
     if (answer != MessageAnswer::Ok) {
         Enter(ConnectState::EndSession);
@@ -111,7 +103,7 @@ void CloneEngine::CheckModel() {
 }
 
 void CloneEngine::ReceiveBlock() {
-    const std::vector<std::uint8_t> reply = ReadUpTo(wire::ReadReplyLength);
+    const std::vector<std::uint8_t> reply = port_.Read(wire::ReadReplyLength);
     StoreReadBlock(session_.Image, link_.StepCount, reply); // also of a reply that fails the test
     if (reply.empty() || reply.front() != wire::ReadReplyByte) {
         return FailFast();
@@ -121,7 +113,7 @@ void CloneEngine::ReceiveBlock() {
 }
 
 void CloneEngine::ReceivePacketReply() {
-    const bool acknowledged = ReadsAcknowledge();
+    const bool acknowledged = port_.ReadsAcknowledge();
     ++link_.StepCount;
     AdvanceAddress(link_);
     RaiseProgress();
@@ -142,7 +134,7 @@ void CloneEngine::ReceiveCloseReply() {
         RaiseProgress();
         return;
     }
-    if (!ReadsAcknowledge()) {
+    if (!port_.ReadsAcknowledge()) {
         return FailFast();
     }
     Enter(ConnectState::TransferData);
@@ -158,7 +150,7 @@ void CloneEngine::ReceiveCloseReply() {
 
 void CloneEngine::ReceiveEndReply() {
     // Once the dialog is about to close, messageTimer is what closes it.
-    if (ReadsAcknowledge() && !state_.Finished) {
+    if (port_.ReadsAcknowledge() && !state_.Finished) {
         messageTimer_->SetEnabled(false);
     }
 }

@@ -2,6 +2,7 @@
 
 #include "data/TestFrequencies.h"
 #include "data/TuneItems.h"
+#include "link/CloneFrames.h"
 #include "platform/MessageBoxes.h"
 #include "service/ServiceFrames.h"
 #include "service/TestChannels.h"
@@ -36,7 +37,8 @@ EntryEngine::EntryEngine(Session& session, SerialPort& port, Clock& clock, Messa
 
 void EntryEngine::Start(bool infoMode) {
     Stop();
-    SetUpPort();
+    port_.SetUp();
+    port_.Close();
     InfoMode = infoMode;
     EntryDone = false;
     link_.StepCount = 1;
@@ -48,27 +50,27 @@ void EntryEngine::Start(bool infoMode) {
 
 void EntryEngine::Abort() {
     Stop();
-    ClosePort();
+    port_.Close();
 }
 
 void EntryEngine::SendCommand() {
     switch (State()) {
     case SendEntry:
-        ExpectBytes(1);
-        Transmit(InfoMode ? service::InformationEntry : service::TuningEntry);
+        port_.ExpectBytes(1);
+        port_.Send(InfoMode ? wire::Entry : service::TuningEntry);
         break;
     case AskIdentity:
-        Transmit({service::IdentityRequest});
-        ExpectBytes(service::IdentityLength);
+        port_.Send(wire::IdentityRequest);
+        port_.ExpectBytes(wire::IdentityLength);
         break;
     case ConfirmIdentity:
-        Transmit({service::AcknowledgeByte});
-        ExpectBytes(1);
+        port_.Send(wire::Acknowledge);
+        port_.ExpectBytes(1);
         break;
     case ConfirmRecord:
     case ConfirmNext:
-        ExpectBytes(1);
-        Transmit({service::AcknowledgeByte});
+        port_.ExpectBytes(1);
+        port_.Send(wire::Acknowledge);
         break;
     default:
         if (InfoMode) {
@@ -82,26 +84,26 @@ void EntryEngine::SendCommand() {
 void EntryEngine::SendInformationCommand() {
     switch (State()) {
     case AskRecord:
-        Transmit(service::ManufacturingRecord);
-        ExpectBytes(service::ManufacturingRecordLength);
+        port_.Send(service::ManufacturingRecord);
+        port_.ExpectBytes(service::ManufacturingRecordLength);
         break;
     case AskNext:
-        Transmit({service::UnusedRecord});
-        ExpectBytes(service::UnusedRecordLength);
+        port_.Send({service::UnusedRecord});
+        port_.ExpectBytes(service::UnusedRecordLength);
         break;
     default:
-        ExpectBytes(1);
-        Transmit({service::End});
+        port_.ExpectBytes(1);
+        port_.Send(wire::End);
     }
 }
 
 void EntryEngine::SendTestModeCommand() {
     if (State() == AskRecord) {
-        Transmit({service::ReadTuningData});
-        ExpectBytes(TuningRecordSize);
+        port_.Send({service::ReadTuningData});
+        port_.ExpectBytes(TuningRecordSize);
     } else {
-        Transmit({service::SetChannel, static_cast<std::uint8_t>(link_.StepCount)});
-        ExpectBytes(service::ChannelRecordLength);
+        port_.Send({service::SetChannel, static_cast<std::uint8_t>(link_.StepCount)});
+        port_.ExpectBytes(service::ChannelRecordLength);
     }
 }
 
@@ -116,30 +118,30 @@ void EntryEngine::Receive() {
 bool EntryEngine::TakeReply() {
     switch (State()) {
     case AskIdentity: {
-        const std::vector<std::uint8_t> identity = Read(service::IdentityLength);
+        const std::vector<std::uint8_t> identity = port_.Read(wire::IdentityLength);
         return !identity.empty() && identity.front() == service::IdentityFirstByte;
     }
     case AskRecord: {
         if (InfoMode) {
             return TakeInformationRecord();
         }
-        const std::vector<std::uint8_t> record = Read(TuningRecordSize);
+        const std::vector<std::uint8_t> record = port_.Read(TuningRecordSize);
         StoreTuningData(record, session_.Image, session_.Service.Values);
         return record.size() == TuningRecordSize;
     }
     case AskNext:
         if (InfoMode) {
-            return Read(service::UnusedRecordLength).size() == service::UnusedRecordLength;
+            return port_.Read(service::UnusedRecordLength).size() == service::UnusedRecordLength;
         }
         TakeTestFrequency();
         return true;
     default:
-        return ReadsAcknowledge();
+        return port_.ReadsAcknowledge();
     }
 }
 
 bool EntryEngine::TakeInformationRecord() {
-    const std::vector<std::uint8_t> record = Read(service::ManufacturingRecordLength);
+    const std::vector<std::uint8_t> record = port_.Read(service::ManufacturingRecordLength);
     if (record.size() != service::ManufacturingRecordLength) {
         return false;
     }
@@ -148,7 +150,7 @@ bool EntryEngine::TakeInformationRecord() {
 }
 
 void EntryEngine::TakeTestFrequency() {
-    const std::vector<std::uint8_t> reply = Read(service::ChannelRecordLength);
+    const std::vector<std::uint8_t> reply = port_.Read(service::ChannelRecordLength);
     if (reply.size() != service::ChannelRecordLength) {
         return;
     }
@@ -184,7 +186,7 @@ void EntryEngine::CountChannel() {
 void EntryEngine::FinishInformation() {
     observer_.OnExchangeDone();
     Stop();
-    ClosePort();
+    port_.Close();
     clock_.Sleep(DonePause);
     observer_.OnInformationReady();
 }
@@ -193,7 +195,7 @@ void EntryEngine::FinishTestMode() {
     EntryDone = true;
     observer_.OnExchangeDone();
     Stop();
-    ClosePort();
+    port_.Close();
     clock_.Sleep(DonePause);
     observer_.OnTestModeReady();
 }
@@ -201,7 +203,7 @@ void EntryEngine::FinishTestMode() {
 /// The radio is left in its tuning mode, with no End.
 void EntryEngine::RefuseTestMode() {
     Stop();
-    ClosePort();
+    port_.Close();
     clock_.Sleep(RefusedPause);
     messages_.Show({.title = std::string(MismatchTitle.In(session_.LanguageFlag)),
                     .text = std::string(MismatchText.In(session_.LanguageFlag)),
@@ -216,7 +218,7 @@ void EntryEngine::Retry() {
 
 void EntryEngine::GiveUp() {
     Stop();
-    ClosePort();
+    port_.Close();
 }
 
 } // namespace zelvor

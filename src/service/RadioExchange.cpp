@@ -1,10 +1,5 @@
 #include "service/RadioExchange.h"
 
-#include "link/CloneTexts.h"
-#include "platform/MessageBoxes.h"
-#include "service/ServiceFrames.h"
-#include "text/CommonTexts.h"
-
 namespace zelvor {
 
 namespace {
@@ -15,31 +10,29 @@ constexpr int NextTick = 1; // milliseconds
 
 RadioExchange::RadioExchange(Session& session, SerialPort& port, Clock& clock, MessageBoxes& messages,
                              std::string_view timeoutName, int timeoutMilliseconds)
-    : session_(session), link_(session.Link), port_(port), clock_(clock), messages_(messages),
+    : session_(session), link_(session.Link), port_(session, port), clock_(clock), messages_(messages),
       ctrTimer_(clock.MakeTimer("ctrTimer")), timeoutTimer_(clock.MakeTimer(timeoutName)),
       timeout_(timeoutMilliseconds) {
     ctrTimer_->OnTick = [this] { OnSendTimer(); };
     timeoutTimer_->OnTick = [this] { OnTimeout(); };
-    port_.OnReceive = [this](ReceiveReason reason) { OnReceive(reason); };
+    port_.Listen([this](ReceiveReason reason) { OnReceive(reason); });
 }
 
-RadioExchange::~RadioExchange() {
-    port_.OnReceive = nullptr;
-}
+RadioExchange::~RadioExchange() = default;
 
 void RadioExchange::OnSendTimer() {
     if (!active_ || superseded_ || link_.CommState == link_.SentState) {
         return;
     }
     const bool wasOpen = port_.IsOpen();
-    const bool open = OpenPort();
+    const bool open = port_.Open();
     ctrTimer_->SetEnabled(false);
     if (!open) {
         FailFast(NextTick);
         return;
     }
     if (!wasOpen) {
-        ClearPort(); // of the rest of an answer that was not waited for
+        port_.Clear(); // of the rest of an answer that was not waited for
     }
     const std::uint8_t sent = link_.CommState;
     awaiting_ = true;
@@ -82,15 +75,8 @@ void RadioExchange::OnTimeout() {
 
 void RadioExchange::Prompt() {
     ctrTimer_->SetEnabled(false);
-    const bool vanished = !port_.IsOpen();
-    static_cast<void>(OpenPort()); // a port that stays closed leads back here after a retry
     deaf_ = true;
-    const MessageAnswer answer =
-        messages_.Show({.title = std::string(commontexts::Error.In(session_.LanguageFlag)),
-                        .text = std::string(clonetexts::CheckConnections.In(session_.LanguageFlag)),
-                        .icon = MessageIcon::Critical,
-                        .buttons = MessageButtons::RetryCancel,
-                        .defaultButton = MessageAnswer::Retry});
+    const bool again = port_.AsksToRetry(messages_);
     deaf_ = false;
     awaiting_ = false;
     superseded_ = false;
@@ -98,59 +84,12 @@ void RadioExchange::Prompt() {
     if (!active_) {
         return;
     }
-    if (answer == MessageAnswer::Retry) {
-        if (vanished) {
-            ClosePort(); // while the cable was out, its number may have stood for another device of the machine
-        }
-        ClearPort();
+    if (again) {
+        port_.Clear();
         Retry();
     } else {
         GiveUp();
     }
-}
-
-void RadioExchange::SetUpPort() {
-    port_.SetBufferSizes(RadioInputBufferSize, RadioOutputBufferSize);
-    if (OpenPort()) {
-        port_.SetBinaryInput();
-        ClearPort();
-        ClosePort();
-    }
-}
-
-bool RadioExchange::OpenPort() {
-    if (port_.IsOpen()) {
-        return true;
-    }
-    port_.SetNumber(session_.CommPortNumber);
-    port_.SetSettings(RadioPortSettings);
-    return port_.Open();
-}
-
-void RadioExchange::ClosePort() {
-    if (port_.IsOpen()) {
-        port_.Close();
-    }
-}
-
-void RadioExchange::ClearPort() {
-    port_.ClearInput();
-    port_.ClearOutput();
-}
-
-void RadioExchange::Transmit(std::span<const std::uint8_t> command) {
-    link_.TxBuffer.assign(command.begin(), command.end());
-    port_.Send(link_.TxBuffer);
-}
-
-std::vector<std::uint8_t> RadioExchange::Read(int count) {
-    port_.SetReadLength(count);
-    return port_.Read();
-}
-
-bool RadioExchange::ReadsAcknowledge() {
-    const std::vector<std::uint8_t> reply = Read(1);
-    return !reply.empty() && reply.front() == service::AcknowledgeByte;
 }
 
 void RadioExchange::Enter(int state, int interval) {

@@ -2,13 +2,11 @@
 
 #include <cstdint>
 #include <memory>
-#include <span>
 #include <string_view>
-#include <vector>
 
 #include "data/Session.h"
+#include "link/RadioPort.h"
 #include "platform/Clock.h"
-#include "platform/SerialPort.h"
 
 namespace zelvor {
 
@@ -49,17 +47,6 @@ protected:
     /// The time-out has come; true where no prompt is wanted any more.
     [[nodiscard]] virtual bool EndsAtTimeout() { return false; }
 
-    /// Sizes and settings of a port that is opened, cleared and closed again: nothing is sent.
-    void SetUpPort();
-    [[nodiscard]] bool OpenPort();
-    void ClosePort();
-    void ClearPort();
-    void Transmit(std::span<const std::uint8_t> command);
-    void Transmit(std::initializer_list<std::uint8_t> command) { Transmit(std::span(command.begin(), command.size())); }
-    void ExpectBytes(int count) { port_.SetReceiveThreshold(count); }
-    [[nodiscard]] std::vector<std::uint8_t> Read(int count);
-    [[nodiscard]] bool ReadsAcknowledge();
-
     [[nodiscard]] int State() const { return link_.CommState; }
     /// Makes a state's command due after so many milliseconds.
     void Enter(int state, int interval);
@@ -75,7 +62,7 @@ protected:
 
     Session& session_;
     LinkState& link_;
-    SerialPort& port_;
+    RadioPort port_;
     Clock& clock_;
     MessageBoxes& messages_;
 

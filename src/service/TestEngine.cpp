@@ -1,6 +1,7 @@
 #include "service/TestEngine.h"
 
 #include "data/TuneItems.h"
+#include "link/CloneFrames.h"
 #include "service/ServiceFrames.h"
 
 namespace zelvor {
@@ -26,7 +27,8 @@ TestEngine::TestEngine(Session& session, SerialPort& port, Clock& clock, Message
 
 void TestEngine::Load() {
     link_.SentState = NothingSent;
-    SetUpPort();
+    port_.SetUp();
+    port_.Close();
     session_.Service.TestAborted = false;
     session_.Service.NarrowMode = false;
     TestCommand = TestCommandKind::SetChannel;
@@ -56,7 +58,7 @@ void TestEngine::ChooseChannel(int number) {
 void TestEngine::ChooseSignalling(int number) {
     signalling_ = number;
     if (!IsAwaitingReply()) {
-        ClearPort();
+        port_.Clear();
     }
     Ask(TestCommandKind::SetSignalling, CommandInterval);
 }
@@ -73,7 +75,7 @@ void TestEngine::ChooseWide(bool wide) {
 void TestEngine::Tune() {
     ChannelOnly = false;
     if (!IsAwaitingReply()) {
-        ClearPort();
+        port_.Clear();
     }
     Ask(TestCommandKind::Tune, CommandInterval);
 }
@@ -92,7 +94,7 @@ void TestEngine::Close() {
     }
     closing_ = true;
     Stop();
-    ClosePort();
+    port_.Close();
 }
 
 void TestEngine::SendCommand() {
@@ -105,46 +107,46 @@ void TestEngine::SendCommand() {
         if (TestCommand == TestCommandKind::Close) {
             SendEnd();
         } else {
-            ExpectBytes(1);
-            Transmit({service::AcknowledgeByte});
+            port_.ExpectBytes(1);
+            port_.Send(wire::Acknowledge);
         }
         break;
     default:
-        ExpectBytes(1);
-        Transmit({TuneItemOf(session_.Service.TuneItem).code, service::Select});
+        port_.ExpectBytes(1);
+        port_.Send({TuneItemOf(session_.Service.TuneItem).code, service::Select});
     }
 }
 
 void TestEngine::SendFirst() {
-    ExpectBytes(1);
+    port_.ExpectBytes(1);
     if (PttDropPending) {
         TransmitPtt(false);
         return;
     }
     switch (TestCommand) {
     case TestCommandKind::SetChannel:
-        ExpectBytes(service::ChannelRecordLength);
-        Transmit({service::SetChannel, static_cast<std::uint8_t>(session_.Service.TestChannelNo)});
+        port_.ExpectBytes(service::ChannelRecordLength);
+        port_.Send({service::SetChannel, static_cast<std::uint8_t>(session_.Service.TestChannelNo)});
         break;
     case TestCommandKind::SetSignalling:
     case TestCommandKind::Close:
-        Transmit({service::SetSignalling, static_cast<std::uint8_t>(signalling_)});
+        port_.Send({service::SetSignalling, static_cast<std::uint8_t>(signalling_)});
         break;
     case TestCommandKind::Ptt:
         TransmitPtt(PttOn);
         break;
     case TestCommandKind::Tune:
         clock_.Sleep(TunePause);
-        ExpectBytes(TuningRecordSize);
-        Transmit({service::ReadTuningData});
+        port_.ExpectBytes(TuningRecordSize);
+        port_.Send({service::ReadTuningData});
         break;
     case TestCommandKind::Wide:
         session_.Service.NarrowMode = false;
-        Transmit({service::Wide});
+        port_.Send({service::Wide});
         break;
     case TestCommandKind::Narrow:
         session_.Service.NarrowMode = true;
-        Transmit({service::Narrow});
+        port_.Send({service::Narrow});
         break;
     }
 }
@@ -153,17 +155,17 @@ void TestEngine::SendFirst() {
 void TestEngine::SendEnd() {
     clock_.WaitProcessingEvents(EndWait);
     CloseDone = true;
-    Transmit({service::End});
+    port_.Send(wire::End);
 }
 
 void TestEngine::TransmitPtt(bool on) {
     pttSent_ = on;
-    Transmit(on ? service::PttOn : service::PttOff);
+    port_.Send(on ? service::PttOn : service::PttOff);
 }
 
 /// The radio is keyed or unkeyed all the same, and the lamps are to say so.
 void TestEngine::ReceiveSuperseded() {
-    if (pttSent_ && ReadsAcknowledge()) {
+    if (pttSent_ && port_.ReadsAcknowledge()) {
         observer_.OnLamps(*pttSent_);
     }
 }
@@ -188,7 +190,7 @@ void TestEngine::ReceiveFirst() {
     }
     switch (TestCommand) {
     case TestCommandKind::SetChannel: {
-        const std::size_t length = Read(service::ChannelRecordLength).size();
+        const std::size_t length = port_.Read(service::ChannelRecordLength).size();
         if (length == service::ChannelRecordLength || length == 1) {
             Enter(Confirm, CommandInterval);
         } else {
@@ -203,7 +205,7 @@ void TestEngine::ReceiveFirst() {
         ReceivePtt();
         break;
     case TestCommandKind::Close:
-        if (ReadsAcknowledge()) {
+        if (port_.ReadsAcknowledge()) {
             Enter(Confirm, CommandInterval);
         } else {
             FailFast(FailureInterval);
@@ -212,7 +214,7 @@ void TestEngine::ReceiveFirst() {
     case TestCommandKind::SetSignalling:
     case TestCommandKind::Wide:
     case TestCommandKind::Narrow:
-        if (!ReadsAcknowledge()) {
+        if (!port_.ReadsAcknowledge()) {
             FailFast(FailureInterval);
         }
         break;
@@ -220,7 +222,7 @@ void TestEngine::ReceiveFirst() {
 }
 
 void TestEngine::ReceivePttDrop() {
-    const bool acknowledged = ReadsAcknowledge();
+    const bool acknowledged = port_.ReadsAcknowledge();
     observer_.OnLamps(false);
     if (!acknowledged) {
         FailFast(FailureInterval);
@@ -232,7 +234,7 @@ void TestEngine::ReceivePttDrop() {
 }
 
 void TestEngine::ReceivePtt() {
-    if (!ReadsAcknowledge()) {
+    if (!port_.ReadsAcknowledge()) {
         FailFast(FailureInterval);
         return;
     }
@@ -243,7 +245,7 @@ void TestEngine::ReceivePtt() {
 }
 
 void TestEngine::ReceiveTuningData() {
-    const std::vector<std::uint8_t> record = Read(TuningRecordSize);
+    const std::vector<std::uint8_t> record = port_.Read(TuningRecordSize);
     StoreTuningData(record, session_.Image, session_.Service.Values);
     if (record.size() == TuningRecordSize) {
         Enter(Confirm, CommandInterval);
@@ -253,7 +255,7 @@ void TestEngine::ReceiveTuningData() {
 }
 
 void TestEngine::ReceiveConfirmation() {
-    if (Read(1).empty()) { // any byte counts as an acknowledgement
+    if (port_.Read(1).empty()) { // any byte counts as an acknowledgement
         FailFast(FailureInterval);
         return;
     }
@@ -274,12 +276,12 @@ void TestEngine::ReceiveConfirmation() {
 }
 
 void TestEngine::ReceiveSelection() {
-    if (!ReadsAcknowledge()) {
+    if (!port_.ReadsAcknowledge()) {
         FailFast(FailureInterval);
         return;
     }
     Stop();
-    ClosePort();
+    port_.Close();
     clock_.Sleep(TuningPause);
     observer_.OnTuningReady();
 }
@@ -290,7 +292,7 @@ void TestEngine::Retry() {
 
 void TestEngine::GiveUp() {
     Stop();
-    ClosePort();
+    port_.Close();
     session_.Service.TestAborted = true;
     CloseDone = true;
     observer_.OnUnloadRequested();

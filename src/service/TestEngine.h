@@ -43,7 +43,6 @@ public:
     void Close();
 
     [[nodiscard]] bool IsPttOn() const { return PttOn; }
-    [[nodiscard]] TestCommandKind Command() const { return TestCommand; }
 
 private:
     enum : std::uint8_t { SendIt = 1, Confirm, SelectItem };

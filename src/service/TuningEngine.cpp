@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "link/CloneFrames.h"
 #include "service/ServiceFrames.h"
 
 namespace zelvor {
@@ -35,7 +36,8 @@ TuningEngine::TuningEngine(Session& session, SerialPort& port, Clock& clock, Mes
 void TuningEngine::Load() {
     link_.SentState = NothingSent;
     session_.Service.TestAborted = false;
-    SetUpPort();
+    port_.SetUp();
+    port_.Close();
 }
 
 void TuningEngine::ChangePage(int page) {
@@ -103,7 +105,7 @@ void TuningEngine::Close(Ending ending) {
     }
     closing_ = true;
     Stop();
-    ClosePort();
+    port_.Close();
 }
 
 /// Values are set, and the transmitter is keyed, with the transmitter as it is.
@@ -117,7 +119,7 @@ int TuningEngine::LastCancelState() const {
 
 void TuningEngine::SendCommand() {
     pttSent_.reset();
-    ExpectBytes(1);
+    port_.ExpectBytes(1);
     if (IsDropDue()) {
         TransmitPtt(false);
         return;
@@ -135,9 +137,9 @@ void TuningEngine::SendCommand() {
         break;
     case TuneMeasure:
         if (State() == First) {
-            Transmit({plan_.itemCode, service::ReadMeasurement});
+            port_.Send({plan_.itemCode, service::ReadMeasurement});
         } else {
-            Transmit({service::AcknowledgeByte});
+            port_.Send(wire::Acknowledge);
         }
         break;
     default:
@@ -148,14 +150,14 @@ void TuningEngine::SendCommand() {
 void TuningEngine::SendPageCommand() {
     switch (State()) {
     case First:
-        Transmit({Code(CurrentPage), service::Select});
+        port_.Send({Code(CurrentPage), service::Select});
         break;
     case Second:
-        ExpectBytes(service::PointLength);
-        Transmit({service::ReadPoint});
+        port_.ExpectBytes(service::PointLength);
+        port_.Send({service::ReadPoint});
         break;
     default:
-        Transmit({service::AcknowledgeByte});
+        port_.Send(wire::Acknowledge);
     }
 }
 
@@ -163,7 +165,7 @@ void TuningEngine::SendEnding() {
     if (plan_.kind == TuningKind::Measured) {
         SendMeasuredEnding();
     } else if (TuneOp == TuneOk) {
-        Transmit({Code(CurrentPage), service::Store});
+        port_.Send({Code(CurrentPage), service::Store});
     } else {
         SendRestoring();
     }
@@ -173,7 +175,7 @@ void TuningEngine::SendMeasuredEnding() {
     if (State() == First) {
         SendSet(0, TuneOp == TuneOk ? source_.Value(0) : source_.OldValue(0));
     } else {
-        Transmit({plan_.itemCode, service::Store});
+        port_.Send({plan_.itemCode, service::Store});
     }
 }
 
@@ -181,26 +183,26 @@ void TuningEngine::SendMeasuredEnding() {
 void TuningEngine::SendRestoring() {
     const int page = (State() - First) / 2;
     if (page >= Pages()) {
-        Transmit({Code(Pages() - 1), service::Store});
+        port_.Send({Code(Pages() - 1), service::Store});
     } else if (State() % 2 == First) {
-        Transmit({Code(page), service::Select});
+        port_.Send({Code(page), service::Select});
     } else {
         SendSet(page, source_.OldValue(page));
     }
 }
 
 void TuningEngine::SendSet(int page, int value) {
-    Transmit({Code(page), service::SetValue, static_cast<std::uint8_t>(value)});
+    port_.Send({Code(page), service::SetValue, static_cast<std::uint8_t>(value)});
 }
 
 void TuningEngine::TransmitPtt(bool on) {
     pttSent_ = on;
-    Transmit(on ? service::PttOn : service::PttOff);
+    port_.Send(on ? service::PttOn : service::PttOff);
 }
 
 /// The radio is keyed or unkeyed all the same, and the lamps are to say so.
 void TuningEngine::ReceiveSuperseded() {
-    if (pttSent_ && ReadsAcknowledge()) {
+    if (pttSent_ && port_.ReadsAcknowledge()) {
         observer_.OnLamp(*pttSent_);
     }
 }
@@ -225,7 +227,7 @@ void TuningEngine::Receive() {
         ReceiveMeasurement();
         break;
     default:
-        if (ReadsAcknowledge()) {
+        if (port_.ReadsAcknowledge()) {
             End();
         } else {
             FailFast(FailureInterval);
@@ -234,7 +236,7 @@ void TuningEngine::Receive() {
 }
 
 void TuningEngine::ReceiveDrop() {
-    if (!ReadsAcknowledge()) {
+    if (!port_.ReadsAcknowledge()) {
         FailFast(FailureInterval);
         return;
     }
@@ -246,7 +248,7 @@ void TuningEngine::ReceiveDrop() {
 
 void TuningEngine::ReceivePageReply() {
     const bool good =
-        State() == Second ? Read(service::PointLength).size() == service::PointLength : ReadsAcknowledge();
+        State() == Second ? port_.Read(service::PointLength).size() == service::PointLength : port_.ReadsAcknowledge();
     if (!good) {
         FailFast(FailureInterval);
         return;
@@ -265,7 +267,7 @@ void TuningEngine::ReceivePageReply() {
 }
 
 void TuningEngine::ReceivePtt() {
-    if (!ReadsAcknowledge()) {
+    if (!port_.ReadsAcknowledge()) {
         FailFast(FailureInterval);
         return;
     }
@@ -278,14 +280,14 @@ void TuningEngine::ReceivePtt() {
 
 void TuningEngine::ReceiveMeasurement() {
     if (State() == First) {
-        const std::vector<std::uint8_t> reply = Read(1);
+        const std::vector<std::uint8_t> reply = port_.Read(1);
         if (reply.empty()) {
             FailFast(FailureInterval);
             return;
         }
         observer_.OnMeasured(reply.front());
         Enter(Second, StepInterval);
-    } else if (!ReadsAcknowledge()) {
+    } else if (!port_.ReadsAcknowledge()) {
         FailFast(FailureInterval);
     } else if (measuring_) {
         Enter(First, MeasurePause + MeasureInterval);
@@ -295,7 +297,7 @@ void TuningEngine::ReceiveMeasurement() {
 }
 
 void TuningEngine::ReceiveEnding() {
-    if (!ReadsAcknowledge()) {
+    if (!port_.ReadsAcknowledge()) {
         FailFast(FailureInterval);
         return;
     }
@@ -309,7 +311,7 @@ void TuningEngine::ReceiveEnding() {
 
 void TuningEngine::Finish() {
     Stop();
-    ClosePort();
+    port_.Close();
     Done = true;
 }
 
@@ -320,7 +322,7 @@ void TuningEngine::Retry() {
 
 void TuningEngine::GiveUp() {
     Stop();
-    ClosePort();
+    port_.Close();
     session_.Service.TestAborted = true;
     Done = true;
     running_ = false;

@@ -8,11 +8,6 @@ std::uint8_t PatternAt(int address) {
     return static_cast<std::uint8_t>(address * 7 + address / 64 * 3 + address / 256 + 1);
 }
 
-Message ConnectionPrompt() {
-    return {"Error", "please check all connections and communication port settings.", MessageIcon::Critical,
-            MessageButtons::RetryCancel, MessageAnswer::Retry};
-}
-
 Message ModelPrompt() {
     return {"Warning", "Model type is wrong.Overwrite?", MessageIcon::Exclamation, MessageButtons::OkCancel,
             MessageAnswer::Cancel};

@@ -19,7 +19,6 @@ inline constexpr int Write = 1;
 [[nodiscard]] std::uint8_t PatternAt(int address);
 
 /// The boxes of a transfer, in English.
-[[nodiscard]] Message ConnectionPrompt();
 [[nodiscard]] Message ModelPrompt();
 [[nodiscard]] Message ReadingCompleted();
 [[nodiscard]] Message WritingCompleted();
@@ -83,5 +82,21 @@ public:
 [[nodiscard]] Bytes IdentityReply();
 /// A Read reply whose data bytes are the pattern of block `block` (1 to 16).
 [[nodiscard]] Bytes BlockReply(int block);
+
+/// Expects the prompt, keeps when it came, and gives an answer.
+class PromptWatch {
+public:
+    PromptWatch(EngineRig& rig, MessageAnswer answer) {
+        rig.messages.Expect(ConnectionPrompt(), [this, &rig, answer] {
+            time = rig.clock.TickCount();
+            timers = rig.TimerState("ctrTimer") + " " + rig.TimerState("messageTimer");
+            portOpen = rig.Port().IsOpen();
+            return answer;
+        });
+    }
+    std::int64_t time = -1;
+    std::string timers;
+    bool portOpen = false;
+};
 
 } // namespace zelvor

@@ -4,18 +4,6 @@
 
 namespace zelvor {
 
-std::string Hex(std::span<const std::uint8_t> bytes) {
-    constexpr std::string_view digits = "0123456789ABCDEF";
-    std::string text;
-    for (const std::uint8_t byte : bytes) {
-        if (!text.empty())
-            text += ' ';
-        text += digits[byte >> 4];
-        text += digits[byte & 0x0F];
-    }
-    return text;
-}
-
 void ScriptedRadio::Attach(FakeSerialPort& port) {
     port.OnSend = [this](std::span<const std::uint8_t> bytes) { Serve(bytes); };
 }

@@ -8,15 +8,11 @@
 
 #include "platform/fakes/FakeClock.h"
 #include "platform/fakes/FakeSerialPort.h"
+#include "support/RadioTesting.h"
 
 namespace zelvor {
 
 using Bytes = std::vector<std::uint8_t>;
-
-/// "57 00 10".
-[[nodiscard]] std::string Hex(std::span<const std::uint8_t> bytes);
-
-enum class Fault { None, Drop, Cut, Corrupt, Late, Vanish };
 
 /// The radio's side of the clone protocol in its plainest form, at the far end of a fake port, on virtual time.
 class ScriptedRadio {

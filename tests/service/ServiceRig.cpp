@@ -5,19 +5,6 @@
 
 namespace zelvor {
 
-std::string Hex(std::span<const std::uint8_t> bytes) {
-    constexpr std::string_view digits = "0123456789ABCDEF";
-    std::string text;
-    for (const std::uint8_t byte : bytes) {
-        if (!text.empty()) {
-            text += ' ';
-        }
-        text += digits[byte >> 4];
-        text += digits[byte & 0x0F];
-    }
-    return text;
-}
-
 std::vector<std::uint8_t> Bytes(const std::string& hex) {
     std::vector<std::uint8_t> bytes;
     std::istringstream text(hex);
@@ -25,11 +12,6 @@ std::vector<std::uint8_t> Bytes(const std::string& hex) {
         bytes.push_back(static_cast<std::uint8_t>(std::stoi(pair, nullptr, 16)));
     }
     return bytes;
-}
-
-Message ConnectionPrompt() {
-    return {"Error", "please check all connections and communication port settings.", MessageIcon::Critical,
-            MessageButtons::RetryCancel, MessageAnswer::Retry};
 }
 
 ServiceRig::ServiceRig() {

@@ -16,16 +16,12 @@
 #include "platform/fakes/FakePageDevice.h"
 #include "platform/fakes/FakeSerialPort.h"
 #include "platform/fakes/FakeSettingsStore.h"
+#include "support/RadioTesting.h"
 
 namespace zelvor {
 
-/// "50 52 4F".
-[[nodiscard]] std::string Hex(std::span<const std::uint8_t> bytes);
+/// Of "50 52 4F".
 [[nodiscard]] std::vector<std::uint8_t> Bytes(const std::string& hex);
-
-[[nodiscard]] Message ConnectionPrompt();
-
-enum class Fault { None, Drop, Cut, Corrupt, Late, Vanish };
 
 /// A radio in service mode behind every port that is made, in its plainest form and on virtual time: it answers each
 /// command by itself, in whatever order they come. Channel records are those of the session's image.

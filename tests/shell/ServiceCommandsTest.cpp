@@ -68,9 +68,6 @@ protected:
     bool silent = false;
 };
 
-const Message Prompt{"Error", "please check all connections and communication port settings.", MessageIcon::Critical,
-                     MessageButtons::RetryCancel, MessageAnswer::Retry};
-
 TEST_F(ServiceCommandsTest, RadioInformationShowsTheRadiosSerialNumberOverADisabledMainWindow) {
     Choose("MnuToolRadioInformation");
     EXPECT_TRUE(window->isEnabled());
@@ -103,7 +100,7 @@ TEST_F(ServiceCommandsTest, ClosingTheInformationEnablesTheMainWindowWhicheverWa
 
 TEST_F(ServiceCommandsTest, ASilentRadioPromptsAndCancelLeavesEverythingAsItWas) {
     silent = true;
-    fakes.messages.Expect(Prompt, MessageAnswer::Cancel);
+    fakes.messages.Expect(ConnectionPrompt(), MessageAnswer::Cancel);
     Choose("MnuToolRadioInformation");
     fakes.clock.Advance(1000);
     EXPECT_EQ(fakes.messages.Pending(), 0);
@@ -153,7 +150,10 @@ TEST_F(ServiceCommandsTest, DestroyingTheMainWindowWithTestModeOpenIsHarmless) {
     Choose("MnuProgramTestMode");
     fakes.clock.Advance(1000);
     window.reset();
+    sent.clear();
     fakes.clock.Advance(1000);
+    EXPECT_TRUE(sent.empty());
+    EXPECT_EQ(fakes.ports.Port("MSComm1"), nullptr);
 }
 
 TEST_F(ServiceCommandsTest, ATransferEndsAnExchangeThatIsUnderWay) {

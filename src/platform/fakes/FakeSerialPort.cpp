@@ -10,18 +10,20 @@ namespace {
 
 constexpr int LastPortNumber = 20;
 
+} // namespace
+
 std::string Hex(std::span<const std::uint8_t> bytes) {
     constexpr std::string_view digits = "0123456789ABCDEF";
     std::string text;
     for (const std::uint8_t byte : bytes) {
-        text += ' ';
+        if (!text.empty()) {
+            text += ' ';
+        }
         text += digits[byte >> 4];
         text += digits[byte & 0x0F];
     }
     return text;
 }
-
-} // namespace
 
 FakeSerialPort::FakeSerialPort(FakeSerialPorts& ports, std::shared_ptr<FakePortRecord> record)
     : ports_(&ports), record_(std::move(record)) {}
@@ -100,7 +102,7 @@ void FakeSerialPort::Send(std::span<const std::uint8_t> bytes) {
         record_->sentWhileClosed = true;
         return;
     }
-    Note("send" + Hex(bytes));
+    Note("send " + Hex(bytes));
     record_->sent.insert(record_->sent.end(), bytes.begin(), bytes.end());
     if (const auto onSend = OnSend) {
         onSend(bytes);

@@ -12,6 +12,9 @@
 
 namespace zelvor {
 
+/// "57 00 10".
+[[nodiscard]] std::string Hex(std::span<const std::uint8_t> bytes);
+
 class FakeSerialPorts;
 
 /// What a fake port has been asked, kept also after the port is gone.

@@ -1,0 +1,91 @@
+// What every exchange with a radio asks of its port.
+
+#include "link/RadioPort.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/fakes/FakeClock.h"
+#include "platform/fakes/FakeMessageBoxes.h"
+#include "platform/fakes/FakeSerialPort.h"
+#include "support/RadioTesting.h"
+
+namespace zelvor {
+namespace {
+
+class RadioPortTest : public testing::Test {
+protected:
+    [[nodiscard]] FakeSerialPort& Fake() { return static_cast<FakeSerialPort&>(*serialPort); }
+
+    Session session;
+    FakeSerialPorts ports;
+    FakeMessageBoxes messages;
+    std::unique_ptr<SerialPort> serialPort = ports.Make("MSComm1");
+    RadioPort port{session, *serialPort};
+};
+
+TEST_F(RadioPortTest, SetsUpThePortOfTheSessionAsTheRadioWantsIt) {
+    session.CommPortNumber = 7;
+    EXPECT_TRUE(port.SetUp());
+    EXPECT_TRUE(port.IsOpen());
+    const std::vector<std::string> expected{"buffers 1024 512", "number 7",    "settings 9600,N,8,2", "open",
+                                            "binary",           "clear input", "clear output"};
+    EXPECT_EQ(Fake().Log(), expected);
+}
+
+TEST_F(RadioPortTest, APortThatIsMissingIsToldAndStaysClosed) {
+    ports.Missing(1);
+    EXPECT_FALSE(port.SetUp());
+    EXPECT_FALSE(port.IsOpen());
+}
+
+TEST_F(RadioPortTest, ACommandIsKeptInTheTransmitBuffer) {
+    ASSERT_TRUE(port.Open());
+    port.Send({0x10, 0x0F});
+    EXPECT_EQ(Hex(session.Link.TxBuffer), "10 0F");
+    EXPECT_EQ(Fake().Sent(), (std::vector<std::uint8_t>{0x10, 0x0F}));
+}
+
+TEST_F(RadioPortTest, ReadsNoMoreThanItIsAskedFor) {
+    ASSERT_TRUE(port.Open());
+    Fake().Deliver({1, 2, 3});
+    EXPECT_EQ(port.Read(2), (std::vector<std::uint8_t>{1, 2}));
+    EXPECT_EQ(port.WaitingBytes(), 1);
+    port.Clear();
+    EXPECT_EQ(port.WaitingBytes(), 0);
+}
+
+TEST_F(RadioPortTest, OnlyTheAcknowledgeByteAcknowledges) {
+    ASSERT_TRUE(port.Open());
+    EXPECT_FALSE(port.ReadsAcknowledge());
+    Fake().Deliver({0x06, 0x15});
+    EXPECT_TRUE(port.ReadsAcknowledge());
+    EXPECT_FALSE(port.ReadsAcknowledge());
+}
+
+TEST_F(RadioPortTest, RetryLeavesALivingPortOpen) {
+    ASSERT_TRUE(port.Open());
+    messages.Expect(ConnectionPrompt(), MessageAnswer::Retry);
+    EXPECT_TRUE(port.AsksToRetry(messages));
+    EXPECT_TRUE(port.IsOpen());
+}
+
+TEST_F(RadioPortTest, RetryLooksAnewForAPortThatWasGone) {
+    ASSERT_TRUE(port.Open());
+    Fake().Vanish();
+    ports.Present(1);
+    messages.Expect(ConnectionPrompt(), [this] {
+        EXPECT_TRUE(port.IsOpen());
+        return MessageAnswer::Retry;
+    });
+    EXPECT_TRUE(port.AsksToRetry(messages));
+    EXPECT_FALSE(port.IsOpen());
+}
+
+TEST_F(RadioPortTest, CancelLeavesThePortOpenForTheLastCommand) {
+    messages.Expect(ConnectionPrompt(), MessageAnswer::Cancel);
+    EXPECT_FALSE(port.AsksToRetry(messages));
+    EXPECT_TRUE(port.IsOpen());
+}
+
+} // namespace
+} // namespace zelvor
