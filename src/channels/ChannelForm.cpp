@@ -119,11 +119,7 @@ void ChannelForm::SetTexts() {
     cmdHelp_->setText(text(76));
     labFreeArea_->setText(text(78));
     labHint_->setText(ToQString(HintText.In(session_.LanguageFlag)));
-    QStringList rows;
-    for (int k = 1; k <= address::ChannelCount; ++k) {
-        rows.append(QString::number(k));
-    }
-    channelGrid_->SetFormat(ToQString(GridFormat.In(session_.LanguageFlag)), rows);
+    channelGrid_->SetFormat(ToQString(GridFormat.In(session_.LanguageFlag)));
     channelGrid_->FitCells(ColumnWidths(GridPlace.width()));
     channelGrid_->setAccessibleName(text(195).trimmed());
     labBlankChannel_->setAccessibleName(text(78));

@@ -77,11 +77,7 @@ void TestChannelForm::BuildGrid() {
 }
 
 void TestChannelForm::SetTexts() {
-    QStringList channels;
-    for (int row = 1; row <= TestChannelCount; ++row) {
-        channels.append(QString::number(row));
-    }
-    msgTestFreq_->SetFormat(ToQString(GridFormat.In(TheSession().LanguageFlag)), channels);
+    msgTestFreq_->SetFormat(ToQString(GridFormat.In(TheSession().LanguageFlag)));
     const int eighth = PixelsOfTwips(GridPlace.width()) / 8;
     msgTestFreq_->FitCells({eighth, 3 * eighth, 3 * eighth});
     msgTestFreq_->setAccessibleName(LoadText(185));

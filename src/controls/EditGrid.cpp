@@ -53,6 +53,14 @@ protected:
     }
 };
 
+QStringList NumbersTo(int last) {
+    QStringList numbers;
+    for (int n = 1; n <= last; ++n) {
+        numbers.append(QString::number(n));
+    }
+    return numbers;
+}
+
 } // namespace
 
 EditGrid::EditGrid(int rows, int columns, QWidget* parent) : QTableWidget(parent), corner_(new QLabel(this)) {
@@ -95,10 +103,10 @@ EditGrid::EditGrid(int rows, int columns, QWidget* parent) : QTableWidget(parent
 void EditGrid::SetCaptions(const QStringList& captions, const QStringList& rowCaptions) {
     corner_->setText(captions.first());
     setHorizontalHeaderLabels(captions.mid(1));
-    setVerticalHeaderLabels(rowCaptions);
+    setVerticalHeaderLabels(rowCaptions.isEmpty() ? NumbersTo(rowCount()) : rowCaptions);
 }
 
-void EditGrid::SetFormat(const QString& format, const QStringList& rowCaptions) {
+void EditGrid::SetFormat(const QString& format) {
     const QStringList parts = format.split(';');
     const QStringList columns = parts.first().split('|');
     QStringList captions;
@@ -108,7 +116,7 @@ void EditGrid::SetFormat(const QString& format, const QStringList& rowCaptions) 
     if (parts.size() > 1) {
         captions.first() = parts.last();
     }
-    SetCaptions(captions, rowCaptions);
+    SetCaptions(captions);
     for (int column = 1; column <= columnCount(); ++column) {
         SetColumnAlignment(column,
                            columns[column].startsWith('>') ? Qt::AlignRight | Qt::AlignVCenter : Qt::AlignCenter);

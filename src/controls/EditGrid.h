@@ -16,11 +16,12 @@ class EditGrid : public QTableWidget {
 public:
     EditGrid(int rows, int columns, QWidget* parent = nullptr);
 
-    /// captions: the corner, then one a column. rowCaptions: one a row. FitCells has to follow.
-    void SetCaptions(const QStringList& captions, const QStringList& rowCaptions);
+    /// captions: the corner, then one a column. rowCaptions: one a row; without them the rows are numbered from 1.
+    /// FitCells has to follow.
+    void SetCaptions(const QStringList& captions, const QStringList& rowCaptions = {});
     /// Captions from a table format: one a column between "|", the corner's first unless a ";" and the corner's own
     /// follow. A caption's first character places it and its column's cells: "^" in the middle, ">" at the right.
-    void SetFormat(const QString& format, const QStringList& rowCaptions);
+    void SetFormat(const QString& format);
     /// Widths in logical pixels: the header column's, then one a column. The height is shared out among header and
     /// rows, and nothing is shown behind the last column, unless rows have a height of their own: then they scroll.
     void FitCells(const std::vector<int>& widths, int ownRowHeight = 0);

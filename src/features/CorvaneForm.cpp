@@ -127,13 +127,8 @@ void CorvaneForm::BuildFleetList(QWidget& page) {
 
 void CorvaneForm::SetGridTexts() {
     const Language language = TheSession().LanguageFlag;
-    QStringList entries;
-    for (int n = 1; n <= corvane::FleetListSize; ++n) {
-        entries.append(QString::number(n));
-    }
     msgFleetList_->SetCaptions({LoadText(NumberHeading), ToQString(corvane::ListFleet.heading.In(language)),
-                                ToQString(corvane::ListId.heading.In(language))},
-                               entries);
+                                ToQString(corvane::ListId.heading.In(language))});
     const int eighth = GridSize.width() / 8;
     msgFleetList_->FitCells({2 * eighth, 3 * eighth, 3 * eighth});
     msgFleetList_->setAccessibleName(LoadText(corvane::FleetListLabel));

@@ -143,11 +143,7 @@ void DTMFForm::BuildAutodialPage(QWidget& page) {
 }
 
 void DTMFForm::SetGridTexts() {
-    QStringList numbers;
-    for (int n = 1; n <= dtmf::AutodialCount; ++n) {
-        numbers.append(QString::number(n));
-    }
-    msgAutodial_->SetCaptions({LoadText(NumberHeading), LoadText(dtmf::AutodialCaption)}, numbers);
+    msgAutodial_->SetCaptions({LoadText(NumberHeading), LoadText(dtmf::AutodialCaption)});
     const int inner = GridSize.width() - 2 * msgAutodial_->frameWidth();
     msgAutodial_->FitCells({inner / 4, inner - inner / 4});
     msgAutodial_->setAccessibleName(LoadText(dtmf::AutodialCaption));

@@ -92,7 +92,8 @@ TEST_F(EditGridTest, TellsWhereTheCursorWent) {
 }
 
 TEST_F(EditGridTest, AFormatCaptionsAndPlacesItsColumns) {
-    grid.SetFormat("^No.|^First |> Second", {"1", "2", "3"});
+    grid.SetCaptions({"", "", ""}, {"Top", "Middle", "Bottom"});
+    grid.SetFormat("^No.|^First |> Second");
     EXPECT_EQ(grid.findChild<QLabel*>("corner")->text(), "No.");
     EXPECT_EQ(grid.horizontalHeaderItem(0)->text(), "First ");
     EXPECT_EQ(grid.horizontalHeaderItem(1)->text(), " Second");
@@ -104,7 +105,7 @@ TEST_F(EditGridTest, AFormatCaptionsAndPlacesItsColumns) {
 }
 
 TEST_F(EditGridTest, ACaptionBehindASemicolonIsTheCorners) {
-    grid.SetFormat("^|^First|^Second;Channel No.", {"1", "2", "3"});
+    grid.SetFormat("^|^First|^Second;Channel No.");
     EXPECT_EQ(grid.findChild<QLabel*>("corner")->text(), "Channel No.");
     EXPECT_EQ(grid.horizontalHeaderItem(1)->text(), "Second");
 }
