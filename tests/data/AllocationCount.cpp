@@ -9,8 +9,9 @@ std::size_t count = 0;
 
 void* operator new(std::size_t size) {
     ++count;
-    if (void* memory = std::malloc(size == 0 ? 1 : size))
+    if (void* memory = std::malloc(size == 0 ? 1 : size)) {
         return memory;
+    }
     throw std::bad_alloc();
 }
 

@@ -39,9 +39,10 @@ TEST(BlankImage, HasTheGoldenBytesOfEveryVariantWhateverItHeldBefore) {
         testing::StoreHex(golden, 0, expected.hex);
         for (const std::uint8_t fill : {0xFF, 0x00, 0x5A}) {
             const DataImage image = BlankOf(expected.family, expected.market, fill);
-            for (int address = 0; address < 1024; ++address)
+            for (int address = 0; address < 1024; ++address) {
                 ASSERT_EQ(image.At(address), golden.At(address))
                     << "family " << expected.family << ", market " << expected.market << ", address " << address;
+            }
         }
     }
 }
@@ -50,8 +51,9 @@ TEST(BlankImage, RebuildsTheIdentityOfTheFirstRun) {
     const DataImage image = BlankOf(0xF8, 1, 0x00);
     DataImage expected;
     testing::StoreHex(expected, 0x1B8, "503436313801F8FF");
-    for (int address = 0x1B8; address < 0x1C0; ++address)
+    for (int address = 0x1B8; address < 0x1C0; ++address) {
         EXPECT_EQ(image.At(address), expected.At(address)) << address;
+    }
 }
 
 TEST(BlankImage, LeavesTheFamilyDigitErasedForAnUnknownFamily) {
@@ -71,8 +73,9 @@ TEST(BlankImage, SaysVhfForTheMarketsBelowTwo) {
 
 TEST(BlankImage, HasNoChannelAndNoScanAddBit) {
     const DataImage image = BlankOf(0xF9, 112, 0x00);
-    for (int address = 0x000; address < 0x110; ++address)
+    for (int address = 0x000; address < 0x110; ++address) {
         EXPECT_EQ(image.At(address), 0xFF) << address;
+    }
     EXPECT_EQ(image.At(0x17E), 0x00);
     EXPECT_EQ(image.At(0x17F), 0x00);
 }
@@ -83,8 +86,9 @@ TEST(BlankImage, MovesTheTestFrequenciesOfA5613To491MHzForMarketK2) {
     testing::StoreHex(expected, 0x280, "0050104900001149");
     testing::StoreHex(expected, 0x298, "0000104900001049");
     for (const int pair : {0x280, 0x298}) {
-        for (int address = pair; address < pair + 8; ++address)
+        for (int address = pair; address < pair + 8; ++address) {
             EXPECT_EQ(image.At(address), expected.At(address)) << address;
+        }
     }
 }
 

@@ -71,14 +71,16 @@ TEST(ChannelDecoder, ShowsAProgrammedChannelInBothLanguages) {
 
 TEST(ChannelDecoder, OrdersTheGridTextsByColumn) {
     const ChannelTexts texts{"1", "2", "3", "4", "5", "6", "7", "8", "9", "", "", "", false, false};
-    for (std::size_t column = 1; column <= 9; ++column)
+    for (std::size_t column = 1; column <= 9; ++column) {
         EXPECT_EQ(texts.*GridTexts[column - 1], std::to_string(column));
+    }
 }
 
 TEST(ChannelDecoder, ReadsEveryChannelFromItsOwnRecord) {
     DataImage image;
-    for (int k = 1; k <= 16; ++k)
+    for (int k = 1; k <= 16; ++k) {
         testing::StoreBytes(image, 16 * k, {0x00, 0x00, k / 10 * 16 + k % 10, 0x14});
+    }
     ChannelCodec codec;
     const std::vector<ChannelTexts> all = codec.DecodeAll(image, Language::English);
     ASSERT_EQ(all.size(), 16u);
@@ -97,8 +99,9 @@ TEST(ChannelDecoder, CallsAFrequencyMissingWhateverItsLowBytesHold) {
         const ChannelTexts texts = codec.DecodeAll(image, Language::English)[0];
         EXPECT_EQ(texts.RxText, "000.00000");
         EXPECT_EQ(texts.TxText, "");
-        for (std::size_t j = 0; j < 8; ++j)
+        for (std::size_t j = 0; j < 8; ++j) {
             EXPECT_EQ(codec.ChannelBytes[0][j], 0);
+        }
         codec.RefreshChannelBytes(image);
         EXPECT_EQ(codec.ChannelBytes[0][0], 0x78);
         EXPECT_EQ(codec.ChannelBytes[0][7], top);
@@ -177,15 +180,17 @@ TEST(ChannelDecoder, ReadsEveryValueOfByte14UnderEveryPttIdType) {
             ASSERT_EQ(DecodeWithByte(14, byte, language, 1).PttIdText, Corvane[byte % 16].In(language)) << byte;
             ASSERT_EQ(DecodeWithByte(14, byte, language, 2).PttIdText, "") << byte;
         }
-        for (int type = 2; type < 256; ++type)
+        for (int type = 2; type < 256; ++type) {
             ASSERT_EQ(DecodeWithByte(14, 0xB1, language, type).PttIdText, "") << type;
+        }
     }
 }
 
 TEST(ChannelDecoder, ReadsEveryValueOfByte15) {
     constexpr std::string_view Number[8] = {"1", "2", "3", "4", "5", "6", "7", "8"};
-    for (int byte = 0; byte < 256; ++byte)
+    for (int byte = 0; byte < 256; ++byte) {
         ASSERT_EQ(DecodeWithByte(15, byte, Language::English).AutoDialText, Number[byte % 8]) << byte;
+    }
 }
 
 TEST(ChannelDecoder, ReadsTheScanAddBitOfEachChannel) {

@@ -69,16 +69,19 @@ TEST(ChannelEncoder, ErasesTheBytesOfAnEmptyFrequency) {
     bench.image.Set(0x014, 0x12);
     bench.codec.Texts.TxText.clear();
     bench.Encode(1);
-    for (int address = 0x014; address < 0x018; ++address)
+    for (int address = 0x014; address < 0x018; ++address) {
         EXPECT_EQ(bench.image.At(address), 0xFF);
+    }
     bench.codec.Texts.RxText.clear();
     bench.Encode(1);
-    for (int address = 0x010; address < 0x014; ++address)
+    for (int address = 0x010; address < 0x014; ++address) {
         EXPECT_EQ(bench.image.At(address), 0xFF);
+    }
     bench.codec.Texts.RxText = "000.00000";
     bench.Encode(1);
-    for (int address = 0x010; address < 0x014; ++address)
+    for (int address = 0x010; address < 0x014; ++address) {
         EXPECT_EQ(bench.image.At(address), 0x00);
+    }
 }
 
 TEST(ChannelEncoder, EncodesTheDecodeToneBeforeTheEncodeTone) {
@@ -338,8 +341,9 @@ TEST(ChannelEncoder, TakesNoMemoryFromTheHeap) {
     for (int type = 0; type < 3; ++type) {
         bench.image.Set(0x133, static_cast<std::uint8_t>(type));
         const std::size_t before = testing::AllocationCount();
-        for (int k = 1; k <= 16; ++k)
+        for (int k = 1; k <= 16; ++k) {
             bench.Encode(k);
+        }
         EXPECT_EQ(testing::AllocationCount(), before);
     }
     const std::size_t before = testing::AllocationCount();

@@ -35,8 +35,9 @@ void ForRandomChannels(Check check) {
                 codec.EncodeChannel(encoded, language, k, txCodeError);
                 const std::vector<ChannelTexts> after = codec.DecodeAll(encoded, language);
                 check(image, encoded, before, after, k);
-                if (::testing::Test::HasFatalFailure())
+                if (::testing::Test::HasFatalFailure()) {
                     return;
+                }
             }
         }
     }

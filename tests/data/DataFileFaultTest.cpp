@@ -36,8 +36,9 @@ constexpr int NoFault = 2; // the fault was not there, so the answer means nothi
 template<typename Work>
 int InChild(Work work) {
     const pid_t child = fork();
-    if (child == 0)
+    if (child == 0) {
         _exit(work());
+    }
     int status = -1;
     EXPECT_EQ(waitpid(child, &status, 0), child);
     return status;
@@ -58,8 +59,9 @@ void LimitFileSize(rlim_t bytes) {
 /// Gives up the rights of an administrator, who may read and write everything.
 bool BecomeNobody() {
     constexpr uid_t Nobody = 65534;
-    if (geteuid() != 0)
+    if (geteuid() != 0) {
         return true;
+    }
     return setgroups(0, nullptr) == 0 && setgid(Nobody) == 0 && setuid(Nobody) == 0;
 }
 
@@ -75,8 +77,9 @@ int WriteWithRoomFor(rlim_t bytes, const fs::path& path, const fs::path& probe) 
     LimitFileSize(bytes);
     std::ofstream file(probe, std::ios::binary);
     file << std::string(bytes + 1, 'x') << std::flush;
-    if (file.good())
+    if (file.good()) {
         return NoFault;
+    }
     return WriteDataFile(path, SomeImage()) ? Written : Refused;
 }
 
@@ -143,8 +146,9 @@ TEST(AccessRights, RefuseANewFileInADirectoryThatMayNotBeChanged) {
     const TestDirectory directory;
     fs::permissions(directory.Path(), fs::perms(0555));
     EXPECT_EQ(AnswerOfChild([&] {
-                  if (!BecomeNobody() || std::ofstream(directory / "probe").is_open())
+                  if (!BecomeNobody() || std::ofstream(directory / "probe").is_open()) {
                       return NoFault;
+                  }
                   return WriteDataFile(directory / "new.dat", SomeImage()) ? Written : Refused;
               }),
               Refused);
@@ -158,8 +162,9 @@ TEST(AccessRights, AllowAWriteToAWritableFileInADirectoryThatMayNotBeChanged) {
         fs::permissions(directory / "radio.dat", fs::perms(0666));
         fs::permissions(directory.Path(), fs::perms(0555));
         EXPECT_EQ(AnswerOfChild([&] {
-                      if (!BecomeNobody() || std::ofstream(directory / "probe").is_open())
+                      if (!BecomeNobody() || std::ofstream(directory / "probe").is_open()) {
                           return NoFault;
+                      }
                       return WriteDataFile(directory / "radio.dat", SomeImage()) ? Written : Refused;
                   }),
                   Written);
@@ -172,15 +177,18 @@ TEST(AccessRights, AllowAWriteToAWritableFileInADirectoryThatMayNotBeChanged) {
 }
 
 TEST(AccessRights, AllowAWriteToAWritableFileThatOnlyItsOwnerMayReplace) {
-    if (geteuid() != 0)
+    if (geteuid() != 0) {
         GTEST_SKIP() << "needs an administrator to make somebody else's file";
+    }
     const TestDirectory directory;
     PutFile(directory / "radio.dat", std::string(1040, 'o'));
     fs::permissions(directory / "radio.dat", fs::perms(0666));
     fs::permissions(directory.Path(), fs::perms(01777));
     EXPECT_EQ(AnswerOfChild([&] {
-                  if (!BecomeNobody() || std::rename((directory / "radio.dat").c_str(), (directory / "x").c_str()) == 0)
+                  if (!BecomeNobody() ||
+                      std::rename((directory / "radio.dat").c_str(), (directory / "x").c_str()) == 0) {
                       return NoFault;
+                  }
                   return WriteDataFile(directory / "radio.dat", SomeImage()) ? Written : Refused;
               }),
               Written);
@@ -189,14 +197,16 @@ TEST(AccessRights, AllowAWriteToAWritableFileThatOnlyItsOwnerMayReplace) {
 }
 
 TEST(AccessRights, RefuseAWriteToAFileThatBelongsToSomebodyElse) {
-    if (geteuid() != 0)
+    if (geteuid() != 0) {
         GTEST_SKIP() << "needs an administrator to make somebody else's file";
+    }
     const TestDirectory directory;
     PutFile(directory / "radio.dat", "the old file");
     fs::permissions(directory / "radio.dat", fs::perms(0644));
     EXPECT_EQ(AnswerOfChild([&] {
-                  if (!BecomeNobody() || !std::ofstream(directory / "probe").is_open())
+                  if (!BecomeNobody() || !std::ofstream(directory / "probe").is_open()) {
                       return NoFault;
+                  }
                   fs::remove(directory / "probe");
                   return WriteDataFile(directory / "radio.dat", SomeImage()) ? Written : Refused;
               }),
@@ -210,8 +220,9 @@ TEST(AccessRights, HideAFileFromTheReader) {
     ASSERT_TRUE(WriteDataFile(directory / "radio.dat", SomeImage()));
     fs::permissions(directory / "radio.dat", fs::perms(0000));
     EXPECT_EQ(AnswerOfChild([&] {
-                  if (!BecomeNobody())
+                  if (!BecomeNobody()) {
                       return NoFault;
+                  }
                   return ReadDataFile(directory / "radio.dat").error == DataFileError::Unreadable ? Refused : Written;
               }),
               Refused);

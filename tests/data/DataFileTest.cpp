@@ -201,8 +201,9 @@ TEST(DataFile, KeepsTheTailOfALongerFile) {
     const fs::path path = directory / "radio.dat";
     for (const std::size_t tail : {1u, 1040u, 65536u, 200001u}) {
         std::string content(1040 + tail, '\x00');
-        for (std::size_t i = 0; i < content.size(); ++i)
+        for (std::size_t i = 0; i < content.size(); ++i) {
             content[i] = static_cast<char>(i * 31 + i / 251);
+        }
         PutFile(path, content);
         ASSERT_TRUE(WriteDataFile(path, SampleImage()));
         const std::string written = FileContent(path);

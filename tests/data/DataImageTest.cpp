@@ -10,8 +10,9 @@ namespace {
 
 TEST(DataImage, StartsAsAnErasedMemory) {
     const DataImage image;
-    for (int address = 0; address < 1024; ++address)
+    for (int address = 0; address < 1024; ++address) {
         EXPECT_EQ(image.At(address), 0xFF) << address;
+    }
 }
 
 TEST(DataImage, PlacesKnownIndexesAtTheirAddresses) {
@@ -37,8 +38,9 @@ TEST(DataImage, GivesEachAddressACellOfItsOwn) {
         image.Fill(0x00);
         image.Set(address, 0x01);
         int cells = 0;
-        for (int index = 0; index < 1024; ++index)
+        for (int index = 0; index < 1024; ++index) {
             cells += image.AtIndex(index);
+        }
         ASSERT_EQ(cells, 1) << address;
         ASSERT_EQ(image.AtIndex(address % 64 * 16 + address / 64), 0x01) << address;
     }
@@ -46,8 +48,9 @@ TEST(DataImage, GivesEachAddressACellOfItsOwn) {
 
 TEST(DataImage, KeepsBytesInAddressOrderOutward) {
     DataImage::Bytes bytes{};
-    for (std::size_t i = 0; i < bytes.size(); ++i)
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
         bytes[i] = static_cast<std::uint8_t>(i * 7 + i / 256);
+    }
     const DataImage image = DataImage::FromAddressOrder(bytes);
     EXPECT_EQ(image.At(0x000), 0);
     EXPECT_EQ(image.At(0x001), 7);

@@ -55,8 +55,9 @@ TEST(FrequencyCodec, LetsANibbleAboveNineWidenTheTextBeforeItIsFormatted) {
         {"140.00010", {0x0A, 0x00, 0x00, 0x14}}, // 14 00 00 10
         {"140.01000", {0x00, 0x0A, 0x00, 0x14}}, // 14 00 10 00 {"141.50000", {0x00, 0x00, 0x0F, 0x14}},
     };
-    for (const Coded& expected : cases)
+    for (const Coded& expected : cases) {
         EXPECT_EQ(FrequencyText(expected.bytes), expected.text);
+    }
 }
 
 TEST(FrequencyCodec, CallsAFrequencyZeroWhereAllDigitsAreZero) {
@@ -105,8 +106,9 @@ TEST(NormaliseFrequency, MovesAnEntryToTheNearestRasterPoint) {
         {"550", "550.00000", false},       //
         {"549.99999", "550.00000", false}, //
     };
-    for (const Entered& expected : cases)
+    for (const Entered& expected : cases) {
         ExpectNormalised(expected, AnyModel);
+    }
 }
 
 TEST(NormaliseFrequency, ComparesDistancesBelowTenHertzExactly) {
@@ -122,8 +124,9 @@ TEST(NormaliseFrequency, ComparesDistancesBelowTenHertzExactly) {
         {"145.011249", "145.01000", false},   // 124.9 against 125.1
         {"145.011251", "145.01250", false},   //
     };
-    for (const Entered& expected : cases)
+    for (const Entered& expected : cases) {
         ExpectNormalised(expected, AnyModel);
+    }
 }
 
 TEST(NormaliseFrequency, MovesAnEntryOutside100To550MHzToTheLimit) {
@@ -135,8 +138,9 @@ TEST(NormaliseFrequency, MovesAnEntryOutside100To550MHzToTheLimit) {
         {".", "100.00000", true},         {"None", "100.00000", true},
         {"0", "100.00000", true},         {"-145", "100.00000", true},
     };
-    for (const Entered& expected : cases)
+    for (const Entered& expected : cases) {
         ExpectNormalised(expected, AnyModel);
+    }
 }
 
 TEST(NormaliseFrequency, KeepsAnEntryOutsideANarrowerRangeAfterTheMessage) {
@@ -146,8 +150,9 @@ TEST(NormaliseFrequency, KeepsAnEntryOutsideANarrowerRangeAfterTheMessage) {
         {"174", "174.00000", false},     {"174.00001", "174.00001", true}, {"200.000005", "200.00001", true},
         {"550", "550.00000", true},      {"550.00001", "550.00000", true}, {"145.0031", "145.00500", false},
     };
-    for (const Entered& expected : cases)
+    for (const Entered& expected : cases) {
         ExpectNormalised(expected, NoModel);
+    }
 }
 
 TEST(NormaliseFrequency, LeavesEveryRasterPointAsItIs) {

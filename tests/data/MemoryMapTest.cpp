@@ -28,8 +28,9 @@ TEST(MemoryMap, NamesTheAddressesOfTheRadio) {
 }
 
 TEST(ChannelRecord, CallsAFrequencyMissingByItsTopByte) {
-    for (int byte = 0; byte < 256; ++byte)
+    for (int byte = 0; byte < 256; ++byte) {
         EXPECT_EQ(record::IsNoFrequency(byte), byte == 0 || byte == 255) << byte;
+    }
 }
 
 } // namespace

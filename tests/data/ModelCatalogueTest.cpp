@@ -64,15 +64,17 @@ TEST(ModelCatalogue, NamesAllSixteenVariantsInFourFamiliesOfText) {
 TEST(ModelCatalogue, HasNoOtherPairOfFamilyAndMarket) {
     int found = 0;
     for (int family = 0; family < 256; ++family) {
-        for (int market = 0; market < 256; ++market)
+        for (int market = 0; market < 256; ++market) {
             found += Find(family, market) != nullptr ? 1 : 0;
+        }
     }
     EXPECT_EQ(found, 16);
 }
 
 TEST(ModelCatalogue, KnowsThreeFamilyBytes) {
-    for (int family = 0; family < 256; ++family)
+    for (int family = 0; family < 256; ++family) {
         EXPECT_EQ(IsFamilyByte(static_cast<std::uint8_t>(family)), family == 0xF8 || family == 0xF9 || family == 0xFC);
+    }
 }
 
 TEST(ModelCatalogue, ListsTheModelsOfTheDialog) {
@@ -122,8 +124,9 @@ TEST(ModelCatalogue, NamesTheNavigatorsRootByFamilyAndBand) {
         EXPECT_EQ(NavigatorModelText(0xF8, byte), market < 2 ? "4618 (VHF)" : "5618 (UHF)") << market;
         EXPECT_EQ(NavigatorModelText(0xF9, byte), market < 2 ? "4613 (VHF)" : "5613 (UHF)") << market;
         EXPECT_EQ(NavigatorModelText(0xFC, byte), market < 2 ? "4617 (VHF)" : "5617 (UHF)") << market;
-        for (const int family : {0x00, 0xF7, 0xFA, 0xFF})
+        for (const int family : {0x00, 0xF7, 0xFA, 0xFF}) {
             EXPECT_EQ(NavigatorModelText(static_cast<std::uint8_t>(family), byte), "");
+        }
     }
 }
 
@@ -255,8 +258,9 @@ TEST(ParseIdentityText, ReadsEveryByteBack) {
 TEST(ParseIdentityText, GivesNothingForATextThatIsTooShortOrNotHexadecimal) {
     for (const std::string_view text :
          {"", "0", "50:34:36:31:38:01:F", "50:34:36:31:38:01:f8:FF", "50:34:36:31:38:0a:F8:FF",
-          "50:34:36:31:38:G1:F8:FF", "50:34:36:31:38:01:F :FF", "50:34:36:31:38:@1:F8:FF", "50:34:36:31:38:01:/8:FF"})
+          "50:34:36:31:38:G1:F8:FF", "50:34:36:31:38:01:F :FF", "50:34:36:31:38:@1:F8:FF", "50:34:36:31:38:01:/8:FF"}) {
         EXPECT_FALSE(ParseIdentityText(text).has_value()) << text;
+    }
 }
 
 } // namespace

@@ -48,8 +48,9 @@ inline std::string FileContent(const std::filesystem::path& path) {
 /// Names of the entries of a directory, in order.
 inline std::vector<std::string> EntriesOf(const std::filesystem::path& directory) {
     std::vector<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(directory))
+    for (const auto& entry : std::filesystem::directory_iterator(directory)) {
         names.push_back(entry.path().filename().string());
+    }
     std::sort(names.begin(), names.end());
     return names;
 }

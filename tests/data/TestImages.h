@@ -12,20 +12,23 @@ namespace zelvor::testing {
 /// The bytes of a text of hexadecimal pairs, stored in address order from `address` on.
 inline void StoreHex(DataImage& image, int address, std::string_view hex) {
     const auto digit = [](char c) { return c <= '9' ? c - '0' : c - 'A' + 10; };
-    for (std::size_t i = 0; i + 1 < hex.size(); i += 2)
+    for (std::size_t i = 0; i + 1 < hex.size(); i += 2) {
         image.Set(address++, static_cast<std::uint8_t>(digit(hex[i]) * 16 + digit(hex[i + 1])));
+    }
 }
 
 inline void StoreBytes(DataImage& image, int address, std::initializer_list<int> bytes) {
-    for (const int byte : bytes)
+    for (const int byte : bytes) {
         image.Set(address++, static_cast<std::uint8_t>(byte));
+    }
 }
 
 inline DataImage RandomImage(std::mt19937& random) {
     DataImage image;
     std::uniform_int_distribution<int> byte(0, 255);
-    for (int address = 0; address < 1024; ++address)
+    for (int address = 0; address < 1024; ++address) {
         image.Set(address, static_cast<std::uint8_t>(byte(random)));
+    }
     return image;
 }
 

@@ -38,8 +38,9 @@ TEST(ToneCodec, ListsAll205TonesInOrder) {
         const std::vector<std::string> list = BuildToneList(language);
         ASSERT_EQ(list.size(), 205u);
         EXPECT_EQ(list[0], language == Language::English ? "None" : "无");
-        for (std::size_t i = 1; i < list.size(); ++i)
+        for (std::size_t i = 1; i < list.size(); ++i) {
             EXPECT_EQ(list[i], ExpectedTones[i - 1]) << i;
+        }
     }
     EXPECT_EQ(BuildToneList(Language::English)[38], "250.3");
     EXPECT_EQ(BuildToneList(Language::English)[39], "D023N");
@@ -49,8 +50,9 @@ TEST(ToneCodec, ListsAll205TonesInOrder) {
 TEST(ToneCodec, BringsEveryToneOfTheListBack) {
     for (const Language language : {Language::English, Language::Chinese}) {
         ToneEncoder encoder;
-        for (const std::string& tone : BuildToneList(language))
+        for (const std::string& tone : BuildToneList(language)) {
             EXPECT_EQ(ToneText(encoder.Encode(tone, language), language), tone);
+        }
     }
 }
 
@@ -93,8 +95,9 @@ TEST(ToneCodec, RoundsAQtToTenthsOfAHertz) {
 
 TEST(ToneCodec, KnowsDqtByBitFiveAndIgnoresTheBitsWithoutMeaning) {
     for (int hi = 0; hi < 256; ++hi) {
-        if ((hi & 0x20) == 0 || hi == 0xFF)
+        if ((hi & 0x20) == 0 || hi == 0xFF) {
             continue;
+        }
         const std::string text = ToneText({0x13, static_cast<std::uint8_t>(hi)}, Language::English).value_or("");
         const std::string code = (hi & 0x01) != 0 ? "D423" : "D023";
         EXPECT_EQ(text, code + ((hi & 0x80) != 0 ? "I" : "N")) << hi;
@@ -117,8 +120,9 @@ TEST(ToneCodec, CodesEveryOctalCodeBothWays) {
 
 TEST(ToneCodec, ShowsTenthsOfAHertzAndNothingForAQtOfFiveDigits) {
     for (int hi = 1; hi < 255; ++hi) {
-        if ((hi & 0x20) != 0)
+        if ((hi & 0x20) != 0) {
             continue;
+        }
         for (int lo = 0; lo < 256; ++lo) {
             const std::optional<std::string> text =
                 ToneText({static_cast<std::uint8_t>(lo), static_cast<std::uint8_t>(hi)}, Language::English);
@@ -180,8 +184,9 @@ TEST(NormaliseTone, CompletesWhatWasTyped) {
         {"100.1", "100.1"}, {"67", "67.0"},      {"67.09", "67.0"},   {"66.99", "67.0"},   {"5", "67.0"},
         {".", "67.0"},      {"88.55", "88.5"},   {"123.4", "123.4"},  {"99.99", "99.9"},   {"1..", "67.0"},
     };
-    for (const Entered& expected : cases)
+    for (const Entered& expected : cases) {
         EXPECT_EQ(NormaliseTone(expected.text, Language::English), expected.result) << expected.text;
+    }
 }
 
 TEST(NormaliseTone, UsesTheWordForNoneOfTheLanguage) {
@@ -195,8 +200,9 @@ TEST(NormaliseTone, AcceptsEveryTenthOfAHertzAndEveryToneOfTheList) {
         const std::string text = std::to_string(tenths / 10) + "." + std::to_string(tenths % 10);
         EXPECT_EQ(NormaliseTone(text, Language::English), text);
     }
-    for (const std::string_view tone : ExpectedTones)
+    for (const std::string_view tone : ExpectedTones) {
         EXPECT_EQ(NormaliseTone(tone, Language::English), tone);
+    }
 }
 
 } // namespace

@@ -40,10 +40,11 @@ protected:
 
     static void Prepare(EngineRig& rig) {
         rig.UsePattern();
-        if (GetParam().direction == Read)
+        if (GetParam().direction == Read) {
             rig.session.Image.Fill(0xEE);
-        else
+        } else {
             rig.radio.Memory.fill(0xDD);
+        }
         rig.radio.ByteByByte = GetParam().byteByByte;
         rig.ConnectRadio();
     }
@@ -63,11 +64,13 @@ protected:
     }
 
     static void ExpectTransferred(const EngineRig& rig) {
-        if (GetParam().direction == Read)
-            for (int address = 0; address < 1024; ++address)
+        if (GetParam().direction == Read) {
+            for (int address = 0; address < 1024; ++address) {
                 EXPECT_EQ(rig.session.Image.At(address), PatternAt(address)) << address;
-        else
+            }
+        } else {
             EXPECT_EQ(rig.radio.Memory[0x335], PatternAt(0x335));
+        }
         EXPECT_FALSE(rig.radio.IsProgramming());
     }
 };
@@ -80,10 +83,12 @@ TEST_P(SpoiledReplies, PromptAndThenRetrySucceedsOrCancelClosesAndTheNextTransfe
         EngineRig rig(GetParam().direction);
         Prepare(rig);
         rig.radio.Spoil(reply, GetParam().fault);
-        if (IsNoticed(reply))
+        if (IsNoticed(reply)) {
             ExpectPrompt(rig, reply);
-        if (retries || !IsNoticed(reply))
+        }
+        if (retries || !IsNoticed(reply)) {
             rig.messages.Expect(CompletedBox(), MessageAnswer::Ok);
+        }
         rig.engine->Start();
         rig.clock.Advance(12000);
 
@@ -92,8 +97,9 @@ TEST_P(SpoiledReplies, PromptAndThenRetrySucceedsOrCancelClosesAndTheNextTransfe
         EXPECT_EQ(rig.Count("unload"), 1);
         EXPECT_EQ(rig.Count(completed), retries || !IsNoticed(reply) ? 1 : 0);
         EXPECT_FALSE(rig.Port().IsOpen());
-        if (rig.Count(completed) == 1)
+        if (rig.Count(completed) == 1) {
             ExpectTransferred(rig);
+        }
 
         rig.LoadAgain(GetParam().direction);
         rig.messages.Expect(CompletedBox(), MessageAnswer::Ok);

@@ -28,17 +28,20 @@ constexpr Packet Packets[] = {
 
 DataImage PatternImage() {
     DataImage image;
-    for (int address = 0; address < 1024; ++address)
+    for (int address = 0; address < 1024; ++address) {
         image.Set(address, PatternAt(address));
+    }
     return image;
 }
 
 // The patterned image as packet building changes it.
 std::uint8_t PreparedAt(int address) {
-    if (address == 0x00C)
+    if (address == 0x00C) {
         return 0xFF;
-    if (address == 0x10C || (address < 0x100 && address % 16 == 12))
+    }
+    if (address == 0x10C || (address < 0x100 && address % 16 == 12)) {
         return 0x00;
+    }
     return PatternAt(address);
 }
 
@@ -68,11 +71,13 @@ TEST(BuildWritePacket, PutsHeadAndImageBytesOfEveryStepIntoAnExactBuffer) {
 
         Bytes expected{0x57, static_cast<std::uint8_t>(packet.address / 256),
                        static_cast<std::uint8_t>(packet.address % 256), static_cast<std::uint8_t>(packet.count)};
-        for (int i = 0; i < packet.count; ++i)
+        for (int i = 0; i < packet.count; ++i) {
             expected.push_back(PreparedAt(packet.address + i));
-        if (packet.step == 1)
+        }
+        if (packet.step == 1) {
             expected = {0x57, 0,    0,    16,   0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF,
                         0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0x00, 0xFF, 0xFF, 0x03, 0xFF};
+        }
         EXPECT_EQ(Hex(link.TxBuffer), Hex(expected));
     }
 }
@@ -88,8 +93,9 @@ TEST(BuildWritePacket, FirstPacketIsFixedWhateverTheImageHolds) {
 
 TEST(BuildWritePacket, StepTwentyFiveJoinsTheEndOfBlockSixAndTheStartOfBlockSeven) {
     DataImage image;
-    for (int address = 0x1B8; address <= 0x1C7; ++address)
+    for (int address = 0x1B8; address <= 0x1C7; ++address) {
         image.Set(address, static_cast<std::uint8_t>(address - 0x1B8 + 0xA0));
+    }
     LinkState link;
     link.StepCount = 25;
     link.AddrHigh = 1;
@@ -100,8 +106,9 @@ TEST(BuildWritePacket, StepTwentyFiveJoinsTheEndOfBlockSixAndTheStartOfBlockSeve
 
 TEST(BuildWritePacket, StepTwentyNineHasEightDataBytes) {
     DataImage image;
-    for (int address = 0x1F8; address <= 0x1FF; ++address)
+    for (int address = 0x1F8; address <= 0x1FF; ++address) {
         image.Set(address, static_cast<std::uint8_t>(address - 0x1F8 + 0xB0));
+    }
     LinkState link;
     link.StepCount = 29;
     link.AddrHigh = 1;
@@ -129,8 +136,9 @@ TEST(BuildWritePacket, ClearsByteTwelveOfTheFirstSixteenGroupsInTheImage) {
     link.StepCount = 40;
     BuildWritePacket(link, image);
     EXPECT_EQ(image.AtIndex(192), 0xFF);
-    for (const int index : {193, 194, 195, 196, 448, 449, 450, 451, 704, 705, 706, 707, 960, 961, 962, 963})
+    for (const int index : {193, 194, 195, 196, 448, 449, 450, 451, 704, 705, 706, 707, 960, 961, 962, 963}) {
         EXPECT_EQ(image.AtIndex(index), 0x00) << index;
+    }
 }
 
 TEST(BuildWritePacket, ChangesNoOtherByteOfTheImage) {
@@ -151,8 +159,9 @@ TEST(StoreReadBlock, PutsByteOfBlockAtColumnTimesSixteenPlusRow) {
         DataImage image;
         image.Fill(0xEE);
         Bytes reply{0x57, 0, 0, 0x40};
-        for (int i = 0; i < 64; ++i)
+        for (int i = 0; i < 64; ++i) {
             reply.push_back(static_cast<std::uint8_t>(i + step));
+        }
         StoreReadBlock(image, step, reply);
         for (int index = 0; index < 1024; ++index) {
             const int expected = index % 16 == step - 1 ? index / 16 + step : 0xEE;
@@ -193,8 +202,9 @@ TEST(AdvanceAddress, ReadingRisesBySixtyFourAndStaysFromStepSeventeenOn) {
     link.TransferMode = 0;
     for (int step = 1; step <= 18; ++step) {
         link.StepCount = step;
-        if (step > 1)
+        if (step > 1) {
             AdvanceAddress(link);
+        }
         EXPECT_EQ(link.AddrHigh, addresses[step - 1] / 256) << step;
         EXPECT_EQ(link.AddrLow, addresses[step - 1] % 256) << step;
     }
@@ -205,8 +215,9 @@ TEST(AdvanceAddress, WritingFollowsTheFortyNinePackets) {
     link.TransferMode = 1;
     for (const Packet& packet : Packets) {
         link.StepCount = packet.step;
-        if (packet.step > 1)
+        if (packet.step > 1) {
             AdvanceAddress(link);
+        }
         EXPECT_EQ(link.AddrHigh, packet.address / 256) << packet.step;
         EXPECT_EQ(link.AddrLow, packet.address % 256) << packet.step;
     }

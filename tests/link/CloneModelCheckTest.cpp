@@ -43,8 +43,9 @@ TEST_P(ModelCheck, ShowsThePromptInTheWriteDirection) {
     EngineRig rig(Write);
     rig.session.Image.SetIndex(982, c.image6);
     rig.session.Image.SetIndex(998, c.image7);
-    if (c.asks)
+    if (c.asks) {
         rig.messages.Expect(ModelPrompt(), MessageAnswer::Ok);
+    }
     rig.ToIdentity();
     rig.Answer({0x50, 0x34, 0x36, 0x31, 0x38, c.radio6, c.radio7, 0xFF});
     rig.TakeSent();
@@ -70,9 +71,9 @@ INSTANTIATE_TEST_SUITE_P(TruthTable, ModelCheck, testing::ValuesIn(Cases));
 
 TEST(ModelCheckOfEveryPair, AgreesWithTheThreeConditions) {
     constexpr std::uint8_t values[] = {0x00, 0x01, 0x33, 0xF8, 0xFF};
-    for (const std::uint8_t id6 : values)
-        for (const std::uint8_t id7 : values)
-            for (const std::uint8_t i982 : values)
+    for (const std::uint8_t id6 : values) {
+        for (const std::uint8_t id7 : values) {
+            for (const std::uint8_t i982 : values) {
                 for (const std::uint8_t i998 : values) {
                     DataImage image;
                     image.SetIndex(982, i982);
@@ -81,6 +82,9 @@ TEST(ModelCheckOfEveryPair, AgreesWithTheThreeConditions) {
                     const bool asks = (id6 != i982 || id7 != i998) && (id7 != 0x33 || id6 != i982);
                     EXPECT_EQ(IsModelWrong(identity, image), asks) << Hex(identity);
                 }
+            }
+        }
+    }
 }
 
 class RefusedModel : public testing::Test {
@@ -114,8 +118,9 @@ TEST_F(RefusedModel, SendsEndAndNoData) {
 TEST_F(RefusedModel, LeavesTheImageUntouched) {
     Refuse();
     rig.clock.Advance(500);
-    for (int address = 0; address < 1024; ++address)
+    for (int address = 0; address < 1024; ++address) {
         EXPECT_EQ(rig.session.Image.At(address), PatternAt(address)) << address;
+    }
 }
 
 TEST_F(RefusedModel, ShowsNoCompletionAndKeepsTheFlags) {

@@ -224,8 +224,9 @@ TEST(RetryDuringAWrite, RebuildsPacketOne) {
 
 TEST(Retry, IsUnlimited) {
     EngineRig rig(Read);
-    for (int i = 0; i < 20; ++i)
+    for (int i = 0; i < 20; ++i) {
         rig.messages.Expect(ConnectionPrompt(), MessageAnswer::Retry);
+    }
     rig.engine->Start();
     rig.clock.Advance(10 + 20 * (500 + 100 + 1700 + 10));
     EXPECT_EQ(rig.messages.Pending(), 0);
@@ -244,8 +245,9 @@ TEST(FailedRead, KeepsTheBlocksThatArrivedAndDecodesNothing) {
     rig.engine->Start();
     rig.clock.Advance(2000);
     EXPECT_EQ(rig.radio.FaultsFired(), 1);
-    for (int address = 0; address < 192; ++address)
+    for (int address = 0; address < 192; ++address) {
         EXPECT_EQ(rig.session.Image.At(address), PatternAt(address)) << address;
+    }
     EXPECT_EQ(rig.session.Image.At(192), 0xEE);
     EXPECT_EQ(rig.Count("read completed"), 0);
 }

@@ -38,9 +38,11 @@ TEST_F(CloneRead, HasThisWholeTranscript) {
 TEST_F(CloneRead, IssuesExactlySeventeenReadBlockCommandsTheLastTwoForTheSameAddress) {
     Run();
     std::vector<std::string> blocks;
-    for (const std::string& command : rig.radio.Commands())
-        if (command.starts_with("52 "))
+    for (const std::string& command : rig.radio.Commands()) {
+        if (command.starts_with("52 ")) {
             blocks.push_back(command);
+        }
+    }
     ASSERT_EQ(blocks.size(), 17U);
     EXPECT_EQ(blocks[14], "52 03 80 40");
     EXPECT_EQ(blocks[15], "52 03 C0 40");
@@ -56,8 +58,9 @@ TEST_F(CloneRead, ExchangesTwelveHundredAndSeventyEightBytesBothWaysTogether) {
 
 TEST_F(CloneRead, ReplacesAllBytesOfTheImage) {
     Run();
-    for (int address = 0; address < 1024; ++address)
+    for (int address = 0; address < 1024; ++address) {
         EXPECT_EQ(rig.session.Image.At(address), PatternAt(address)) << address;
+    }
 }
 
 TEST_F(CloneRead, WorksTheSameWithRepliesInSingleBytes) {
@@ -66,8 +69,9 @@ TEST_F(CloneRead, WorksTheSameWithRepliesInSingleBytes) {
     rig.engine->Start();
     rig.clock.Advance(3000);
     EXPECT_EQ(rig.radio.Commands().size(), 38U);
-    for (int address = 0; address < 1024; ++address)
+    for (int address = 0; address < 1024; ++address) {
         EXPECT_EQ(rig.session.Image.At(address), PatternAt(address)) << address;
+    }
 }
 
 TEST_F(CloneRead, SpendsOneMillisecondBetweenAReplyAndTheNextCommand) {
@@ -128,9 +132,11 @@ TEST_F(CloneRead, ClearsTheFlagsThatStopAWrite) {
 TEST_F(CloneRead, RaisesTheBarSixteenTimesAndNotForTheRepeatedBlock) {
     Run();
     std::vector<std::string> progress;
-    for (const std::string& event : rig.events)
-        if (event.starts_with("progress"))
+    for (const std::string& event : rig.events) {
+        if (event.starts_with("progress")) {
             progress.push_back(event);
+        }
+    }
     const std::vector<std::string> expected{"progress 1",  "progress 2",  "progress 3",  "progress 4",
                                             "progress 5",  "progress 6",  "progress 7",  "progress 8",
                                             "progress 9",  "progress 10", "progress 11", "progress 12",

@@ -180,8 +180,9 @@ TEST(CloneStepsReading, TheIdentityGoesToTheImageAtOnce) {
     EXPECT_EQ(rig.session.Image.AtIndex(982), 0xA6);
     EXPECT_EQ(rig.session.Image.AtIndex(998), 0xA7);
     int changed = 0;
-    for (int index = 0; index < 1024; ++index)
+    for (int index = 0; index < 1024; ++index) {
         changed += rig.session.Image.AtIndex(index) != 0xEE;
+    }
     EXPECT_EQ(changed, 2);
 }
 
@@ -223,8 +224,9 @@ TEST(CloneStepsReading, StateFourBadReplyHasChangedTheImageAndFailsInThreeMillis
     rig.Port().Deliver(reply);
     EXPECT_EQ(Timers(rig), "off 3");
     EXPECT_EQ(rig.Link().CommState, 4);
-    for (int address = 0; address < 64; ++address)
+    for (int address = 0; address < 64; ++address) {
         EXPECT_EQ(rig.session.Image.At(address), PatternAt(address)) << address;
+    }
 }
 
 TEST(CloneStepsReading, TheRepeatedBlockIsThrownAwayAfterTheTestOfItsFirstByte) {

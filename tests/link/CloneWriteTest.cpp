@@ -18,12 +18,15 @@ constexpr const char* PacketHeads[] = {
 
 // What the radio holds at an address after a write of the patterned image.
 int WrittenAt(int address, std::uint8_t before) {
-    if (address < 0x010)
+    if (address < 0x010) {
         return address == 0x00B ? 0x00 : address == 0x00E ? 0x03 : 0xFF;
-    if ((address >= 0x180 && address < 0x1B8) || address >= 0x340)
+    }
+    if ((address >= 0x180 && address < 0x1B8) || address >= 0x340) {
         return before;
-    if (address == 0x10C || (address < 0x100 && address % 16 == 12))
+    }
+    if (address == 0x10C || (address < 0x100 && address % 16 == 12)) {
         return 0x00;
+    }
     return PatternAt(address);
 }
 
@@ -55,8 +58,9 @@ TEST_F(CloneWrite, HasThisWholeTranscript) {
         const int high = std::stoi(commands[3 + i].substr(3, 2), nullptr, 16);
         const int low = std::stoi(commands[3 + i].substr(6, 2), nullptr, 16);
         Bytes data;
-        for (int address = high * 256 + low; data.size() < (i == 28 ? 8U : 16U); ++address)
+        for (int address = high * 256 + low; data.size() < (i == 28 ? 8U : 16U); ++address) {
             data.push_back(static_cast<std::uint8_t>(WrittenAt(address, 0xDD)));
+        }
         EXPECT_EQ(commands[3 + i], PacketHeads[i] + std::string(" ") + Hex(data)) << i + 1;
     }
     EXPECT_EQ(commands[52], "45");
@@ -72,8 +76,9 @@ TEST_F(CloneWrite, SendsAThousandAndFortyOneBytesBothWaysTogether) {
 
 TEST_F(CloneWrite, LeavesTheTuningRegionAndTheLastBytesAlone) {
     Run();
-    for (int address = 0; address < 1024; ++address)
+    for (int address = 0; address < 1024; ++address) {
         EXPECT_EQ(rig.radio.Memory[static_cast<std::size_t>(address)], WrittenAt(address, 0xDD)) << address;
+    }
 }
 
 TEST_F(CloneWrite, WorksTheSameWithRepliesInSingleBytes) {
@@ -86,8 +91,9 @@ TEST_F(CloneWrite, WorksTheSameWithRepliesInSingleBytes) {
 TEST_F(CloneWrite, ChangesTheImageAsPacketBuildingDoes) {
     Run();
     EXPECT_EQ(rig.session.Image.AtIndex(192), 0xFF);
-    for (const int index : {193, 194, 195, 196, 448, 449, 450, 451, 704, 705, 706, 707, 960, 961, 962, 963})
+    for (const int index : {193, 194, 195, 196, 448, 449, 450, 451, 704, 705, 706, 707, 960, 961, 962, 963}) {
         EXPECT_EQ(rig.session.Image.AtIndex(index), 0x00) << index;
+    }
 }
 
 TEST_F(CloneWrite, DoesNotTakeTheIdentityIntoTheImage) {

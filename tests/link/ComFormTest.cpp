@@ -31,8 +31,9 @@ TEST_F(ComFormTest, HasItsTextsInEnglish) {
     EXPECT_EQ(form->objectName(), "ComForm");
     EXPECT_EQ(FromQString(form->windowTitle()), "Communication Port");
     EXPECT_EQ(FromQString(Find<QGroupBox>(*form, "frmPort").title()), "Communication Port");
-    for (int n = 1; n <= 20; ++n)
+    for (int n = 1; n <= 20; ++n) {
         EXPECT_EQ(FromQString(OptPort(n - 1).text()), "COM" + std::to_string(n));
+    }
     EXPECT_EQ(CaptionOf(*form, "cmdOK"), "&OK");
     EXPECT_EQ(CaptionOf(*form, "cmdCancel"), "&Cancel");
     EXPECT_EQ(CaptionOf(*form, "cmdHelp"), "&Help");
@@ -43,26 +44,31 @@ TEST_F(ComFormTest, HasItsTextsInChinese) {
     Load();
     EXPECT_EQ(FromQString(form->windowTitle()), "通信端口");
     EXPECT_EQ(FromQString(Find<QGroupBox>(*form, "frmPort").title()), "通信端口");
-    for (int n = 1; n <= 20; ++n)
+    for (int n = 1; n <= 20; ++n) {
         EXPECT_EQ(FromQString(OptPort(n - 1).text()), "通信口" + std::to_string(n));
+    }
     EXPECT_EQ(CaptionOf(*form, "cmdOK"), "确定(&O)");
     EXPECT_EQ(CaptionOf(*form, "cmdCancel"), "取消(&C)");
     EXPECT_EQ(CaptionOf(*form, "cmdHelp"), "帮助(&H)");
 }
 
 TEST_F(ComFormTest, ProbesThePortsInOrderForTwoHundredMillisecondsEach) {
-    for (int n = 4; n <= 20; ++n)
+    for (int n = 4; n <= 20; ++n) {
         fakes.ports.Missing(n);
+    }
     Load();
     EXPECT_EQ(fakes.clock.Sleeps(), (std::vector<int>{200, 200, 200}));
     const std::vector<std::string>& log = fakes.ports.Record("MSComm1").log;
     std::vector<std::string> numbers;
-    for (const std::string& line : log)
-        if (line.starts_with("number"))
+    for (const std::string& line : log) {
+        if (line.starts_with("number")) {
             numbers.push_back(line);
+        }
+    }
     ASSERT_EQ(numbers.size(), 20U);
-    for (std::size_t n = 1; n <= 20; ++n)
+    for (std::size_t n = 1; n <= 20; ++n) {
         EXPECT_EQ(numbers[n - 1], "number " + std::to_string(n));
+    }
 }
 
 TEST_F(ComFormTest, SendsItsBytesAtNineteenTwoHundredWithOneStopBit) {
@@ -76,8 +82,9 @@ TEST_F(ComFormTest, EnablesExactlyThePortsThatOpen) {
     fakes.ports.Missing(2);
     fakes.ports.InUse(5);
     Load();
-    for (int n = 1; n <= 20; ++n)
+    for (int n = 1; n <= 20; ++n) {
         EXPECT_EQ(OptPort(n - 1).isEnabled(), n != 2 && n != 5) << n;
+    }
     EXPECT_TRUE(fakes.messages.Shown().empty());
 }
 
@@ -119,8 +126,9 @@ TEST_F(ComFormTest, OkTakesADisabledButtonThatIsSet) {
 TEST_F(ComFormTest, OkWithNoButtonSetGivesTwentyOne) {
     session.CommPortNumber = 21;
     ShowActive(Load());
-    for (int index = 0; index < 20; ++index)
+    for (int index = 0; index < 20; ++index) {
         EXPECT_FALSE(OptPort(index).isChecked());
+    }
     session.CommPortNumber = 1;
     Click(*form, "cmdOK");
     EXPECT_EQ(session.CommPortNumber, 21);

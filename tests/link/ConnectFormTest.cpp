@@ -125,8 +125,9 @@ TEST_F(ConnectFormTest, ExecReturnsWhenTheTransferIsOver) {
 TEST_F(ConnectFormTest, DisablesItsButtonsWhileItRuns) {
     ShowActive(Load(TransferDirection::Read));
     Click(*form, "cmdOK");
-    for (const char* button : {"cmdOK", "cmdCancel", "cmdHelp"})
+    for (const char* button : {"cmdOK", "cmdCancel", "cmdHelp"}) {
         EXPECT_FALSE(IsEnabled(button)) << button;
+    }
     fakes.clock.Advance(30);
     QTest::keyClick(form.get(), Qt::Key_F1);
     EXPECT_TRUE(fakes.help.Topics().empty());
@@ -173,8 +174,9 @@ TEST_F(ConnectFormTest, RefusesToCloseBehindThePromptAndClosesAfterCancel) {
     fakes.clock.Advance(1000);
     EXPECT_EQ(radio.FaultsFired(), 1);
     EXPECT_EQ(notes, std::vector<std::string>{"unloaded, hidden"});
-    for (const char* button : {"cmdOK", "cmdCancel", "cmdHelp"})
+    for (const char* button : {"cmdOK", "cmdCancel", "cmdHelp"}) {
         EXPECT_TRUE(IsEnabled(button)) << button;
+    }
 }
 
 TEST_F(ConnectFormTest, MayBeClosedByItsFrameOnceTheUserRefusedTheModel) {

@@ -28,8 +28,9 @@ Bytes IdentityReply() {
 Bytes BlockReply(int block) {
     const int first = (block - 1) * 64;
     Bytes reply{0x57, static_cast<std::uint8_t>(first / 256), static_cast<std::uint8_t>(first % 256), 0x40};
-    for (int i = 0; i < 64; ++i)
+    for (int i = 0; i < 64; ++i) {
         reply.push_back(PatternAt(first + i));
+    }
     return reply;
 }
 
@@ -42,15 +43,17 @@ EngineRig::~EngineRig() = default;
 
 void EngineRig::UsePattern() {
     FillImageWithPattern();
-    for (int address = 0; address < 1024; ++address)
+    for (int address = 0; address < 1024; ++address) {
         radio.Memory[static_cast<std::size_t>(address)] = PatternAt(address);
+    }
     radio.Identity[5] = PatternAt(0x1BD);
     radio.Identity[6] = PatternAt(0x1BE);
 }
 
 void EngineRig::FillImageWithPattern() {
-    for (int address = 0; address < 1024; ++address)
+    for (int address = 0; address < 1024; ++address) {
         session.Image.Set(address, PatternAt(address));
+    }
 }
 
 void EngineRig::LoadAgain(int transferMode) {
@@ -90,8 +93,9 @@ void EngineRig::Answer(const Bytes& reply) {
 
 void EngineRig::AnswerUntilStep(int step) {
     while (Link().StepCount < step) {
-        if (Link().TransferMode == Read)
+        if (Link().TransferMode == Read) {
             Answer(BlockReply(std::min(Link().StepCount, 16)));
+        }
         Answer({0x06});
     }
 }
@@ -112,8 +116,9 @@ int EngineRig::Count(const std::string& event) const {
 
 void EngineRig::OnReadCompleted() {
     events.emplace_back("read completed");
-    if (WhenReadCompleted)
+    if (WhenReadCompleted) {
         WhenReadCompleted();
+    }
 }
 
 } // namespace zelvor

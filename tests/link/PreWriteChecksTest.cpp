@@ -15,8 +15,9 @@ void SetCodeByte(Session& session, int channel, std::uint8_t value) {
 class PreWriteChecks : public testing::Test {
 protected:
     PreWriteChecks() {
-        for (int channel = 1; channel <= 16; ++channel)
+        for (int channel = 1; channel <= 16; ++channel) {
             SetCodeByte(session, channel, 0x00);
+        }
     }
     // Channel 7 uses the code.
     void UseCode() { SetCodeByte(session, 7, 0x01); }

@@ -19,12 +19,14 @@ void ScriptedRadio::Serve(std::span<const std::uint8_t> command) {
         programming_ = true;
         return Reply({0x06});
     }
-    if (!programming_)
+    if (!programming_) {
         return;
+    }
     if (command.front() == 'E') {
         programming_ = false;
-        if (AnswersEnd)
+        if (AnswersEnd) {
             DeliverAfter(ReplyDelay, {0x06});
+        }
     } else if (command.front() == 0x02) {
         Reply(Bytes(Identity.begin(), Identity.end()));
     } else if (command.front() == 0x06) {
@@ -70,15 +72,17 @@ void ScriptedRadio::Reply(Bytes reply) {
 
 void ScriptedRadio::DeliverAfter(int milliseconds, const Bytes& reply) {
     const auto deliver = [this](const Bytes& bytes) {
-        if (FakeSerialPort* port = ports_.Port("MSComm1"))
+        if (FakeSerialPort* port = ports_.Port("MSComm1")) {
             port->Deliver(bytes);
+        }
     };
     if (!ByteByByte) {
         clock_.At(milliseconds, [=] { deliver(reply); });
         return;
     }
-    for (const std::uint8_t byte : reply)
+    for (const std::uint8_t byte : reply) {
         clock_.At(milliseconds++, [=] { deliver({byte}); });
+    }
 }
 
 } // namespace zelvor

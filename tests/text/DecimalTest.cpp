@@ -24,13 +24,15 @@ TEST(Decimal, ReadsTheLongestNumberAtTheStartOfAText) {
         {"007", "7.0000000000"},        {"1 2", "1.0000000000"},
         {"1,5", "1.0000000000"},        {"145.00000001", "145.0000000100"},
     };
-    for (const Parsed& expected : cases)
+    for (const Parsed& expected : cases) {
         EXPECT_EQ(Decimal::Leading(expected.text).Format(1, 10), expected.tenDecimals) << expected.text;
+    }
 }
 
 TEST(Decimal, ReadsZeroFromATextThatStartsWithNoNumber) {
-    for (const std::string_view text : {"", " ", "None", "无", ".", "-", "+", "--1", "-+1", "D023N", "..5"})
+    for (const std::string_view text : {"", " ", "None", "无", ".", "-", "+", "--1", "-+1", "D023N", "..5"}) {
         EXPECT_TRUE(Decimal::Leading(text).IsZero()) << text;
+    }
     EXPECT_FALSE(Decimal::Leading("0.0000000001").IsZero());
 }
 
@@ -77,9 +79,10 @@ TEST(Decimal, FormatsWithHalvesRoundedAwayFromZero) {
         {"123", 2, 0, "123"},
         {"1451.25", 4, 4, "1451.2500"},
     };
-    for (const Formatted& expected : cases)
+    for (const Formatted& expected : cases) {
         EXPECT_EQ(Decimal::Leading(expected.text).Format(expected.integerDigits, expected.decimals), expected.result)
             << expected.text;
+    }
 }
 
 TEST(Decimal, RoundsToWholeNumbersOfAPlace) {
