@@ -160,6 +160,9 @@ void ChannelCellEditor::ShowCellEditor() {
 
 void ChannelCellEditor::HideEditors() {
     state_ = State::Idle;
+    if (txtInputBox_->hasFocus() || comInputStep_->hasFocus()) {
+        grid_.setFocus(); // before hiding, which would hand the focus on to the next control for a moment
+    }
     txtInputBox_->hide();
     comInputStep_->hide();
 }

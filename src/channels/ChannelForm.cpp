@@ -33,8 +33,9 @@ constexpr TextPair GridFormat{
     "^|^RX Frequency|^TX Frequency|^QT/DQT Dec|^QT/DQT Enc|^TX Power|^W/N|^Scan Add|^Opt Signal|^PTT ID;Channel No.",
     "^|^接收频率|^发射频率|^QT/DQT解码|^QT/DQT编码 |^发射功率 |^宽/窄|^扫描添加 |^可选信令 |^PTT ID;信道编号"};
 
-constexpr TextPair HintText{"Enter or a click edits a cell, Up and Down step through its values, Esc goes back.",
-                            "按回车键或单击可编辑单元格，上下方向键选择数值，Esc 键还原。"};
+constexpr TextPair HintText{
+    "Enter or a click edits a cell, Up and Down step through its values, Esc takes back a frequency.",
+    "按回车键或单击可编辑单元格，上下方向键选择数值，Esc 键还原频率。"};
 
 std::vector<int> ColumnWidths(int gridWidth) {
     constexpr double percents[] = {10, 11, 11, 11, 11, 8, 7, 8, 10, 11 + 100.0 / 110};
@@ -184,6 +185,11 @@ void ChannelForm::ClearChannelData(int row) {
 
 void ChannelForm::SelectCell(int row, int column) {
     channelGrid_->MoveTo(row, column);
+}
+
+void ChannelForm::SelectFirstCell() {
+    SelectCell(1, 1);
+    OnCursorMoved(1, 1);
 }
 
 void ChannelForm::HideEditors() {

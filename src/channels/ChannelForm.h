@@ -33,6 +33,8 @@ public:
     void ClearChannelData(int row);
     /// Moves the cursor; row 1 to 16, column 1 to 9.
     void SelectCell(int row, int column);
+    /// Also where the cursor is there already: the dialog may have moved on to another channel.
+    void SelectFirstCell();
     /// A cell's text, row 1 to 16 and column 1 to 9. Setting it changes neither working texts nor image.
     [[nodiscard]] QString CellText(int row, int column) const;
     void SetCellText(int row, int column, const QString& text);

@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "controls/EditGrid.h"
+#include "controls/PendingEdit.h"
 
 namespace zelvor {
 
@@ -99,7 +100,8 @@ void CellListEditor::wheelEvent(QWheelEvent* event) {
 void CellListEditor::focusOutEvent(QFocusEvent* event) {
     QComboBox::focusOutEvent(event);
     // Opening the list gives the focus to the list's own window, in two steps with two reasons.
-    if (event->reason() != Qt::PopupFocusReason && !view()->isVisible()) {
+    if (event->reason() != Qt::PopupFocusReason && !view()->isVisible() &&
+        IsLeft(*this, *event, [this] { emit FocusLeft(); })) {
         emit FocusLeft();
     }
 }

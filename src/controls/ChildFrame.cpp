@@ -41,6 +41,12 @@ void ChildFrame::closeEvent(QCloseEvent* event) {
     form_->CloseFromFrame();
 }
 
+bool ChildFrame::focusNextPrevChild(bool next) {
+    // The toolkit hides a window to change its state, and hands the focus on where it hides it. No other field may get
+    // it for that moment: a field is stored when it is left.
+    return !form_->isVisible() || QMdiSubWindow::focusNextPrevChild(next);
+}
+
 void ChildFrame::changeEvent(QEvent* event) {
     QMdiSubWindow::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) {

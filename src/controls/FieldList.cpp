@@ -6,6 +6,7 @@
 #include <QWheelEvent>
 
 #include "controls/EnterAsTab.h"
+#include "controls/PendingEdit.h"
 
 namespace zelvor {
 
@@ -62,7 +63,8 @@ void FieldList::wheelEvent(QWheelEvent* event) {
 void FieldList::focusOutEvent(QFocusEvent* event) {
     QComboBox::focusOutEvent(event);
     // The popup takes the focus with another reason than its own.
-    if (event->reason() != Qt::PopupFocusReason && !view()->isVisible()) {
+    if (event->reason() != Qt::PopupFocusReason && !view()->isVisible() &&
+        IsLeft(*this, *event, [this] { emit FocusLeft(); })) {
         emit FocusLeft();
     }
 }

@@ -8,6 +8,8 @@
 #include <QSignalBlocker>
 #include <algorithm>
 
+#include "controls/PendingEdit.h"
+
 namespace zelvor {
 
 namespace {
@@ -96,7 +98,7 @@ void FilteredLineEdit::mouseReleaseEvent(QMouseEvent* event) {
 
 void FilteredLineEdit::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);
-    if (selectsOnFocus_ && event->reason() != Qt::PopupFocusReason) {
+    if (!GoesOn(*this) && selectsOnFocus_ && event->reason() != Qt::PopupFocusReason) {
         selectAll();
         gettingFocusByMouse_ = event->reason() == Qt::MouseFocusReason;
     }
@@ -105,7 +107,7 @@ void FilteredLineEdit::focusInEvent(QFocusEvent* event) {
 void FilteredLineEdit::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
     gettingFocusByMouse_ = false;
-    if (event->reason() != Qt::PopupFocusReason) {
+    if (event->reason() != Qt::PopupFocusReason && IsLeft(*this, *event, [this] { Leave(); })) {
         emit FocusLeft();
     }
 }

@@ -34,7 +34,8 @@ public:
 signals:
     void EnterPressed();
     void EscapePressed();
-    /// The focus went to another control or window; opening a popup of this control's own is no such thing.
+    /// The focus went to another control; a popup of this control's own, and another window in front, are no such
+    /// thing.
     void FocusLeft();
 
 protected:
@@ -43,6 +44,8 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    /// A command ends the edit while another window is in front.
+    virtual void Leave() { emit FocusLeft(); }
 
 private:
     void Insert(const QString& text, bool limited);

@@ -95,6 +95,14 @@ void HoldingLineEdit::focusOutEvent(QFocusEvent* event) {
     }
 }
 
+void HoldingLineEdit::Leave() {
+    if (mayHold_(text())) {
+        FilteredLineEdit::Leave();
+    } else {
+        emit Refused();
+    }
+}
+
 /// Takes the focus back before anything else happens: the other control was not told of it yet.
 void HoldingLineEdit::Hold() {
     QWidget* next = QApplication::focusWidget();

@@ -26,6 +26,7 @@ protected:
     bool focusNextPrevChild(bool next) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void Leave() override;
 
 private:
     [[nodiscard]] const QWidget& Form() const;

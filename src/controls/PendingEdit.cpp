@@ -1,12 +1,25 @@
 #include "controls/PendingEdit.h"
 
 #include <QApplication>
+#include <QFocusEvent>
 #include <QPointer>
 #include <QWidget>
+#include <utility>
 
 namespace zelvor {
 
 namespace {
+
+/// An edit whose window is behind another one.
+struct WaitingEdit {
+    QPointer<const QWidget> control;
+    std::function<void()> leave;
+};
+
+WaitingEdit& Waiting() {
+    static WaitingEdit waiting;
+    return waiting;
+}
 
 bool TakesFocus(const QWidget& widget) {
     return widget.isVisible() && widget.isEnabled() &&
@@ -25,6 +38,9 @@ QWidget* FocusBehind(QWidget* editor) {
 } // namespace
 
 void CommitPendingEdit() {
+    if (const WaitingEdit waiting = std::exchange(Waiting(), {}); waiting.control) {
+        waiting.leave();
+    }
     const QPointer<QWidget> editor = QApplication::focusWidget();
     if (!editor) {
         return;
@@ -36,6 +52,18 @@ void CommitPendingEdit() {
             behind->setFocus(Qt::OtherFocusReason);
         }
     }
+}
+
+bool IsLeft(QWidget& control, const QFocusEvent& event, std::function<void()> leave) {
+    const QWidget* next = QApplication::focusWidget();
+    const bool left =
+        next == nullptr ? event.reason() != Qt::ActiveWindowFocusReason : next->window() == control.window();
+    Waiting() = left ? WaitingEdit() : WaitingEdit{&control, std::move(leave)};
+    return left;
+}
+
+bool GoesOn(const QWidget& control) {
+    return std::exchange(Waiting(), {}).control == &control;
 }
 
 void DropPendingEdit(const QWidget& window) {

@@ -1,7 +1,9 @@
 #include "controls/SpinText.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QWheelEvent>
 #include <algorithm>
 #include <utility>
@@ -13,16 +15,29 @@ namespace zelvor {
 namespace {
 
 constexpr int ButtonsWidth = 20;
+constexpr int Overlap = 5; // of the box over the buttons' left edge: the two look like one control
 
 } // namespace
 
 UpDown::UpDown(QWidget* parent) : QAbstractSpinBox(parent) {
-    setFrame(false);
     setFocusPolicy(Qt::NoFocus);
     setContextMenuPolicy(Qt::PreventContextMenu);
     setFixedWidth(ButtonsWidth);
     lineEdit()->setFocusPolicy(Qt::NoFocus);
     lineEdit()->hide(); // the text is in the box beside it
+}
+
+void UpDown::timerEvent(QTimerEvent* event) {
+    const QWidget* modal = QApplication::activeModalWidget();
+    if (QApplication::mouseButtons() == Qt::NoButton || (modal != nullptr && modal != window())) {
+        // A step may bring up a message box, which takes the release of the mouse: nothing else would end the
+        // repeating.
+        QMouseEvent release(QEvent::MouseButtonRelease, QPointF(), QPointF(), Qt::LeftButton, Qt::NoButton,
+                            Qt::NoModifier);
+        mouseReleaseEvent(&release);
+        return;
+    }
+    QAbstractSpinBox::timerEvent(event);
 }
 
 void UpDown::wheelEvent(QWheelEvent* event) {
@@ -33,10 +48,9 @@ void UpDown::wheelEvent(QWheelEvent* event) {
 SpinText::SpinText(const QString& textName, const QString& upDownName, SpinTextRules rules, QWidget* parent)
     : QWidget(parent), rules_(std::move(rules)), box_(new FilteredLineEdit(this)), upDown_(new UpDown(this)) {
     auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
+    layout->setContentsMargins(0, 0, ButtonsWidth - Overlap, 0);
     layout->addWidget(box_);
-    layout->addWidget(upDown_);
+    upDown_->lower();
     setFocusProxy(box_);
 
     box_->setObjectName(textName);
@@ -93,6 +107,12 @@ void SpinText::Step(bool up) {
     const int length = static_cast<int>(box_->text().size());
     box_->setSelection(length, -length);
     emit Stepped(Value());
+}
+
+void SpinText::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    layout()->activate();
+    upDown_->setGeometry(width() - ButtonsWidth, box_->y(), ButtonsWidth, box_->height());
 }
 
 bool SpinText::eventFilter(QObject* watched, QEvent* event) {

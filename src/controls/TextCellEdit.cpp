@@ -41,8 +41,9 @@ void TextCellEdit::Drop() {
 }
 
 void TextCellEdit::Close() {
-    Drop();
-    grid_.setFocus();
+    open_ = false;
+    grid_.setFocus(); // before hiding, which would hand the focus on to the next control for a moment
+    editor_.hide();
 }
 
 QString TextCellEdit::Text() const {

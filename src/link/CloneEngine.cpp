@@ -204,12 +204,12 @@ void CloneEngine::Complete(const TextPair& text) {
                     .buttons = MessageButtons::Ok,
                     .defaultButton = MessageAnswer::Ok});
     session_.PriorityChannelError = false;
-    session_.OwnIdError = false;
-    session_.TxCodeError = false;
     if (reading) {
         session_.CurrentFileName = Session::DefaultFileName;
         observer_.OnReadCompleted();
     } else {
+        session_.OwnIdError = false;
+        session_.TxCodeError = false;
         observer_.OnWriteCompleted();
     }
     state_.Finished = true;

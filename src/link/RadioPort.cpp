@@ -70,7 +70,7 @@ bool RadioPort::ReadsAcknowledge() {
 }
 
 bool RadioPort::AsksToRetry(MessageBoxes& messages) {
-    const bool vanished = !IsOpen();
+    const bool wasGone = !IsOpen();
     Open(); // a port that stays closed leads back here after a retry
     const MessageAnswer answer =
         messages.Show({.title = std::string(commontexts::Error.In(session_.LanguageFlag)),
@@ -81,8 +81,9 @@ bool RadioPort::AsksToRetry(MessageBoxes& messages) {
     if (answer != MessageAnswer::Retry) {
         return false;
     }
-    if (vanished) {
-        Close(); // while the cable was out, its number may have stood for another device of the machine
+    // While the cable was out, its number may have stood for another device of the machine.
+    if (wasGone || port_.IsStale()) {
+        Close();
     }
     return true;
 }

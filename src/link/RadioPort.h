@@ -48,7 +48,7 @@ public:
     [[nodiscard]] bool ReadsAcknowledge();
 
     /// The connection prompt, for a radio that does not answer: true for Retry. A port that is gone is looked for
-    /// before; where it was gone, Retry opens it anew.
+    /// before; where it was gone, or is not the radio's any more, Retry opens it anew.
     [[nodiscard]] bool AsksToRetry(MessageBoxes& messages);
 
 private:

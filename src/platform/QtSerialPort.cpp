@@ -31,11 +31,11 @@ bool QtSerialPort::Open() {
     if (port_.isOpen()) {
         return true;
     }
-    const std::string device = ports_.Describe(number_).devicePath;
-    if (device.empty()) {
+    device_ = ports_.Describe(number_).devicePath;
+    if (device_.empty()) {
         return false;
     }
-    port_.setPortName(ToQString(device));
+    port_.setPortName(ToQString(device_));
     port_.setBaudRate(isProbe_ ? QSerialPort::Baud19200 : QSerialPort::Baud9600);
     port_.setStopBits(isProbe_ ? QSerialPort::OneStop : QSerialPort::TwoStop);
     port_.setParity(QSerialPort::NoParity);
@@ -49,6 +49,10 @@ bool QtSerialPort::Open() {
     port_.setRequestToSend(true);
     AskForLowLatency(port_);
     return port_.isOpen();
+}
+
+bool QtSerialPort::IsStale() const {
+    return port_.isOpen() && ports_.Describe(number_).devicePath != device_;
 }
 
 void QtSerialPort::Close() {

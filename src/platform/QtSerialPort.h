@@ -25,6 +25,7 @@ public:
     [[nodiscard]] bool Open() override;
     void Close() override;
     [[nodiscard]] bool IsOpen() const override { return port_.isOpen(); }
+    [[nodiscard]] bool IsStale() const override;
     void ClearInput() override;
     void ClearOutput() override;
     void SetReceiveThreshold(int count) override { threshold_ = count; }
@@ -48,6 +49,7 @@ private:
     mutable bool hasArrived_ = false; // since the last receive event
     mutable bool isQueued_ = false;   // a receive event
     int number_ = 1;
+    std::string device_; // of the number, when the port was opened
     bool isProbe_ = false;
     int threshold_ = 0;
     int readLength_ = 0;

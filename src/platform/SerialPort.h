@@ -37,6 +37,8 @@ public:
     virtual void Close() = 0;
     /// False also after the device vanished.
     [[nodiscard]] virtual bool IsOpen() const = 0;
+    /// Whether the open port's number stands for another device by now: cables come and go, and with them the numbers.
+    [[nodiscard]] virtual bool IsStale() const = 0;
 
     virtual void ClearInput() = 0;
     virtual void ClearOutput() = 0;

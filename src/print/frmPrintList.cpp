@@ -27,6 +27,8 @@ constexpr TextPair SelectAll{"Select &All", "全部选定(&A)"};
 constexpr TextPair ClearAll{"C&lear All", "全部清除(&L)"};
 constexpr TextPair PrintSetup{"P&rint setup", "打印设置(&R)"};
 
+constexpr int ButtonsGap = 8; // above OK, Cancel and Help
+
 /// Intended: in Chinese whatever the language is.
 constexpr std::string_view NoPrinterTitle = "打印列表";
 constexpr std::string_view NoPrinterText =
@@ -54,6 +56,7 @@ frmPrintList::frmPrintList(Session& session, Services& services, QWidget* parent
 
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(choice);
+    layout->addSpacing(ButtonsGap);
     layout->addLayout(buttons.row);
     layout->setSizeConstraint(QLayout::SetFixedSize);
     OnItemClicked();

@@ -257,10 +257,12 @@ void TestForm::OnSignallingChosen(int index) {
 
 void TestForm::OnItemChosen() {
     const QList<QListWidgetItem*> chosen = LvwTuneSel_->selectedItems();
-    if (!chosen.isEmpty()) {
-        session_.Service.TuneItem = LvwTuneSel_->row(chosen.front()) + 1;
-        CmdTune_->setEnabled(true);
+    if (chosen.isEmpty()) { // a click with Ctrl takes the mark away, and an item stays chosen
+        LvwTuneSel_->currentItem()->setSelected(true);
+        return;
     }
+    session_.Service.TuneItem = LvwTuneSel_->row(chosen.front()) + 1;
+    CmdTune_->setEnabled(true);
 }
 
 void TestForm::OnWidthPressed(bool wide) {
@@ -277,12 +279,11 @@ void TestForm::OnLamps(bool transmitting) {
 
 void TestForm::OnTuningReady() {
     tuning_ = true;
-    setEnabled(false);
+    block_.Begin();
     TuningForm* dialog = MakeTuningForm(session_, services_, this);
     connect(dialog, &TuningForm::Unloaded, this, [this] {
         tuning_ = false;
-        setEnabled(true);
-        activateWindow();
+        block_.End();
     });
     dialog->setEnabled(true); // a window of a disabled one begins disabled
     dialog->show();

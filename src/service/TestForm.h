@@ -3,6 +3,7 @@
 #include <QDialog>
 #include <memory>
 
+#include "controls/WindowBlock.h"
 #include "data/Session.h"
 #include "platform/SerialPort.h"
 #include "service/TestEngine.h"
@@ -72,6 +73,7 @@ private:
     Lamp* PicWide_ = nullptr;
     Lamp* PicNarrow_ = nullptr;
     QListWidget* LvwTuneSel_ = nullptr;
+    WindowBlock block_{*this}; // while a tuning dialog is open
     QPushButton* CmdTune_ = nullptr;
     bool offersChannels_ = false;
     bool tuning_ = false;

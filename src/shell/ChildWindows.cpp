@@ -1,5 +1,6 @@
 #include "shell/ChildWindows.h"
 
+#include <QApplication>
 #include <QMdiArea>
 
 #include "controls/ChildForm.h"
@@ -153,6 +154,9 @@ void ChildWindows::HideFrame(ChildWindow window) {
     // A maximised frame would leave its buttons in the menu bar.
     SetToNormal(*slot.frame);
     slot.frame->hide();
+    if (QWidget* focus = QApplication::focusWidget(); focus != nullptr && slot.frame->isAncestorOf(focus)) {
+        focus->clearFocus(); // the frame keeps it
+    }
     if (area_.activeSubWindow() == slot.frame || area_.activeSubWindow() == nullptr) {
         area_.setActiveSubWindow(TopmostVisible(area_));
     }
@@ -263,8 +267,7 @@ void ChildWindows::OnActivated(QMdiSubWindow* frame) {
     if (child == nullptr || keepMarks_) {
         return;
     }
-    const auto entry = WindowListEntry(child->Form()->Window());
-    if (entry && list_.IsShown(*entry)) {
+    if (const auto entry = WindowListEntry(child->Form()->Window())) {
         list_.Mark(*entry);
     }
 }

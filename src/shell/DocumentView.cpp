@@ -57,8 +57,8 @@ void DocumentView::DecodeImageToGrid() {
 
 void DocumentView::ListNewDocument() {
     list_.SetMenuShown(true);
-    // The cursor first: where it moves, it writes the other form of the caption.
-    Grid().SelectCell(1, 1);
+    // The cursor first: it writes the other form of the caption.
+    Grid().SelectFirstCell();
     list_.Show(GridEntry, NewDocumentChannelCaption(session_.LanguageFlag));
 }
 

@@ -285,6 +285,7 @@ void MDIForm1::Transfer(void (TransferCommands::*transfer)()) {
 
 void MDIForm1::ShowCommunicationPort() {
     service_->Abort();
+    CommitPendingEdit();
     ComForm dialog(session_, services_, this);
     connect(&dialog, &ComForm::PortChosen, this, [this] { statusBar1_->ShowPort(session_.CommPortNumber); });
     dialog.exec();
@@ -296,6 +297,7 @@ void MDIForm1::ShowPrintList() {
 }
 
 void MDIForm1::ShowAbout() {
+    CommitPendingEdit();
     AboutForm(session_, this).exec();
 }
 

@@ -19,7 +19,7 @@ constexpr int DialogPollMilliseconds = 50;
 } // namespace
 
 ServiceCommands::ServiceCommands(Session& session, Services& services, MainWindow mainWindow)
-    : session_(session), services_(services), mainWindow_(std::move(mainWindow)) {}
+    : session_(session), services_(services), mainWindow_(std::move(mainWindow)), block_(mainWindow_.window) {}
 
 ServiceCommands::~ServiceCommands() = default;
 
@@ -55,7 +55,7 @@ void ServiceCommands::OnInformation(const std::string& record) {
 void ServiceCommands::OnExchangeDone() {
     // Disabling the main window would disable a dialog or question over it too.
     if (QApplication::activeModalWidget() == nullptr) {
-        mainWindow_.window.setEnabled(false);
+        block_.Begin();
     }
 }
 
@@ -74,7 +74,7 @@ void ServiceCommands::OnTestModeReady() {
 /// The user may have opened a dialog while the radio was asked.
 void ServiceCommands::WhenNoDialogIsUp(const std::function<void()>& show) {
     if (QApplication::activeModalWidget() == nullptr) {
-        mainWindow_.window.setEnabled(false);
+        block_.Begin();
         show();
     } else {
         QTimer::singleShot(DialogPollMilliseconds, this, [this, show] { WhenNoDialogIsUp(show); });
@@ -84,10 +84,7 @@ void ServiceCommands::WhenNoDialogIsUp(const std::function<void()>& show) {
 template<typename Window>
 void ServiceCommands::ShowOver(Window* window) {
     window->setEnabled(true); // a window of a disabled one begins disabled
-    connect(window, &Window::Unloaded, this, [this] {
-        mainWindow_.window.setEnabled(true);
-        mainWindow_.window.activateWindow();
-    });
+    connect(window, &Window::Unloaded, this, [this] { block_.End(); });
     window->show();
 }
 

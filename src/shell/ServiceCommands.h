@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 
+#include "controls/WindowBlock.h"
 #include "platform/SerialPort.h"
 #include "service/EntryEngine.h"
 
@@ -51,6 +52,7 @@ private:
     Session& session_;
     Services& services_;
     const MainWindow mainWindow_;
+    WindowBlock block_;
     std::unique_ptr<SerialPort> port_; // MSComm1, made with the engine at first use
     std::unique_ptr<EntryEngine> engine_;
 };

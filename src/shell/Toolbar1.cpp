@@ -156,14 +156,26 @@ void Toolbar1::Align(ToolbarAlignment alignment, QPoint clientPosition) {
 }
 
 void Toolbar1::Float(QPoint clientPosition) {
-    const QWidget& client = *mainWindow_.centralWidget();
     setParent(&mainWindow_);
     setOrientation(Qt::Horizontal);
     adjustSize();
-    const QPoint furthest = client.geometry().bottomRight() - rect().bottomRight();
-    const QPoint place = client.pos() + clientPosition;
-    move(qMax(0, qMin(place.x(), furthest.x())), qMax(0, qMin(place.y(), furthest.y())));
+    move(mainWindow_.centralWidget()->pos() + clientPosition);
+    KeepInside();
+    mainWindow_.centralWidget()->installEventFilter(this);
     raise();
+}
+
+/// A floating toolbar follows the edges of a main window that gets smaller.
+void Toolbar1::KeepInside() {
+    const QPoint furthest = mainWindow_.centralWidget()->geometry().bottomRight() - rect().bottomRight();
+    move(qMax(0, qMin(x(), furthest.x())), qMax(0, qMin(y(), furthest.y())));
+}
+
+bool Toolbar1::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Resize && alignment_ == ToolbarAlignment::None) {
+        KeepInside();
+    }
+    return QToolBar::eventFilter(watched, event);
 }
 
 } // namespace zelvor

@@ -34,11 +34,13 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void AddButtons();
     void Align(ToolbarAlignment alignment, QPoint clientPosition);
     void Float(QPoint clientPosition);
+    void KeepInside();
     void EndDrag();
 
     QMainWindow& mainWindow_;

@@ -32,6 +32,9 @@ void TransferCommands::Write() {
 void TransferCommands::ShowTransfer(bool isWrite) {
     ConnectForm dialog(session_, services_, isWrite ? TransferDirection::Write : TransferDirection::Read, &mainWindow_);
     QObject::connect(&dialog, &ConnectForm::ReadCompleted, &dialog, [this] {
+        // What the editors complained of was in the document before.
+        session_.OwnIdError = false;
+        session_.TxCodeError = false;
         view_.DecodeImageToGrid();
         view_.ShowTitle();
     });

@@ -2,10 +2,12 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDialog>
 #include <QSignalSpy>
 #include <QStyle>
 #include <QStyleOptionSpinBox>
 #include <QTest>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <gtest/gtest.h>
 #include <memory>
@@ -49,12 +51,14 @@ protected:
     FilteredLineEdit& Box() { return spin->Box(); }
     void Key(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
     void Type(const char* text) { QTest::keyClicks(QApplication::focusWidget(), text); }
-    void ClickButton(QStyle::SubControl which) {
+    QPoint Place(QStyle::SubControl which) {
         QStyleOptionSpinBox option;
         option.initFrom(&spin->Buttons());
         option.subControls = QStyle::SC_All;
-        const QRect place = spin->style()->subControlRect(QStyle::CC_SpinBox, &option, which, &spin->Buttons());
-        QTest::mouseClick(&spin->Buttons(), Qt::LeftButton, {}, place.center());
+        return spin->style()->subControlRect(QStyle::CC_SpinBox, &option, which, &spin->Buttons()).center();
+    }
+    void ClickButton(QStyle::SubControl which) {
+        QTest::mouseClick(&spin->Buttons(), Qt::LeftButton, {}, Place(which));
     }
     void ExpectAllSelectedWithTheCaretAtTheStart() {
         EXPECT_EQ(Box().selectedText(), Box().text());
@@ -256,6 +260,25 @@ TEST_F(SpinTextTest, DisablingItDisablesTheBox) {
     spin->setEnabled(false);
     EXPECT_FALSE(Box().isEnabled());
     EXPECT_FALSE(spin->Buttons().isEnabled());
+}
+
+TEST_F(SpinTextTest, AMessageBoxOverAPressedButtonEndsItsRepeating) {
+    int steps = 0;
+    QObject::connect(spin, &SpinText::Stepped, spin, [this, &steps] {
+        ++steps;
+        QDialog box(window.get());
+        QTimer::singleShot(0, &box, [&box] {
+            QTest::mouseRelease(&box, Qt::LeftButton);
+            box.accept();
+        });
+        box.exec();
+    });
+    QTest::mousePress(&spin->Buttons(), Qt::LeftButton, {}, Place(QStyle::SC_SpinBoxUp));
+    QTest::qWait(1500); // longer than the time after which a held button repeats
+    EXPECT_EQ(steps, 1);
+    EXPECT_EQ(Box().text(), "6");
+    ClickButton(QStyle::SC_SpinBoxDown);
+    EXPECT_EQ(Box().text(), "5");
 }
 
 } // namespace

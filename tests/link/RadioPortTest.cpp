@@ -87,5 +87,15 @@ TEST_F(RadioPortTest, CancelLeavesThePortOpenForTheLastCommand) {
     EXPECT_TRUE(port.IsOpen());
 }
 
+TEST_F(RadioPortTest, RetryLooksAnewForAPortWhoseNumberIsAnotherDevicesByNow) {
+    ASSERT_TRUE(port.Open());
+    messages.Expect(ConnectionPrompt(), [this] {
+        Fake().BecomeStale(); // the cable is plugged in again
+        return MessageAnswer::Retry;
+    });
+    EXPECT_TRUE(port.AsksToRetry(messages));
+    EXPECT_FALSE(port.IsOpen());
+}
+
 } // namespace
 } // namespace zelvor

@@ -97,5 +97,23 @@ TEST(QtSerialPort, NoticesThatItsDeviceIsGoneWhereAnotherHasTakenItsName) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return !port->IsOpen(); }, 2000));
 }
 
+TEST_F(QtSerialPortsOfTheUser, AnOpenPortIsStaleWhereItsNumberStandsForAnotherDevice) {
+    user_.Link("COM3", terminal_.DevicePath());
+    const auto port = ports_.Make("MSComm1");
+    port->SetNumber(3);
+    port->SetSettings(RadioPortSettings);
+    EXPECT_FALSE(port->IsStale());
+    ASSERT_TRUE(port->Open());
+    EXPECT_FALSE(port->IsStale());
+    user_.Unlink("COM3");
+    const PseudoTerminal other;
+    user_.Link("COM3", other.DevicePath());
+    EXPECT_TRUE(port->IsStale());
+    port->Close();
+    EXPECT_FALSE(port->IsStale());
+    ASSERT_TRUE(port->Open());
+    EXPECT_FALSE(port->IsStale());
+}
+
 } // namespace
 } // namespace zelvor

@@ -194,5 +194,29 @@ TEST_F(TestFormTuningTest, ARadioThatDoesNotTellItsTuningDataOpensNoDialog) {
     ExpectGone();
 }
 
+TEST_F(TestFormTuningTest, AClickWithCtrlDoesNotTakeTheChoiceAway) {
+    Open();
+    ClickItem(4);
+    const QPoint place = Items().visualItemRect(Items().item(3)).center();
+    QTest::mouseClick(Items().viewport(), Qt::LeftButton, Qt::ControlModifier, place);
+    EXPECT_TRUE(Items().item(3)->isSelected());
+    EXPECT_EQ(rig.session.Service.TuneItem, 4);
+}
+
+TEST_F(TestFormTuningTest, TheKeyboardIsWhereItWasAfterATuningDialog) {
+    Open();
+    ClickItem(8);
+    In<QPushButton>(*form, "CmdTune").setFocus();
+    Click(*form, "CmdTune");
+    rig.clock.Advance(300);
+    ASSERT_NE(Tuning(), nullptr);
+    Click(*Tuning(), "CmdCancel");
+    rig.clock.Advance(1000);
+    RemoveClosed();
+    ASSERT_EQ(Tuning(), nullptr);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(form));
+    EXPECT_TRUE(In<QPushButton>(*form, "CmdTune").hasFocus());
+}
+
 } // namespace
 } // namespace zelvor

@@ -1,5 +1,6 @@
 #include "ShellTest.h"
 
+#include <QApplication>
 #include <QLineEdit>
 
 namespace zelvor {
@@ -96,6 +97,53 @@ TEST_F(EditorWindowsTest, AWindowHiddenByCloseAllComesBackWithItsContents) {
     Choose("MnuEditEmbeddedMessage");
     EXPECT_TRUE(IsChildShown("EmbedInfoForm"));
     EXPECT_EQ(Find<QLineEdit>("txtMsg(0)")->text(), "HELLO");
+}
+
+TEST_F(EditorWindowsTest, ANewDocumentIsShownAtItsFirstChannelWhateverTheDialogShowed) {
+    OpenMainWindow();
+    ClickButton("ChannelForm", "cmdChannelEdit");
+    for (int n = 1; n < 5; ++n) {
+        QTest::keyClick(Find<QLineEdit>("txtChannel"), Qt::Key_Up);
+    }
+    ASSERT_EQ(Child("ChannelForm")->windowTitle(), " Channel Information [ Channel - 5 ]");
+    fakes.messages.Expect({"Warning", "All data will be cleared.", MessageIcon::Exclamation, MessageButtons::OkCancel,
+                           MessageAnswer::Cancel},
+                          MessageAnswer::Ok);
+    Choose("MnuFileNew");
+    EXPECT_EQ(Child("ChannelForm")->windowTitle(), " Channel Information [ Channel - 1 ]");
+    EXPECT_EQ(Listed(0), " Channel Information [ Channel-1 ]");
+    ClickButton("ChannelForm", "cmdChannelEdit");
+    EXPECT_EQ(Find<QLineEdit>("txtChannel")->text(), "1");
+}
+
+TEST_F(EditorWindowsTest, ANewDocumentAfterCloseAllMarksTheGrid) {
+    OpenMainWindow();
+    Choose("MnuEditScanInformation");
+    Choose("MnuWindowCloseAll");
+    fakes.messages.Expect({"Warning", "All data will be cleared.", MessageIcon::Exclamation, MessageButtons::OkCancel,
+                           MessageAnswer::Cancel},
+                          MessageAnswer::Ok);
+    Choose("MnuFileNew");
+    EXPECT_TRUE(IsListed(0));
+    EXPECT_TRUE(IsMarked(0));
+}
+
+TEST_F(EditorWindowsTest, TheOtherDialogsAlsoCommitAnOpenCellFirst) {
+    OpenMainWindow();
+    for (const char* entry : {"MnuHelpAbout", "MnuSetupCommunicationPort"}) {
+        auto* grid = Find<QWidget>("ChannelGrid");
+        grid->setFocus();
+        for (const char character : std::string("146.5")) {
+            QTest::keyClick(QApplication::focusWidget(), character);
+        }
+        ASSERT_TRUE(Find<QLineEdit>("txtInputBox")->isVisible()) << entry;
+        ChooseDialog(entry, [&](QWidget& dialog) {
+            EXPECT_FALSE(Find<QLineEdit>("txtInputBox")->isVisible()) << entry;
+            EXPECT_EQ(session.Image.At(0x012), 0x65) << entry;
+            dialog.close();
+        });
+        EXPECT_TRUE(grid->hasFocus()) << entry;
+    }
 }
 
 } // namespace

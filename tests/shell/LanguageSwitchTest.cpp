@@ -224,7 +224,7 @@ TEST_F(LanguageSwitchTest, TheGridsTextsFollow) {
     EXPECT_EQ(Button("cmdHelp"), "帮助(&H)");
     EXPECT_EQ(Button("cmdChannelEdit"), "信道编辑(&E)");
     EXPECT_EQ(Find<QLabel>("LabFreeArea")->text(), "空位(Bytes):");
-    EXPECT_EQ(Find<QLabel>("LabHint")->text(), "按回车键或单击可编辑单元格，上下方向键选择数值，Esc 键还原。");
+    EXPECT_EQ(Find<QLabel>("LabHint")->text(), "按回车键或单击可编辑单元格，上下方向键选择数值，Esc 键还原频率。");
     EXPECT_EQ(Grid().accessibleName(), "信道信息");
     EXPECT_EQ(Find<QLabel>("LabBlankChannel")->accessibleName(), "空位(Bytes):");
     SwitchToEnglish();

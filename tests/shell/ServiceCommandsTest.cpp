@@ -1,5 +1,7 @@
 #include <QApplication>
 #include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QPushButton>
 #include <map>
 
@@ -185,6 +187,22 @@ TEST_F(ServiceCommandsTest, AShortRecordKeepsTheRest) {
     EXPECT_EQ(session.Service.RadioInfoRecord[2], 'x');
     window->GetDJJInfo(std::string(40, 'y'));
     EXPECT_EQ(session.Service.RadioInfoRecord[33], 'y');
+}
+
+TEST_F(ServiceCommandsTest, TheWindowOnTopStaysOnTopWithTheKeyboardWhereItWas) {
+    Choose("MnuEditTestFrequency");
+    Choose("MnuEditScanInformation");
+    auto* field = Find<QWidget>("txtDropoutDelayTime");
+    field->setFocus();
+    Choose("MnuProgramTestMode");
+    fakes.clock.Advance(1000);
+    auto* form = Find<TestForm>("TestForm");
+    ASSERT_NE(form, nullptr);
+    QTest::mouseClick(form->findChild<QPushButton*>("cmdClose"), Qt::LeftButton);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    EXPECT_TRUE(field->hasFocus());
+    EXPECT_EQ(window->findChild<QMdiArea*>()->activeSubWindow()->widget(), Child("ScanForm"));
 }
 
 } // namespace

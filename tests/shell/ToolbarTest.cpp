@@ -149,5 +149,14 @@ TEST_F(ToolbarTest, TheOutlineOfADragIsGoneAfterIt) {
     EXPECT_EQ(window->findChildren<QRubberBand*>().size(), 0);
 }
 
+TEST_F(ToolbarTest, FollowsTheEdgesOfAMainWindowThatGetsSmaller) {
+    OpenMainWindow();
+    DragTo({Client()->width() / 2, Client()->height() / 2});
+    ASSERT_EQ(Toolbar()->Alignment(), ToolbarAlignment::None);
+    window->resize(500, 300);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return window->size() == QSize(500, 300); }));
+    EXPECT_TRUE(Client()->geometry().contains(Toolbar()->geometry()));
+}
+
 } // namespace
 } // namespace zelvor

@@ -47,7 +47,7 @@ TEST_F(TransferCommandsTest, AReadBecomesANewDocumentThatCountsAsChanged) {
     OpenMainWindow();
     ConnectRadio();
     session.CurrentFileName = "/somewhere/Other.dat";
-    session.PriorityChannelError = true;
+    session.PriorityChannelError = session.OwnIdError = session.TxCodeError = true;
     fakes.messages.Expect(ReadDone, MessageAnswer::Ok);
     Transfer("MnuProgramRead");
     EXPECT_EQ(session.Image.At(0x1BD), 33);
@@ -56,6 +56,8 @@ TEST_F(TransferCommandsTest, AReadBecomesANewDocumentThatCountsAsChanged) {
     EXPECT_EQ(window->windowTitle(), "Zelvor [5618: UHF: 450-490 MHz(M)] [ File Name:Zelvor.dat]");
     EXPECT_TRUE(session.IsDocumentChanged());
     EXPECT_FALSE(session.PriorityChannelError);
+    EXPECT_FALSE(session.OwnIdError);
+    EXPECT_FALSE(session.TxCodeError);
 }
 
 TEST_F(TransferCommandsTest, AReadThenExitOffersToSave) {

@@ -60,6 +60,7 @@ bool FakeSerialPort::Open() {
         return false;
     }
     isOpen_ = true;
+    isStale_ = false;
     Note("open");
     return true;
 }

@@ -43,6 +43,7 @@ public:
     [[nodiscard]] bool Open() override;
     void Close() override;
     [[nodiscard]] bool IsOpen() const override { return isOpen_; }
+    [[nodiscard]] bool IsStale() const override { return isOpen_ && isStale_; }
     void ClearInput() override;
     void ClearOutput() override;
     void SetReceiveThreshold(int count) override;
@@ -54,6 +55,8 @@ public:
     /// Bytes come in from the far end; the receive event is raised within, where it is due. A closed port loses them.
     void Deliver(std::span<const std::uint8_t> bytes);
     void Deliver(std::initializer_list<std::uint8_t> bytes) { Deliver(std::span(bytes.begin(), bytes.size())); }
+    /// The port's number stands for another device from now on, until the port is opened again.
+    void BecomeStale() { isStale_ = true; }
     /// The device is unplugged: the port is closed and its number missing until FakeSerialPorts::Present.
     void Vanish();
 
@@ -83,6 +86,7 @@ private:
     int number_ = 1;
     std::string settings_;
     bool isOpen_ = false;
+    bool isStale_ = false;
     int threshold_ = 0;
     int readLength_ = 0;
     std::vector<std::uint8_t> input_;
