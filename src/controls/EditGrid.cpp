@@ -12,6 +12,8 @@
 #include <numeric>
 #include <utility>
 
+#include "controls/FilteredLineEdit.h"
+
 namespace zelvor {
 
 namespace {
@@ -237,12 +239,8 @@ bool IsEnterKey(const QKeyEvent& event) {
 
 QChar TypedCharacter(const QKeyEvent& event) {
     constexpr auto commands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
-    const QString text = event.text();
-    if (text.size() != 1 || event.modifiers() & commands) {
-        return {};
-    }
-    const bool padPoint = event.key() == Qt::Key_Comma && event.modifiers().testFlag(Qt::KeypadModifier);
-    return padPoint ? QChar(u'.') : text.front();
+    const QString text = TypedText(event);
+    return text.size() != 1 || event.modifiers() & commands ? QChar() : text.front();
 }
 
 } // namespace zelvor

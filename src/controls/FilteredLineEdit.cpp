@@ -69,7 +69,7 @@ void FilteredLineEdit::keyPressEvent(QKeyEvent* event) {
         if (!enterLetter_.isNull() && event->text() == enterLetter_) {
             emit EnterPressed();
         } else {
-            Enter(event->text());
+            Enter(TypedText(*event));
         }
     } else {
         QLineEdit::keyPressEvent(event);
@@ -110,6 +110,11 @@ void FilteredLineEdit::focusOutEvent(QFocusEvent* event) {
     if (event->reason() != Qt::PopupFocusReason && IsLeft(*this, *event, [this] { Leave(); })) {
         emit FocusLeft();
     }
+}
+
+QString TypedText(const QKeyEvent& event) {
+    const bool isPadPoint = event.key() == Qt::Key_Comma && event.modifiers().testFlag(Qt::KeypadModifier);
+    return isPadPoint ? QStringLiteral(".") : event.text();
 }
 
 QChar Digit(QChar entered) {

@@ -59,6 +59,9 @@ private:
     QChar enterLetter_;
 };
 
+/// The text that a key types. The number pad's decimal point is a point, also in layouts that make it a comma.
+[[nodiscard]] QString TypedText(const QKeyEvent& event);
+
 /// Filters that several boxes use.
 [[nodiscard]] QChar Digit(QChar entered);
 [[nodiscard]] QChar DigitOrPoint(QChar entered);

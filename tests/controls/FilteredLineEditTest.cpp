@@ -7,6 +7,8 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include "controls/PendingEdit.h"
+
 namespace zelvor {
 namespace {
 
@@ -157,6 +159,71 @@ TEST_F(FilteredLineEditTest, SelectsAllOnTakingTheFocusWhereAskedTo) {
     edit.clearFocus();
     edit.setFocus();
     EXPECT_EQ(edit.selectedText(), "12");
+}
+
+TEST_F(FilteredLineEditTest, TakesTheNumberPadsDecimalPointInEveryLayout) {
+    QTest::keyClicks(&edit, "1");
+    QKeyEvent comma(QEvent::KeyPress, Qt::Key_Comma, Qt::NoModifier, ",");
+    QApplication::sendEvent(&edit, &comma);
+    QKeyEvent padComma(QEvent::KeyPress, Qt::Key_Comma, Qt::KeypadModifier, ",");
+    QApplication::sendEvent(&edit, &padComma);
+    QTest::keyClicks(&edit, "5");
+    EXPECT_EQ(edit.text(), "1.5");
+}
+
+/// A box and a neighbour, with another window of the program beside.
+class BoxBesideAWindow : public testing::Test {
+protected:
+    void SetUp() override {
+        box.SelectAllOnFocus();
+        neighbour.move(0, 40);
+        form.show();
+        form.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+        box.setFocus();
+        QTest::keyClicks(&box, "14");
+    }
+    void BringOtherToFront() {
+        other.show();
+        other.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    }
+    QWidget form;
+    FilteredLineEdit box{&form};
+    FilteredLineEdit neighbour{&form};
+    FilteredLineEdit other;
+    QSignalSpy left{&box, &FilteredLineEdit::FocusLeft};
+};
+
+TEST_F(BoxBesideAWindow, IsNotLeftWhereTheOtherOnlyComesToTheFront) {
+    BringOtherToFront();
+    EXPECT_EQ(left.count(), 0);
+    form.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+    ASSERT_TRUE(box.hasFocus());
+    EXPECT_FALSE(box.hasSelectedText()); // or the next key would replace what was typed
+    neighbour.setFocus();
+    EXPECT_EQ(left.count(), 1);
+    CommitPendingEdit();
+    EXPECT_EQ(left.count(), 1);
+}
+
+TEST_F(BoxBesideAWindow, IsLeftOnceByACommandMeanwhile) {
+    BringOtherToFront();
+    CommitPendingEdit();
+    EXPECT_EQ(left.count(), 1);
+    CommitPendingEdit();
+    EXPECT_EQ(left.count(), 1);
+}
+
+TEST_F(BoxBesideAWindow, MayGoMeanwhile) {
+    auto* shortLived = new FilteredLineEdit(&form);
+    shortLived->show();
+    shortLived->setFocus();
+    BringOtherToFront();
+    delete shortLived;
+    CommitPendingEdit();
+    EXPECT_EQ(left.count(), 1); // when the other box got the focus
 }
 
 } // namespace

@@ -174,5 +174,17 @@ TEST_F(HoldingLineEditTest, AWindowThatGoesRefusesNothing) {
     EXPECT_EQ(refused.count(), 0);
 }
 
+TEST_F(HoldingLineEditTest, ACommandPutsAnIllegalTextRightThatWaitsBehindAnotherWindow) {
+    Type("12");
+    QWidget help;
+    help.show();
+    help.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&help));
+    EXPECT_EQ(refused.count(), 0);
+    CommitPendingEdit();
+    EXPECT_EQ(refused.count(), 1);
+    EXPECT_EQ(box.text(), "000");
+}
+
 } // namespace
 } // namespace zelvor
