@@ -8,6 +8,7 @@
 #include "Report.h"
 #include "data/MemoryMap.h"
 #include "platform/QtPageDevice.h"
+#include "platform/Toolkit.h"
 #include "print/DataReport.h"
 #include "simulator/SampleRadio.h"
 
@@ -36,9 +37,13 @@ DataImage FullDocument() {
     return image;
 }
 
-bool PrintEmptyPages(const QString& file) {
+/// Empty pages but for a text on the first one.
+bool PrintPages(const QString& file, const std::string& text) {
     QtPageDevice device(file);
     bool isWorking = device.BeginDocument("Empty");
+    if (isWorking && !text.empty()) {
+        device.DrawText(0, 0, text);
+    }
     for (int page = 2; page <= EmptyPages && isWorking; ++page) {
         isWorking = device.NewPage();
     }
@@ -46,8 +51,26 @@ bool PrintEmptyPages(const QString& file) {
     return isWorking;
 }
 
-void PrintReport(const QString& file, const DataImage& image, Language language) {
-    QtPageDevice device(file);
+/// Keeps the characters of what is printed, each once.
+class CharacterCollector : public QtPageDevice {
+public:
+    using QtPageDevice::QtPageDevice;
+    void DrawText(double x, double y, std::string_view text) override {
+        QtPageDevice::DrawText(x, y, text);
+        for (const QChar character : ToQString(text)) {
+            if (!characters.contains(character)) {
+                characters += character;
+            }
+        }
+    }
+    QString characters;
+};
+
+bool PrintEmptyPages(const QString& file) {
+    return PrintPages(file, {});
+}
+
+void PrintReport(PageDevice& device, const DataImage& image, Language language) {
     PrintDataReport(device, BuildDataReport(image, ReportSelection().set(), "Zelvor.dat", language, {}));
 }
 
@@ -63,19 +86,28 @@ void AddReport(Report& report, const std::string& figure, Language language) {
     const QTemporaryDir directory;
     const QString file = directory.filePath("Bench.pdf");
     const DataImage image = FullDocument();
-    PrintReport(file, image, language); // loads the font
+    CharacterCollector collector(file); // and loads the font
+    PrintReport(collector, image, language);
+    const std::string characters = FromQString(collector.characters);
     if (!PrintEmptyPages(file)) {
         report.AddFailure(figure, "no file");
         return;
     }
     std::vector<double> empty;
     std::vector<double> full;
+    std::vector<double> fontAlone;
     for (int run = 0; run < Runs; ++run) {
         empty.push_back(MillisecondsOf([&] { static_cast<void>(PrintEmptyPages(file)); }));
-        full.push_back(MillisecondsOf([&] { PrintReport(file, image, language); }));
+        full.push_back(MillisecondsOf([&] {
+            QtPageDevice device(file);
+            PrintReport(device, image, language);
+        }));
+        fontAlone.push_back(MillisecondsOf([&] { static_cast<void>(PrintPages(file, characters)); }));
     }
     report.Add(figure, MedianOf(full) / MedianOf(empty), TimesOfEmptyPages, 2,
                "in ms " + Spread(full, 2) + " / " + Spread(empty, 2));
+    report.Add("  its characters alone, once each", Formatted(MedianOf(fontAlone) / MedianOf(empty), 2),
+               "in ms " + Spread(fontAlone, 2));
 }
 
 } // namespace
