@@ -20,7 +20,7 @@ constexpr int HelpText = 76;
 QPushButton* MakeButton(QDialog& dialog, const char* name, std::string_view text) {
     auto* button = new QPushButton(ToQString(text), &dialog);
     button->setObjectName(name);
-    button->setAutoDefault(false);
+    button->setAutoDefault(true); // Enter presses the button that has the keyboard, else OK
     return button;
 }
 

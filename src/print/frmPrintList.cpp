@@ -99,7 +99,7 @@ QWidget* frmPrintList::MakeSideButtons() {
 QPushButton* frmPrintList::MakeSideButton(const char* name, std::string_view text) {
     auto* button = new QPushButton(ToQString(text), this);
     button->setObjectName(name);
-    button->setAutoDefault(false);
+    button->setAutoDefault(true);
     return button;
 }
 

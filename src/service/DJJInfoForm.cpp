@@ -85,7 +85,7 @@ DJJInfoForm::DJJInfoForm(Session& session, Services& services, QWidget* parent)
     auto* cmdClose = button("cmdClose", CloseText);
     auto* cmdHelp = button("cmdHelp", HelpText);
     cmdClose->setDefault(true);
-    cmdHelp->setAutoDefault(false);
+    cmdHelp->setAutoDefault(true);
     connect(cmdClose, &QPushButton::clicked, this, &QWidget::close);
     connect(cmdHelp, &QPushButton::clicked, this, &DJJInfoForm::ShowHelp);
     connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this, &DJJInfoForm::ShowHelp);

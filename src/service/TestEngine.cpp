@@ -39,7 +39,7 @@ void TestEngine::Ask(TestCommandKind command, int interval) {
     if (closing_) {
         return;
     }
-    if (PttOn && command != TestCommandKind::Ptt) {
+    if ((PttOn || mayBeKeyed_) && command != TestCommandKind::Ptt) {
         PttDropPending = true;
     }
     TestCommand = command;
@@ -77,6 +77,7 @@ void TestEngine::Tune() {
     if (!IsAwaitingReply()) {
         port_.Clear();
     }
+    tunedItem_ = session_.Service.TuneItem;
     Ask(TestCommandKind::Tune, CommandInterval);
 }
 
@@ -113,7 +114,7 @@ void TestEngine::SendCommand() {
         break;
     default:
         port_.ExpectBytes(1);
-        port_.Send({TuneItemOf(session_.Service.TuneItem).code, service::Select});
+        port_.Send({TuneItemOf(tunedItem_).code, service::Select});
     }
 }
 
@@ -160,13 +161,19 @@ void TestEngine::SendEnd() {
 
 void TestEngine::TransmitPtt(bool on) {
     pttSent_ = on;
+    mayBeKeyed_ = mayBeKeyed_ || on;
     port_.Send(on ? service::PttOn : service::PttOff);
 }
 
 /// The radio is keyed or unkeyed all the same, and the lamps are to say so.
 void TestEngine::ReceiveSuperseded() {
-    if (pttSent_ && port_.ReadsAcknowledge()) {
-        observer_.OnLamps(*pttSent_);
+    if (!pttSent_ || !port_.ReadsAcknowledge()) {
+        return;
+    }
+    observer_.OnLamps(*pttSent_);
+    if (!*pttSent_) {
+        mayBeKeyed_ = false;
+        PttDropPending = false;
     }
 }
 
@@ -230,6 +237,7 @@ void TestEngine::ReceivePttDrop() {
     }
     PttDropPending = false;
     PttOn = false;
+    mayBeKeyed_ = false;
     Enter(SendIt, CommandInterval);
 }
 
@@ -240,6 +248,7 @@ void TestEngine::ReceivePtt() {
     }
     if (!PttOn) {
         PttDropPending = false;
+        mayBeKeyed_ = false;
     }
     observer_.OnLamps(PttOn);
 }
@@ -283,6 +292,7 @@ void TestEngine::ReceiveSelection() {
     Stop();
     port_.Close();
     clock_.Sleep(TuningPause);
+    session_.Service.TuneItem = tunedItem_;
     observer_.OnTuningReady();
 }
 

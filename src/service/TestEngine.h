@@ -70,8 +70,10 @@ private:
     bool ChannelOnly = false;     // the channel command is not followed by a signalling command
     std::optional<bool> pttSent_; // the command whose reply is due keys or unkeys the radio
     bool PttOn = false;           // what the user has asked for
-    bool PttDropPending = false;  // the transmitter is to be unkeyed before the command in progress goes out
-    bool CloseDone = false;       // ends the wait of Close
+    bool mayBeKeyed_ = false;     // PTT on was sent, and no PTT off was acknowledged since
+    int tunedItem_ = 0;
+    bool PttDropPending = false; // the transmitter is to be unkeyed before the command in progress goes out
+    bool CloseDone = false;      // ends the wait of Close
     bool closing_ = false;
 };
 

@@ -1,10 +1,13 @@
 #include "service/TestForm.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QListWidget>
 #include <QPointer>
 #include <QPushButton>
+#include <QShortcut>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <array>
@@ -74,6 +77,8 @@ constexpr TestFrame::Names SignalNames{"frmTestSignal",
 constexpr int ColumnSpacing = 12;
 constexpr int RowPadding = 3;  // above and below an item
 constexpr int ListMargin = 48; // beside the longest item
+
+constexpr int DialogPollMilliseconds = 50;
 
 } // namespace
 
@@ -157,7 +162,13 @@ void TestForm::BuildItemList() {
 QPushButton* TestForm::AddButton(QHBoxLayout& row, const char* name, const QString& text) {
     auto* button = new QPushButton(text, this);
     button->setObjectName(name);
+    // Enter presses the button that has the keyboard, and none from elsewhere: there is no default button.
     button->setAutoDefault(false);
+    for (const Qt::Key enter : {Qt::Key_Return, Qt::Key_Enter}) {
+        auto* key = new QShortcut(enter, button);
+        key->setContext(Qt::WidgetShortcut);
+        connect(key, &QShortcut::activated, button, &QPushButton::click);
+    }
     row.addWidget(button);
     return button;
 }
@@ -278,7 +289,12 @@ void TestForm::OnLamps(bool transmitting) {
 }
 
 void TestForm::OnTuningReady() {
+    if (printing_ || QApplication::activeModalWidget() != nullptr) { // a question needs this window enabled
+        QTimer::singleShot(DialogPollMilliseconds, this, &TestForm::OnTuningReady);
+        return;
+    }
     tuning_ = true;
+    LvwTuneSel_->setCurrentRow(session_.Service.TuneItem - 1); // whatever was chosen while the radio was asked
     block_.Begin();
     TuningForm* dialog = MakeTuningForm(session_, services_, this);
     connect(dialog, &TuningForm::Unloaded, this, [this] {

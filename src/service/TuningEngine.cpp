@@ -42,7 +42,7 @@ void TuningEngine::Load() {
 
 void TuningEngine::ChangePage(int page) {
     CurrentPage = page;
-    PttDropPending = PttDropPending || PttOn;
+    PttDropPending = PttDropPending || PttOn || mayBeKeyed_;
     Start(TunePage, PageInterval);
 }
 
@@ -96,7 +96,7 @@ void TuningEngine::Close(Ending ending) {
         Done = false;
         valuePending_ = false;
         measuring_ = false;
-        PttDropPending = PttDropPending || PttOn;
+        PttDropPending = PttDropPending || PttOn || mayBeKeyed_;
         Start(ending == Ending::Ok ? TuneOk : TuneCancel, EndingInterval);
         closing_ = true;
         while (!Done) {
@@ -197,13 +197,19 @@ void TuningEngine::SendSet(int page, int value) {
 
 void TuningEngine::TransmitPtt(bool on) {
     pttSent_ = on;
+    mayBeKeyed_ = mayBeKeyed_ || on;
     port_.Send(on ? service::PttOn : service::PttOff);
 }
 
 /// The radio is keyed or unkeyed all the same, and the lamps are to say so.
 void TuningEngine::ReceiveSuperseded() {
-    if (pttSent_ && port_.ReadsAcknowledge()) {
-        observer_.OnLamp(*pttSent_);
+    if (!pttSent_ || !port_.ReadsAcknowledge()) {
+        return;
+    }
+    observer_.OnLamp(*pttSent_);
+    if (!*pttSent_) {
+        mayBeKeyed_ = false;
+        PttDropPending = false;
     }
 }
 
@@ -242,6 +248,7 @@ void TuningEngine::ReceiveDrop() {
     }
     PttOn = false;
     PttDropPending = false;
+    mayBeKeyed_ = false;
     observer_.OnLamp(false);
     Enter(First, TuneOp == TunePage ? DropBeforePageInterval : DropBeforeEndingInterval);
 }
@@ -273,6 +280,7 @@ void TuningEngine::ReceivePtt() {
     }
     if (!PttOn) {
         PttDropPending = false;
+        mayBeKeyed_ = false;
     }
     observer_.OnLamp(PttOn);
     End();

@@ -99,6 +99,7 @@ private:
     int CurrentPage = 0;
     std::optional<bool> pttSent_; // the command whose reply is due keys or unkeys the radio
     bool PttOn = false;           // what the user has asked for
+    bool mayBeKeyed_ = false;     // PTT on was sent, and no PTT off was acknowledged since
     bool PttDropPending = false;  // the transmitter is to be unkeyed before the operation goes on
     bool Done = false;            // ends the wait of Close
     bool running_ = false;        // an operation is under way

@@ -146,7 +146,7 @@ void TuningForm::BuildMeasure() {
 QPushButton* TuningForm::AddButton(QHBoxLayout& row, const char* name, const QString& text) {
     auto* button = new QPushButton(text, this);
     button->setObjectName(name);
-    button->setAutoDefault(false);
+    button->setAutoDefault(true); // Enter presses the button that has the keyboard, else OK
     row.addWidget(button);
     return button;
 }

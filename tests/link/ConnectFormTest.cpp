@@ -317,5 +317,17 @@ TEST_F(ConnectFormTest, DestroyedWhileItRunsClosesThePort) {
     fakes.clock.Advance(5000);
 }
 
+TEST_F(ConnectFormTest, EnterPressesTheButtonThatHasTheKeyboard) {
+    Load(TransferDirection::Write);
+    form->show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
+    auto& cmdCancel = Find<QPushButton>(*form, "cmdCancel");
+    cmdCancel.setFocus();
+    QTest::keyClick(&cmdCancel, Qt::Key_Return);
+    fakes.clock.Advance(1000);
+    EXPECT_EQ(notes, std::vector<std::string>{"unloaded by cancel, hidden"});
+    EXPECT_TRUE(radio.Commands().empty());
+}
+
 } // namespace
 } // namespace zelvor

@@ -111,6 +111,41 @@ TEST_F(TestEngineTest, TheLampsFollowARadioThatIsUnkeyedWhileAnotherCommandWaits
     EXPECT_EQ(lamps, (std::vector<std::string>{"transmit", "idle"}));
 }
 
+TEST_F(TestEngineTest, AReleaseThatAnotherCommandOvertakesIsStillSent) {
+    Open();
+    engine.PressPtt();
+    rig.clock.Advance(2); // sent at 1, its answer comes at 3
+    engine.PressPtt();
+    engine.ChooseWide(true);
+    rig.clock.Advance(50);
+    EXPECT_EQ(rig.sent, (Commands{"08 0D", "08 0E", "46"}));
+    EXPECT_EQ(lamps.back(), "idle");
+}
+
+TEST_F(TestEngineTest, AReleaseThatTheRadioMissedGoesOutAgainBeforeTheNextCommand) {
+    Open();
+    engine.PressPtt();
+    rig.clock.Advance(50);
+    rig.TakeSent();
+    rig.Spoil(rig.Replies() + 1, Fault::Drop);
+    rig.messages.Expect(ConnectionPrompt(), MessageAnswer::Retry);
+    engine.PressPtt();
+    rig.clock.Advance(50);
+    engine.Close();
+    EXPECT_EQ(rig.sent, (Commands{"08 0E", "08 0E", "11 01", "45"}));
+}
+
+TEST_F(TestEngineTest, AnItemChosenWhileTheRadioSelectsAnotherIsNotTheOneThatIsTuned) {
+    Open();
+    rig.session.Service.TuneItem = 9;
+    engine.Tune();
+    rig.clock.Advance(2);
+    rig.session.Service.TuneItem = 4;
+    rig.clock.Advance(300);
+    EXPECT_EQ(rig.sent, (Commands{"05", "06", "0D 0D"}));
+    EXPECT_EQ(rig.session.Service.TuneItem, 9);
+}
+
 TEST_F(TestEngineTest, WideAndNarrowAreSentAndRemembered) {
     Open();
     engine.ChooseWide(false);

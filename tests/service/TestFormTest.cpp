@@ -1,3 +1,5 @@
+#include <QDialog>
+
 #include "service/ServiceWindows.h"
 
 namespace zelvor {
@@ -242,6 +244,40 @@ TEST_F(TestFormTest, ClosedBeforeTheQuestionItPrintsNothing) {
     Click(*form, "CmdPrint");
     EXPECT_TRUE(rig.messages.Shown().empty());
     EXPECT_TRUE(rig.pages.Documents().empty());
+}
+
+TEST_F(TestFormTest, AQuestionThatIsUpKeepsTheWindowEnabledUntilItIsAnswered) {
+    Open();
+    rig.session.Service.TuneItem = 8;
+    Items().setCurrentRow(7);
+    Click(*form, "CmdTune");
+    rig.messages.Expect({"Confirmation", "All tuning data print out.", MessageIcon::Question, MessageButtons::OkCancel,
+                         MessageAnswer::Cancel},
+                        [this] {
+                            QDialog box(form);
+                            box.setModal(true);
+                            box.show();
+                            rig.clock.Advance(500);
+                            EXPECT_TRUE(form->isEnabled());
+                            EXPECT_EQ(form->findChild<TuningForm*>(), nullptr);
+                            return MessageAnswer::Cancel;
+                        });
+    Click(*form, "CmdPrint");
+    ASSERT_TRUE(QTest::qWaitFor([this] { return form->findChild<TuningForm*>() != nullptr; }));
+    EXPECT_FALSE(form->isEnabled());
+    EXPECT_TRUE(form->findChild<TuningForm*>()->isEnabled());
+}
+
+TEST_F(TestFormTest, EnterPressesTheButtonThatHasTheKeyboard) {
+    Open();
+    Press(In<QPushButton>(*form, "cmdWide"), Qt::Key_Return);
+    rig.clock.Advance(50);
+    Press(In<QPushButton>(*form, "CmdNarrow"), Qt::Key_Enter);
+    rig.clock.Advance(50);
+    EXPECT_EQ(rig.sent, (Commands{"46", "47"}));
+    Press(Items(), Qt::Key_Return); // there is no default button
+    rig.clock.Advance(50);
+    EXPECT_EQ(rig.sent, (Commands{"46", "47"}));
 }
 
 } // namespace

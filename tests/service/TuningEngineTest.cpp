@@ -106,6 +106,20 @@ TEST_F(TuningEngineTest, AValueWaitsForThePageChangeThatIsUnderWay) {
     EXPECT_EQ(rig.sent, (Commands{"30 0D", "07", "06", "30 20 14"}));
 }
 
+TEST_F(TuningEngineTest, AReleaseThatTheRadioMissedGoesOutAgainBeforeStore) {
+    OpenOneValue();
+    engine->PressPtt();
+    rig.clock.Advance(50);
+    rig.TakeSent();
+    rig.Spoil(rig.Replies() + 1, Fault::Drop);
+    rig.messages.Expect(ConnectionPrompt(), MessageAnswer::Retry);
+    engine->PressPtt();
+    rig.clock.Advance(20);
+    engine->Close(TuningEngine::Ending::Ok);
+    EXPECT_EQ(rig.sent, (Commands{"08 0E", "08 0E", "1D 0E"}));
+    EXPECT_EQ(dialog.events.back(), "idle");
+}
+
 TEST_F(TuningEngineTest, PttKeysAndUnkeysTheRadio) {
     OpenSixPages();
     engine->PressPtt();
