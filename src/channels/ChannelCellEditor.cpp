@@ -165,6 +165,7 @@ void ChannelCellEditor::HideEditors() {
     }
     txtInputBox_->hide();
     comInputStep_->hide();
+    grid_.CatchFocus();
 }
 
 void ChannelCellEditor::EncodeAndRefresh() {
@@ -215,16 +216,16 @@ void ChannelCellEditor::CommitText() {
 }
 
 void ChannelCellEditor::CommitReceive(const QString& text) {
-    ChannelEditForm* dialog = owner_.openDialog();
     if (text.isEmpty()) {
         owner_.clearChannelData(session_.CurrentChannel);
-        if (dialog != nullptr) {
+        if (ChannelEditForm* dialog = owner_.openDialog()) {
             dialog->BlankChannelDialog();
         }
         return;
     }
     ChannelTexts& texts = session_.Channels.Texts;
     const NormalisedFrequency entered = EnterFrequency(session_, services_, FromQString(text), FrequencyCaution);
+    ChannelEditForm* dialog = owner_.openDialog(); // behind the message, which may outlive it
     texts.RxText = entered.text;
     if (!entered.outOfRange) {
         CellUndoText = ToQString(texts.RxText);

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QKeySequence>
+#include <utility>
 
 namespace zelvor {
 
@@ -50,8 +51,7 @@ bool AccessKeys::Press(QObject& focus) {
     if (&focus != &form_) {
         focus.removeEventFilter(this);
     }
-    claimed_->animateClick();
-    claimed_ = nullptr;
+    std::exchange(claimed_, nullptr)->click(); // at once: what comes later might find the window closing
     return true;
 }
 

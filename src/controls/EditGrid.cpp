@@ -1,8 +1,10 @@
 #include "controls/EditGrid.h"
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMdiSubWindow>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -100,6 +102,14 @@ EditGrid::EditGrid(int rows, int columns, QWidget* parent) : QTableWidget(parent
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &EditGrid::Scrolled);
     connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, &EditGrid::Scrolled);
     setCurrentCell(0, 0);
+}
+
+void EditGrid::CatchFocus() {
+    const QWidget* focus = QApplication::focusWidget();
+    const bool onFrame = qobject_cast<const QMdiSubWindow*>(focus) != nullptr && focus->isAncestorOf(this);
+    if (isVisible() && (focus == nullptr || onFrame)) {
+        setFocus(Qt::OtherFocusReason);
+    }
 }
 
 void EditGrid::SetCaptions(const QStringList& captions, const QStringList& rowCaptions) {

@@ -26,6 +26,9 @@ public:
     /// rows, and nothing is shown behind the last column, unless rows have a height of their own: then they scroll.
     void FitCells(const std::vector<int>& widths, int ownRowHeight = 0);
 
+    /// Takes the keyboard where an editor's end has left it to nothing but the frame round the window.
+    void CatchFocus();
+
     [[nodiscard]] QString Text(int row, int column) const;
     void SetText(int row, int column, const QString& text);
     [[nodiscard]] int Row() const { return currentRow() + 1; }

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFocusEvent>
+#include <QMenuBar>
 #include <QPointer>
 #include <QWidget>
 #include <utility>
@@ -10,15 +11,39 @@ namespace zelvor {
 
 namespace {
 
-/// An edit whose window is behind another one.
+/// An edit whose window is behind another one, or whose keyboard is in the menu bar.
 struct WaitingEdit {
     QPointer<const QWidget> control;
     std::function<void()> leave;
+    QMetaObject::Connection watch;
 };
 
 WaitingEdit& Waiting() {
     static WaitingEdit waiting;
     return waiting;
+}
+
+/// Returns the edit that waited, if any.
+WaitingEdit Forget() {
+    QObject::disconnect(Waiting().watch);
+    return std::exchange(Waiting(), {});
+}
+
+/// Without a window manager, a click may give the keyboard to another control at once when the window is back.
+void OnFocusChanged(const QWidget* now) {
+    const QWidget* control = Waiting().control;
+    if (control == nullptr || now == nullptr || now->window() != control->window() || now == control ||
+        control->isAncestorOf(now) || qobject_cast<const QMenuBar*>(now) != nullptr) {
+        return;
+    }
+    Forget().leave();
+}
+
+void Keep(const QWidget& control, std::function<void()> leave) {
+    Forget();
+    Waiting() = {&control, std::move(leave),
+                 QObject::connect(qApp, &QApplication::focusChanged, qApp,
+                                  [](QWidget*, const QWidget* now) { OnFocusChanged(now); })};
 }
 
 bool TakesFocus(const QWidget& widget) {
@@ -38,7 +63,7 @@ QWidget* FocusBehind(QWidget* editor) {
 } // namespace
 
 void CommitPendingEdit() {
-    if (const WaitingEdit waiting = std::exchange(Waiting(), {}); waiting.control) {
+    if (const WaitingEdit waiting = Forget(); waiting.control) {
         waiting.leave();
     }
     const QPointer<QWidget> editor = QApplication::focusWidget();
@@ -56,14 +81,18 @@ void CommitPendingEdit() {
 
 bool IsLeft(QWidget& control, const QFocusEvent& event, std::function<void()> leave) {
     const QWidget* next = QApplication::focusWidget();
-    const bool left =
-        next == nullptr ? event.reason() != Qt::ActiveWindowFocusReason : next->window() == control.window();
-    Waiting() = left ? WaitingEdit() : WaitingEdit{&control, std::move(leave)};
-    return left;
+    const bool toAnotherWindow =
+        next == nullptr ? event.reason() == Qt::ActiveWindowFocusReason : next->window() != control.window();
+    if (!toAnotherWindow && event.reason() != Qt::MenuBarFocusReason) {
+        Forget();
+        return true;
+    }
+    Keep(control, std::move(leave));
+    return false;
 }
 
 bool GoesOn(const QWidget& control) {
-    return std::exchange(Waiting(), {}).control == &control;
+    return Waiting().control == &control && Forget().control != nullptr;
 }
 
 void DropPendingEdit(const QWidget& window) {

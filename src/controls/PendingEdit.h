@@ -12,8 +12,8 @@ namespace zelvor {
 void CommitPendingEdit();
 
 /// For the focusOutEvent of a control that commits when it is left: whether it is left now. It is not where another
-/// program or window only comes to the front: the edit goes on when the control's window is back. Until then
-/// CommitPendingEdit ends it by calling leave.
+/// program or window only comes to the front, or the keyboard goes to the menu bar: the edit goes on when it is back.
+/// Until then CommitPendingEdit ends it by calling leave.
 [[nodiscard]] bool IsLeft(QWidget& control, const QFocusEvent& event, std::function<void()> leave);
 /// For its focusInEvent: whether an edit goes on.
 [[nodiscard]] bool GoesOn(const QWidget& control);

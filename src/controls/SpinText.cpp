@@ -27,14 +27,23 @@ UpDown::UpDown(QWidget* parent) : QAbstractSpinBox(parent) {
     lineEdit()->hide(); // the text is in the box beside it
 }
 
+/// A step may bring up a message box, which takes the release of the mouse: nothing else would end the repeating.
+void UpDown::EndRepeating() {
+    QMouseEvent release(QEvent::MouseButtonRelease, QPointF(), QPointF(), Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
+    mouseReleaseEvent(&release);
+}
+
+void UpDown::mousePressEvent(QMouseEvent* event) {
+    QAbstractSpinBox::mousePressEvent(event);
+    if (!QApplication::mouseButtons().testFlag(Qt::LeftButton)) {
+        EndRepeating();
+    }
+}
+
 void UpDown::timerEvent(QTimerEvent* event) {
     const QWidget* modal = QApplication::activeModalWidget();
     if (QApplication::mouseButtons() == Qt::NoButton || (modal != nullptr && modal != window())) {
-        // A step may bring up a message box, which takes the release of the mouse: nothing else would end the
-        // repeating.
-        QMouseEvent release(QEvent::MouseButtonRelease, QPointF(), QPointF(), Qt::LeftButton, Qt::NoButton,
-                            Qt::NoModifier);
-        mouseReleaseEvent(&release);
+        EndRepeating();
         return;
     }
     QAbstractSpinBox::timerEvent(event);
@@ -99,10 +108,13 @@ std::optional<int> SpinText::NextValue(bool up) const {
 }
 
 void SpinText::Step(bool up) {
+    box_->setFocus(Qt::OtherFocusReason);
+    if (window()->focusWidget() != box_) {
+        return; // another box, with a text that it may not hold, kept the keyboard
+    }
     if (const auto next = NextValue(up)) {
         Put(*next);
     }
-    box_->setFocus(Qt::OtherFocusReason);
     // From end to start, so that the caret ends at the start.
     const int length = static_cast<int>(box_->text().size());
     box_->setSelection(length, -length);

@@ -47,10 +47,13 @@ signals:
 
 protected:
     [[nodiscard]] StepEnabled stepEnabled() const override { return StepUpEnabled | StepDownEnabled; }
+    void mousePressEvent(QMouseEvent* event) override;
     void timerEvent(QTimerEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 
 private:
+    void EndRepeating();
+
     int value_ = 0;
 };
 

@@ -82,6 +82,7 @@ void TextCellEdit::OnFocusLeft() {
     const QScopedValueRollback<bool> telling(telling_, true);
     emit Left();
     Drop();
+    grid_.CatchFocus();
 }
 
 } // namespace zelvor

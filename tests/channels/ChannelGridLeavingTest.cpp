@@ -1,8 +1,11 @@
 // Where the keyboard goes when a cell editor is left, and what other windows in front do to an open one.
 
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QScrollBar>
 #include <QSignalSpy>
 
+#include "channels/ChannelEditForm.h"
 #include "channels/ChannelFormFixture.h"
 #include "controls/PendingEdit.h"
 
@@ -120,6 +123,43 @@ TEST_F(ChannelGridLeavingTest, ALeftClickElsewhereStillCommits) {
     Type("146.5");
     ClickCell(3, 1);
     EXPECT_EQ(Cell(1, 1), "146.50000");
+}
+
+TEST_F(ChannelGridLeavingTest, TheDialogMayBeGoneBehindTheMessage) {
+    PutRecord(1, SimplexRecord);
+    Show();
+    auto dialog = std::make_unique<ChannelEditForm>(session, services.Get(), windows);
+    session.SetOpen(ChildWindow::ChannelEdit, true);
+    GoTo(1, 1);
+    Type("1");
+    services.messages.Expect(OutOfRange(), [&] {
+        session.SetOpen(ChildWindow::ChannelEdit, false);
+        dialog.reset();
+        return MessageAnswer::Ok;
+    });
+    Key(Qt::Key_Return);
+    EXPECT_EQ(Cell(1, 1), "100.00000");
+}
+
+TEST_F(ChannelGridLeavingTest, TheGridTakesTheKeyboardFromTheFrame) {
+    PutRecord(1, SimplexRecord);
+    Show();
+    QMdiArea area;
+    auto* frame = area.addSubWindow(form.get());
+    area.resize(900, 600);
+    area.show();
+    area.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&area));
+    frame->show();
+    for (const int column : {1, 3}) {
+        GoTo(1, column);
+        Grid().setFocus();
+        Key(Qt::Key_Return);
+        frame->setFocus(Qt::MouseFocusReason); // a click on its title
+        EXPECT_TRUE(Grid().hasFocus()) << column;
+    }
+    frame->setWidget(nullptr);
+    form->setParent(nullptr);
 }
 
 } // namespace

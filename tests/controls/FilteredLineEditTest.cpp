@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QInputMethodEvent>
+#include <QMenuBar>
 #include <QSignalSpy>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -224,6 +225,24 @@ TEST_F(BoxBesideAWindow, MayGoMeanwhile) {
     delete shortLived;
     CommitPendingEdit();
     EXPECT_EQ(left.count(), 1); // when the other box got the focus
+}
+
+TEST_F(BoxBesideAWindow, IsLeftByAClickOnAnotherControlAsTheWindowComesBack) {
+    BringOtherToFront();
+    neighbour.setFocus(); // where the click makes the window the active one at once
+    form.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+    EXPECT_EQ(left.count(), 1);
+}
+
+TEST_F(BoxBesideAWindow, IsNotLeftForTheMenuBar) {
+    QMenuBar menus(&form);
+    menus.addMenu("Menu");
+    menus.setFocus(Qt::MenuBarFocusReason);
+    EXPECT_EQ(left.count(), 0);
+    box.setFocus(Qt::MenuBarFocusReason);
+    EXPECT_FALSE(box.hasSelectedText());
+    EXPECT_EQ(left.count(), 0);
 }
 
 } // namespace

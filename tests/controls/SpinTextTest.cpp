@@ -12,6 +12,7 @@
 #include <gtest/gtest.h>
 #include <memory>
 
+#include "controls/HoldingLineEdit.h"
 #include "support/QtPrinting.h"
 
 namespace zelvor {
@@ -279,6 +280,20 @@ TEST_F(SpinTextTest, AMessageBoxOverAPressedButtonEndsItsRepeating) {
     EXPECT_EQ(Box().text(), "6");
     ClickButton(QStyle::SC_SpinBoxDown);
     EXPECT_EQ(Box().text(), "5");
+}
+
+TEST_F(SpinTextTest, DoesNotStepWhereAnotherBoxKeepsTheKeyboard) {
+    HoldingLineEdit holding([](const QString& text) { return text.size() >= 3; });
+    window->layout()->addWidget(&holding);
+    holding.show();
+    holding.setFocus();
+    QTest::keyClicks(&holding, "1");
+    const QSignalSpy refused(&holding, &HoldingLineEdit::Refused);
+    ClickButton(QStyle::SC_SpinBoxUp);
+    EXPECT_EQ(refused.count(), 1);
+    EXPECT_TRUE(holding.hasFocus());
+    EXPECT_EQ(Box().text(), "5");
+    holding.setParent(nullptr);
 }
 
 } // namespace
