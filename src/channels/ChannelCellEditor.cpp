@@ -168,6 +168,11 @@ void ChannelCellEditor::HideEditors() {
     grid_.CatchFocus();
 }
 
+void ChannelCellEditor::Leave() {
+    LeaveText();
+    LeaveList();
+}
+
 void ChannelCellEditor::EncodeAndRefresh() {
     owner_.encodeChannelRow(session_.CurrentChannel);
     session_.Channels.RefreshChannelBytes(session_.Image);

@@ -44,6 +44,8 @@ public:
     void LoadRowIntoFields(int row);
     /// Hides both editors without committing.
     void HideEditors();
+    /// Commits an open edit, before the cursor's cell becomes another one.
+    void Leave();
 
 private:
     enum class State { Idle, TextEditing, ListEditing };

@@ -197,6 +197,7 @@ void ChannelForm::HideEditors() {
 }
 
 void ChannelForm::OnCursorMoved(int row, int column) {
+    cellEditor_->Leave();
     session_.CurrentChannel = row;
     session_.CurrentCol = column;
     session_.EditChannel = row;

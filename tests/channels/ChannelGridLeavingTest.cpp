@@ -162,5 +162,19 @@ TEST_F(ChannelGridLeavingTest, TheGridTakesTheKeyboardFromTheFrame) {
     form->setParent(nullptr);
 }
 
+TEST_F(ChannelGridLeavingTest, ACursorThatMovesUnderAnOpenEditDoesNotMoveWhatIsStored) {
+    PutRecord(1, SimplexRecord);
+    Show();
+    GoTo(1, 1);
+    Type("150.5");
+    BringAnotherWindowToFront();
+    GoTo(1, 5); // as by a click that comes before the window is active again
+    EXPECT_EQ(Cell(1, 1), "150.50000");
+    EXPECT_EQ(Cell(1, 2), "145.12500");
+    EXPECT_EQ(Record(1)[2], 0x05);
+    EXPECT_EQ(Record(1)[3], 0x15);
+    EXPECT_EQ(Record(1)[7], 0x14);
+}
+
 } // namespace
 } // namespace zelvor
