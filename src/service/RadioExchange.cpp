@@ -1,5 +1,7 @@
 #include "service/RadioExchange.h"
 
+#include "service/ServiceFrames.h"
+
 namespace zelvor {
 
 namespace {
@@ -36,6 +38,7 @@ void RadioExchange::OnSendTimer() {
     }
     const std::uint8_t sent = link_.CommState;
     awaiting_ = true;
+    pttSent_.reset();
     SendCommand();
     if (!active_) { // ended from inside a wait of the sending
         return;
@@ -64,6 +67,27 @@ void RadioExchange::OnReceive(ReceiveReason reason) {
         return;
     }
     Receive();
+}
+
+void RadioExchange::ReceiveSuperseded() {
+    if (!pttSent_ || !port_.ReadsAcknowledge()) {
+        return;
+    }
+    OnKeyed(*pttSent_);
+    if (!*pttSent_) {
+        OnUnkeyed();
+    }
+}
+
+void RadioExchange::SendPtt(bool on) {
+    pttSent_ = on;
+    mayBeKeyed_ = mayBeKeyed_ || on;
+    port_.Send(on ? service::PttOn : service::PttOff);
+}
+
+void RadioExchange::OnUnkeyed() {
+    mayBeKeyed_ = false;
+    PttDropPending = false;
 }
 
 void RadioExchange::OnTimeout() {

@@ -39,8 +39,8 @@ void TestEngine::Ask(TestCommandKind command, int interval) {
     if (closing_) {
         return;
     }
-    if ((PttOn || mayBeKeyed_) && command != TestCommandKind::Ptt) {
-        PttDropPending = true;
+    if (command != TestCommandKind::Ptt) {
+        DropPttFirst();
     }
     TestCommand = command;
     if (!IsAwaitingReply()) {
@@ -99,7 +99,6 @@ void TestEngine::Close() {
 }
 
 void TestEngine::SendCommand() {
-    pttSent_.reset();
     switch (State()) {
     case SendIt:
         SendFirst();
@@ -121,7 +120,7 @@ void TestEngine::SendCommand() {
 void TestEngine::SendFirst() {
     port_.ExpectBytes(1);
     if (PttDropPending) {
-        TransmitPtt(false);
+        SendPtt(false);
         return;
     }
     switch (TestCommand) {
@@ -134,7 +133,7 @@ void TestEngine::SendFirst() {
         port_.Send({service::SetSignalling, static_cast<std::uint8_t>(signalling_)});
         break;
     case TestCommandKind::Ptt:
-        TransmitPtt(PttOn);
+        SendPtt(PttOn);
         break;
     case TestCommandKind::Tune:
         clock_.Sleep(TunePause);
@@ -159,22 +158,8 @@ void TestEngine::SendEnd() {
     port_.Send(wire::End);
 }
 
-void TestEngine::TransmitPtt(bool on) {
-    pttSent_ = on;
-    mayBeKeyed_ = mayBeKeyed_ || on;
-    port_.Send(on ? service::PttOn : service::PttOff);
-}
-
-/// The radio is keyed or unkeyed all the same, and the lamps are to say so.
-void TestEngine::ReceiveSuperseded() {
-    if (!pttSent_ || !port_.ReadsAcknowledge()) {
-        return;
-    }
-    observer_.OnLamps(*pttSent_);
-    if (!*pttSent_) {
-        mayBeKeyed_ = false;
-        PttDropPending = false;
-    }
+void TestEngine::OnKeyed(bool keyed) {
+    observer_.OnLamps(keyed);
 }
 
 void TestEngine::Receive() {
@@ -235,9 +220,8 @@ void TestEngine::ReceivePttDrop() {
         FailFast(FailureInterval);
         return;
     }
-    PttDropPending = false;
     PttOn = false;
-    mayBeKeyed_ = false;
+    OnUnkeyed();
     Enter(SendIt, CommandInterval);
 }
 
@@ -247,8 +231,7 @@ void TestEngine::ReceivePtt() {
         return;
     }
     if (!PttOn) {
-        PttDropPending = false;
-        mayBeKeyed_ = false;
+        OnUnkeyed();
     }
     observer_.OnLamps(PttOn);
 }

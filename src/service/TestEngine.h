@@ -52,8 +52,7 @@ private:
     void SendFirst();
     void SendEnd();
     void Receive() override;
-    void ReceiveSuperseded() override;
-    void TransmitPtt(bool on);
+    void OnKeyed(bool keyed) override;
     void ReceiveFirst();
     void ReceivePttDrop();
     void ReceivePtt();
@@ -67,13 +66,9 @@ private:
     TestObserver& observer_;
     TestCommandKind TestCommand = TestCommandKind::SetChannel;
     int signalling_ = 1;
-    bool ChannelOnly = false;     // the channel command is not followed by a signalling command
-    std::optional<bool> pttSent_; // the command whose reply is due keys or unkeys the radio
-    bool PttOn = false;           // what the user has asked for
-    bool mayBeKeyed_ = false;     // PTT on was sent, and no PTT off was acknowledged since
+    bool ChannelOnly = false; // the channel command is not followed by a signalling command
     int tunedItem_ = 0;
-    bool PttDropPending = false; // the transmitter is to be unkeyed before the command in progress goes out
-    bool CloseDone = false;      // ends the wait of Close
+    bool CloseDone = false; // ends the wait of Close
     bool closing_ = false;
 };
 

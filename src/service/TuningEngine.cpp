@@ -42,7 +42,7 @@ void TuningEngine::Load() {
 
 void TuningEngine::ChangePage(int page) {
     CurrentPage = page;
-    PttDropPending = PttDropPending || PttOn || mayBeKeyed_;
+    DropPttFirst();
     Start(TunePage, PageInterval);
 }
 
@@ -96,7 +96,7 @@ void TuningEngine::Close(Ending ending) {
         Done = false;
         valuePending_ = false;
         measuring_ = false;
-        PttDropPending = PttDropPending || PttOn || mayBeKeyed_;
+        DropPttFirst();
         Start(ending == Ending::Ok ? TuneOk : TuneCancel, EndingInterval);
         closing_ = true;
         while (!Done) {
@@ -118,10 +118,9 @@ int TuningEngine::LastCancelState() const {
 }
 
 void TuningEngine::SendCommand() {
-    pttSent_.reset();
     port_.ExpectBytes(1);
     if (IsDropDue()) {
-        TransmitPtt(false);
+        SendPtt(false);
         return;
     }
     switch (TuneOp) {
@@ -129,7 +128,7 @@ void TuningEngine::SendCommand() {
         SendPageCommand();
         break;
     case TunePtt:
-        TransmitPtt(PttOn);
+        SendPtt(PttOn);
         break;
     case TuneOk:
     case TuneCancel:
@@ -195,22 +194,8 @@ void TuningEngine::SendSet(int page, int value) {
     port_.Send({Code(page), service::SetValue, static_cast<std::uint8_t>(value)});
 }
 
-void TuningEngine::TransmitPtt(bool on) {
-    pttSent_ = on;
-    mayBeKeyed_ = mayBeKeyed_ || on;
-    port_.Send(on ? service::PttOn : service::PttOff);
-}
-
-/// The radio is keyed or unkeyed all the same, and the lamps are to say so.
-void TuningEngine::ReceiveSuperseded() {
-    if (!pttSent_ || !port_.ReadsAcknowledge()) {
-        return;
-    }
-    observer_.OnLamp(*pttSent_);
-    if (!*pttSent_) {
-        mayBeKeyed_ = false;
-        PttDropPending = false;
-    }
+void TuningEngine::OnKeyed(bool keyed) {
+    observer_.OnLamp(keyed);
 }
 
 void TuningEngine::Receive() {
@@ -247,8 +232,7 @@ void TuningEngine::ReceiveDrop() {
         return;
     }
     PttOn = false;
-    PttDropPending = false;
-    mayBeKeyed_ = false;
+    OnUnkeyed();
     observer_.OnLamp(false);
     Enter(First, TuneOp == TunePage ? DropBeforePageInterval : DropBeforeEndingInterval);
 }
@@ -279,8 +263,7 @@ void TuningEngine::ReceivePtt() {
         return;
     }
     if (!PttOn) {
-        PttDropPending = false;
-        mayBeKeyed_ = false;
+        OnUnkeyed();
     }
     observer_.OnLamp(PttOn);
     End();

@@ -80,8 +80,7 @@ private:
     void SendMeasuredEnding();
     void SendSet(int page, int value);
     void Receive() override;
-    void ReceiveSuperseded() override;
-    void TransmitPtt(bool on);
+    void OnKeyed(bool keyed) override;
     void ReceiveDrop();
     void ReceivePageReply();
     void ReceivePtt();
@@ -97,13 +96,9 @@ private:
     TuningObserver& observer_;
     std::uint8_t TuneOp = TunePage;
     int CurrentPage = 0;
-    std::optional<bool> pttSent_; // the command whose reply is due keys or unkeys the radio
-    bool PttOn = false;           // what the user has asked for
-    bool mayBeKeyed_ = false;     // PTT on was sent, and no PTT off was acknowledged since
-    bool PttDropPending = false;  // the transmitter is to be unkeyed before the operation goes on
-    bool Done = false;            // ends the wait of Close
-    bool running_ = false;        // an operation is under way
-    bool valuePending_ = false;   // a value waits for it
+    bool Done = false;          // ends the wait of Close
+    bool running_ = false;      // an operation is under way
+    bool valuePending_ = false; // a value waits for it
     bool measuring_ = false;
     bool closing_ = false;
 };
