@@ -51,6 +51,7 @@ class EngineOwner : public CloneObserver {
 public:
     void OnProgress(int) override {}
     void OnButtonsEnabled(bool) override {}
+    void OnStandstill() override {}
     void OnTransferDone() override {}
     void OnReadCompleted() override {}
     void OnWriteCompleted() override {}

@@ -1,3 +1,30 @@
+# Tests are compiled for a quick build, not for speed.
+function(zelvor_test_settings target)
+  zelvor_compile_settings(${target})
+  if(NOT MSVC)
+    target_compile_options(${target} PRIVATE $<$<CONFIG:Release>:-O1>)
+  endif()
+endfunction()
+
+# Headers compiled once for all test programs of a kind: without the toolkit, with the toolkit's libraries behind the
+# code under test, with windows.
+function(zelvor_test_headers name)
+  file(WRITE ${CMAKE_BINARY_DIR}/test_headers/${name}.cpp "")
+  add_library(${name} OBJECT ${CMAKE_BINARY_DIR}/test_headers/${name}.cpp)
+  target_link_libraries(${name} PRIVATE ${ARGN} GTest::gtest)
+  target_precompile_headers(${name} PRIVATE <algorithm> <array> <functional> <gtest/gtest.h> <memory> <optional> <random>
+                            <string> <string_view> <utility> <vector>)
+  zelvor_test_settings(${name})
+endfunction()
+
+zelvor_test_headers(zelvor_test_headers_plain)
+zelvor_test_headers(zelvor_test_headers_engine Zelvor::platform)
+zelvor_test_headers(zelvor_test_headers_gui Zelvor::platform zelvor_qtest)
+target_precompile_headers(
+  zelvor_test_headers_gui PRIVATE <QtCore> <QApplication> <QCheckBox> <QComboBox> <QDialog> <QHeaderView> <QLabel>
+  <QLineEdit> <QListWidget> <QMainWindow> <QMdiArea> <QMdiSubWindow> <QMenuBar> <QMessageBox> <QPushButton> <QScrollBar>
+  <QSignalSpy> <QTableWidget> <QTabWidget> <QTest> <QToolBar> <QToolButton> <QVBoxLayout> <QWindow>)
+
 # A test program: zelvor_test(<name> LABEL fast|gui|system SOURCES ... LINKS ...).
 # Each GoogleTest case becomes one CTest test with the label.
 
@@ -12,7 +39,14 @@ function(zelvor_test name)
     target_link_libraries(${name} PRIVATE GTest::gtest_main)
   endif()
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
-  zelvor_compile_settings(${name})
+  zelvor_test_settings(${name})
+  if("zelvor_qtest" IN_LIST TEST_LINKS)
+    target_precompile_headers(${name} REUSE_FROM zelvor_test_headers_gui)
+  elseif(TEST_LINKS MATCHES "Zelvor::(fakes|platform|channels|service|shell|print|link)|zelvor_link_rig")
+    target_precompile_headers(${name} REUSE_FROM zelvor_test_headers_engine)
+  else()
+    target_precompile_headers(${name} REUSE_FROM zelvor_test_headers_plain)
+  endif()
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
   gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
                        PROPERTIES LABELS ${TEST_LABEL} TIMEOUT ${TEST_TIMEOUT}

@@ -1,19 +1,35 @@
 #include <QApplication>
+#include <cstdio>
 
 #include "data/Session.h"
+#include "platform/FontCheck.h"
 #include "platform/QtServices.h"
 #include "shell/Icons.h"
 #include "shell/MDIForm1.h"
 
+namespace {
+
+// Texts and file names are UTF-8 here in every locale. Newer versions of the toolkit complain of each that is not.
+void SayAllButTheLocale(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    if (!text.startsWith(QLatin1String("Detected locale"))) {
+        std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, text)));
+    }
+}
+
+} // namespace
+
 int main(int argc, char** argv) {
     // The menu bar is the window's own; looking for a desktop's costs a round over the message bus at every start.
     QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
+    qInstallMessageHandler(SayAllButTheLocale);
     QApplication application(argc, argv);
+    qInstallMessageHandler(nullptr);
     QApplication::setOrganizationName("Zelvor");
     QApplication::setApplicationName("Zelvor");
     QApplication::setApplicationVersion("1.00");
     QApplication::setDesktopFileName("org.zelvor.Zelvor");
     QApplication::setWindowIcon(zelvor::MakeIcon(zelvor::IconShape::Application));
+    zelvor::TellWhereThereIsNoFont();
 
     zelvor::QtServices services;
     zelvor::Session session;

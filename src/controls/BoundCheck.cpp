@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 
 #include "controls/EnterAsTab.h"
+#include "controls/PendingEdit.h"
 #include "platform/Toolkit.h"
 #include "text/StringTable.h"
 
@@ -36,7 +37,7 @@ void BoundCheck::keyPressEvent(QKeyEvent* event) {
 
 void BoundCheck::focusOutEvent(QFocusEvent* event) {
     QCheckBox::focusOutEvent(event);
-    if (event->reason() != Qt::PopupFocusReason) {
+    if (event->reason() != Qt::PopupFocusReason && IsLeft(*this, *event, [this] { emit FocusLeft(); })) {
         emit FocusLeft();
     }
 }

@@ -21,7 +21,7 @@ public:
     void Commit();
 
 signals:
-    /// The focus went to another control or window.
+    /// The focus went to another control; another window in front, and the menu bar, are no such thing.
     void FocusLeft();
 
 protected:

@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QFocusEvent>
 #include <QKeyEvent>
+#include <QProxyStyle>
 #include <QStyleOptionComboBox>
 #include <QWheelEvent>
 #include <algorithm>
@@ -17,10 +18,29 @@ namespace {
 constexpr int EditMargin = 2; // the toolkit's own, on either side of a text box's text
 constexpr int CaretWidth = 1;
 
+/// A list as low as a row: without a frame round it, and its text box as high as the list itself.
+class InCellStyle : public QProxyStyle {
+public:
+    using QProxyStyle::QProxyStyle;
+
+    [[nodiscard]] QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                                       const QWidget* widget) const override {
+        const QRect place = QProxyStyle::subControlRect(control, option, part, widget);
+        if (control != CC_ComboBox || part != SC_ComboBoxEditField) {
+            return place;
+        }
+        return {option->rect.topLeft(), QPoint(place.right(), option->rect.bottom())};
+    }
+};
+
 } // namespace
 
 CellListEditor::CellListEditor(QWidget* parent) : QComboBox(parent), edit_(new FilteredLineEdit) {
     setLineEdit(edit_);
+    auto* inCell = new InCellStyle;
+    inCell->setParent(this);
+    setStyle(inCell); // behind the text box: by it the list below is made as that of an editable one
+    setFrame(false);
     setInsertPolicy(QComboBox::NoInsert);
     setCompleter(nullptr);
     setContextMenuPolicy(Qt::PreventContextMenu);
@@ -36,7 +56,10 @@ void CellListEditor::ShowOver(const EditGrid& grid, const QStringList& entries, 
     addItems(entries);
     PutText(text);
     edit_->setReadOnly(!typing);
-    setGeometry(cell.x(), cell.y(), std::max(cell.width(), ReadableWidth()), sizeHint().height());
+    edit_->setAlignment(grid.ColumnAlignment(grid.Column()));
+    const int width = std::max(cell.width(), ReadableWidth());
+    const int rightmost = cell.x() + cell.width() + grid.WidthBehind(grid.Column()) - width;
+    setGeometry(std::min(cell.x(), rightmost), cell.y(), width, cell.height());
     setEnabled(true);
     show();
     raise();
@@ -84,7 +107,7 @@ void CellListEditor::keyPressEvent(QKeyEvent* event) {
     default:
         break;
     }
-    if (!enterLetter_.isNull() && event->text() == enterLetter_) {
+    if (!enterLetter_.isNull() && TypedText(*event) == enterLetter_) {
         emit EditEnded();
         event->accept();
         return;

@@ -16,9 +16,9 @@ class CellListEditor : public QComboBox {
 public:
     explicit CellListEditor(QWidget* parent);
 
-    /// Covers the grid's current cell and takes the focus. The height is the list's own, and where an entry would be
-    /// cut off in the cell's width, the width too. Choosing an entry from code here is no choice of the user's: Chosen
-    /// is not raised.
+    /// Covers the grid's current cell, its text placed as the cell's, and takes the focus. Where an entry would be cut
+    /// off in the cell's width it is wider, but never reaches beyond the grid. Choosing an entry from code here is no
+    /// choice of the user's: Chosen is not raised.
     void ShowOver(const EditGrid& grid, const QStringList& entries, const QString& text, bool typing);
 
     /// Enters a character as the user would.

@@ -12,6 +12,9 @@ constexpr int FrameMargin = 2; // the toolkit's own, right of a text box's text
 
 CellTextEditor::CellTextEditor(QWidget* parent) : FilteredLineEdit(parent) {
     setFrame(false);
+    // The grid is the stop of the Tab key. For a control whose focus proxy the editor is, it would be one, also while
+    // it is hidden: a stop that nothing leaves.
+    setFocusPolicy(Qt::ClickFocus);
     hide();
 }
 

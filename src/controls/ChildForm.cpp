@@ -1,10 +1,11 @@
 #include "controls/ChildForm.h"
 
-#include <QApplication>
+#include <QMdiSubWindow>
 #include <QScrollBar>
 #include <algorithm>
 
 #include "controls/AccessKeys.h"
+#include "controls/FocusFollower.h"
 #include "platform/Toolkit.h"
 
 namespace zelvor {
@@ -32,12 +33,7 @@ ChildForm::ChildForm(ChildWindow window, std::string_view objectName, QSize cont
     connect(hScroll1_, &QScrollBar::valueChanged, this, [this](int value) { picture1_->move(-value, picture1_->y()); });
     connect(vScroll1_, &QScrollBar::valueChanged, this, [this](int value) { picture1_->move(picture1_->x(), -value); });
     new AccessKeys(*this);
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
-        // What the mouse is on stays under it.
-        if (now != nullptr && picture1_->isAncestorOf(now) && QApplication::mouseButtons() == Qt::NoButton) {
-            ScrollTo(*now);
-        }
-    });
+    connect(new FocusFollower(*picture1_), &FocusFollower::Moved, this, &ChildForm::ShowFocus);
     resize(contentSize_);
     LayOutScrollBars();
 }
@@ -62,22 +58,34 @@ void ChildForm::resizeEvent(QResizeEvent* event) {
     }
 }
 
-/// Brings a control of the content into view; one that is larger than the view leaves it as it is.
-void ChildForm::ScrollTo(const QWidget& control) {
-    const auto bring = [](QScrollBar& bar, int first, int last) {
-        if (last - first <= bar.pageStep()) {
-            bar.setValue(std::clamp(bar.value(), last - bar.pageStep(), first));
-        }
-    };
-    const QRect place(control.mapTo(picture1_, QPoint()), control.size());
-    bring(*hScroll1_, place.left(), place.right() + 1);
-    bring(*vScroll1_, place.top(), place.bottom() + 1);
+void ChildForm::ShowFocus(const FocusPlace& place) {
+    const FocusPlace here = place.Translated(picture1_->pos());
+    const QSize view(hScroll1_->pageStep(), vScroll1_->pageStep());
+    emit FocusShown(here.Translated(BringIntoView(*hScroll1_, *vScroll1_, view, here)));
+}
+
+int ChildForm::FrameAcross() const {
+    const auto* frame = qobject_cast<const QMdiSubWindow*>(parentWidget());
+    return frame == nullptr ? 0 : frame->contentsMargins().left() + frame->contentsMargins().right();
+}
+
+QSize ChildForm::SizeWithin(QSize room, QSize frame) const {
+    const int thickness = PixelsOfTwips(ScrollBarTwips);
+    const QSize inner = room - frame;
+    const bool isLow = inner.height() < contentSize_.height();
+    const bool needsHorizontal = room.width() < contentSize_.width() + (isLow ? thickness : 0);
+    const bool needsVertical = isLow || (needsHorizontal && inner.height() < contentSize_.height() + thickness);
+    const QSize bars(needsVertical ? thickness : 0, needsHorizontal ? thickness : 0);
+    return (contentSize_ + bars).boundedTo(inner);
 }
 
 void ChildForm::LayOutScrollBars() {
     const int thickness = PixelsOfTwips(ScrollBarTwips);
-    const bool needsVertical = height() < contentSize_.height();
-    const bool needsHorizontal = width() < contentSize_.width();
+    // A frame's borders may take their width from the content: its margins are wider.
+    const int outerWidth = width() + FrameAcross();
+    const bool isLow = height() < contentSize_.height();
+    const bool needsHorizontal = outerWidth - (isLow ? thickness : 0) < contentSize_.width();
+    const bool needsVertical = isLow || (needsHorizontal && height() - thickness < contentSize_.height());
     const int visibleWidth = std::max(0, width() - (needsVertical ? thickness : 0));
     const int visibleHeight = std::max(0, height() - (needsHorizontal ? thickness : 0));
 

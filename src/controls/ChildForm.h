@@ -5,6 +5,7 @@
 #include <QWidget>
 #include <string_view>
 
+#include "controls/FocusPlace.h"
 #include "data/Session.h"
 
 class QScrollBar;
@@ -12,9 +13,9 @@ class QScrollBar;
 namespace zelvor {
 
 /// A child window of the main window, as every editing dialog is one: a content panel of fixed size that scrolls when
-/// the window is smaller and follows the focus, and the close rules. The main window hosts it in a ChildFrame and does
-/// what its signals ask: it clears the window's ChildOpen entry, hides its entry of the window list, and hides or
-/// destroys the window.
+/// the window is smaller and follows the focus and the cursor of a table, and the close rules. The main window hosts it
+/// in a ChildFrame and does what its signals ask: it clears the window's ChildOpen entry, hides its entry of the window
+/// list, and hides or destroys the window.
 class ChildForm : public QWidget {
     Q_OBJECT
 
@@ -39,12 +40,17 @@ public:
     [[nodiscard]] virtual bool OpensAtOrigin() const { return false; }
 
     [[nodiscard]] QSize sizeHint() const override;
+    /// The largest size within the room for a window, of which `frame` is the part round this form: the first size
+    /// where there is room, else smaller, with the scroll bars that the content then needs beside it.
+    [[nodiscard]] QSize SizeWithin(QSize room, QSize frame) const;
 
 signals:
     void UnloadRequested();
     void HideRequested();
     /// The window's title changed, and its entry of the window list is to read the same.
     void CaptionChanged(const QString& caption);
+    /// What has the keyboard was brought into view, and lies there in the form now.
+    void FocusShown(const FocusPlace& place);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -53,7 +59,9 @@ protected:
 
 private:
     void LayOutScrollBars();
-    void ScrollTo(const QWidget& control);
+    void ShowFocus(const FocusPlace& place);
+    /// What a frame takes at the left and the right of a form of the first size.
+    [[nodiscard]] int FrameAcross() const;
 
     const ChildWindow window_;
     const QSize contentSize_; // logical pixels

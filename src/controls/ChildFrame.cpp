@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QMdiArea>
 #include <QMenu>
+#include <QScrollBar>
 #include <algorithm>
 
 #include "controls/ChildForm.h"
@@ -22,6 +23,7 @@ ChildFrame::ChildFrame(ChildForm* form, QWidget* parent)
     setWidget(form);
     setAttribute(Qt::WA_DeleteOnClose, false);
     setWindowTitle(form->windowTitle());
+    connect(form, &ChildForm::FocusShown, this, &ChildFrame::ShowInArea);
     if (form->IsToolWindow()) {
         connect(this, &QMdiSubWindow::aboutToActivate, this, &ChildFrame::RestoreMaximised);
     }
@@ -33,6 +35,55 @@ void ChildFrame::RestoreMaximised() {
         if (window->isMaximized() && !window->isHidden()) {
             window->showNormal();
         }
+    }
+}
+
+QSize ChildFrame::FirstSize(QSize room) const {
+    const QMargins border = contentsMargins();
+    const QSize frame(border.left() + border.right(), border.top() + border.bottom());
+    return form_->SizeWithin(room, frame) + frame;
+}
+
+int ChildFrame::TitleBarHeight() const {
+    return contentsMargins().top();
+}
+
+bool ChildFrame::event(QEvent* event) {
+    if (event->type() == QEvent::ParentChange && parentWidget() != nullptr) {
+        parentWidget()->installEventFilter(this);
+    }
+    return QMdiSubWindow::event(event);
+}
+
+bool ChildFrame::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == parentWidget() && event->type() == QEvent::Resize) {
+        FitToArea();
+    }
+    return QMdiSubWindow::eventFilter(watched, event);
+}
+
+void ChildFrame::showEvent(QShowEvent* event) {
+    QMdiSubWindow::showEvent(event);
+    FitToArea();
+}
+
+void ChildFrame::FitToArea() {
+    const QMdiArea* area = mdiArea();
+    if (area == nullptr || isHidden() || isMinimized() || isMaximized() || (fitted_.isValid() && size() != fitted_)) {
+        return;
+    }
+    const QSize room = area->maximumViewportSize();
+    resize(FirstSize(room));
+    fitted_ = size();
+    const QPoint last(std::max(0, room.width() - width()), std::max(0, room.height() - height()));
+    move(std::clamp(x(), 0, last.x()), std::clamp(y(), 0, last.y()));
+}
+
+void ChildFrame::ShowInArea(const FocusPlace& place) {
+    if (const QMdiArea* area = mdiArea()) {
+        const QPoint corner = form_->mapTo(area->viewport(), QPoint());
+        BringIntoView(*area->horizontalScrollBar(), *area->verticalScrollBar(), area->viewport()->size(),
+                      place.Translated(corner));
     }
 }
 
@@ -49,6 +100,9 @@ bool ChildFrame::focusNextPrevChild(bool next) {
 
 void ChildFrame::changeEvent(QEvent* event) {
     QMdiSubWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange) {
+        FitToArea();
+    }
     if (event->type() == QEvent::LanguageChange) {
         // The toolkit leaves the menu of a frame in the language that the frame was made in.
         const QMdiSubWindow fresh;

@@ -36,6 +36,7 @@ public:
         const QStyle* style = cell.widget->style();
         style->drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
         const bool selected = cell.state.testFlag(QStyle::State_Selected);
+        painter->setFont(cell.font);
         const int margin = cell.displayAlignment.testFlag(Qt::AlignRight) ? CellMargin : 0;
         style->drawItemText(painter, cell.rect.adjusted(0, 0, -margin, 0), static_cast<int>(cell.displayAlignment),
                             cell.palette, true, text, selected ? QPalette::HighlightedText : QPalette::Text);
@@ -51,6 +52,9 @@ protected:
     [[nodiscard]] QSize sectionSizeFromContents(int) const override { return {1, 1}; }
     void initStyleOptionForIndex(QStyleOptionHeader* option, int index) const override {
         QHeaderView::initStyleOptionForIndex(option, index);
+        if (option->orientation == Qt::Horizontal) {
+            option->position = QStyleOptionHeader::Middle; // the last one, too, has a border at its right
+        }
         if (option->textAlignment.testFlag(Qt::AlignRight)) {
             option->text += ' '; // as far from the edge as the cells' texts
         }
@@ -221,6 +225,14 @@ QRect EditGrid::CellRect(int row, int column) const {
     return {viewport()->mapTo(parentWidget(), corner), QSize(columnWidth(column - 1), rowHeight(row - 1))};
 }
 
+int EditGrid::WidthBehind(int column) const {
+    int width = 0;
+    for (int behind = column; behind < columnCount(); ++behind) {
+        width += columnWidth(behind);
+    }
+    return width;
+}
+
 void EditGrid::keyPressEvent(QKeyEvent* event) {
     event->ignore();
     emit KeyPressed(event);
@@ -248,9 +260,8 @@ bool IsEnterKey(const QKeyEvent& event) {
 }
 
 QChar TypedCharacter(const QKeyEvent& event) {
-    constexpr auto commands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
     const QString text = TypedText(event);
-    return text.size() != 1 || event.modifiers() & commands ? QChar() : text.front();
+    return text.size() == 1 ? text.front() : QChar();
 }
 
 } // namespace zelvor

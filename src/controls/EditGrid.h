@@ -43,6 +43,8 @@ public:
     [[nodiscard]] Qt::Alignment ColumnAlignment(int column) const;
     /// The cell's rectangle in the coordinates of the grid's parent.
     [[nodiscard]] QRect CellRect(int row, int column) const;
+    /// The width of the columns behind this one.
+    [[nodiscard]] int WidthBehind(int column) const;
 
 signals:
     void CursorMoved(int row, int column);

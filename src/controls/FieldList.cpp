@@ -6,6 +6,7 @@
 #include <QWheelEvent>
 
 #include "controls/EnterAsTab.h"
+#include "controls/FilteredLineEdit.h"
 #include "controls/PendingEdit.h"
 
 namespace zelvor {
@@ -50,6 +51,10 @@ void FieldList::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         event->accept();
         MoveOn(*this);
+        return;
+    }
+    if (!isEditable() && !event->text().isEmpty() && TypedText(*event).isEmpty()) {
+        event->ignore(); // the letter of a command finds no entry
         return;
     }
     QComboBox::keyPressEvent(event);

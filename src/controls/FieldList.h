@@ -23,7 +23,8 @@ public:
 signals:
     /// An entry was selected, by the user or by code; also the one that was selected already, taken again by the user.
     void Selected(int index);
-    /// The focus went to another control or window; the list's own popup is no such thing.
+    /// The focus went to another control; the list's own popup, another window in front, and the menu bar, are no such
+    /// thing.
     void FocusLeft();
 
 protected:

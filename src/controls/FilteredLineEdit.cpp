@@ -14,10 +14,20 @@ namespace zelvor {
 
 namespace {
 
+/// Whether a key would type the character that it is named after.
+bool IsItself(const QKeyEvent& event) {
+    const QChar character = event.text().front();
+    const auto isKey = [&event](QChar form) { return event.key() == form.unicode(); };
+    return isKey(character) || isKey(character.toUpper());
+}
+
+/// Whether a key that has a text enters it, and is no command. Alt Gr is told as Ctrl and Alt together, or not at all.
+/// The Option key of a Mac is told as Alt alone; what it makes is never the key's own character, so that an access key
+/// is told from it.
 bool IsTyping(const QKeyEvent& event) {
-    constexpr auto commands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
-    return !(event.modifiers() & commands) && !event.text().isEmpty() &&
-           event.text().front().category() != QChar::Other_Control;
+    const auto held = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    return held == Qt::NoModifier || held == (Qt::ControlModifier | Qt::AltModifier) ||
+           (held == Qt::AltModifier && !IsItself(event));
 }
 
 /// What a box of one line takes of a pasted text.
@@ -65,17 +75,24 @@ void FilteredLineEdit::keyPressEvent(QKeyEvent* event) {
         emit EscapePressed();
     } else if (event->matches(QKeySequence::Paste)) {
         Paste(QApplication::clipboard()->text());
-    } else if (IsTyping(*event)) {
-        if (!enterLetter_.isNull() && event->text() == enterLetter_) {
-            emit EnterPressed();
-        } else {
-            Enter(TypedText(*event));
-        }
-    } else {
-        QLineEdit::keyPressEvent(event);
+    } else if (const QString typed = TypedText(*event); typed.isEmpty()) {
+        Edit(*event);
         return;
+    } else if (!enterLetter_.isNull() && typed == enterLetter_) {
+        emit EnterPressed();
+    } else {
+        Enter(typed);
     }
     event->accept();
+}
+
+/// A key that moves the cursor, deletes or is a command. Its text is kept from the toolkit, which would enter it past
+/// the filter.
+void FilteredLineEdit::Edit(QKeyEvent& event) {
+    QKeyEvent withoutText(event.type(), event.key(), event.modifiers(), QString(), event.isAutoRepeat(),
+                          static_cast<quint16>(event.count()));
+    QLineEdit::keyPressEvent(&withoutText);
+    event.setAccepted(withoutText.isAccepted());
 }
 
 void FilteredLineEdit::inputMethodEvent(QInputMethodEvent* event) {
@@ -113,8 +130,12 @@ void FilteredLineEdit::focusOutEvent(QFocusEvent* event) {
 }
 
 QString TypedText(const QKeyEvent& event) {
+    const QString text = event.text();
+    if (text.isEmpty() || text.front().category() == QChar::Other_Control || !IsTyping(event)) {
+        return {};
+    }
     const bool isPadPoint = event.key() == Qt::Key_Comma && event.modifiers().testFlag(Qt::KeypadModifier);
-    return isPadPoint ? QStringLiteral(".") : event.text();
+    return isPadPoint ? QStringLiteral(".") : text;
 }
 
 QChar Digit(QChar entered) {

@@ -48,6 +48,7 @@ protected:
     virtual void Leave() { emit FocusLeft(); }
 
 private:
+    void Edit(QKeyEvent& event);
     void Insert(const QString& text, bool limited);
     void Paste(const QString& text);
 
@@ -59,7 +60,8 @@ private:
     QChar enterLetter_;
 };
 
-/// The text that a key types. The number pad's decimal point is a point, also in layouts that make it a comma.
+/// The text that a key types: that of a key alone, with Shift, Alt Gr or Option. Nothing for a key that is a command or
+/// has no text. The number pad's decimal point is a point, also in layouts that make it a comma.
 [[nodiscard]] QString TypedText(const QKeyEvent& event);
 
 /// Filters that several boxes use.

@@ -1,7 +1,6 @@
 #include "controls/SpinText.h"
 
 #include <QApplication>
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QWheelEvent>
@@ -14,8 +13,7 @@ namespace zelvor {
 
 namespace {
 
-constexpr int ButtonsWidth = 20;
-constexpr int Overlap = 5; // of the box over the buttons' left edge: the two look like one control
+constexpr int ButtonsWidth = 20; // logical pixels
 
 } // namespace
 
@@ -55,11 +53,8 @@ void UpDown::wheelEvent(QWheelEvent* event) {
 }
 
 SpinText::SpinText(const QString& textName, const QString& upDownName, SpinTextRules rules, QWidget* parent)
-    : QWidget(parent), rules_(std::move(rules)), box_(new FilteredLineEdit(this)), upDown_(new UpDown(this)) {
-    auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(0, 0, ButtonsWidth - Overlap, 0);
-    layout->addWidget(box_);
-    upDown_->lower();
+    : UpDownPair(parent), rules_(std::move(rules)), box_(new FilteredLineEdit(this)), upDown_(new UpDown(this)) {
+    Hold(*box_, *upDown_);
     setFocusProxy(box_);
 
     box_->setObjectName(textName);
@@ -119,12 +114,6 @@ void SpinText::Step(bool up) {
     const int length = static_cast<int>(box_->text().size());
     box_->setSelection(length, -length);
     emit Stepped(Value());
-}
-
-void SpinText::resizeEvent(QResizeEvent* event) {
-    QWidget::resizeEvent(event);
-    layout()->activate();
-    upDown_->setGeometry(width() - ButtonsWidth, box_->y(), ButtonsWidth, box_->height());
 }
 
 bool SpinText::eventFilter(QObject* watched, QEvent* event) {

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "controls/FilteredLineEdit.h"
+#include "controls/UpDownPair.h"
 
 namespace zelvor {
 
@@ -63,7 +64,7 @@ private:
 /// and wrap: a box that shows the last text of the range steps to the first, and the other way round; from any other
 /// text a step ends at the range's end at most. Stepping stores nothing. Enter moves on like Tab. Text and up-down
 /// value are two things: code may show a text that stands for no value of the range.
-class SpinText : public QWidget {
+class SpinText : public UpDownPair {
     Q_OBJECT
 
 public:
@@ -88,7 +89,6 @@ signals:
     void Stepped(int value);
 
 protected:
-    void resizeEvent(QResizeEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cstdint>
-#include <filesystem>
 #include <optional>
 #include <span>
 #include <string_view>
@@ -33,13 +32,5 @@ struct DataFileRead {
     DataFileError error = DataFileError::None;
     DataImage image; // meaningful where error is None
 };
-[[nodiscard]] DataFileRead ReadDataFile(const std::filesystem::path& path);
-
-/// Writes the file so that its 1040 bytes appear whole or not at all, whatever happens meanwhile. An existing file
-/// keeps its access rights and, where it is longer, its tail. Returns false, the old file untouched, where it cannot be
-/// written (also when the existing file is read-only or no regular file).
-///
-/// A writable file in a directory that may not be changed is written in place, and so not indivisibly.
-[[nodiscard]] bool WriteDataFile(const std::filesystem::path& path, const DataImage& image);
 
 } // namespace zelvor

@@ -1,5 +1,7 @@
 #include "data/EmbeddedMessage.h"
 
+#include <algorithm>
+
 #include "data/Windows1252.h"
 
 namespace zelvor::embedded_message {
@@ -24,6 +26,14 @@ std::u16string Load(const DataImage& image, int line) {
         text += Windows1252Character(byte);
     }
     return text;
+}
+
+std::size_t StorableLength(std::u16string_view text) {
+    const auto isLost = [](char16_t character) {
+        const auto byte = Windows1252Byte(character);
+        return !byte || *byte == Erased;
+    };
+    return static_cast<std::size_t>(std::find_if(text.begin(), text.end(), isLost) - text.begin());
 }
 
 void Store(DataImage& image, int line, std::u16string_view text) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -16,6 +17,10 @@ inline constexpr int End = FirstField + LineCount * FieldSize;
 
 /// The characters of a line (0 or 1) before the first 0xFF of its field, at most 32.
 [[nodiscard]] std::u16string Load(const DataImage& image, int line);
+
+/// How many characters at the start of a line come back when it was stored: those before the first one that the code
+/// page does not have, or that it has as the byte of an erased field.
+[[nodiscard]] std::size_t StorableLength(std::u16string_view text);
 
 /// Writes a line into its field and fills the field up with 0xFF. Ends without a word at a character outside the code
 /// page, and all that lies behind keeps its bytes. A text of more than 32 characters runs on into the next field; what

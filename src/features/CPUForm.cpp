@@ -4,14 +4,19 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollBar>
+#include <QSignalBlocker>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "controls/CellTextEditor.h"
 #include "controls/EditGrid.h"
 #include "controls/PendingEdit.h"
 #include "controls/TextCellEdit.h"
 #include "data/Session.h"
+#include "platform/MessageBoxes.h"
+#include "platform/Services.h"
 #include "platform/Toolkit.h"
 
 namespace zelvor {
@@ -24,15 +29,25 @@ constexpr int OkText = 96;
 constexpr int CancelText = 97;
 
 constexpr TextPair AddressName{"Address", "地址"};
+constexpr TextPair AddressCaption{"Address:", "地址："};
+constexpr TextPair ChangedByte{"Changed, was %1", "已更改，原值 %1"};
+constexpr TextPair DiscardQuestion{"Discard the changed bytes?", "放弃已更改的字节吗？"};
 
 constexpr int ByteColumns = 16;
 constexpr int ByteRows = static_cast<int>(DataImage::Size) / ByteColumns;
 constexpr int ByteDigits = 2;
 
-// Pixels. The grid is 19 column widths wide: two for the address column, one for each byte, one for the scroll bar.
+// The grid is 19 column widths wide: two for the address column, one for each byte, one for the scroll bar.
+constexpr int GridColumns = 19;
+constexpr int AddressColumns = 2;
+// Rows in view, with the header.
+constexpr int FirstRows = 17;
+constexpr int LeastRows = 7;
+// Pixels.
 constexpr int ColumnWidth = 36;
 constexpr int RowHeight = 25;
-constexpr int VisibleRows = 17; // with the header
+constexpr int CellPadding = 8;  // of the narrowest column
+constexpr int FrameHeight = 40; // of a window, where its title bar is a high one
 
 /// Capital digits of a number below 16^digits.
 QString HexText(int number, int digits) {
@@ -62,14 +77,19 @@ int DigitValue(QChar digit) {
 
 } // namespace
 
-CPUForm::CPUForm(Session& session, QWidget* parent) : QDialog(parent), session_(session) {
+CPUForm::CPUForm(Session& session, Services& services, QWidget* parent)
+    : QDialog(parent), session_(session), services_(services) {
     setObjectName("CPUForm");
     setModal(true);
+    setSizeGripEnabled(true);
+    setWindowFlag(Qt::WindowMaximizeButtonHint);
     setWindowTitle(ToQString(session_.LoadText(CaptionText)));
     BuildGrid();
     BuildEditor();
     ShowImage();
+    connect(msgMemory_, &QTableWidget::itemChanged, this, &CPUForm::MarkCell);
     LayOut();
+    TakeFirstSize();
     ShowAddress(msgMemory_->Row(), msgMemory_->Column());
     msgMemory_->setFocus();
 }
@@ -84,8 +104,6 @@ void CPUForm::BuildGrid() {
     msgMemory_->setAccessibleName(windowTitle());
     // Whole rows: a cell that is half in view would be scrolled away from under its editor.
     msgMemory_->setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
-    const int frame = 2 * msgMemory_->frameWidth();
-    msgMemory_->setFixedSize(19 * ColumnWidth, VisibleRows * RowHeight + frame);
     QStringList captions{QString()};
     for (int column = 1; column <= ByteColumns; ++column) {
         captions.append(ColumnCaption(column));
@@ -95,9 +113,11 @@ void CPUForm::BuildGrid() {
         rowCaptions.append(RowCaption(row));
     }
     msgMemory_->SetCaptions(captions, rowCaptions);
-    std::vector<int> widths(ByteColumns + 1, ColumnWidth);
-    widths.front() = 2 * ColumnWidth;
-    msgMemory_->FitCells(widths, RowHeight);
+    const int frame = 2 * msgMemory_->frameWidth();
+    const int narrowest = std::min(fontMetrics().horizontalAdvance("DD") + CellPadding, ColumnWidth);
+    msgMemory_->setMinimumSize(GridColumns * narrowest, LeastRows * RowHeight + frame);
+    msgMemory_->installEventFilter(this);
+    msgMemory_->viewport()->installEventFilter(this);
     connect(msgMemory_, &EditGrid::CursorMoved, this, &CPUForm::ShowAddress);
     connect(msgMemory_, &EditGrid::CellClicked, this, &CPUForm::OpenEditor);
     connect(msgMemory_, &EditGrid::KeyPressed, this, &CPUForm::OnGridKey);
@@ -124,13 +144,16 @@ void CPUForm::LayOut() {
     auto* cmdOK = button("cmdOK", OkText);
     auto* cmdCancel = button("cmdCancel", CancelText);
     connect(cmdOK, &QPushButton::clicked, this, &CPUForm::accept);
-    connect(cmdCancel, &QPushButton::clicked, this, &CPUForm::reject);
+    connect(cmdCancel, &QPushButton::clicked, this, [this] { QDialog::reject(); });
     lblAddr_ = new QLabel(this);
     lblAddr_->setObjectName("lblAddr");
     lblAddr_->setAccessibleName(ToQString(AddressName.In(session_.LanguageFlag)));
-    lblAddr_->setToolTip(lblAddr_->accessibleName());
+
+    auto* lblAddrCaption = new QLabel(ToQString(AddressCaption.In(session_.LanguageFlag)), this);
+    lblAddrCaption->setObjectName("lblAddrCaption");
 
     auto* foot = new QHBoxLayout;
+    foot->addWidget(lblAddrCaption);
     foot->addWidget(lblAddr_);
     foot->addStretch();
     foot->addWidget(cmdOK);
@@ -138,15 +161,72 @@ void CPUForm::LayOut() {
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(msgMemory_);
     layout->addLayout(foot);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+/// Room for a quarter of the memory, as far as the screen has it.
+void CPUForm::TakeFirstSize() {
+    const int frame = 2 * msgMemory_->frameWidth();
+    const QSize wanted(GridColumns * ColumnWidth, FirstRows * RowHeight + frame);
+    const QSize screenRoom = screen()->availableSize() - QSize(0, FrameHeight);
+    resize((minimumSizeHint() + wanted - msgMemory_->minimumSize()).boundedTo(screenRoom));
+    layout()->activate();
+    FitGrid();
+}
+
+void CPUForm::FitGrid() {
+    std::vector<int> widths(ByteColumns + 1, msgMemory_->width() / GridColumns);
+    widths.front() = msgMemory_->width() * AddressColumns / GridColumns;
+    msgMemory_->FitCells(widths, RowHeight);
+}
+
+void CPUForm::PlaceEditor() {
+    if (edit_->IsOpen()) {
+        txtMemory_->setGeometry(msgMemory_->CellRect(edit_->Row(), edit_->Column()));
+    }
+}
+
+bool CPUForm::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == msgMemory_ && event->type() == QEvent::Resize) {
+        FitGrid();
+    } else if (watched == msgMemory_->viewport() &&
+               (event->type() == QEvent::Resize || event->type() == QEvent::Move)) {
+        PlaceEditor();
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+QString CPUForm::StoredText(int row, int column) const {
+    return HexText(session_.Image.At(AddressOf(row, column)), ByteDigits);
 }
 
 void CPUForm::ShowImage() {
     for (int row = 1; row <= ByteRows; ++row) {
         for (int column = 1; column <= ByteColumns; ++column) {
-            msgMemory_->SetText(row, column, HexText(session_.Image.At(AddressOf(row, column)), ByteDigits));
+            msgMemory_->SetText(row, column, StoredText(row, column));
         }
     }
+}
+
+bool CPUForm::IsChanged() const {
+    for (int row = 1; row <= ByteRows; ++row) {
+        for (int column = 1; column <= ByteColumns; ++column) {
+            if (msgMemory_->Text(row, column) != StoredText(row, column)) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+void CPUForm::MarkCell(QTableWidgetItem* cell) {
+    const QString stored = StoredText(cell->row() + 1, cell->column() + 1);
+    const bool changed = cell->text() != stored;
+    const QSignalBlocker quiet(msgMemory_); // a mark is a change of the cell, too
+    QFont font = msgMemory_->font();
+    font.setBold(changed);
+    cell->setFont(font);
+    cell->setForeground(changed ? palette().link() : QBrush());
+    cell->setToolTip(changed ? ToQString(ChangedByte.In(session_.LanguageFlag)).arg(stored) : QString());
 }
 
 void CPUForm::ShowAddress(int row, int column) {
@@ -198,6 +278,15 @@ void CPUForm::accept() {
         }
     }
     QDialog::accept();
+}
+
+void CPUForm::reject() {
+    if (IsChanged() && services_.messages.Show(
+                           {FromQString(windowTitle()), std::string(DiscardQuestion.In(session_.LanguageFlag)),
+                            MessageIcon::Question, MessageButtons::YesNo, MessageAnswer::No}) != MessageAnswer::Yes) {
+        return;
+    }
+    QDialog::reject();
 }
 
 } // namespace zelvor

@@ -1,6 +1,7 @@
 #include "features/CorvaneForm.h"
 
 #include <QKeyEvent>
+#include <QLabel>
 #include <algorithm>
 #include <utility>
 
@@ -11,6 +12,7 @@
 #include "controls/EditGrid.h"
 #include "controls/FieldTabs.h"
 #include "controls/TextCellEdit.h"
+#include "features/Raster.h"
 #include "platform/Toolkit.h"
 
 namespace zelvor {
@@ -18,8 +20,13 @@ namespace zelvor {
 namespace {
 
 constexpr QSize WindowSize{6285, 5070}; // twips
-constexpr int Margin = 8;
-constexpr QSize GridSize{386, 218}; // pixels
+// Pixels.
+constexpr QSize GridSize{386, 202};
+constexpr QRect HintPlace{raster::Margin, 212, GridSize.width(), 36};
+
+constexpr TextPair HintText{
+    "Enter or a click edits, A stands for All. To change a number, select a digit with Shift+arrow and type over it.",
+    "按回车键或单击可编辑单元格，A 表示全部。更改号码时，用 Shift 加方向键选中一位数字，再键入新数字。"};
 
 // Numbers of the string table.
 constexpr int CaptionNumber = 45;
@@ -52,7 +59,7 @@ CorvaneForm::CorvaneForm(Session& session, Services& services, QWidget* parent)
     : FieldForm(ChildWindow::Corvane, "CorvaneForm", WindowSize, "picCorvane", CaptionNumber, session, services,
                 parent) {
     auto* tabs = new FieldTabs("SSTab1", Panel());
-    tabs->setGeometry(Panel()->rect().adjusted(Margin, Margin, -Margin, 0));
+    tabs->setGeometry(Panel()->rect().adjusted(raster::Margin, raster::TabsTop, -raster::Margin, 0));
     BuildFields(*tabs->AddPage(LoadText(FieldsTab)));
     BuildFleetList(*tabs->AddPage(LoadText(corvane::FleetListLabel)));
     LoadFields();
@@ -61,7 +68,7 @@ CorvaneForm::CorvaneForm(Session& session, Services& services, QWidget* parent)
 }
 
 void CorvaneForm::BuildFields(QWidget& page) {
-    BoundRows rows(page, TheSession());
+    BoundRows rows(page, TheSession(), raster::Margin, raster::RowSpacing);
     fleet_ = rows.AddSpin("Fleet", corvane::OwnFleet,
                           SteppedBy([this](const QString& text, bool up) { return StepFleet(text, up); }));
     id_ = rows.AddSpin("ID", corvane::OwnId,
@@ -71,6 +78,8 @@ void CorvaneForm::BuildFields(QWidget& page) {
     rows.AddSpin("MsgModeTimer", corvane::MessageModeTimer);
     rows.AddCheck("SideTone", corvane::SideTone);
     rows.End();
+    // In one line it would push the fields out of the middle.
+    page.findChild<QLabel*>("lblDelayTime")->setWordWrap(true);
     connect(fleet_, &BoundSpin::Committed, this, [this](int step) { OnOwnCommitted(step, *id_); });
     connect(id_, &BoundSpin::Committed, this, [this](int step) { OnOwnCommitted(step, *fleet_); });
 }
@@ -112,11 +121,16 @@ void CorvaneForm::OnOwnCommitted(int step, BoundSpin& other) {
 void CorvaneForm::BuildFleetList(QWidget& page) {
     msgFleetList_ = new EditGrid(corvane::FleetListSize, IdColumn, &page);
     msgFleetList_->setObjectName("msgFleetList");
-    msgFleetList_->setGeometry({QPoint(Margin, Margin), GridSize});
+    msgFleetList_->setGeometry({QPoint(raster::Margin, raster::Margin), GridSize});
     txtFleetList_ = new CellTextEditor(&page);
     txtFleetList_->setObjectName("txtFleetList");
     txtFleetList_->SetFilter([this](QChar entered) { return AcceptInList(entered); });
     edit_ = new TextCellEdit(*msgFleetList_, *txtFleetList_);
+    auto* labHint = new QLabel(ToQString(HintText.In(TheSession().LanguageFlag)), &page);
+    labHint->setObjectName("LabHint");
+    labHint->setGeometry(HintPlace);
+    labHint->setWordWrap(true);
+    labHint->setForegroundRole(QPalette::PlaceholderText);
     SetGridTexts();
     connect(msgFleetList_, &EditGrid::CellClicked, this, &CorvaneForm::OpenEditor);
     connect(msgFleetList_, &EditGrid::KeyPressed, this, &CorvaneForm::OnGridKey);

@@ -1,7 +1,6 @@
 #include "features/DTMFForm.h"
 
 #include <QGroupBox>
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 
@@ -16,6 +15,7 @@
 #include "controls/PendingEdit.h"
 #include "controls/TextCellEdit.h"
 #include "features/DtmfCodeBox.h"
+#include "features/Raster.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Services.h"
 #include "platform/Toolkit.h"
@@ -26,10 +26,7 @@ namespace zelvor {
 namespace {
 
 constexpr QSize WindowSize{6285, 5070}; // twips
-// Pixels.
-constexpr int Margin = 8;
-constexpr int StunSpacing = 6;
-constexpr QSize GridSize{386, 218};
+constexpr QSize GridSize{386, 218};     // pixels
 
 constexpr int NumberHeading = 172;
 constexpr int DigitsColumn = 1;
@@ -57,7 +54,8 @@ void TakeDCodeLetter(FilteredLineEdit& box) {
 /// The character that a key of the grid opens the editor with. Shift with a digit stands for what a telephone has on
 /// that key, on every layout of the keyboard.
 QChar DigitOfKey(const QKeyEvent& event) {
-    const bool shifted = event.modifiers().testFlag(Qt::ShiftModifier);
+    constexpr auto withoutPad = ~Qt::KeyboardModifiers(Qt::KeypadModifier);
+    const bool shifted = (event.modifiers() & withoutPad) == Qt::ShiftModifier;
     if (shifted && event.key() >= Qt::Key_0 && event.key() <= Qt::Key_9) {
         return event.key() == Qt::Key_3 ? QChar(u'#') : event.key() == Qt::Key_8 ? QChar(u'*') : QChar();
     }
@@ -69,7 +67,7 @@ QChar DigitOfKey(const QKeyEvent& event) {
 DTMFForm::DTMFForm(Session& session, Services& services, QWidget* parent)
     : FieldForm(ChildWindow::Dtmf, "DTMFForm", WindowSize, "picDTMF", dtmf::Caption, session, services, parent) {
     auto* tabs = new FieldTabs("SSTab1", Panel());
-    tabs->setGeometry(Panel()->rect().adjusted(Margin, Margin, -Margin, 0));
+    tabs->setGeometry(Panel()->rect().adjusted(raster::Margin, raster::TabsTop, -raster::Margin, 0));
     BuildEncodePage(*tabs->AddPage(LoadText(dtmf::EncodeCaption)));
     BuildDecodePage(*tabs->AddPage(LoadText(dtmf::DecodeCaption)));
     BuildAutodialPage(*tabs->AddPage(LoadText(dtmf::AutodialCaption)));
@@ -77,7 +75,7 @@ DTMFForm::DTMFForm(Session& session, Services& services, QWidget* parent)
 }
 
 void DTMFForm::BuildEncodePage(QWidget& page) {
-    BoundRows rows(page, TheSession());
+    BoundRows rows(page, TheSession(), raster::Margin, raster::RowSpacing);
     StartAt(*rows.AddSpin("DTMFSpeed", dtmf::Speed, StepsThroughTexts(dtmf::Speed)));
     rows.AddSpin("FstDigitTime", dtmf::FirstDigitTime, StepsThroughTexts(dtmf::FirstDigitTime));
     rows.AddSpin("FstDigitDelay", dtmf::FirstDigitDelay);
@@ -88,7 +86,7 @@ void DTMFForm::BuildEncodePage(QWidget& page) {
 }
 
 void DTMFForm::BuildDecodePage(QWidget& page) {
-    BoundRows rows(page, TheSession(), Margin, 5);
+    BoundRows rows(page, TheSession(), raster::Margin, raster::RowSpacing);
     txtIDCode_ = MakeCode("txtIDCode", dtmf::IdCode);
     rows.Add("lblIDCode", dtmf::IdCode.label, txtIDCode_);
     rows.AddList("GroupCode", dtmf::GroupCode);
@@ -100,26 +98,14 @@ void DTMFForm::BuildDecodePage(QWidget& page) {
     rows.End();
 }
 
-/// Both fields in one row: the page has no height for two.
 QWidget* DTMFForm::BuildStunFrame() {
     auto* fraStun = new QGroupBox(StunFrame);
     fraStun->setObjectName("fraStun");
-    auto* row = new QHBoxLayout(fraStun);
-    row->setContentsMargins(Margin, StunSpacing, Margin, StunSpacing);
-    row->setSpacing(Margin);
+    BoundRows rows(*fraStun, TheSession(), raster::FrameMargin, raster::RowSpacing);
     txtStunCode_ = MakeCode("txtStunCode", dtmf::StunCode);
-    cboStunType_ = new BoundList("cboStunType", dtmf::StunType, TheSession().Image, TheSession().LanguageFlag);
-    const auto add = [&](const char* labelName, const QString& text, QWidget* control) {
-        auto* label = new QLabel(text);
-        label->setObjectName(labelName);
-        label->setBuddy(control);
-        control->setAccessibleName(text);
-        row->addWidget(label);
-        row->addWidget(control);
-        return label;
-    };
-    add("lblStunCode", LoadText(dtmf::StunCode.label), txtStunCode_);
-    lblStunType_ = add("lblStunType", LoadText(dtmf::StunType.label), cboStunType_);
+    rows.Add("lblStunCode", dtmf::StunCode.label, txtStunCode_);
+    cboStunType_ = rows.AddList("StunType", dtmf::StunType);
+    lblStunType_ = fraStun->findChild<QLabel*>("lblStunType");
     connect(txtStunCode_, &DtmfCodeBox::Committed, this, &DTMFForm::EnableStunType);
     return fraStun;
 }
@@ -127,7 +113,7 @@ QWidget* DTMFForm::BuildStunFrame() {
 void DTMFForm::BuildAutodialPage(QWidget& page) {
     msgAutodial_ = new EditGrid(dtmf::AutodialCount, DigitsColumn, &page);
     msgAutodial_->setObjectName("msgAutodial");
-    msgAutodial_->setGeometry({QPoint(Margin, Margin), GridSize});
+    msgAutodial_->setGeometry({QPoint(raster::Margin, raster::Margin), GridSize});
     page.setFocusProxy(msgAutodial_);
     SetGridTexts();
     auto* txtAutodial = new CellTextEditor(&page);

@@ -18,6 +18,7 @@
 #include "data/ChannelRecord.h"
 #include "data/OptionalFields.h"
 #include "features/PttIdDisplay.h"
+#include "features/Raster.h"
 #include "platform/Toolkit.h"
 
 namespace zelvor {
@@ -30,11 +31,6 @@ constexpr QSize WindowSize{6150, 9000}; // twips
 constexpr int CaptionNumber = 98;
 constexpr int VoxFrameText = 111;
 constexpr int ModeFrameText = 118;
-
-// So many fields are close together, in pixels.
-constexpr int Margin = 8;
-constexpr int FrameMargin = 4;
-constexpr int Spacing = 4;
 
 QGroupBox* MakeFrame(const char* name, const QString& title, QWidget* parent) {
     auto* frame = new QGroupBox(title, parent);
@@ -58,7 +54,7 @@ OptionalForm::OptionalForm(Session& session, Services& services, ChannelWindows&
     : FieldForm(ChildWindow::OptionalFeatures, "OptionalForm", WindowSize, "picOpt", CaptionNumber, session, services,
                 parent),
       windows_(windows) {
-    BoundRows rows(*Panel(), session, Margin, Spacing);
+    BoundRows rows(*Panel(), session, raster::Margin, raster::RowSpacing);
     BuildGeneral(rows);
     auto* fraPTTID = MakeFrame("fraPTTID", ToQString(LabelText(PttId, session.LanguageFlag)), Panel());
     rows.Add(fraPTTID);
@@ -68,7 +64,7 @@ OptionalForm::OptionalForm(Session& session, Services& services, ChannelWindows&
     BuildVox(*fraVOX_);
     auto* fraMode = MakeFrame("fraMode", LoadText(ModeFrameText), Panel());
     rows.Add(fraMode);
-    BoundRows(*fraMode, session, FrameMargin, Spacing).AddCheck("CloneMode", CloneMode);
+    BoundRows(*fraMode, session, raster::FrameMargin, raster::RowSpacing).AddCheck("CloneMode", CloneMode);
     rows.End();
     Connect();
     Load();
@@ -94,7 +90,7 @@ void OptionalForm::BuildGeneral(BoundRows& rows) {
 }
 
 void OptionalForm::BuildPttId(QWidget& frame) {
-    BoundRows rows(frame, TheSession(), FrameMargin, Spacing);
+    BoundRows rows(frame, TheSession(), raster::FrameMargin, raster::RowSpacing);
     cboPTTIDType_ = rows.AddList("PTTIDType", PttIdType);
     cboPTTID_ = rows.AddList("PTTID", PttId);
     for (std::size_t code = 0; code < PttCodes.size(); ++code) {
@@ -113,7 +109,7 @@ void OptionalForm::BuildCode(BoundRows& rows, std::size_t code) {
 }
 
 void OptionalForm::BuildVox(QWidget& frame) {
-    BoundRows rows(frame, TheSession(), FrameMargin, Spacing);
+    BoundRows rows(frame, TheSession(), raster::FrameMargin, raster::RowSpacing);
     chkVOXFunc_ = rows.MakeCheck("VOXFunc", VoxFunction);
     rows.AddPair(chkVOXFunc_, rows.MakeCheck("VOXInhibit", VoxInhibit));
     rows.AddSpin("VOXGainLevel", VoxGainLevel);

@@ -225,7 +225,10 @@ void CloneEngine::EndRefused() {
 void CloneEngine::PromptForConnection() {
     clock_.Sleep(PromptPause);
     deaf_ = true;
-    if (port_.AsksToRetry(messages_)) {
+    state_.Prompting = true;
+    const bool again = port_.AsksToRetry(messages_, [this] { observer_.OnStandstill(); });
+    state_.Prompting = false;
+    if (again) {
         Retry();
     } else {
         Abandon();
@@ -233,7 +236,10 @@ void CloneEngine::PromptForConnection() {
 }
 
 void CloneEngine::Retry() {
+    state_.Pausing = true;
+    observer_.OnStandstill();
     clock_.Sleep(RetryPause);
+    state_.Pausing = false;
     link_.SentState = NothingSent;
     BeginSession();
     SetProgress(0);

@@ -29,6 +29,9 @@ public:
     virtual void OnProgress(int value) = 0;
     /// cmdOK, cmdCancel and cmdHelp together.
     virtual void OnButtonsEnabled(bool enabled) = 0;
+    /// A prompt comes, or a pause in which no event is served: what is told of the transfer is to be on the screen when
+    /// this returns.
+    virtual void OnStandstill() = 0;
     /// All is transferred and the End is sent; the box that says so follows after a moment in which events are served.
     virtual void OnTransferDone() = 0;
     /// The image is read and the document renamed: the grid is to be decoded and the title to be set.
@@ -51,6 +54,8 @@ public:
         bool ReadDone = false;                   // the last block of a read is acknowledged
         bool Finished = false;                   // the dialog may close
         bool Running = false;                    // set by Start() and a retry
+        bool Prompting = false;                  // the connection prompt is up
+        bool Pausing = false;                    // between a Retry and the session that it begins
         bool CancelPressed = false;
     };
 
@@ -75,6 +80,8 @@ public:
     void OnReceive(ReceiveReason reason);
 
     [[nodiscard]] const TransferState& State() const { return state_; }
+    /// Why the port could not be opened; PortFault::None while it can.
+    [[nodiscard]] PortFailure Failure() const { return port_.Failure(); }
     [[nodiscard]] int Progress() const { return progress_; }
     /// Blocks of a read, packets of a write.
     [[nodiscard]] int ProgressMaximum() const { return progressMaximum_; }

@@ -7,6 +7,7 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include "controls/FitToScreen.h"
 #include "link/DialogButtons.h"
 #include "platform/Clock.h"
 #include "platform/HelpTopic.h"
@@ -47,6 +48,7 @@ QString DeviceText(const PortDescription& port, Language language) {
 
 ComForm::ComForm(Session& session, Services& services, QWidget* parent)
     : QDialog(parent), session_(session), services_(services), port_(services.ports.Make("MSComm1")) {
+    services_.ports.NumberAnew();
     setObjectName("ComForm");
     setModal(true);
     setWindowTitle(ToQString(session_.LoadText(CaptionText)));
@@ -83,7 +85,7 @@ void ComForm::BuildControls() {
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(frmPort);
     layout->addLayout(buttons.row);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
+    FitToScreen(*this);
 }
 
 void ComForm::ProbePorts() {

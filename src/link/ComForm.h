@@ -13,7 +13,8 @@ class QRadioButton;
 
 namespace zelvor {
 
-/// Choice of the serial port. Shown modally; probes all ports while it loads, 200 ms for each one that opens.
+/// Choice of the serial port. Shown modally; numbers the ports anew and probes all of them while it loads, 200 ms for
+/// each one that opens.
 class ComForm : public QDialog {
     Q_OBJECT
 

@@ -5,8 +5,11 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
+#include "controls/FitToScreen.h"
 #include "link/CloneFrames.h"
+#include "link/TransferTexts.h"
 #include "platform/HelpTopic.h"
 #include "platform/HelpViewer.h"
 #include "platform/Toolkit.h"
@@ -19,16 +22,13 @@ namespace {
 constexpr int ReadCaption = 186;
 constexpr int WriteCaption = 187;
 
-constexpr TextPair Ready{"Connect the radio, switch it on and press OK.", "请连接对讲机并打开电源，然后按“确定”。"};
-constexpr TextPair Connecting{"Connecting to the radio...", "正在连接对讲机..."};
-constexpr TextPair Reading{"Reading...", "正在读取..."};
-constexpr TextPair Writing{"Writing...", "正在写入..."};
-constexpr TextPair Completed{"Completed.", "完毕。"};
-
 /// Painting waits until the next command is on the wire, where the radio's answer takes longer than the painting.
 constexpr int ProgressDelay = 5; // milliseconds
 
 constexpr int BarWidthTwips = 5100;
+
+/// Room for the longest text, so that the dialog keeps its size.
+constexpr int StatusLines = 3;
 
 } // namespace
 
@@ -83,6 +83,11 @@ void ConnectForm::OnButtonsEnabled(bool enabled) {
     progressTimer_->SetEnabled(true);
 }
 
+void ConnectForm::OnStandstill() {
+    ShowProgress();
+    repaint(); // also what a box has covered: no event is served for some time
+}
+
 void ConnectForm::OnTransferDone() {
     ShowProgress(); // at once: the radio waits for nothing any more
 }
@@ -100,10 +105,7 @@ void ConnectForm::OnUnloadRequested() {
 }
 
 void ConnectForm::BuildControls() {
-    labStatus_ = new QLabel(this);
-    labStatus_->setObjectName("labStatus");
-    labStatus_->setText(StatusText());
-    labStatus_->setMinimumWidth(labStatus_->sizeHint().width()); // the longest text: the dialog keeps its size
+    BuildStatus();
 
     prgValue_ = new QProgressBar(this);
     prgValue_->setObjectName("PrgValue");
@@ -122,7 +124,17 @@ void ConnectForm::BuildControls() {
     layout->addWidget(labStatus_);
     layout->addWidget(prgValue_);
     layout->addLayout(buttons_.row);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
+    FitToScreen(*this);
+}
+
+void ConnectForm::BuildStatus() {
+    labStatus_ = new QLabel(this);
+    labStatus_->setObjectName("labStatus");
+    labStatus_->setTextFormat(Qt::PlainText);
+    labStatus_->setText(ToQString(transfertexts::Ready.In(session_.LanguageFlag)));
+    labStatus_->setFixedWidth(std::max(labStatus_->sizeHint().width(), PixelsOfTwips(BarWidthTwips)));
+    labStatus_->setWordWrap(true);
+    labStatus_->setMinimumHeight(StatusLines * labStatus_->fontMetrics().lineSpacing());
 }
 
 void ConnectForm::ShowProgress() {
@@ -132,13 +144,26 @@ void ConnectForm::ShowProgress() {
 }
 
 QString ConnectForm::StatusText() const {
+    const CloneEngine::TransferState& state = engine_.State();
+    const Language language = session_.LanguageFlag;
+    if (session_.Link.TransferMode == transfer::Done) {
+        return ToQString(transfertexts::Completed.In(language));
+    }
+    if (state.Pausing) {
+        return ToQString(transfertexts::Retrying.In(language));
+    }
+    if (const PortFailure failure = engine_.Failure(); failure.fault != PortFault::None) {
+        return ToQString(transfertexts::CannotOpen(failure, session_.CommPortNumber, language));
+    }
+    if (state.Prompting) {
+        return ToQString(transfertexts::NoAnswer(session_.CommPortNumber, language));
+    }
     const bool reading = direction_ == TransferDirection::Read;
-    const TextPair& text = session_.Link.TransferMode == transfer::Done ? Completed
-                           : !engine_.State().Running                   ? Ready
-                           : engine_.Progress() == 0                    ? Connecting
-                           : reading                                    ? Reading
-                                                                        : Writing;
-    return ToQString(text.In(session_.LanguageFlag));
+    const TextPair& text = !state.Running            ? transfertexts::Ready
+                           : engine_.Progress() == 0 ? transfertexts::Connecting
+                           : reading                 ? transfertexts::Reading
+                                                     : transfertexts::Writing;
+    return ToQString(text.In(language));
 }
 
 void ConnectForm::ShowHelp() {

@@ -43,12 +43,14 @@ protected:
 private:
     void OnProgress(int value) override;
     void OnButtonsEnabled(bool enabled) override;
+    void OnStandstill() override;
     void OnTransferDone() override;
     void OnReadCompleted() override;
     void OnWriteCompleted() override;
     void OnUnloadRequested() override;
 
     void BuildControls();
+    void BuildStatus();
     void ShowProgress();
     void ShowHelp();
     void Unload();

@@ -69,9 +69,12 @@ bool RadioPort::ReadsAcknowledge() {
     return !reply.empty() && reply.front() == wire::AcknowledgeByte;
 }
 
-bool RadioPort::AsksToRetry(MessageBoxes& messages) {
+bool RadioPort::AsksToRetry(MessageBoxes& messages, const std::function<void()>& onLooked) {
     const bool wasGone = !IsOpen();
     Open(); // a port that stays closed leads back here after a retry
+    if (onLooked) {
+        onLooked();
+    }
     const MessageAnswer answer =
         messages.Show({.title = std::string(commontexts::Error.In(session_.LanguageFlag)),
                        .text = std::string(clonetexts::CheckConnections.In(session_.LanguageFlag)),

@@ -30,6 +30,7 @@ public:
     bool Open();
     void Close();
     [[nodiscard]] bool IsOpen() const { return port_.IsOpen(); }
+    [[nodiscard]] PortFailure Failure() const { return port_.Failure(); }
     /// Drops what waits in either direction.
     void Clear();
     void ClearInput() { port_.ClearInput(); }
@@ -48,8 +49,8 @@ public:
     [[nodiscard]] bool ReadsAcknowledge();
 
     /// The connection prompt, for a radio that does not answer: true for Retry. A port that is gone is looked for
-    /// before; where it was gone, or is not the radio's any more, Retry opens it anew.
-    [[nodiscard]] bool AsksToRetry(MessageBoxes& messages);
+    /// before, and onLooked called; where it was gone, or is not the radio's any more, Retry opens it anew.
+    [[nodiscard]] bool AsksToRetry(MessageBoxes& messages, const std::function<void()>& onLooked = nullptr);
 
 private:
     Session& session_;

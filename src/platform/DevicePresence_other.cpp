@@ -8,4 +8,8 @@ bool HasDevice(const QSerialPort& port) {
     return !QSerialPortInfo(port).isNull();
 }
 
+std::unique_ptr<QObject> WatchDevice(const QSerialPort&, std::function<void()>) {
+    return nullptr;
+}
+
 } // namespace zelvor

@@ -8,16 +8,18 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QScreen>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <QWindow>
+#include <algorithm>
 
 #include "platform/HelpBrowser.h"
 #include "platform/HelpHitDelegate.h"
+#include "platform/QtDialogs.h"
+#include "platform/ScreenRoom.h"
 #include "platform/Toolkit.h"
 
 namespace zelvor {
@@ -60,7 +62,7 @@ HelpWindow::HelpWindow() {
     setObjectName("HelpWindow");
     setAttribute(Qt::WA_QuitOnClose, false);
     setContextMenuPolicy(Qt::NoContextMenu);
-    resize(WindowSize.boundedTo(screen()->availableSize()));
+    resize(WindowSize.boundedTo(ScreenRoom(*this)));
 
     page_ = new HelpBrowser;
     page_->setObjectName("HelpPage");
@@ -72,7 +74,8 @@ HelpWindow::HelpWindow() {
     splitter->addWidget(BuildSidePanel());
     splitter->addWidget(page_);
     splitter->setStretchFactor(1, 1);
-    splitter->setSizes({SideWidth, width() - SideWidth});
+    const int side = std::min(SideWidth, width() * 2 / 5);
+    splitter->setSizes({side, width() - side});
     setCentralWidget(splitter);
 
     connect(page_, &QTextBrowser::sourceChanged, this, &HelpWindow::FollowPage);
@@ -290,7 +293,7 @@ void HelpWindow::StayUsable() {
     if (modal == nullptr || windowHandle() == nullptr) {
         return;
     }
-    windowHandle()->setTransientParent(modal);
+    SetOwner(*windowHandle(), *modal);
     // A message box over the dialog goes, and the dialog is there still.
     connect(modal, &QObject::destroyed, this, &HelpWindow::StayUsable,
             static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::UniqueConnection));

@@ -45,40 +45,112 @@ bool ComesBeforeInOrder(const MachinePort& left, const MachinePort& right) {
     return left.isUsb != right.isUsb ? left.isUsb : ComesBefore(left.name, right.name);
 }
 
-PortDescription DescriptionOf(const PortLink& link, std::span<const MachinePort> ports) {
+MachinePort PortOf(const PortLink& link, std::span<const MachinePort> ports) {
     const auto found =
         std::ranges::find(ports, link.devicePath, [](const MachinePort& port) { return port.description.devicePath; });
-    return found != ports.end() ? found->description : PortDescription{link.devicePath, {}};
+    return found != ports.end() ? *found : MachinePort{{}, {link.devicePath, {}}};
 }
 
-bool IsLinked(const MachinePort& port, std::span<const PortLink> links) {
-    return std::ranges::any_of(links,
-                               [&](const PortLink& link) { return link.devicePath == port.description.devicePath; });
+bool HasPathOf(const MachinePort& left, const MachinePort& right) {
+    return left.description.devicePath == right.description.devicePath;
+}
+
+bool IsKnown(const UsbIdentity& identity) {
+    return identity != UsbIdentity();
+}
+
+// An adapter that says of itself something else is another one, which has taken the path.
+bool IsSameDevice(const MachinePort& known, const MachinePort& found) {
+    return HasPathOf(known, found) && (known.identity == found.identity || !IsKnown(known.identity));
 }
 
 } // namespace
 
-PortNumbers NumbersByLinksAndOrder(std::span<const PortLink> links, std::span<const MachinePort> ports) {
-    PortNumbers numbers;
-    for (const PortLink& link : links) {
-        numbers.emplace(link.number, DescriptionOf(link, ports));
-    }
+void PortNumbering::NumberAnew(std::span<const PortLink> links, std::span<const MachinePort> ports) {
+    holders_.clear();
+    Follow(links, ports);
+}
+
+void PortNumbering::Follow(std::span<const PortLink> links, std::span<const MachinePort> ports) {
+    TakeLinks(links, ports);
+    LookForHolders(ports);
     std::vector<MachinePort> ordered(ports.begin(), ports.end());
     std::ranges::sort(ordered, ComesBeforeInOrder);
-    int number = FirstPortNumber;
     for (const MachinePort& port : ordered) {
-        if (IsLinked(port, links)) {
+        if (!HasNumber(port) && !MayBeOneOfOurs(port)) {
+            GiveNumber(port, ports);
+        }
+    }
+}
+
+PortDescription PortNumbering::DeviceOf(int number) const {
+    const auto found = holders_.find(number);
+    return found != holders_.end() && found->second.isThere ? found->second.port.description : PortDescription();
+}
+
+void PortNumbering::TakeLinks(std::span<const PortLink> links, std::span<const MachinePort> ports) {
+    for (auto& [number, holder] : holders_) {
+        holder.isLinked = false;
+    }
+    for (const PortLink& link : links) {
+        holders_[link.number] = {.port = PortOf(link, ports), .isLinked = true};
+    }
+}
+
+void PortNumbering::LookForHolders(std::span<const MachinePort> ports) {
+    for (auto& [number, holder] : holders_) {
+        const auto found = std::ranges::find_if(
+            ports, [&known = holder.port](const MachinePort& port) { return IsSameDevice(known, port); });
+        holder.isThere = holder.isLinked || found != ports.end();
+        if (found != ports.end()) {
+            holder.port = *found;
+        }
+    }
+}
+
+void PortNumbering::GiveNumber(const MachinePort& port, std::span<const MachinePort> ports) {
+    if (Holder* holder = GoneHolderBySerialNumber(port.identity, ports)) {
+        holder->port = port;
+        holder->isThere = true;
+        return;
+    }
+    int number = FirstPortNumber;
+    while (holders_.contains(number)) {
+        ++number;
+    }
+    if (number <= LastPortNumber) {
+        holders_[number] = {.port = port};
+    }
+}
+
+bool PortNumbering::HasNumber(const MachinePort& port) const {
+    return std::ranges::any_of(
+        holders_, [&](const auto& entry) { return entry.second.isThere && HasPathOf(entry.second.port, port); });
+}
+
+/// An adapter just plugged in at the path of one that is gone, which the system does not know yet.
+bool PortNumbering::MayBeOneOfOurs(const MachinePort& port) const {
+    return !IsKnown(port.identity) &&
+           std::ranges::any_of(holders_, [&](const auto& entry) { return HasPathOf(entry.second.port, port); });
+}
+
+/// Null also where more than one adapter has the serial number: then it tells nothing.
+PortNumbering::Holder* PortNumbering::GoneHolderBySerialNumber(const UsbIdentity& identity,
+                                                               std::span<const MachinePort> ports) {
+    if (identity.serialNumber.empty() || std::ranges::count(ports, identity, &MachinePort::identity) > 1) {
+        return nullptr;
+    }
+    Holder* only = nullptr;
+    for (auto& [number, holder] : holders_) {
+        if (holder.port.identity != identity) {
             continue;
         }
-        while (numbers.contains(number)) {
-            ++number;
+        if (only != nullptr || holder.isThere) {
+            return nullptr;
         }
-        if (number > LastPortNumber) {
-            break;
-        }
-        numbers.emplace(number, port.description);
+        only = &holder;
     }
-    return numbers;
+    return only;
 }
 
 PortNumbers NumbersByName(std::span<const MachinePort> ports) {

@@ -1,13 +1,17 @@
 #pragma once
 
-#include <QApplication>
+class QWidget;
+class QWindow;
 
 namespace zelvor {
 
-/// Where a box or dialog of the system belongs: to the dialog on top, else to the active window.
-[[nodiscard]] inline QWidget* DialogParent() {
-    QWidget* modal = QApplication::activeModalWidget();
-    return modal ? modal : QApplication::activeWindow();
-}
+/// Where a box or dialog of the system belongs: to the dialog on top, else to the window that the user works in, which
+/// is the innermost one that is enabled. Never to the help window, also where that has the keyboard; null where the
+/// program has no window to work in.
+[[nodiscard]] QWidget* DialogParent();
+
+/// Makes the owner the window's transient parent, unless the owner itself belongs to the window by transient parents:
+/// the toolkit follows them to their end, and a circle has none.
+void SetOwner(QWindow& window, QWindow& owner);
 
 } // namespace zelvor

@@ -1,25 +1,38 @@
 #include "platform/QtFileDialogs.h"
 
 #include <QCoreApplication>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QPointer>
-#include <QStandardPaths>
-#include <memory>
+#include <QLineEdit>
+#include <QPushButton>
 #include <utility>
 
-#include "platform/QtDialogs.h"
+#include "platform/StartDirectory.h"
 #include "platform/Toolkit.h"
 
 namespace zelvor {
 
-QString StartDirectoryFor(const QString& programDirectory) {
-    const QFileInfo directory(programDirectory);
-    return directory.isDir() && directory.isWritable()
-               ? programDirectory
-               : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+namespace {
+
+/// The toolkit's own dialog enables its button only for files that the filter shows. A name that was typed in full is
+/// meant, whatever its ending.
+void LetTypedNamesOpen(QFileDialog& dialog) {
+    auto* name = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    auto* buttons = dialog.findChild<QDialogButtonBox*>();
+    if (!name || !buttons) { // the system's dialog
+        return;
+    }
+    QObject::connect(name, &QLineEdit::textChanged, buttons, [&dialog, buttons](const QString& text) {
+        QPushButton* open = buttons->button(QDialogButtonBox::Open);
+        if (open && QFileInfo(dialog.directory(), text).isFile()) {
+            open->setEnabled(true);
+        }
+    });
 }
+
+} // namespace
 
 QString NameFilterOf(const QString& filter) {
     const QString text = filter.section(u'|', 0, 0);
@@ -35,6 +48,7 @@ std::optional<std::string> QtFileDialogs::Open(const FileDialogRequest& request)
     return Ask(request, [](QFileDialog& dialog) {
         dialog.setAcceptMode(QFileDialog::AcceptOpen);
         dialog.setFileMode(QFileDialog::ExistingFile);
+        LetTypedNamesOpen(dialog);
     });
 }
 
@@ -47,26 +61,22 @@ std::optional<std::string> QtFileDialogs::Save(const FileDialogRequest& request)
 }
 
 std::optional<std::string> QtFileDialogs::Ask(const FileDialogRequest& request, SetUp setUp) {
-    const QPointer<QFileDialog> dialog = new QFileDialog(DialogParent());
-    dialog->setObjectName(QStringLiteral("dlgFile"));
-    setUp(*dialog);
-    Preset(*dialog, request);
-    const bool isAccepted = dialog->exec() == QDialog::Accepted;
-    if (!dialog) { // its parent went while it was up
+    const std::optional<QString> file = question_.Ask([&](QFileDialog& dialog) {
+        dialog.setObjectName(QStringLiteral("dlgFile"));
+        setUp(dialog);
+        Preset(dialog, request);
+    });
+    if (!file) {
         return std::nullopt;
     }
-    const std::unique_ptr<QFileDialog> owner(dialog);
-    if (!isAccepted || dialog->selectedFiles().isEmpty()) {
-        return std::nullopt;
-    }
-    const QString file = dialog->selectedFiles().constFirst();
-    QDir::setCurrent(QFileInfo(file).absolutePath());
-    return FromQString(QDir::toNativeSeparators(file));
+    QDir::setCurrent(QFileInfo(*file).absolutePath());
+    return FromQString(QDir::toNativeSeparators(*file));
 }
 
 void QtFileDialogs::Preset(QFileDialog& dialog, const FileDialogRequest& request) const {
     dialog.setNameFilter(NameFilterOf(ToQString(request.filter)));
-    dialog.setDirectory(request.directory.empty() ? startDirectory_ : ToQString(request.directory));
+    const QString directory = request.directory.empty() ? startDirectory_ : ToQString(request.directory);
+    dialog.setDirectory(QFileInfo(directory).isDir() ? directory : QDir::homePath());
     if (request.fileName.empty()) {
         return;
     }

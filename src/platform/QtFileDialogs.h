@@ -3,6 +3,7 @@
 #include <QString>
 
 #include "platform/FileDialogs.h"
+#include "platform/FileQuestion.h"
 
 class QFileDialog;
 
@@ -11,8 +12,7 @@ namespace zelvor {
 /// Every dialog is a QFileDialog with the objectName "dlgFile".
 class QtFileDialogs : public FileDialogs {
 public:
-    /// Where dialogs start unless told otherwise: the program's directory, or documents where that cannot be written
-    /// to.
+    /// Where dialogs start unless told otherwise: StartDirectoryFor the program's directory.
     QtFileDialogs();
     explicit QtFileDialogs(QString startDirectory);
 
@@ -25,10 +25,8 @@ private:
     void Preset(QFileDialog& dialog, const FileDialogRequest& request) const;
 
     QString startDirectory_;
+    FileQuestion question_;
 };
-
-/// The start directory for a program in that directory.
-[[nodiscard]] QString StartDirectoryFor(const QString& programDirectory);
 
 /// "text|*.dat" as the toolkit writes it, "text (*.dat)"; a text that ends in its pattern already is left as it is.
 [[nodiscard]] QString NameFilterOf(const QString& filter);

@@ -2,7 +2,9 @@
 
 #include <QMessageBox>
 #include <QPointer>
+#include <QScreen>
 #include <QWindow>
+#include <algorithm>
 #include <memory>
 
 #include "platform/QtDialogs.h"
@@ -66,6 +68,27 @@ void SetUp(QMessageBox& box, const Message& message) {
     ShowTitle(box, ToQString(message.title));
 }
 
+// A box over a dialog would hide what the dialog tells of the matter: it opens below it, or above, where the screen has
+// the room.
+void PlaceBesideDialog(QMessageBox& box) {
+    const auto* dialog = qobject_cast<const QDialog*>(box.parentWidget());
+    if (!dialog || !dialog->isVisible()) {
+        return;
+    }
+    const QRect screen = dialog->screen()->availableGeometry();
+    const QRect occupied = dialog->frameGeometry();
+    box.ensurePolished();
+    // Some systems place the window's inside where its frame should be: room for one more frame.
+    const QSize frame = occupied.size() - dialog->size();
+    const QSize size = box.sizeHint() + frame * 2;
+    const int left = std::clamp(occupied.left(), screen.left(), std::max(screen.left(), screen.right() - size.width()));
+    if (occupied.bottom() + size.height() <= screen.bottom()) {
+        box.move(left, occupied.bottom() + 1 + frame.height());
+    } else if (occupied.top() - size.height() >= screen.top()) {
+        box.move(left, occupied.top() - size.height() + frame.height());
+    }
+}
+
 MessageAnswer AnswerOf(const QMessageBox& box, const Message& message) {
     for (const MessageAnswer answer : AnswersOf(message.buttons)) {
         if (box.clickedButton() && box.clickedButton() == box.button(ButtonOf(answer))) {
@@ -80,6 +103,7 @@ MessageAnswer AnswerOf(const QMessageBox& box, const Message& message) {
 MessageAnswer QtMessageBoxes::Show(const Message& message) {
     const QPointer<QMessageBox> box = new QMessageBox(DialogParent());
     SetUp(*box, message);
+    PlaceBesideDialog(*box);
     box->exec();
     if (!box) { // its parent went while it was up
         return EscapeOf(message);

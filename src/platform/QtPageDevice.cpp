@@ -1,15 +1,8 @@
 #include "platform/QtPageDevice.h"
 
-#include <QCoreApplication>
-#include <QDialogButtonBox>
 #include <QFontDatabase>
 #include <QFontMetricsF>
-#include <QPrintDialog>
-#include <QPrinterInfo>
-#include <QPushButton>
-#include <utility>
 
-#include "platform/QtDialogs.h"
 #include "platform/Toolkit.h"
 
 namespace zelvor {
@@ -18,22 +11,6 @@ namespace {
 
 constexpr double TwipsPerInch = 1440;
 constexpr double LineWidthTwips = 10;
-
-// Without an explicit choice the toolkit prints to a PDF file where the system has no default printer.
-void UseSystemPrinter(QPrinter& printer) {
-    const QPrinterInfo preferred = QPrinterInfo::defaultPrinter();
-    if (!preferred.isNull()) {
-        printer.setPrinterName(preferred.printerName());
-    } else if (const auto printers = QPrinterInfo::availablePrinters(); !printers.isEmpty()) {
-        printer.setPrinterName(printers.constFirst().printerName());
-    }
-    printer.setOutputFormat(QPrinter::NativeFormat);
-}
-
-void UseFile(QPrinter& printer, const QString& file) {
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName(file);
-}
 
 /// The first proportional font with Chinese characters, which have Latin ones too; the usual font where there is none.
 QString FamilyWithChinese() {
@@ -45,55 +22,37 @@ QString FamilyWithChinese() {
     return QFont().family();
 }
 
-// The dialog only chooses: its button must not promise to print.
-void NameButtonOk(const QPrintDialog& dialog) {
-    if (const auto* buttons = dialog.findChild<QDialogButtonBox*>()) {
-        if (QPushButton* ok = buttons->button(QDialogButtonBox::Ok)) {
-            ok->setText(QCoreApplication::translate("QPlatformTheme", "OK"));
-        }
-    }
-}
-
 } // namespace
 
-QtPageDevice::QtPageDevice(QString pdfFile) : pdfFile_(std::move(pdfFile)) {}
-
 QtPageDevice::~QtPageDevice() {
-    EndDocument(); // the painter's end comes before its printer's
+    EndDocument(); // the painter's end comes before its paper's
 }
 
-bool QtPageDevice::IsAvailable() {
-    return PrintsToFile() || !QPrinterInfo::availablePrinters().isEmpty();
+void QtPageDevice::FindTarget(std::function<void(const PageTarget& target)> found) {
+    choice_.FindTarget(std::move(found));
 }
 
-bool QtPageDevice::PrintsToFile() const {
-    return !pdfFile_.isEmpty() || (isChosen_ && !printer_->outputFileName().isEmpty());
+void QtPageDevice::AskForPrinters(std::function<void(bool isAnswered)> told) {
+    choice_.AskForPrinters(std::move(told));
 }
 
-bool QtPageDevice::ShowSetup() {
-    if (!isChosen_) {
-        MakePrinter();
-    }
-    QPrintDialog dialog(printer_.get(), DialogParent());
-    dialog.setObjectName(QStringLiteral("dlgPrint"));
-    dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
-    NameButtonOk(dialog);
-    if (dialog.exec() != QDialog::Accepted) {
-        return false;
-    }
-    isChosen_ = true;
-    return true;
+bool QtPageDevice::ShowSetup(std::string_view documentFile) {
+    return choice_.ShowSetup(ToQString(documentFile));
 }
 
 bool QtPageDevice::BeginDocument(std::string_view name) {
-    if (painter_.isActive() || !IsAvailable()) {
+    if (painter_.isActive()) {
         return false;
     }
-    if (!isChosen_) {
-        MakePrinter(); // anew: the system's default printer may be another one by now
+    if (const std::optional<PdfChoice>& file = choice_.File()) {
+        pdf_ = PdfFile::Begin(file->file, file->layout, ToQString(name));
+        paper_ = pdf_ ? &pdf_->Paper() : nullptr;
+    } else {
+        paper_ = choice_.OpenPrinter(ToQString(name));
     }
-    printer_->setDocName(ToQString(name));
-    if (!painter_.begin(printer_.get())) {
+    if (paper_ == nullptr || !painter_.begin(paper_)) {
+        paper_ = nullptr;
+        pdf_.reset();
         return false;
     }
     painter_.setPen(QPen(Qt::black, DotsOf(LineWidthTwips)));
@@ -102,7 +61,7 @@ bool QtPageDevice::BeginDocument(std::string_view name) {
 }
 
 bool QtPageDevice::NewPage() {
-    if (printer_->newPage()) {
+    if (paper_->newPage()) {
         return true;
     }
     EndDocument();
@@ -110,17 +69,23 @@ bool QtPageDevice::NewPage() {
 }
 
 void QtPageDevice::EndDocument() {
-    if (painter_.isActive()) {
-        painter_.end();
+    if (!painter_.isActive()) {
+        return;
     }
+    painter_.end();
+    if (pdf_) {
+        pdf_->Finish();
+        pdf_.reset();
+    }
+    paper_ = nullptr;
 }
 
 double QtPageDevice::PageWidth() const {
-    return TwipsOf(printer_->width());
+    return TwipsOf(paper_->width());
 }
 
 double QtPageDevice::PageHeight() const {
-    return TwipsOf(printer_->height());
+    return TwipsOf(paper_->height());
 }
 
 void QtPageDevice::SetFont(const PageFont& font) {
@@ -132,16 +97,16 @@ void QtPageDevice::SetFont(const PageFont& font) {
     font_.setBold(font.bold);
     font_.setStyleStrategy(QFont::PreferNoShaping); // no script of ours needs it, and it takes a tenth of the time
     stretch_ = font.stretch;
-    ascent_ = QFontMetricsF(font_, printer_.get()).ascent();
+    ascent_ = QFontMetricsF(font_, paper_).ascent();
     painter_.setFont(font_);
 }
 
 double QtPageDevice::TextWidth(std::string_view text) const {
-    return TwipsOf(QFontMetricsF(font_, printer_.get()).horizontalAdvance(ToQString(text))) * stretch_;
+    return TwipsOf(QFontMetricsF(font_, paper_).horizontalAdvance(ToQString(text))) * stretch_;
 }
 
 double QtPageDevice::TextHeight() const {
-    return TwipsOf(QFontMetricsF(font_, printer_.get()).height());
+    return TwipsOf(QFontMetricsF(font_, paper_).height());
 }
 
 void QtPageDevice::DrawText(double x, double y, std::string_view text) {
@@ -161,21 +126,12 @@ void QtPageDevice::DrawLine(double x1, double y1, double x2, double y2) {
     painter_.drawLine(QPointF(DotsOf(x1), DotsOf(y1)), QPointF(DotsOf(x2), DotsOf(y2)));
 }
 
-void QtPageDevice::MakePrinter() {
-    printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
-    if (pdfFile_.isEmpty()) {
-        UseSystemPrinter(*printer_);
-    } else {
-        UseFile(*printer_, pdfFile_);
-    }
-}
-
 double QtPageDevice::DotsOf(double twips) const {
-    return twips * printer_->resolution() / TwipsPerInch;
+    return twips * paper_->logicalDpiX() / TwipsPerInch;
 }
 
 double QtPageDevice::TwipsOf(double dots) const {
-    return dots * TwipsPerInch / printer_->resolution();
+    return dots * TwipsPerInch / paper_->logicalDpiX();
 }
 
 } // namespace zelvor

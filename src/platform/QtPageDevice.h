@@ -1,12 +1,15 @@
 #pragma once
 
 #include <QFont>
+#include <QPagedPaintDevice>
 #include <QPainter>
-#include <QPrinter>
 #include <QString>
 #include <memory>
+#include <utility>
 
 #include "platform/PageDevice.h"
+#include "platform/PdfFile.h"
+#include "platform/PrintChoice.h"
 
 namespace zelvor {
 
@@ -15,13 +18,16 @@ namespace zelvor {
 class QtPageDevice : public PageDevice {
 public:
     /// With a file the pages go there as PDF, whatever printers there are.
-    explicit QtPageDevice(QString pdfFile = {});
+    explicit QtPageDevice(const QString& pdfFile = {}, PrinterLookUp::Ask ask = zelvor::AskForPrinters,
+                          std::chrono::milliseconds patience = PrinterLookUp::Patience)
+        : choice_(pdfFile, std::move(ask), patience) {}
     QtPageDevice(const QtPageDevice&) = delete;
     QtPageDevice& operator=(const QtPageDevice&) = delete;
     ~QtPageDevice() override;
 
-    [[nodiscard]] bool IsAvailable() override;
-    [[nodiscard]] bool ShowSetup() override;
+    void FindTarget(std::function<void(const PageTarget& target)> found) override;
+    void AskForPrinters(std::function<void(bool isAnswered)> told) override;
+    [[nodiscard]] bool ShowSetup(std::string_view documentFile) override;
     [[nodiscard]] bool BeginDocument(std::string_view name) override;
     [[nodiscard]] bool NewPage() override;
     void EndDocument() override;
@@ -34,14 +40,14 @@ public:
     void DrawLine(double x1, double y1, double x2, double y2) override;
 
 private:
-    void MakePrinter();
-    [[nodiscard]] bool PrintsToFile() const;
     [[nodiscard]] double DotsOf(double twips) const;
     [[nodiscard]] double TwipsOf(double dots) const;
 
-    QString pdfFile_;
-    std::unique_ptr<QPrinter> printer_; // made when needed: asking for the system's printers takes time
-    bool isChosen_ = false;             // printer_ is as the set-up dialog left it
+    PrintChoice choice_;
+
+    // In a document.
+    std::unique_ptr<PdfFile> pdf_;
+    QPagedPaintDevice* paper_ = nullptr; // a printer, or that of pdf_
     QPainter painter_;
     QString family_; // of texts without a family of their own; looked up once
     QFont font_;

@@ -5,6 +5,7 @@
 
 #include "platform/DevicePresence.h"
 #include "platform/LowLatency.h"
+#include "platform/PortAccess.h"
 #include "platform/Toolkit.h"
 
 namespace zelvor {
@@ -31,10 +32,16 @@ bool QtSerialPort::Open() {
     if (port_.isOpen()) {
         return true;
     }
+    failure_ = {};
     device_ = ports_.Describe(number_).devicePath;
-    if (device_.empty()) {
-        return false;
+    if (!device_.empty() && OpenDevice()) {
+        return true;
     }
+    failure_ = FailureOfDevice();
+    return false;
+}
+
+bool QtSerialPort::OpenDevice() {
     port_.setPortName(ToQString(device_));
     port_.setBaudRate(isProbe_ ? QSerialPort::Baud19200 : QSerialPort::Baud9600);
     port_.setStopBits(isProbe_ ? QSerialPort::OneStop : QSerialPort::TwoStop);
@@ -48,7 +55,26 @@ bool QtSerialPort::Open() {
     port_.setDataTerminalReady(true);
     port_.setRequestToSend(true);
     AskForLowLatency(port_);
+    watch_ = WatchDevice(port_, [this] {
+        QMetaObject::invokeMethod(
+            &queue_, [this] { CloseIfDeviceIsGone(); }, Qt::QueuedConnection);
+    });
     return port_.isOpen();
+}
+
+PortFailure QtSerialPort::FailureOfDevice() const {
+    if (device_.empty()) {
+        return {.fault = PortFault::Missing};
+    }
+    PortFailure failure = AccessFailure(device_);
+    if (failure.fault == PortFault::None) {
+        const QSerialPort::SerialPortError error = port_.error();
+        failure = {.fault = error == QSerialPort::PermissionError       ? PortFault::InUse
+                            : error == QSerialPort::DeviceNotFoundError ? PortFault::Missing
+                                                                        : PortFault::Unusable,
+                   .devicePath = device_};
+    }
+    return failure;
 }
 
 bool QtSerialPort::IsStale() const {
@@ -56,6 +82,7 @@ bool QtSerialPort::IsStale() const {
 }
 
 void QtSerialPort::Close() {
+    watch_.reset();
     if (port_.isOpen()) {
         port_.close();
     }
@@ -109,7 +136,9 @@ void QtSerialPort::TakeIn() const {
 
 void QtSerialPort::TakeInWithoutEventLoop() const {
     if (port_.isOpen()) {
-        port_.waitForReadyRead(0);
+        port_.waitForReadyRead(0); // closes the port where its device has just gone
+    }
+    if (port_.isOpen()) {
         TakeIn();
     }
 }
@@ -133,13 +162,25 @@ void QtSerialPort::OnError(QSerialPort::SerialPortError error) {
     if (!port_.isOpen()) {
         return;
     }
-    // A notification whose bytes were read or cleared before it came is reported in the same words as a device that is
-    // gone.
-    if (error == QSerialPort::ResourceError || (error == QSerialPort::ReadError && !HasDevice(port_))) {
-        Close(); // or the device that is gone reports the same error for ever
-        QMetaObject::invokeMethod(
-            &queue_, [this] { Raise(ReceiveReason::Error); }, Qt::QueuedConnection);
+    if (error == QSerialPort::ResourceError) {
+        CloseWithoutDevice();
+    } else if (error == QSerialPort::ReadError) {
+        // A notification whose bytes were read or cleared before it came is reported in the same words as a device that
+        // is gone.
+        CloseIfDeviceIsGone();
     }
+}
+
+void QtSerialPort::CloseIfDeviceIsGone() {
+    if (port_.isOpen() && !HasDevice(port_)) {
+        CloseWithoutDevice();
+    }
+}
+
+void QtSerialPort::CloseWithoutDevice() {
+    Close(); // or the device that is gone reports the same error for ever
+    QMetaObject::invokeMethod(
+        &queue_, [this] { Raise(ReceiveReason::Error); }, Qt::QueuedConnection);
 }
 
 void QtSerialPort::Raise(ReceiveReason reason) const {

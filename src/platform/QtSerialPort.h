@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QSerialPort>
+#include <memory>
 
 #include "platform/SerialPort.h"
 
@@ -23,6 +24,7 @@ public:
     /// Nothing here translates characters.
     void SetBinaryInput() override {}
     [[nodiscard]] bool Open() override;
+    [[nodiscard]] PortFailure Failure() const override { return failure_; }
     void Close() override;
     [[nodiscard]] bool IsOpen() const override { return port_.isOpen(); }
     [[nodiscard]] bool IsStale() const override;
@@ -35,11 +37,15 @@ public:
     void Send(std::span<const std::uint8_t> bytes) override;
 
 private:
+    [[nodiscard]] bool OpenDevice();
+    [[nodiscard]] PortFailure FailureOfDevice() const;
     void TakeIn() const;
     void TakeInWithoutEventLoop() const;
     void QueueReceiveEvent() const;
     void RaiseReceiveEvent() const;
     void OnError(QSerialPort::SerialPortError error);
+    void CloseIfDeviceIsGone();
+    void CloseWithoutDevice();
     void Raise(ReceiveReason reason) const;
 
     SerialPorts& ports_;
@@ -50,10 +56,12 @@ private:
     mutable bool isQueued_ = false;   // a receive event
     int number_ = 1;
     std::string device_; // of the number, when the port was opened
+    PortFailure failure_;
     bool isProbe_ = false;
     int threshold_ = 0;
     int readLength_ = 0;
-    mutable QObject queue_; // receiver of our queued calls, which are gone with it
+    std::unique_ptr<QObject> watch_; // of the device, while the port is open
+    mutable QObject queue_;          // receiver of our queued calls, which are gone with it
 };
 
 } // namespace zelvor

@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QSerialPortInfo>
 #include <QStandardPaths>
+#include <utility>
 
 #include "platform/QtSerialPort.h"
 #include "platform/Toolkit.h"
@@ -14,27 +15,25 @@ namespace {
 
 constexpr int AskEveryMilliseconds = 500;
 
-std::vector<MachinePort> AskMachine() {
-    std::vector<MachinePort> ports;
-    for (const QSerialPortInfo& info : QSerialPortInfo::availablePorts()) {
-        const QString name = info.portName();
-        const bool isUsb = info.hasVendorIdentifier() || name.startsWith(u"ttyUSB") || name.startsWith(u"ttyACM") ||
-                           name.startsWith(u"cu.usb");
-        ports.push_back(
-            {FromQString(name), {FromQString(info.systemLocation()), FromQString(info.description())}, isUsb});
-    }
-    return ports;
+bool IsUsbByName(const QString& name) {
+    return name.startsWith(u"ttyUSB") || name.startsWith(u"ttyACM") || name.startsWith(u"cu.usb");
 }
 
-[[maybe_unused]] std::string TargetOf(const QFileInfo& link) {
+#ifdef Q_OS_WIN
+constexpr bool HasNumberedPorts = true;
+#else
+constexpr bool HasNumberedPorts = false;
+#endif
+
+std::string TargetOf(const QFileInfo& link) {
     const QString device = link.canonicalFilePath(); // empty where nothing is there
     return FromQString(device.isEmpty() ? link.symLinkTarget() : device);
 }
 
-[[maybe_unused]] std::vector<PortLink> LinksOfUser() {
+std::vector<PortLink> LinksOfUser() {
+    std::vector<PortLink> links;
     const QDir folder(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
                       QStringLiteral("/Zelvor/ports"));
-    std::vector<PortLink> links;
     for (const QFileInfo& entry : folder.entryInfoList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot)) {
         if (const int number = NumberOfPortName(FromQString(entry.fileName())); number != 0) {
             links.push_back({number, TargetOf(entry)});
@@ -45,30 +44,60 @@ std::vector<MachinePort> AskMachine() {
 
 } // namespace
 
+std::vector<MachinePort> PortsOfMachine() {
+    std::vector<MachinePort> ports;
+    for (const QSerialPortInfo& info : QSerialPortInfo::availablePorts()) {
+        const QString name = info.portName();
+        ports.push_back(
+            {.name = FromQString(name),
+             .description = {FromQString(info.systemLocation()), FromQString(info.description())},
+             .isUsb = info.hasVendorIdentifier() || IsUsbByName(name),
+             .identity = {info.vendorIdentifier(), info.productIdentifier(), FromQString(info.serialNumber())}});
+    }
+    return ports;
+}
+
+QtSerialPorts::QtSerialPorts(std::function<std::vector<MachinePort>()> askMachine)
+    : askMachine_(std::move(askMachine)), firstLinks_(LinksOfUser()),
+      firstPorts_(std::async(std::launch::async, askMachine_)) {
+    sinceAsked_.start();
+}
+
 std::unique_ptr<SerialPort> QtSerialPorts::Make(std::string_view objectName) {
     return std::make_unique<QtSerialPort>(*this, objectName);
 }
 
 PortDescription QtSerialPorts::Describe(int number) {
-    const PortNumbers numbers = Numbers();
-    const auto found = numbers.find(number);
-    return found == numbers.end() ? PortDescription() : found->second;
-}
-
-PortNumbers QtSerialPorts::Numbers() {
-#ifdef Q_OS_WIN
-    return NumbersByName(PortsOfMachine());
-#else
-    return NumbersByLinksAndOrder(LinksOfUser(), PortsOfMachine());
-#endif
-}
-
-const std::vector<MachinePort>& QtSerialPorts::PortsOfMachine() {
-    if (!sinceAsked_.isValid() || sinceAsked_.hasExpired(AskEveryMilliseconds)) {
-        ports_ = AskMachine();
-        sinceAsked_.start();
+    FinishNumbering();
+    if (sinceAsked_.hasExpired(AskEveryMilliseconds)) {
+        Ask();
     }
-    return ports_;
+    if constexpr (HasNumberedPorts) {
+        const PortNumbers numbers = NumbersByName(ports_);
+        const auto found = numbers.find(number);
+        return found == numbers.end() ? PortDescription() : found->second;
+    } else {
+        numbering_.Follow(LinksOfUser(), ports_);
+        return numbering_.DeviceOf(number);
+    }
+}
+
+void QtSerialPorts::NumberAnew() {
+    FinishNumbering();
+    Ask();
+    numbering_.NumberAnew(LinksOfUser(), ports_);
+}
+
+void QtSerialPorts::FinishNumbering() {
+    if (firstPorts_.valid()) {
+        ports_ = firstPorts_.get();
+        numbering_.NumberAnew(firstLinks_, ports_);
+    }
+}
+
+void QtSerialPorts::Ask() {
+    ports_ = askMachine_();
+    sinceAsked_.start();
 }
 
 } // namespace zelvor

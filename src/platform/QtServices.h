@@ -2,6 +2,7 @@
 
 #include "platform/QtClock.h"
 #include "platform/QtFileDialogs.h"
+#include "platform/QtFileStore.h"
 #include "platform/QtHelpViewer.h"
 #include "platform/QtMessageBoxes.h"
 #include "platform/QtPageDevice.h"
@@ -28,7 +29,8 @@ private:
     QtClock clock_;
     QtHelpViewer help_;
     QtPageDevice pages_;
-    Services services_{ports_, settings_, messages_, files_, clock_, help_, pages_};
+    QtFileStore store_;
+    Services services_{ports_, settings_, messages_, files_, clock_, help_, pages_, store_};
 };
 
 } // namespace zelvor

@@ -20,6 +20,21 @@ inline constexpr int RadioOutputBufferSize = 512;
 /// Reason of a receive event. Every reason but DataReceived is ignored by all who listen.
 enum class ReceiveReason { DataReceived = 2, Error = 100 };
 
+/// Why a port cannot be opened.
+enum class PortFault {
+    None,
+    Missing,      // nothing stands behind its number
+    InUse,        // another program holds it
+    NotPermitted, // the user may not open it
+    Unusable,     // anything else, such as a device that is no serial port
+};
+
+struct PortFailure {
+    PortFault fault = PortFault::None;
+    std::string devicePath = {}; // empty where no device has the number
+    std::string group = {};      // NotPermitted: whose members may open it; empty where that is not the remedy
+};
+
 /// A serial port as the radio link asks for it. Nothing here waits, and nothing throws.
 class SerialPort {
 public:
@@ -32,12 +47,14 @@ public:
     virtual void SetBufferSizes(int inputBytes, int outputBytes) = 0;
     virtual void SetBinaryInput() = 0;
 
-    /// False where the port is missing or in use. Opening an open port is true and does nothing.
+    /// False where the port cannot be opened. Opening an open port is true and does nothing.
     [[nodiscard]] virtual bool Open() = 0;
+    /// Why the last Open() was false; PortFault::None after one that was true.
+    [[nodiscard]] virtual PortFailure Failure() const = 0;
     virtual void Close() = 0;
     /// False also after the device vanished.
     [[nodiscard]] virtual bool IsOpen() const = 0;
-    /// Whether the open port's number stands for another device by now: cables come and go, and with them the numbers.
+    /// Whether the open port's number stands for no device by now, or for another: cables come and go.
     [[nodiscard]] virtual bool IsStale() const = 0;
 
     virtual void ClearInput() = 0;
@@ -64,14 +81,17 @@ struct PortDescription {
     std::string description; // "FT232R USB UART", may be empty
 };
 
-/// Makes port objects: every dialog that talks to the radio has its own.
+/// Makes port objects: every dialog that talks to the radio has its own. The ports are numbered when the program
+/// starts, and a number keeps its device until they are numbered anew.
 class SerialPorts {
 public:
     virtual ~SerialPorts() = default;
     /// objectName is the control's name, such as "MSComm1".
     [[nodiscard]] virtual std::unique_ptr<SerialPort> Make(std::string_view objectName) = 0;
-    /// The device behind a port number 1 to 20; an empty path where there is none.
+    /// The device behind a port number 1 to 20; an empty path where there is none, or where it is gone.
     [[nodiscard]] virtual PortDescription Describe(int number) = 0;
+    /// Numbers what the machine has now; for the dialog that shows the numbers.
+    virtual void NumberAnew() = 0;
 };
 
 } // namespace zelvor

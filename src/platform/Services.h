@@ -4,6 +4,7 @@ namespace zelvor {
 
 class Clock;
 class FileDialogs;
+class FileStore;
 class HelpViewer;
 class MessageBoxes;
 class PageDevice;
@@ -19,6 +20,7 @@ struct Services {
     Clock& clock;
     HelpViewer& help;
     PageDevice& pages;
+    FileStore& store;
 };
 
 } // namespace zelvor

@@ -2,9 +2,12 @@
 
 #include <QCheckBox>
 #include <QHBoxLayout>
+#include <QLabel>
+#include <QPointer>
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "controls/FitToScreen.h"
 #include "data/Session.h"
 #include "link/DialogButtons.h"
 #include "platform/Clock.h"
@@ -15,6 +18,7 @@
 #include "platform/Services.h"
 #include "platform/Toolkit.h"
 #include "print/DataReport.h"
+#include "print/ReportOutput.h"
 
 namespace zelvor {
 
@@ -49,17 +53,19 @@ frmPrintList::frmPrintList(Session& session, Services& services, QWidget* parent
 
     const DialogButtons buttons = MakeDialogButtons(*this, session_);
     cmdOK_ = buttons.cmdOK;
-    connect(buttons.cmdOK, &QPushButton::clicked, this, &frmPrintList::Print);
+    connect(buttons.cmdOK, &QPushButton::clicked, this, &frmPrintList::AskBeforePrint);
     connect(buttons.cmdCancel, &QPushButton::clicked, this, &frmPrintList::reject);
     connect(buttons.cmdHelp, &QPushButton::clicked, this,
             [this] { services_.help.ShowTopic(HelpTopicPath(session_.LanguageFlag, "print.htm")); });
 
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(choice);
+    layout->addWidget(MakeOutputLine());
     layout->addSpacing(ButtonsGap);
     layout->addLayout(buttons.row);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
+    FitToScreen(*this);
     OnItemClicked();
+    ShowOutput();
 }
 
 QWidget* frmPrintList::MakeItems() {
@@ -84,7 +90,7 @@ QWidget* frmPrintList::MakeSideButtons() {
     auto* cmdPrintSetup = MakeSideButton("cmdPrintSetup", PrintSetup.In(language));
     connect(cmdSelectAll, &QPushButton::clicked, this, [this] { SetAll(true); });
     connect(cmdClearAll, &QPushButton::clicked, this, [this] { SetAll(false); });
-    connect(cmdPrintSetup, &QPushButton::clicked, this, &frmPrintList::ShowSetup);
+    connect(cmdPrintSetup, &QPushButton::clicked, this, &frmPrintList::AskBeforeSetup);
 
     auto* panel = new QWidget(this);
     auto* column = new QVBoxLayout(panel);
@@ -94,6 +100,16 @@ QWidget* frmPrintList::MakeSideButtons() {
     }
     column->addStretch();
     return panel;
+}
+
+QLabel* frmPrintList::MakeOutputLine() {
+    lblOutput_ = new QLabel(this);
+    lblOutput_->setObjectName("lblOutput");
+    lblOutput_->setTextFormat(Qt::PlainText);
+    lblOutput_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // a long name does not widen the dialog
+    const std::string longest = OutputText({PageTarget::Kind::NoAnswer, {}}, session_.LanguageFlag);
+    lblOutput_->setMinimumWidth(lblOutput_->fontMetrics().horizontalAdvance(ToQString(longest)));
+    return lblOutput_;
 }
 
 QPushButton* frmPrintList::MakeSideButton(const char* name, std::string_view text) {
@@ -121,18 +137,101 @@ void frmPrintList::OnItemClicked() {
     cmdOK_->setEnabled(Selection().any());
 }
 
-void frmPrintList::ShowSetup() {
-    static_cast<void>(services_.pages.ShowSetup()); // a cancelled choice leaves the printer as it was
+void frmPrintList::ShowOutput() {
+    ShowOutputText(ToQString(AskingText(session_.LanguageFlag)));
+    services_.pages.FindTarget([form = QPointer(this)](const PageTarget& target) {
+        if (form && !form->isAsking_) {
+            form->ShowTarget(target);
+        }
+    });
 }
 
-void frmPrintList::Print() {
-    if (services_.pages.IsAvailable()) {
+void frmPrintList::ShowTarget(const PageTarget& target) {
+    ShowOutputText(ToQString(OutputText(target, session_.LanguageFlag)), ToQString(target.name));
+}
+
+void frmPrintList::ShowOutputText(const QString& text, const QString& toolTip) {
+    outputText_ = text;
+    lblOutput_->setAccessibleName(text);
+    lblOutput_->setToolTip(toolTip.toHtmlEscaped());
+    ElideOutputText();
+}
+
+void frmPrintList::resizeEvent(QResizeEvent* event) {
+    QDialog::resizeEvent(event);
+    ElideOutputText();
+}
+
+void frmPrintList::ElideOutputText() {
+    lblOutput_->setText(lblOutput_->fontMetrics().elidedText(outputText_, Qt::ElideMiddle, lblOutput_->width()));
+}
+
+void frmPrintList::AskBeforeSetup() {
+    if (isAsking_) {
+        return;
+    }
+    isAsking_ = true;
+    ShowOutputText(ToQString(AskingText(session_.LanguageFlag)));
+    services_.pages.AskForPrinters([form = QPointer(this)](bool isAnswered) {
+        if (form) {
+            form->ShowSetup(isAnswered);
+        }
+    });
+}
+
+void frmPrintList::ShowSetup(bool isAnswered) {
+    const QPointer form(this);
+    const bool isWanted =
+        isVisible() && (isAnswered || WantsFileForWantOfAnswer(services_.messages, session_.LanguageFlag));
+    const bool isChosen = isWanted && services_.pages.ShowSetup(session_.CurrentFileName);
+    if (!form) {
+        return;
+    }
+    isAsking_ = false;
+    if (isChosen) {
+        services_.pages.FindTarget([form](const PageTarget& target) {
+            if (form) {
+                form->agreedFile_ = target.replacesFile ? target.name : std::string();
+            }
+        });
+    }
+    ShowOutput();
+}
+
+void frmPrintList::AskBeforePrint() {
+    if (isAsking_) {
+        return;
+    }
+    isAsking_ = true;
+    ShowOutputText(ToQString(AskingText(session_.LanguageFlag)));
+    services_.pages.FindTarget([form = QPointer(this)](const PageTarget& target) {
+        if (form) {
+            form->Print(target);
+        }
+    });
+}
+
+/// A refused replacement and a printing system without an answer leave the dialog up: the user may choose another way.
+void frmPrintList::Print(const PageTarget& target) {
+    const QPointer form(this);
+    ShowTarget(target);
+    if (!isVisible()) {
+        return;
+    }
+    if (target.kind == PageTarget::Kind::None) {
+        TellOfNoPrinter();
+    } else if (MayPrintTo(target, services_.messages, session_.LanguageFlag, agreedFile_)) {
         PrintDataReport(services_.pages, BuildDataReport(session_.Image, Selection(), session_.CurrentFileName,
                                                          session_.LanguageFlag, services_.clock.Now()));
     } else {
-        TellOfNoPrinter();
+        if (form) {
+            isAsking_ = false;
+        }
+        return;
     }
-    accept();
+    if (form) {
+        accept();
+    }
 }
 
 void frmPrintList::TellOfNoPrinter() {

@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 #include <array>
 
+#include "controls/FitToScreen.h"
 #include "data/MemoryMap.h"
 #include "data/ModelCatalogue.h"
 #include "data/Windows1252.h"
@@ -94,7 +95,7 @@ DJJInfoForm::DJJInfoForm(Session& session, Services& services, QWidget* parent)
     layout->setSpacing(14);
     layout->addLayout(fields);
     layout->addLayout(buttons);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
+    FitToScreen(*this);
     AlignButtons(*this);
     cmdClose->setFocus(); // the fields take the focus too, for copying
 }

@@ -24,6 +24,9 @@ constexpr int RefusedPause = 10;
 constexpr int AllChannelsStep = 17;
 constexpr int MismatchStep = 30;
 
+constexpr int InformationReplies = 8;
+constexpr int TestModeReplies = 5 + 2 * TestChannelCount;
+
 /// Intended: the Chinese title is that of a warning.
 constexpr TextPair MismatchTitle{"Error", "警告"};
 constexpr TextPair MismatchText{"Test Frequency mismatch.\nExecute read data from radio\nor write to radio.",
@@ -46,6 +49,12 @@ void EntryEngine::Start(bool infoMode) {
         link_.SentState = NothingSent; // left by a transfer that was given up; the first tick would do nothing
     }
     Enter(SendEntry, FirstSendInterval);
+    CountReply(0);
+}
+
+void EntryEngine::CountReply(int replies) {
+    replies_ = replies;
+    observer_.OnProgress(replies, InfoMode ? InformationReplies : TestModeReplies);
 }
 
 void EntryEngine::Abort() {
@@ -163,6 +172,7 @@ void EntryEngine::TakeTestFrequency() {
 }
 
 void EntryEngine::MoveOn() {
+    CountReply(replies_ + 1);
     if (InfoMode && State() == SendEnd) {
         FinishInformation();
     } else if (!InfoMode && State() == ConfirmNext) {
@@ -205,6 +215,7 @@ void EntryEngine::RefuseTestMode() {
     Stop();
     port_.Close();
     clock_.Sleep(RefusedPause);
+    observer_.OnExchangeEnded();
     messages_.Show({.title = std::string(MismatchTitle.In(session_.LanguageFlag)),
                     .text = std::string(MismatchText.In(session_.LanguageFlag)),
                     .icon = MessageIcon::Critical,
@@ -213,12 +224,14 @@ void EntryEngine::RefuseTestMode() {
 
 void EntryEngine::Retry() {
     link_.StepCount = 1;
+    CountReply(0);
     Enter(SendEntry, StepInterval);
 }
 
 void EntryEngine::GiveUp() {
     Stop();
     port_.Close();
+    observer_.OnExchangeEnded();
 }
 
 } // namespace zelvor

@@ -16,6 +16,10 @@ public:
     virtual void OnExchangeDone() = 0;
     virtual void OnInformationReady() = 0;
     virtual void OnTestModeReady() = 0;
+    /// The exchange has begun, or has gone one command on; so many of its replies have come.
+    virtual void OnProgress(int replies, int all) = 0;
+    /// The exchange is over, and nothing is to be opened: the user has given up, or test mode was refused.
+    virtual void OnExchangeEnded() = 0;
 };
 
 /// The exchange that fetches the radio's manufacturing record, and the one that enters test mode: one machine.
@@ -48,6 +52,7 @@ private:
     };
 
     void Start(bool infoMode);
+    void CountReply(int replies);
     void SendCommand() override;
     void Receive() override;
     void Retry() override;
@@ -65,6 +70,7 @@ private:
     void RefuseTestMode();
 
     EntryObserver& observer_;
+    int replies_ = 0;
     bool InfoMode = false;
     bool EntryDone = false; // all test channels agree, and test mode opens
 };

@@ -1,7 +1,5 @@
 #include "service/RadioExchange.h"
 
-#include "service/ServiceFrames.h"
-
 namespace zelvor {
 
 namespace {
@@ -23,7 +21,7 @@ RadioExchange::RadioExchange(Session& session, SerialPort& port, Clock& clock, M
 RadioExchange::~RadioExchange() = default;
 
 void RadioExchange::OnSendTimer() {
-    if (!active_ || superseded_ || link_.CommState == link_.SentState) {
+    if (!active_ || link_.CommState == link_.SentState) {
         return;
     }
     const bool wasOpen = port_.IsOpen();
@@ -38,7 +36,6 @@ void RadioExchange::OnSendTimer() {
     }
     const std::uint8_t sent = link_.CommState;
     awaiting_ = true;
-    pttSent_.reset();
     SendCommand();
     if (!active_) { // ended from inside a wait of the sending
         return;
@@ -59,35 +56,7 @@ void RadioExchange::OnReceive(ReceiveReason reason) {
     ctrTimer_->SetEnabled(false);
     link_.SentState = NothingSent;
     awaiting_ = false;
-    if (superseded_) {
-        superseded_ = false;
-        ReceiveSuperseded();
-        port_.ClearInput();
-        Run(*ctrTimer_, NextTick);
-        return;
-    }
     Receive();
-}
-
-void RadioExchange::ReceiveSuperseded() {
-    if (!pttSent_ || !port_.ReadsAcknowledge()) {
-        return;
-    }
-    OnKeyed(*pttSent_);
-    if (!*pttSent_) {
-        OnUnkeyed();
-    }
-}
-
-void RadioExchange::SendPtt(bool on) {
-    pttSent_ = on;
-    mayBeKeyed_ = mayBeKeyed_ || on;
-    port_.Send(on ? service::PttOn : service::PttOff);
-}
-
-void RadioExchange::OnUnkeyed() {
-    mayBeKeyed_ = false;
-    PttDropPending = false;
 }
 
 void RadioExchange::OnTimeout() {
@@ -103,7 +72,6 @@ void RadioExchange::Prompt() {
     const bool again = port_.AsksToRetry(messages_);
     deaf_ = false;
     awaiting_ = false;
-    superseded_ = false;
     link_.SentState = NothingSent;
     if (!active_) {
         return;
@@ -122,15 +90,9 @@ void RadioExchange::Enter(int state, int interval) {
     Run(*ctrTimer_, interval);
 }
 
-void RadioExchange::Request(int state, int interval) {
-    superseded_ = active_ && awaiting_;
-    Enter(state, interval);
-}
-
 void RadioExchange::Stop() {
     active_ = false;
     awaiting_ = false;
-    superseded_ = false;
     ctrTimer_->SetEnabled(false);
     timeoutTimer_->SetEnabled(false);
 }

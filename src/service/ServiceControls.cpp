@@ -3,6 +3,7 @@
 #include <QFrame>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 
 namespace zelvor {
 
@@ -31,6 +32,22 @@ QLabel* MakeDisplay(const QString& name, int width, QWidget* parent) {
 void ShowOn(QLabel& display, const QString& label, const QString& text) {
     display.setText(text);
     display.setAccessibleName(label + u' ' + text);
+}
+
+void OnEnter(QWidget& control, const std::function<void()>& act) {
+    for (const Qt::Key enter : {Qt::Key_Return, Qt::Key_Enter}) {
+        auto* key = new QShortcut(enter, &control);
+        key->setContext(Qt::WidgetShortcut);
+        QObject::connect(key, &QShortcut::activated, &control, act);
+    }
+}
+
+QPushButton* MakeButton(const QString& name, const QString& text, QWidget* parent) {
+    auto* button = new QPushButton(text, parent);
+    button->setObjectName(name);
+    button->setAutoDefault(false);
+    OnEnter(*button, [button] { button->click(); });
+    return button;
 }
 
 QString SpokenName(QString caption) {

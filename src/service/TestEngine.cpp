@@ -14,7 +14,6 @@ constexpr int LoadInterval = 5;
 constexpr int ChannelInterval = 50;
 constexpr int CommandInterval = 1;
 constexpr int SelectInterval = 30;
-constexpr int FailureInterval = 2;
 constexpr int TunePause = 30;
 constexpr int EndWait = 80;
 constexpr int TuningPause = 30;
@@ -23,7 +22,7 @@ constexpr int LoopStep = 1;
 } // namespace
 
 TestEngine::TestEngine(Session& session, SerialPort& port, Clock& clock, MessageBoxes& messages, TestObserver& observer)
-    : RadioExchange(session, port, clock, messages, "tmrOverTime", Timeout), observer_(observer) {}
+    : CommandExchange(session, port, clock, messages, "tmrOverTime", Timeout), observer_(observer) {}
 
 void TestEngine::Load() {
     link_.SentState = NothingSent;
@@ -31,28 +30,27 @@ void TestEngine::Load() {
     port_.Close();
     session_.Service.TestAborted = false;
     session_.Service.NarrowMode = false;
-    TestCommand = TestCommandKind::SetChannel;
-    Enter(SendIt, LoadInterval);
+    Ask(TestCommandKind::SetChannel, session_.Service.TestChannelNo, LoadInterval);
+    Ask(TestCommandKind::SetSignalling, signalling_, CommandInterval);
 }
 
-void TestEngine::Ask(TestCommandKind command, int interval) {
-    if (closing_) {
-        return;
-    }
-    if (command != TestCommandKind::Ptt) {
-        DropPttFirst();
-    }
-    TestCommand = command;
-    if (!IsAwaitingReply()) {
-        link_.SentState = NothingSent;
-    }
-    Request(SendIt, interval);
+void TestEngine::Ask(TestCommandKind kind, int argument, int interval) {
+    CommandExchange::Ask({.kind = static_cast<int>(kind), .argument = argument}, interval);
+}
+
+bool TestEngine::Replaces(const RadioCommand& later, const RadioCommand& earlier) const {
+    const auto isWidth = [](const RadioCommand& command) {
+        return command.kind == static_cast<int>(TestCommandKind::Wide) ||
+               command.kind == static_cast<int>(TestCommandKind::Narrow);
+    };
+    return later.kind == earlier.kind || (isWidth(later) && isWidth(earlier)) ||
+           later.kind == static_cast<int>(TestCommandKind::Close) ||
+           earlier.kind == static_cast<int>(TestCommandKind::Tune);
 }
 
 void TestEngine::ChooseChannel(int number) {
-    ChannelOnly = true;
     session_.Service.TestChannelNo = number;
-    Ask(TestCommandKind::SetChannel, ChannelInterval);
+    Ask(TestCommandKind::SetChannel, number, ChannelInterval);
 }
 
 void TestEngine::ChooseSignalling(int number) {
@@ -60,80 +58,64 @@ void TestEngine::ChooseSignalling(int number) {
     if (!IsAwaitingReply()) {
         port_.Clear();
     }
-    Ask(TestCommandKind::SetSignalling, CommandInterval);
-}
-
-void TestEngine::PressPtt() {
-    PttOn = !PttOn;
-    Ask(TestCommandKind::Ptt, CommandInterval);
+    Ask(TestCommandKind::SetSignalling, number, CommandInterval);
 }
 
 void TestEngine::ChooseWide(bool wide) {
-    Ask(wide ? TestCommandKind::Wide : TestCommandKind::Narrow, CommandInterval);
+    Ask(wide ? TestCommandKind::Wide : TestCommandKind::Narrow, 0, CommandInterval);
 }
 
 void TestEngine::Tune() {
-    ChannelOnly = false;
     if (!IsAwaitingReply()) {
         port_.Clear();
     }
-    tunedItem_ = session_.Service.TuneItem;
-    Ask(TestCommandKind::Tune, CommandInterval);
+    Ask(TestCommandKind::Tune, session_.Service.TuneItem, CommandInterval);
 }
 
 void TestEngine::Close() {
-    if (closing_) {
+    if (RefusesCommands()) {
         return;
     }
     if (!session_.Service.TestAborted) {
         CloseDone = false;
-        Ask(TestCommandKind::Close, CommandInterval);
-        closing_ = true;
+        CountAskedPttAsKeyed();
+        Ask(TestCommandKind::Close, signalling_, CommandInterval);
+        RefuseCommands();
         while (!CloseDone) {
             clock_.WaitProcessingEvents(LoopStep);
         }
     }
-    closing_ = true;
+    RefuseCommands();
     Stop();
     port_.Close();
 }
 
-void TestEngine::SendCommand() {
+void TestEngine::SendStep() {
     switch (State()) {
     case SendIt:
         SendFirst();
         break;
     case Confirm:
-        if (TestCommand == TestCommandKind::Close) {
+        if (Kind() == TestCommandKind::Close) {
             SendEnd();
         } else {
-            port_.ExpectBytes(1);
             port_.Send(wire::Acknowledge);
         }
         break;
     default:
-        port_.ExpectBytes(1);
-        port_.Send({TuneItemOf(tunedItem_).code, service::Select});
+        port_.Send({TuneItemOf(Current().argument).code, service::Select});
     }
 }
 
 void TestEngine::SendFirst() {
-    port_.ExpectBytes(1);
-    if (PttDropPending) {
-        SendPtt(false);
-        return;
-    }
-    switch (TestCommand) {
+    switch (Kind()) {
     case TestCommandKind::SetChannel:
         port_.ExpectBytes(service::ChannelRecordLength);
-        port_.Send({service::SetChannel, static_cast<std::uint8_t>(session_.Service.TestChannelNo)});
+        port_.Send({service::SetChannel, static_cast<std::uint8_t>(Current().argument)});
         break;
     case TestCommandKind::SetSignalling:
     case TestCommandKind::Close:
-        port_.Send({service::SetSignalling, static_cast<std::uint8_t>(signalling_)});
-        break;
-    case TestCommandKind::Ptt:
-        SendPtt(PttOn);
+        port_.Send({service::SetSignalling, static_cast<std::uint8_t>(Current().argument)});
         break;
     case TestCommandKind::Tune:
         clock_.Sleep(TunePause);
@@ -148,6 +130,8 @@ void TestEngine::SendFirst() {
         session_.Service.NarrowMode = true;
         port_.Send({service::Narrow});
         break;
+    case TestCommandKind::Ptt: // CommandExchange's
+        break;
     }
 }
 
@@ -158,11 +142,7 @@ void TestEngine::SendEnd() {
     port_.Send(wire::End);
 }
 
-void TestEngine::OnKeyed(bool keyed) {
-    observer_.OnLamps(keyed);
-}
-
-void TestEngine::Receive() {
+void TestEngine::ReceiveStep() {
     switch (State()) {
     case SendIt:
         ReceiveFirst();
@@ -176,11 +156,7 @@ void TestEngine::Receive() {
 }
 
 void TestEngine::ReceiveFirst() {
-    if (PttDropPending) {
-        ReceivePttDrop();
-        return;
-    }
-    switch (TestCommand) {
+    switch (Kind()) {
     case TestCommandKind::SetChannel: {
         const std::size_t length = port_.Read(service::ChannelRecordLength).size();
         if (length == service::ChannelRecordLength || length == 1) {
@@ -193,9 +169,6 @@ void TestEngine::ReceiveFirst() {
     case TestCommandKind::Tune:
         ReceiveTuningData();
         break;
-    case TestCommandKind::Ptt:
-        ReceivePtt();
-        break;
     case TestCommandKind::Close:
         if (port_.ReadsAcknowledge()) {
             Enter(Confirm, CommandInterval);
@@ -206,34 +179,15 @@ void TestEngine::ReceiveFirst() {
     case TestCommandKind::SetSignalling:
     case TestCommandKind::Wide:
     case TestCommandKind::Narrow:
-        if (!port_.ReadsAcknowledge()) {
+        if (port_.ReadsAcknowledge()) {
+            Finish();
+        } else {
             FailFast(FailureInterval);
         }
         break;
+    case TestCommandKind::Ptt: // CommandExchange's
+        break;
     }
-}
-
-void TestEngine::ReceivePttDrop() {
-    const bool acknowledged = port_.ReadsAcknowledge();
-    observer_.OnLamps(false);
-    if (!acknowledged) {
-        FailFast(FailureInterval);
-        return;
-    }
-    PttOn = false;
-    OnUnkeyed();
-    Enter(SendIt, CommandInterval);
-}
-
-void TestEngine::ReceivePtt() {
-    if (!port_.ReadsAcknowledge()) {
-        FailFast(FailureInterval);
-        return;
-    }
-    if (!PttOn) {
-        OnUnkeyed();
-    }
-    observer_.OnLamps(PttOn);
 }
 
 void TestEngine::ReceiveTuningData() {
@@ -251,19 +205,14 @@ void TestEngine::ReceiveConfirmation() {
         FailFast(FailureInterval);
         return;
     }
-    if (ChannelOnly) {
-        ChannelOnly = false;
-        return;
-    }
-    switch (TestCommand) {
-    case TestCommandKind::Close:
+    switch (Kind()) {
+    case TestCommandKind::Close: // the radio's answer to End
         break;
     case TestCommandKind::Tune:
         Enter(SelectItem, SelectInterval);
         break;
     default:
-        TestCommand = TestCommandKind::SetSignalling;
-        Enter(SendIt, CommandInterval);
+        Finish();
     }
 }
 
@@ -272,19 +221,17 @@ void TestEngine::ReceiveSelection() {
         FailFast(FailureInterval);
         return;
     }
+    session_.Service.TuneItem = Current().argument;
     Stop();
+    ForgetCommands();
     port_.Close();
     clock_.Sleep(TuningPause);
-    session_.Service.TuneItem = tunedItem_;
     observer_.OnTuningReady();
-}
-
-void TestEngine::Retry() {
-    Enter(SendIt, CommandInterval);
 }
 
 void TestEngine::GiveUp() {
     Stop();
+    ForgetCommands();
     port_.Close();
     session_.Service.TestAborted = true;
     CloseDone = true;
@@ -292,13 +239,17 @@ void TestEngine::GiveUp() {
 }
 
 bool TestEngine::EndsAtTimeout() {
-    // A radio that answers Set channel with one byte never reaches the threshold of its eight.
-    if (State() == SendIt && TestCommand == TestCommandKind::SetChannel && !PttDropPending && IsAwaitingReply() &&
-        port_.WaitingBytes() == 1) {
+    if (IsShortChannelReply()) {
         OnReceive(ReceiveReason::DataReceived);
         return true;
     }
     return session_.Service.TestAborted || CloseDone;
+}
+
+/// A radio that answers Set channel with one byte never reaches the threshold of its eight.
+bool TestEngine::IsShortChannelReply() const {
+    return IsAwaitingReply() && State() == SendIt && Kind() == TestCommandKind::SetChannel && !IsDropDue() &&
+           port_.WaitingBytes() == 1;
 }
 
 } // namespace zelvor

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <optional>
+#include <cstdint>
 
-#include "service/RadioExchange.h"
+#include "service/CommandExchange.h"
 
 namespace zelvor {
 
-/// The values of TestEngine's command in progress.
+/// The kinds of TestEngine's commands.
 enum class TestCommandKind { SetChannel = 1, SetSignalling, Ptt, Tune, Wide, Narrow, Close };
 
 /// What the owner of a TestEngine is told.
@@ -22,9 +22,9 @@ public:
     virtual void OnUnloadRequested() = 0;
 };
 
-/// Test mode without a window: the commands that put the radio on a test channel, key it and start tuning. One command
-/// is in progress at a time; a later one takes its place.
-class TestEngine : public RadioExchange {
+/// Test mode without a window: the commands that put the radio on a test channel, key it and start tuning. A later
+/// command of a kind replaces the earlier one; closing replaces all, and tuning is given up for whatever is asked next.
+class TestEngine : public CommandExchange {
 public:
     TestEngine(Session& session, SerialPort& port, Clock& clock, MessageBoxes& messages, TestObserver& observer);
 
@@ -33,7 +33,6 @@ public:
 
     void ChooseChannel(int number);    // 1 to 16
     void ChooseSignalling(int number); // 1 to 9
-    void PressPtt();
     void ChooseWide(bool wide);
     /// Starts tuning of Session's TuneItem.
     void Tune();
@@ -42,34 +41,30 @@ public:
     /// port is closed then. Calls from inside do nothing.
     void Close();
 
-    [[nodiscard]] bool IsPttOn() const { return PttOn; }
-
 private:
     enum : std::uint8_t { SendIt = 1, Confirm, SelectItem };
 
-    void Ask(TestCommandKind command, int interval);
-    void SendCommand() override;
+    void Ask(TestCommandKind kind, int argument, int interval);
+    [[nodiscard]] TestCommandKind Kind() const { return static_cast<TestCommandKind>(Current().kind); }
+    [[nodiscard]] bool Replaces(const RadioCommand& later, const RadioCommand& earlier) const override;
+    [[nodiscard]] bool DropsPtt(const RadioCommand& command) const override { return command.kind != Ptt; }
+    void SendStep() override;
     void SendFirst();
     void SendEnd();
-    void Receive() override;
-    void OnKeyed(bool keyed) override;
+    void ReceiveStep() override;
+    void OnKeyed(bool keyed) override { observer_.OnLamps(keyed); }
+    void OnDropRefused() override { observer_.OnLamps(false); }
     void ReceiveFirst();
-    void ReceivePttDrop();
-    void ReceivePtt();
     void ReceiveTuningData();
     void ReceiveConfirmation();
     void ReceiveSelection();
-    void Retry() override;
     void GiveUp() override;
     [[nodiscard]] bool EndsAtTimeout() override;
+    [[nodiscard]] bool IsShortChannelReply() const;
 
     TestObserver& observer_;
-    TestCommandKind TestCommand = TestCommandKind::SetChannel;
-    int signalling_ = 1;
-    bool ChannelOnly = false; // the channel command is not followed by a signalling command
-    int tunedItem_ = 0;
+    int signalling_ = 1;    // the last one chosen
     bool CloseDone = false; // ends the wait of Close
-    bool closing_ = false;
 };
 
 } // namespace zelvor

@@ -6,13 +6,13 @@
 #include <QListWidget>
 #include <QPointer>
 #include <QPushButton>
-#include <QShortcut>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <array>
 
 #include "controls/FieldList.h"
+#include "controls/FitToScreen.h"
 #include "data/TuneItems.h"
 #include "platform/Services.h"
 #include "platform/Toolkit.h"
@@ -103,7 +103,7 @@ TestForm::TestForm(Session& session, Services& services, QWidget* parent)
     layout->setSpacing(ColumnSpacing);
     layout->addLayout(upper);
     layout->addLayout(BuildWindowButtons());
-    layout->setSizeConstraint(QLayout::SetFixedSize);
+    FitToScreen(*this);
     AlignButtons(*this);
 
     LoadChannels();
@@ -157,18 +157,11 @@ void TestForm::BuildItemList() {
     LvwTuneSel_->setMinimumHeight(TuneItemCount * rowHeight + 2 * LvwTuneSel_->frameWidth());
     connect(LvwTuneSel_, &QListWidget::itemSelectionChanged, this, &TestForm::OnItemChosen);
     connect(LvwTuneSel_, &QListWidget::itemDoubleClicked, this, [this] { engine_.Tune(); });
+    OnEnter(*LvwTuneSel_, [this] { CmdTune_->click(); }); // disabled until an item is chosen
 }
 
 QPushButton* TestForm::AddButton(QHBoxLayout& row, const char* name, const QString& text) {
-    auto* button = new QPushButton(text, this);
-    button->setObjectName(name);
-    // Enter presses the button that has the keyboard, and none from elsewhere: there is no default button.
-    button->setAutoDefault(false);
-    for (const Qt::Key enter : {Qt::Key_Return, Qt::Key_Enter}) {
-        auto* key = new QShortcut(enter, button);
-        key->setContext(Qt::WidgetShortcut);
-        connect(key, &QShortcut::activated, button, &QPushButton::click);
-    }
+    QPushButton* button = MakeButton(name, text, this);
     row.addWidget(button);
     return button;
 }
@@ -209,15 +202,12 @@ QHBoxLayout* TestForm::BuildWindowButtons() {
 
 /// Once at a time: a second click, or closing the window, may come while the first waits.
 void TestForm::Print() {
-    if (printing_) {
+    if (!printing_.expired()) {
         return;
     }
-    printing_ = true;
-    const QPointer<TestForm> form(this);
-    PrintTuningReport(session_, services_, [form] { return form && !form->unloaded_; });
-    if (form) {
-        printing_ = false;
-    }
+    const auto printing = std::make_shared<bool>(true);
+    printing_ = printing;
+    PrintTuningReport(session_, services_, [form = QPointer(this), printing] { return form && !form->unloaded_; });
 }
 
 /// The channels that the radio has told, or none: then a single "1" stands in the list.
@@ -289,7 +279,7 @@ void TestForm::OnLamps(bool transmitting) {
 }
 
 void TestForm::OnTuningReady() {
-    if (printing_ || QApplication::activeModalWidget() != nullptr) { // a question needs this window enabled
+    if (!printing_.expired() || QApplication::activeModalWidget() != nullptr) { // a question needs this window enabled
         QTimer::singleShot(DialogPollMilliseconds, this, &TestForm::OnTuningReady);
         return;
     }

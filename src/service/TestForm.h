@@ -77,7 +77,7 @@ private:
     QPushButton* CmdTune_ = nullptr;
     bool offersChannels_ = false;
     bool tuning_ = false;
-    bool printing_ = false;
+    std::weak_ptr<bool> printing_; // lives while a report is under way
     bool unloaded_ = false;
 };
 

@@ -19,7 +19,6 @@ constexpr int DropBeforeEndingInterval = 5;
 constexpr int DropBeforePageInterval = 7;
 constexpr int MeasurePause = 550; // the window stays alive meanwhile
 constexpr int MeasureInterval = 10;
-constexpr int FailureInterval = 2;
 constexpr int LoopStep = 1;
 
 constexpr int First = 1; // the first state of every operation
@@ -30,7 +29,7 @@ constexpr int Third = 3;
 
 TuningEngine::TuningEngine(Session& session, SerialPort& port, Clock& clock, MessageBoxes& messages, TuningPlan plan,
                            TuningSource& source, TuningObserver& observer)
-    : RadioExchange(session, port, clock, messages, "tmrOverTime", Timeout), plan_(std::move(plan)), source_(source),
+    : CommandExchange(session, port, clock, messages, "tmrOverTime", Timeout), plan_(std::move(plan)), source_(source),
       observer_(observer) {}
 
 void TuningEngine::Load() {
@@ -42,93 +41,73 @@ void TuningEngine::Load() {
 
 void TuningEngine::ChangePage(int page) {
     CurrentPage = page;
-    DropPttFirst();
-    Start(TunePage, PageInterval);
+    Ask({.kind = TunePage, .argument = page}, PageInterval);
 }
 
-void TuningEngine::SendValue(std::uint8_t operation) {
-    if (running_ && TuneOp != TuneSlider && TuneOp != TuneText) {
-        valuePending_ = true;
-        return;
-    }
-    Start(operation, StepInterval);
-}
-
-void TuningEngine::PressPtt() {
-    PttOn = !PttOn;
-    Start(TunePtt, StepInterval);
+void TuningEngine::SendValue() {
+    Ask({.kind = TuneValue, .argument = CurrentPage, .value = source_.Value(CurrentPage)}, StepInterval);
 }
 
 void TuningEngine::ToggleMeasuring() {
     measuring_ = !measuring_;
     if (measuring_) {
-        Start(TuneMeasure, StepInterval);
+        Ask({.kind = TuneMeasure}, StepInterval);
     } else if (!IsAwaitingReply()) {
         StopSending();
-        running_ = false;
-    }
-}
-
-void TuningEngine::Start(std::uint8_t operation, int interval) {
-    if (closing_) {
-        return;
-    }
-    TuneOp = operation;
-    running_ = true;
-    if (!IsAwaitingReply()) {
-        link_.SentState = NothingSent;
-    }
-    Request(First, interval);
-}
-
-void TuningEngine::End() {
-    running_ = false;
-    if (std::exchange(valuePending_, false)) {
-        Start(TuneSlider, StepInterval);
+        ForgetCommands();
     }
 }
 
 void TuningEngine::Close(Ending ending) {
-    if (closing_) {
+    if (RefusesCommands()) {
         return;
     }
     if (!session_.Service.TestAborted) {
         Done = false;
-        valuePending_ = false;
         measuring_ = false;
-        DropPttFirst();
-        Start(ending == Ending::Ok ? TuneOk : TuneCancel, EndingInterval);
-        closing_ = true;
+        CountAskedPttAsKeyed();
+        Ask({.kind = ending == Ending::Ok ? TuneOk : TuneCancel, .argument = CurrentPage}, EndingInterval);
+        RefuseCommands();
         while (!Done) {
             clock_.WaitProcessingEvents(LoopStep);
         }
     }
-    closing_ = true;
+    RefuseCommands();
     Stop();
     port_.Close();
 }
 
+/// A page stays where a value of its own waits behind it: the radio is at the point whose value it gets.
+bool TuningEngine::Replaces(const RadioCommand& later, const RadioCommand& earlier) const {
+    switch (later.kind) {
+    case TuneCancel:
+        return true;
+    case TuneOk:
+        return earlier.kind == Ptt || earlier.kind == TuneMeasure;
+    case TunePage:
+        return earlier.kind == TunePage && !IsWaiting(TuneValue, earlier.argument);
+    default:
+        return later.kind == earlier.kind && later.argument == earlier.argument;
+    }
+}
+
 /// Values are set, and the transmitter is keyed, with the transmitter as it is.
-bool TuningEngine::IsDropDue() const {
-    return PttDropPending && State() == First && (TuneOp == TunePage || TuneOp == TuneOk || TuneOp == TuneCancel);
+bool TuningEngine::DropsPtt(const RadioCommand& command) const {
+    return command.kind == TunePage || command.kind == TuneOk || command.kind == TuneCancel;
+}
+
+int TuningEngine::IntervalBehindDrop() const {
+    return TuneOp() == TunePage ? DropBeforePageInterval : DropBeforeEndingInterval;
 }
 
 int TuningEngine::LastCancelState() const {
     return plan_.kind == TuningKind::Points ? 2 * Pages() + 1 : Second;
 }
 
-void TuningEngine::SendCommand() {
-    port_.ExpectBytes(1);
-    if (IsDropDue()) {
-        SendPtt(false);
-        return;
-    }
-    switch (TuneOp) {
+void TuningEngine::SendStep() {
+    switch (TuneOp()) {
     case TunePage:
         SendPageCommand();
-        break;
-    case TunePtt:
-        SendPtt(PttOn);
         break;
     case TuneOk:
     case TuneCancel:
@@ -142,14 +121,14 @@ void TuningEngine::SendCommand() {
         }
         break;
     default:
-        SendSet(CurrentPage, source_.Value(CurrentPage));
+        SendSet(Current().argument, Current().value);
     }
 }
 
 void TuningEngine::SendPageCommand() {
     switch (State()) {
     case First:
-        port_.Send({Code(CurrentPage), service::Select});
+        port_.Send({Code(Current().argument), service::Select});
         break;
     case Second:
         port_.ExpectBytes(service::PointLength);
@@ -163,8 +142,8 @@ void TuningEngine::SendPageCommand() {
 void TuningEngine::SendEnding() {
     if (plan_.kind == TuningKind::Measured) {
         SendMeasuredEnding();
-    } else if (TuneOp == TuneOk) {
-        port_.Send({Code(CurrentPage), service::Store});
+    } else if (TuneOp() == TuneOk) {
+        port_.Send({Code(Current().argument), service::Store});
     } else {
         SendRestoring();
     }
@@ -172,7 +151,7 @@ void TuningEngine::SendEnding() {
 
 void TuningEngine::SendMeasuredEnding() {
     if (State() == First) {
-        SendSet(0, TuneOp == TuneOk ? source_.Value(0) : source_.OldValue(0));
+        SendSet(0, TuneOp() == TuneOk ? source_.Value(0) : source_.OldValue(0));
     } else {
         port_.Send({plan_.itemCode, service::Store});
     }
@@ -194,21 +173,10 @@ void TuningEngine::SendSet(int page, int value) {
     port_.Send({Code(page), service::SetValue, static_cast<std::uint8_t>(value)});
 }
 
-void TuningEngine::OnKeyed(bool keyed) {
-    observer_.OnLamp(keyed);
-}
-
-void TuningEngine::Receive() {
-    if (IsDropDue()) {
-        ReceiveDrop();
-        return;
-    }
-    switch (TuneOp) {
+void TuningEngine::ReceiveStep() {
+    switch (TuneOp()) {
     case TunePage:
         ReceivePageReply();
-        break;
-    case TunePtt:
-        ReceivePtt();
         break;
     case TuneOk:
     case TuneCancel:
@@ -219,22 +187,11 @@ void TuningEngine::Receive() {
         break;
     default:
         if (port_.ReadsAcknowledge()) {
-            End();
+            Finish();
         } else {
             FailFast(FailureInterval);
         }
     }
-}
-
-void TuningEngine::ReceiveDrop() {
-    if (!port_.ReadsAcknowledge()) {
-        FailFast(FailureInterval);
-        return;
-    }
-    PttOn = false;
-    OnUnkeyed();
-    observer_.OnLamp(false);
-    Enter(First, TuneOp == TunePage ? DropBeforePageInterval : DropBeforeEndingInterval);
 }
 
 void TuningEngine::ReceivePageReply() {
@@ -249,24 +206,12 @@ void TuningEngine::ReceivePageReply() {
         Enter(Second, PageInterval);
         break;
     case Second:
-        observer_.OnPointRead(CurrentPage);
+        observer_.OnPointRead(Current().argument);
         Enter(Third, PageConfirmInterval);
         break;
     default:
-        End();
+        Finish();
     }
-}
-
-void TuningEngine::ReceivePtt() {
-    if (!port_.ReadsAcknowledge()) {
-        FailFast(FailureInterval);
-        return;
-    }
-    if (!PttOn) {
-        OnUnkeyed();
-    }
-    observer_.OnLamp(PttOn);
-    End();
 }
 
 void TuningEngine::ReceiveMeasurement() {
@@ -283,7 +228,7 @@ void TuningEngine::ReceiveMeasurement() {
     } else if (measuring_) {
         Enter(First, MeasurePause + MeasureInterval);
     } else {
-        running_ = false;
+        Finish();
     }
 }
 
@@ -292,31 +237,24 @@ void TuningEngine::ReceiveEnding() {
         FailFast(FailureInterval);
         return;
     }
-    const bool oneStep = TuneOp == TuneOk && plan_.kind != TuningKind::Measured;
+    const bool oneStep = TuneOp() == TuneOk && plan_.kind != TuningKind::Measured;
     if (oneStep || State() >= LastCancelState()) {
-        Finish();
+        End();
     } else {
         Enter(State() + 1, StepInterval);
     }
 }
 
-void TuningEngine::Finish() {
+void TuningEngine::End() {
     Stop();
+    ForgetCommands();
     port_.Close();
     Done = true;
-}
-
-/// The operation in progress begins again.
-void TuningEngine::Retry() {
-    Enter(First, StepInterval);
 }
 
 void TuningEngine::GiveUp() {
-    Stop();
-    port_.Close();
+    End();
     session_.Service.TestAborted = true;
-    Done = true;
-    running_ = false;
     observer_.OnUnloadRequested();
 }
 

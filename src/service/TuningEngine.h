@@ -1,9 +1,9 @@
 #pragma once
 
-#include <optional>
+#include <cstdint>
 #include <vector>
 
-#include "service/RadioExchange.h"
+#include "service/CommandExchange.h"
 
 namespace zelvor {
 
@@ -37,8 +37,9 @@ public:
     virtual void OnUnloadRequested() = 0;
 };
 
-/// The tuning of one item on the live radio, without a window.
-class TuningEngine : public RadioExchange {
+/// The tuning of one item on the live radio, without a window. Of values of one page, and of pages, the latest gets to
+/// the radio; OK comes behind them, Cancel at once.
+class TuningEngine : public CommandExchange {
 public:
     TuningEngine(Session& session, SerialPort& port, Clock& clock, MessageBoxes& messages, TuningPlan plan,
                  TuningSource& source, TuningObserver& observer);
@@ -49,9 +50,8 @@ public:
     /// The page comes to the front. A keyed transmitter is dropped first.
     void ChangePage(int page);
     /// The value of the page in front was changed by its slider or by its text; the latest one gets to the radio.
-    void SliderMoved() { SendValue(TuneSlider); }
-    void TextChanged() { SendValue(TuneText); }
-    void PressPtt();
+    void SliderMoved() { SendValue(); }
+    void TextChanged() { SendValue(); }
     /// Starts or ends the measuring.
     void ToggleMeasuring();
     [[nodiscard]] bool IsMeasuring() const { return measuring_; }
@@ -62,45 +62,40 @@ public:
     void Close(Ending ending);
 
 private:
-    /// Values of TuneOp.
-    enum : std::uint8_t { TunePage, TuneSlider, TuneText, TunePtt, TuneOk, TuneCancel, TuneMeasure };
+    /// Values of TuneOp, the kind of a command. Its argument is the page.
+    enum : std::uint8_t { TunePage, TuneValue, TuneOk = 4, TuneCancel, TuneMeasure };
 
-    void SendValue(std::uint8_t operation);
-    void Start(std::uint8_t operation, int interval);
-    void End();
-    [[nodiscard]] bool IsDropDue() const;
+    void SendValue();
+    [[nodiscard]] int TuneOp() const { return Current().kind; }
     [[nodiscard]] std::uint8_t Code(int page) const { return plan_.pointCodes[static_cast<std::size_t>(page)]; }
     [[nodiscard]] int Pages() const { return static_cast<int>(plan_.pointCodes.size()); }
     [[nodiscard]] int LastCancelState() const;
 
-    void SendCommand() override;
+    [[nodiscard]] bool Replaces(const RadioCommand& later, const RadioCommand& earlier) const override;
+    [[nodiscard]] bool DropsPtt(const RadioCommand& command) const override;
+    [[nodiscard]] int IntervalBehindDrop() const override;
+
+    void SendStep() override;
     void SendPageCommand();
     void SendEnding();
     void SendRestoring();
     void SendMeasuredEnding();
     void SendSet(int page, int value);
-    void Receive() override;
-    void OnKeyed(bool keyed) override;
-    void ReceiveDrop();
+    void ReceiveStep() override;
+    void OnKeyed(bool keyed) override { observer_.OnLamp(keyed); }
     void ReceivePageReply();
-    void ReceivePtt();
     void ReceiveMeasurement();
     void ReceiveEnding();
-    void Finish();
-    void Retry() override;
+    void End();
     void GiveUp() override;
     [[nodiscard]] bool EndsAtTimeout() override { return session_.Service.TestAborted || Done; }
 
     const TuningPlan plan_;
     TuningSource& source_;
     TuningObserver& observer_;
-    std::uint8_t TuneOp = TunePage;
     int CurrentPage = 0;
-    bool Done = false;          // ends the wait of Close
-    bool running_ = false;      // an operation is under way
-    bool valuePending_ = false; // a value waits for it
+    bool Done = false; // ends the wait of Close
     bool measuring_ = false;
-    bool closing_ = false;
 };
 
 } // namespace zelvor

@@ -8,6 +8,7 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include "controls/FitToScreen.h"
 #include "platform/Clock.h"
 #include "platform/Services.h"
 #include "platform/Toolkit.h"
@@ -29,6 +30,11 @@ constexpr int OnText = 89;
 constexpr int OffText = 85;
 
 constexpr const char* PttCaption = "PTT";
+
+constexpr TextPair SteppedTip{"Change the value with the slider, the arrows, or Up and Down here. It cannot be typed.",
+                              "用滑块、箭头按钮，或在此按上、下方向键更改数值。不能键入。"};
+constexpr TextPair MeasuredTip{"The value that the radio has measured last. It cannot be typed.",
+                               "对讲机最近一次测得的数值。不能键入。"};
 
 constexpr int ClosedPause = 30; // milliseconds
 
@@ -58,7 +64,7 @@ TuningForm::TuningForm(Session& session, Services& services, const TuningDialog&
         BuildPages(dialog);
     }
     static_cast<QVBoxLayout*>(layout())->addLayout(BuildButtons());
-    layout()->setSizeConstraint(QLayout::SetFixedSize);
+    FitToScreen(*this);
     AlignButtons(*this);
     ShowValues();
     engine_.Load();
@@ -121,8 +127,9 @@ void TuningForm::BuildPages(const TuningDialog& dialog) {
 
 void TuningForm::AddPage(TunePoint point, int index) {
     const QString name = Text(PageNameOf(point));
-    auto* page = new TuningPage(index, {Text(RxText), Text(TxText), FrequencyText(point, false),
-                                        FrequencyText(point, true), windowTitle() + u' ' + name});
+    auto* page =
+        new TuningPage(index, {Text(RxText), Text(TxText), FrequencyText(point, false), FrequencyText(point, true),
+                               windowTitle() + u' ' + name, ToQString(SteppedTip.In(session_.LanguageFlag))});
     SSTabTune_->addTab(page, name);
     pages_.push_back(page);
     connect(page, &TuningPage::SliderMoved, this, [this, index](int value) { Change(index, value, Source::Slider); });
@@ -133,6 +140,7 @@ void TuningForm::AddPage(TunePoint point, int index) {
 void TuningForm::BuildMeasure() {
     txtTuneValue_ = MakeTuneValueBox("txtTuneValue", this);
     txtTuneValue_->setAccessibleName(windowTitle());
+    txtTuneValue_->setToolTip(ToQString(MeasuredTip.In(session_.LanguageFlag)));
     PrgValue_ = MakeTuneValueBar("PrgValue", this);
     PrgValue_->setMinimumWidth(BarWidth);
     PrgValue_->setAccessibleName(windowTitle());
@@ -144,9 +152,7 @@ void TuningForm::BuildMeasure() {
 }
 
 QPushButton* TuningForm::AddButton(QHBoxLayout& row, const char* name, const QString& text) {
-    auto* button = new QPushButton(text, this);
-    button->setObjectName(name);
-    button->setAutoDefault(true); // Enter presses the button that has the keyboard, else OK
+    QPushButton* button = MakeButton(name, text, this);
     row.addWidget(button);
     return button;
 }
@@ -161,7 +167,6 @@ QHBoxLayout* TuningForm::BuildButtons() {
     row->addStretch();
     auto* cmdOK = AddButton(*row, "CmdOK", Text(OkText));
     auto* cmdCancel = AddButton(*row, "CmdCancel", Text(CancelText));
-    cmdOK->setDefault(true);
     connect(cmdOK, &QPushButton::clicked, this, [this] {
         ending_ = TuningEngine::Ending::Ok;
         values_->SetOldTestValue(values_->Value(0));

@@ -20,6 +20,7 @@ namespace {
 constexpr int PageStep = 16; // of the slider
 
 // Logical pixels.
+constexpr int ValueWidth = 56;
 constexpr int DisplayWidth = 120;
 constexpr int LabelSpacing = 8;
 constexpr int FieldSpacing = 12;
@@ -34,7 +35,11 @@ QLineEdit* MakeTuneValueBox(const QString& name, QWidget* parent) {
     box->setReadOnly(true);
     box->setContextMenuPolicy(Qt::PreventContextMenu);
     box->setAlignment(Qt::AlignRight);
-    box->setFixedWidth(56);
+    box->setFixedWidth(ValueWidth);
+    box->setCursor(Qt::ArrowCursor);
+    QPalette palette = box->palette();
+    palette.setBrush(QPalette::Base, palette.window());
+    box->setPalette(palette);
     return box;
 }
 
@@ -86,12 +91,11 @@ void TuningPage::BuildControls(const QString& suffix, const Texts& texts) {
     for (QWidget* control : std::initializer_list<QWidget*>{SldValue_, txtTuneValue_, updValue_, PrgValue_}) {
         control->setAccessibleName(texts.value);
     }
-    auto* pair = new QHBoxLayout;
-    pair->setSpacing(0);
-    pair->addWidget(txtTuneValue_);
-    pair->addWidget(updValue_);
+    txtTuneValue_->setToolTip(texts.valueTip);
     grid->addWidget(SldValue_, 1, 0);
-    grid->addLayout(pair, 1, 1);
+    auto* pair = new UpDownPair(this);
+    pair->Hold(*txtTuneValue_, *updValue_);
+    grid->addWidget(pair, 1, 1);
     grid->addWidget(PrgValue_, 2, 0);
     grid->setColumnStretch(0, 1);
     grid->setContentsMargins(PageMargin, PageMargin, PageMargin, PageMargin);

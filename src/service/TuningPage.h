@@ -25,6 +25,7 @@ public:
         QString receiveFrequency;
         QString transmitFrequency;
         QString value; // accessible name of the four controls
+        QString valueTip;
     };
 
     /// index: of the control arrays, such as "SldValue(2)".
@@ -56,7 +57,8 @@ private:
     int shown_ = 0;
 };
 
-/// The text box of a tuning value: what is typed into it is thrown away, and no context menu opens on it.
+/// The text box of a tuning value, which looks like a display: what is typed into it is thrown away, and no context
+/// menu opens on it.
 [[nodiscard]] QLineEdit* MakeTuneValueBox(const QString& name, QWidget* parent);
 /// The bar of a tuning value.
 [[nodiscard]] QProgressBar* MakeTuneValueBar(const QString& name, QWidget* parent);

@@ -8,6 +8,7 @@
 #include "platform/PageDevice.h"
 #include "platform/Services.h"
 #include "print/ReportHead.h"
+#include "print/ReportOutput.h"
 #include "text/StringTable.h"
 
 namespace zelvor {
@@ -82,6 +83,24 @@ std::vector<CellText> BuildTuningReport(const DataImage& image, const TuneValues
     return texts;
 }
 
+namespace {
+
+void PrintPage(Session& session, PageDevice& device) {
+    const Language language = session.LanguageFlag;
+    if (!device.BeginDocument(ReportTitle.In(language))) {
+        return;
+    }
+    const PageGrid grid(device, PageGrid::Units::Exact);
+    PrintTitle(device, grid, TitleRow, ReportTitle.In(language));
+    PrintCells(device, grid,
+               BuildTuningReport(session.Image, session.Service.Values, session.CurrentFileName, language),
+               grid.PageWidth());
+    PrintFoot(device, grid, 1);
+    device.EndDocument();
+}
+
+} // namespace
+
 void PrintTuningReport(Session& session, Services& services, const std::function<bool()>& isStillWanted) {
     const Language language = session.LanguageFlag;
     services.clock.WaitProcessingEvents(QuestionWait);
@@ -93,17 +112,14 @@ void PrintTuningReport(Session& session, Services& services, const std::function
                                                          .icon = MessageIcon::Question,
                                                          .buttons = MessageButtons::OkCancel,
                                                          .defaultButton = MessageAnswer::Cancel});
-    if (answer != MessageAnswer::Ok || !services.pages.BeginDocument(ReportTitle.In(language))) {
+    if (answer != MessageAnswer::Ok) {
         return;
     }
-    PageDevice& device = services.pages;
-    const PageGrid grid(device, PageGrid::Units::Exact);
-    PrintTitle(device, grid, TitleRow, ReportTitle.In(language));
-    PrintCells(device, grid,
-               BuildTuningReport(session.Image, session.Service.Values, session.CurrentFileName, language),
-               grid.PageWidth());
-    PrintFoot(device, grid, 1);
-    device.EndDocument();
+    services.pages.FindTarget([&session, &services, isStillWanted](const PageTarget& target) {
+        if (isStillWanted() && MayPrintTo(target, services.messages, session.LanguageFlag)) {
+            PrintPage(session, services.pages);
+        }
+    });
 }
 
 } // namespace zelvor

@@ -19,7 +19,8 @@ struct Services;
                                                       std::string_view fileName, Language language);
 
 /// Prints one page with all tuning data, after a question. A failing printer ends it without a word. The event loop
-/// runs for a moment before the question: isStillWanted tells whether it is to be asked after that.
+/// runs for a moment before the question, and again, behind this call, while the printing system is asked:
+/// isStillWanted tells whether it is to go on then. It is kept as long as the printing is under way.
 void PrintTuningReport(Session& session, Services& services, const std::function<bool()>& isStillWanted);
 
 } // namespace zelvor

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "controls/FitToScreen.h"
 #include "data/Session.h"
 #include "platform/Toolkit.h"
 #include "shell/Icons.h"
@@ -53,7 +54,7 @@ AboutForm::AboutForm(const Session& session, QWidget* parent) : QDialog(parent) 
     layout->addWidget(picture, 0, 0, Qt::AlignTop);
     layout->addWidget(lblAbout, 0, 1);
     layout->addWidget(cmdClose, 1, 0, 1, 2, Qt::AlignRight);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
+    FitToScreen(*this);
 }
 
 } // namespace zelvor

@@ -234,13 +234,15 @@ void ChildWindows::Arrange(Arrangement arrangement) {
         ArrangeIcons(area_);
         return;
     }
-    QPointer<ChildFrame> navigator = IsVisible(ChildWindow::Navigator) ? SlotOf(ChildWindow::Navigator).frame : nullptr;
+    const QPointer<QMdiSubWindow> active = area_.activeSubWindow();
+    const QPointer<ChildFrame> navigator =
+        IsVisible(ChildWindow::Navigator) ? SlotOf(ChildWindow::Navigator).frame : nullptr;
     if (navigator) {
         navigator->hide();
     }
     switch (arrangement) {
     case Arrangement::Cascade:
-        area_.cascadeSubWindows();
+        CascadeWindows(area_);
         break;
     case Arrangement::TileHorizontally:
         TileWindows(area_, Qt::Horizontal);
@@ -253,6 +255,7 @@ void ChildWindows::Arrange(Arrangement arrangement) {
     }
     if (navigator) {
         navigator->show();
+        area_.setActiveSubWindow(active); // which showing the navigator has taken that from
     }
 }
 

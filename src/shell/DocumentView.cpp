@@ -84,7 +84,7 @@ void DocumentView::ChooseModel() {
 }
 
 void DocumentView::EditMemory() {
-    CPUForm(session_, &mainWindow_).exec();
+    CPUForm(session_, services_, &mainWindow_).exec();
 }
 
 void DocumentView::ResetAfterTransfer() {

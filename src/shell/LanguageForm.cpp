@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "controls/FitToScreen.h"
 #include "data/Session.h"
 #include "link/DialogButtons.h"
 #include "platform/HelpTopic.h"
@@ -58,7 +59,7 @@ void LanguageForm::BuildControls() {
     auto* layout = new QFormLayout(this);
     layout->addRow(labLanguage, comLanguage_);
     layout->addRow(buttons.row);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
+    FitToScreen(*this);
 }
 
 void LanguageForm::accept() {

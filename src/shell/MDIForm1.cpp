@@ -4,7 +4,6 @@
 #include <QCloseEvent>
 #include <QMdiArea>
 #include <QMenuBar>
-#include <QScreen>
 #include <QShortcut>
 #include <algorithm>
 #include <array>
@@ -25,6 +24,7 @@
 #include "platform/Clock.h"
 #include "platform/HelpTopic.h"
 #include "platform/HelpViewer.h"
+#include "platform/ScreenRoom.h"
 #include "platform/Services.h"
 #include "print/frmPrintList.h"
 #include "shell/AboutForm.h"
@@ -93,7 +93,7 @@ MDIForm1::~MDIForm1() {
 void MDIForm1::SetUpWindow() {
     setObjectName("MDIForm1");
     setWindowIcon(MakeIcon(IconShape::Application));
-    resize(FirstSize.boundedTo(screen()->availableSize()));
+    resize(FirstSize.boundedTo(ScreenRoom(*this)));
     // The toolkit's own menu of toolbars knows nothing of the check marks in the View menu.
     setContextMenuPolicy(Qt::NoContextMenu);
 
@@ -115,7 +115,8 @@ void MDIForm1::SetUpWindow() {
     service_ = std::make_unique<ServiceCommands>(
         session_, services_,
         ServiceCommands::MainWindow{*this, [this](const std::string& record) { GetDJJInfo(record); },
-                                    [this] { windowList_->Mark(TestModeListEntry); }});
+                                    [this] { windowList_->Mark(TestModeListEntry); },
+                                    [this](const QString& text) { statusBar1_->ShowExchange(text); }});
     language_ = std::make_unique<LanguageCommand>(
         session_, services_,
         LanguageCommand::Windows{*children_, *view_, channelWindows_, *this, [this] { ApplyLanguage(); }});
@@ -193,13 +194,13 @@ ChildForm* MDIForm1::MakeNavigator() {
 }
 
 void MDIForm1::ConnectFileMenu() {
-    menus_->On("MnuFileNew", QKeySequence::New, [this] { commands_->New(); });
-    menus_->On("MnuFileOpen", QKeySequence::Open, [this] { commands_->Open(); });
+    menus_->On("MnuFileNew", QKeySequence::New, [this] { ReplaceDocument(&SessionCommands::New); });
+    menus_->On("MnuFileOpen", QKeySequence::Open, [this] { ReplaceDocument(&SessionCommands::Open); });
     menus_->On("MnuFileSave", QKeySequence::Save, [this] { commands_->Save(); });
-    menus_->On("MnuFileSaveAs", QKeySequence::SaveAs, [this] { commands_->SaveAs(); });
+    menus_->On("MnuFileSaveAs", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), [this] { commands_->SaveAs(); });
     menus_->On("MnuFilePrint", QKeySequence::Print, [this] { ShowPrintList(); });
-    menus_->On("MnuFileExit", [this] { close(); });
-    menus_->On("MnuModelInformation", [this] { commands_->ChangeModel(); });
+    menus_->On("MnuFileExit", QKeySequence(Qt::CTRL | Qt::Key_Q), [this] { close(); });
+    menus_->On("MnuModelInformation", [this] { ReplaceDocument(&SessionCommands::ChangeModel); });
 }
 
 void MDIForm1::ConnectEditMenu() {
@@ -220,7 +221,7 @@ void MDIForm1::ConnectProgramMenu() {
 void MDIForm1::ConnectMemoryMapGesture() {
     // The entry MnuProgramMemoryMap never shows: this is the only way.
     connect(new MemoryMapGesture(*centralWidget()), &MemoryMapGesture::Made, this,
-            [this] { commands_->EditMemoryMap(); });
+            [this] { ReplaceDocument(&SessionCommands::EditMemoryMap); });
 }
 
 void MDIForm1::ConnectViewMenu() {
@@ -245,8 +246,8 @@ void MDIForm1::ConnectHelpMenu() {
 }
 
 void MDIForm1::ConnectToolbar() {
-    toolbar1_->On(1, [this] { commands_->New(); });
-    toolbar1_->On(2, [this] { commands_->Open(); });
+    toolbar1_->On(1, [this] { ReplaceDocument(&SessionCommands::New); });
+    toolbar1_->On(2, [this] { ReplaceDocument(&SessionCommands::Open); });
     toolbar1_->On(3, [this] { commands_->Save(); });
     toolbar1_->On(5, [this] { ShowPrintList(); });
     toolbar1_->On(7, [this] { Transfer(&TransferCommands::Read); });
@@ -277,14 +278,20 @@ void MDIForm1::GetDJJInfo(const std::string& record) {
     std::copy_n(record.begin(), std::min(record.size(), kept.size()), kept.begin());
 }
 
+/// Test mode is entered with the document that the radio was compared with, or not at all.
+void MDIForm1::ReplaceDocument(void (SessionCommands::*command)()) {
+    service_->EndForAnother();
+    (commands_.get()->*command)();
+}
+
 /// The transfer wants the port for itself.
 void MDIForm1::Transfer(void (TransferCommands::*transfer)()) {
-    service_->Abort();
+    service_->EndForAnother();
     (transfers_.get()->*transfer)();
 }
 
 void MDIForm1::ShowCommunicationPort() {
-    service_->Abort();
+    service_->EndForAnother();
     CommitPendingEdit();
     ComForm dialog(session_, services_, this);
     connect(&dialog, &ComForm::PortChosen, this, [this] { statusBar1_->ShowPort(session_.CommPortNumber); });
@@ -311,8 +318,7 @@ void MDIForm1::ShowHelpOfActiveWindow() {
 }
 
 void MDIForm1::closeEvent(QCloseEvent* event) {
-    // Disabled: the radio's information or its test mode is open, and has to be closed first.
-    if (!isEnabled() || !commands_->QueryExit()) {
+    if (service_->KeepsProgramOpen() || !commands_->QueryExit()) {
         event->ignore();
         return;
     }

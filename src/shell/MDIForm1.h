@@ -65,6 +65,7 @@ private:
     void ConnectHelpMenu();
     void ConnectToolbar();
     void ApplyLanguage();
+    void ReplaceDocument(void (SessionCommands::*command)());
     void Transfer(void (TransferCommands::*transfer)());
     void ShowCommunicationPort();
     void ShowPrintList();

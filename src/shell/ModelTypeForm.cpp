@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "controls/FitToScreen.h"
 #include "data/MemoryMap.h"
 #include "data/ModelCatalogue.h"
 #include "data/Session.h"
@@ -80,7 +81,7 @@ void ModelTypeForm::BuildControls() {
     layout->addRow(MakeLabel(*this, "lblModelType", model), cboModelType_);
     layout->addRow(MakeLabel(*this, "lblFreq", frequency), cboFreq_);
     layout->addRow(buttons.row);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
+    FitToScreen(*this);
 }
 
 void ModelTypeForm::SelectVariantOfImage() {

@@ -7,9 +7,9 @@
 
 #include "controls/PendingEdit.h"
 #include "data/BlankImage.h"
-#include "data/DataFile.h"
 #include "data/MemoryMap.h"
 #include "data/Session.h"
+#include "platform/DataFiles.h"
 #include "platform/FileDialogs.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Services.h"
@@ -31,10 +31,6 @@ constexpr TextPair ExitText{"Do you wish to exit Zelvor program？", "是否退�
 constexpr TextPair ChangedText{"Do you wish to save the changes in \"Zelvor.DAT\" ?", "文件已更改,是否保存?"};
 
 constexpr TextPair FileFilter{"QPK Data Files(*.dat)|*.dat", "QPK 数据文件 (*.dat)|*.dat"};
-
-std::filesystem::path PathOf(const std::string& name) {
-    return std::filesystem::path(std::u8string(name.begin(), name.end()));
-}
 
 /// Nothing where the directory is gone.
 std::optional<std::string> ProcessDirectory() {
@@ -89,7 +85,7 @@ void SessionCommands::Open() {
     }
     // Before the file is looked at: also a wrong one closes the child windows.
     ResetWindows();
-    const DataFileRead file = ReadDataFile(PathOf(*name));
+    const DataFileRead file = ReadDataFile(services_.store, *name);
     if (file.error == DataFileError::WrongType) {
         services_.messages.Show({std::string(commontexts::Error.In(language)), std::string(WrongFileText.In(language)),
                                  MessageIcon::Critical, MessageButtons::Ok, MessageAnswer::Ok});
@@ -147,7 +143,7 @@ void SessionCommands::SaveAs() {
 }
 
 bool SessionCommands::WriteFile() {
-    if (!WriteDataFile(PathOf(session_.CurrentFileName), session_.Image)) {
+    if (!WriteDataFile(services_.store, session_.CurrentFileName, session_.Image)) {
         return false;
     }
     session_.TakeSnapshot();

@@ -1,8 +1,6 @@
 #pragma once
 
 #include <QStatusBar>
-#include <array>
-#include <string_view>
 
 class QLabel;
 
@@ -10,7 +8,8 @@ namespace zelvor {
 
 struct LocalTime;
 
-/// The status bar with its panels StatusBar1(1) to StatusBar1(3): serial port, date, time.
+/// The status bar with its panels StatusBar1(1) to StatusBar1(3): serial port, date, time. LabExchange, between the
+/// port and the date, tells what the radio is being asked in the background.
 class StatusBar1 : public QStatusBar {
     Q_OBJECT
 
@@ -20,9 +19,15 @@ public:
     /// "COM" and the number.
     void ShowPort(int commPortNumber);
     void ShowTime(const LocalTime& now);
+    void ShowExchange(const QString& text);
 
 private:
-    std::array<QLabel*, 3> panels_{};
+    QLabel* AddPanel(const QString& name, int stretch);
+
+    QLabel* port_;
+    QLabel* exchange_;
+    QLabel* date_;
+    QLabel* time_;
 };
 
 } // namespace zelvor

@@ -4,12 +4,17 @@
 #include <QMdiSubWindow>
 #include <algorithm>
 #include <cmath>
+#include <iterator>
+
+#include "controls/ChildFrame.h"
 
 namespace zelvor {
 
 namespace {
 
 constexpr int LargestStack = 3;
+/// So many title bars high is a cascaded window at least.
+constexpr int LowestCascaded = 3;
 
 std::vector<QMdiSubWindow*> VisibleWindows(QMdiArea& area) {
     const auto stack = area.subWindowList(QMdiArea::StackingOrder);
@@ -17,6 +22,21 @@ std::vector<QMdiSubWindow*> VisibleWindows(QMdiArea& area) {
     std::copy_if(stack.rbegin(), stack.rend(), std::back_inserter(windows),
                  [](const QMdiSubWindow* window) { return !window->isHidden(); });
     return windows;
+}
+
+/// Those that can be arranged, the topmost first.
+std::vector<QMdiSubWindow*> OpenWindows(QMdiArea& area) {
+    std::vector<QMdiSubWindow*> windows = VisibleWindows(area);
+    std::erase_if(windows, [](const QMdiSubWindow* window) { return window->isMinimized(); });
+    return windows;
+}
+
+void Restore(const std::vector<QMdiSubWindow*>& windows) {
+    for (QMdiSubWindow* window : windows) {
+        if (window->isMaximized()) {
+            window->showNormal();
+        }
+    }
 }
 
 } // namespace
@@ -42,12 +62,45 @@ std::vector<QRect> TilePlaces(QSize area, int count, Qt::Orientation orientation
     return places;
 }
 
-void TileWindows(QMdiArea& area, Qt::Orientation orientation) {
-    std::vector<QMdiSubWindow*> windows = VisibleWindows(area);
-    std::erase_if(windows, [](const QMdiSubWindow* window) { return window->isMinimized(); });
-    const auto places = TilePlaces(area.viewport()->size(), static_cast<int>(windows.size()), orientation);
+std::vector<QPoint> CascadeCorners(QSize area, int count, int step) {
+    const int inRow = std::max(1, (area.height() - LowestCascaded * step) / step + 1);
+    const int rows = (count + inRow - 1) / inRow;
+    // Side by side, the steps to the right take no more than half of a row's width.
+    const int rowWidth = area.width() / std::max(1, rows);
+    const int right = rows <= 1 ? step : std::min(step, rowWidth / 2 / inRow);
+    std::vector<QPoint> corners;
+    for (int i = 0; i < count; ++i) {
+        corners.emplace_back(i / inRow * rowWidth + i % inRow * right, i % inRow * step);
+    }
+    return corners;
+}
+
+void CascadeWindows(QMdiArea& area) {
+    std::vector<QMdiSubWindow*> windows = OpenWindows(area);
+    if (windows.empty()) {
+        return;
+    }
+    std::reverse(windows.begin(), windows.end());
+    const auto active = std::find(windows.begin(), windows.end(), area.activeSubWindow());
+    if (active != windows.end()) {
+        std::rotate(active, std::next(active), windows.end());
+    }
+    Restore(windows);
+    const QSize room = area.maximumViewportSize();
+    const int step = static_cast<const ChildFrame*>(windows.front())->TitleBarHeight();
+    const auto corners = CascadeCorners(room, static_cast<int>(windows.size()), step);
     for (std::size_t i = 0; i < windows.size(); ++i) {
-        windows[i]->showNormal();
+        auto* frame = static_cast<ChildFrame*>(windows[i]);
+        frame->setGeometry({corners[i], frame->FirstSize(room - QSize(corners[i].x(), corners[i].y()))});
+        frame->raise();
+    }
+}
+
+void TileWindows(QMdiArea& area, Qt::Orientation orientation) {
+    const std::vector<QMdiSubWindow*> windows = OpenWindows(area);
+    const auto places = TilePlaces(area.viewport()->size(), static_cast<int>(windows.size()), orientation);
+    Restore(windows);
+    for (std::size_t i = 0; i < windows.size(); ++i) {
         windows[i]->setGeometry(places[i]);
     }
 }

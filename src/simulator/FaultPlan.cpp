@@ -92,6 +92,13 @@ std::optional<Fault> ParseFault(std::string_view text) {
     return std::nullopt;
 }
 
+int LongestReply(int reply) {
+    constexpr int acknowledgement = 1; // of the entry: nothing else is answered before
+    constexpr int identity = 8;
+    constexpr int block = 68;
+    return reply <= 1 ? acknowledgement : reply <= 3 ? identity : block;
+}
+
 std::string FaultText(const Fault& fault) {
     std::ostringstream text;
     for (const FaultName& known : FaultNames) {

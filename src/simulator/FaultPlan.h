@@ -31,6 +31,10 @@ struct Fault {
 [[nodiscard]] std::optional<Fault> ParseFault(std::string_view text);
 [[nodiscard]] std::string FaultText(const Fault& fault);
 
+/// How many bytes the radio's reply of that number has at most, for a program that keeps to the protocol: every session
+/// begins with entry, identity and acknowledgement (and with another entry after a retry), and a block is the longest.
+[[nodiscard]] int LongestReply(int reply);
+
 /// What becomes of one reply.
 struct FaultOutcome {
     std::vector<std::uint8_t> bytes; // what is left of it

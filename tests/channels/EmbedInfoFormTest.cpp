@@ -37,6 +37,10 @@ protected:
         Paste(text);
         Key(Qt::Key_Tab);
     }
+    /// What stands beside a line's caption.
+    std::string Hint(int line) {
+        return Find<QLabel>(line == 0 ? "lblMsgHint(0)" : "lblMsgHint(1)").text().toStdString();
+    }
     void Leave(const char* name) {
         Box(name).setFocus();
         Key(Qt::Key_Tab);
@@ -188,7 +192,7 @@ TEST_F(EmbedInfoFormTest, TypingReplacesASelectionHoweverLongTheTextIs) {
     EXPECT_EQ(Text("txtMsg(0)"), std::string(32, 'x'));
     Box("txtMsg(0)").setSelection(0, 1);
     Type("y");
-    EXPECT_EQ(Text("txtMsg(0)"), 'y' + std::string(31, 'x'));
+    EXPECT_EQ(Text("txtMsg(0)"), "y" + std::string(31, 'x'));
     Box("txtMsg(0)").selectAll();
     Type("new");
     EXPECT_EQ(Text("txtMsg(0)"), "new");
@@ -249,6 +253,89 @@ TEST_F(EmbedInfoFormTest, ATextThatIsTooLongForBothFieldsEndsBehindTheLastByte) 
     EXPECT_EQ(Field(0x320, 32), Bytes(32, 'r'));
     EXPECT_EQ(Field(0x300, 32), Bytes(32, 'q'));
     EXPECT_EQ(Field(0x340, 16), Bytes(16, 0x11));
+}
+
+TEST_F(EmbedInfoFormTest, EachLineHasACaptionAboveIt) {
+    const char* const captions[2][2] = {{"Line 1", "Line 2"}, {"第 1 行", "第 2 行"}};
+    for (const Language language : {Language::English, Language::Chinese}) {
+        Show(language);
+        for (int line = 0; line < 2; ++line) {
+            auto& caption = Find<QLabel>(line == 0 ? "lblMsg(0)" : "lblMsg(1)");
+            const QLineEdit& box = Box(line == 0 ? "txtMsg(0)" : "txtMsg(1)");
+            EXPECT_EQ(caption.text(), captions[language == Language::Chinese ? 1 : 0][line]);
+            EXPECT_TRUE(caption.isVisible());
+            EXPECT_EQ(caption.buddy(), &box);
+            EXPECT_EQ(caption.x(), box.x());
+            EXPECT_LE(caption.geometry().bottom(), box.y());
+        }
+        EXPECT_LT(Box("txtMsg(0)").geometry().bottom(), Find<QLabel>("lblMsg(1)").y());
+        EXPECT_LE(Box("txtMsg(1)").geometry().bottom(), Find<QWidget>("picEmbeddedMsg").height());
+    }
+}
+
+TEST_F(EmbedInfoFormTest, TellsHowManyCharactersMayStillBeTyped) {
+    Show();
+    EXPECT_EQ(Hint(0), "11 left");
+    Key(Qt::Key_Backspace);
+    EXPECT_EQ(Hint(0), "16 left");
+    Type("123456789012345");
+    EXPECT_EQ(Hint(0), "1 left");
+    Type("67");
+    EXPECT_EQ(Hint(0), "0 left");
+    Paste("abc");
+    EXPECT_EQ(Box("txtMsg(0)").text().size(), 19);
+    EXPECT_EQ(Hint(0), "0 left");
+    EXPECT_EQ(Hint(1), "11 left");
+    EXPECT_EQ(Box("txtMsg(0)").accessibleDescription(), "0 left");
+    Show(Language::Chinese);
+    EXPECT_EQ(Hint(0), "还可输入 11 个字符");
+    ExpectNoTextCutOff();
+}
+
+TEST_F(EmbedInfoFormTest, TellsQuietlyOfACharacterThatCannotBeStored) {
+    Show();
+    const auto quiet = Find<QLabel>("lblMsgHint(0)").foregroundRole();
+    Paste("AB信C");
+    EXPECT_EQ(Hint(0), "“信” cannot be stored, 12 left");
+    EXPECT_NE(Find<QLabel>("lblMsgHint(0)").foregroundRole(), quiet);
+    EXPECT_EQ(Find<QLabel>("lblMsgHint(1)").foregroundRole(), quiet);
+    EXPECT_EQ(Hint(1), "11 left");
+    ExpectNoTextCutOff();
+    Box("txtMsg(0)").selectAll();
+    Type("AB");
+    EXPECT_EQ(Hint(0), "14 left");
+    EXPECT_EQ(Find<QLabel>("lblMsgHint(0)").foregroundRole(), quiet);
+    const std::pair<QString, QString> others[] = {
+        {QString::fromUtf8("\xF0\x9F\x98\x80Z"), QString::fromUtf8("“\xF0\x9F\x98\x80” cannot be stored, 13 left")},
+        {QString(QChar(0x200B)), "“U+200B” cannot be stored, 15 left"},
+        {QString(QChar(0xFF)), "“ÿ” cannot be stored, 15 left"}, // its byte is that of an erased field
+        {QString("Ä€"), "14 left"}};
+    for (const auto& [text, hint] : others) {
+        Box("txtMsg(0)").selectAll();
+        Paste(text);
+        EXPECT_EQ(Hint(0), hint.toStdString());
+    }
+    EXPECT_TRUE(services.messages.Shown().empty());
+    Show(Language::Chinese);
+    Paste("AB信C");
+    EXPECT_EQ(Hint(0), "“信”无法存储，还可输入 12 个字符");
+    ExpectNoTextCutOff();
+}
+
+TEST_F(EmbedInfoFormTest, TellsWhereALineIsLongerThanItsField) {
+    const char* const hints[2][2] = {{"32 at most, the rest goes into line 2", "32 at most, the rest is lost"},
+                                     {"最多 32 个字符，其余写入第 2 行", "最多 32 个字符，其余丢失"}};
+    for (const Language language : {Language::English, Language::Chinese}) {
+        Show(language);
+        for (int line = 0; line < 2; ++line) {
+            Box(line == 0 ? "txtMsg(0)" : "txtMsg(1)").setFocus();
+            Paste(QString(32, u'x'));
+            EXPECT_NE(Hint(line), hints[language == Language::Chinese ? 1 : 0][line]);
+            Paste("y");
+            EXPECT_EQ(Hint(line), hints[language == Language::Chinese ? 1 : 0][line]);
+        }
+        ExpectNoTextCutOff();
+    }
 }
 
 TEST_F(EmbedInfoFormTest, OpensNoContextMenu) {

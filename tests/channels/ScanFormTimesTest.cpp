@@ -1,3 +1,6 @@
+#include <algorithm>
+#include <cstdio>
+
 #include "channels/ScanFormFixture.h"
 
 namespace zelvor {

@@ -1,5 +1,7 @@
 #include "controls/BoundCheck.h"
 
+#include <QMenuBar>
+
 #include "BoundControlFixture.h"
 
 namespace zelvor {
@@ -68,6 +70,58 @@ TEST_F(BoundCheckTest, LoadingTellsOfAChangeOfTheMarkOnly) {
     image.Set(0x100, 1);
     control->Load();
     EXPECT_EQ(toggled.count(), 1);
+}
+
+/// A box with a byte that it shows as a mark and would store as 1, and another window of the program.
+class BoundCheckBesideAWindow : public BoundCheckTest {
+protected:
+    void SetUp() override {
+        image.Set(0x100, 0x37);
+        ShowField(Plain);
+        ASSERT_TRUE(control->hasFocus());
+    }
+    void BringToFront(QWidget& top) {
+        top.show();
+        top.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&top));
+    }
+    QWidget other;
+};
+
+TEST_F(BoundCheckBesideAWindow, IsNotLeftWhereTheOtherOnlyComesToTheFront) {
+    const QSignalSpy told(control, &BoundCheck::FocusLeft);
+    BringToFront(other);
+    EXPECT_EQ(At(0x100), 0x37);
+    BringToFront(*window);
+    EXPECT_TRUE(control->hasFocus());
+    EXPECT_EQ(At(0x100), 0x37);
+    EXPECT_EQ(told.count(), 0);
+    after->setFocus();
+    EXPECT_EQ(At(0x100), 1);
+    EXPECT_EQ(told.count(), 1);
+}
+
+TEST_F(BoundCheckBesideAWindow, IsLeftByACommandMeanwhile) {
+    BringToFront(other);
+    CommitPendingEdit();
+    EXPECT_EQ(At(0x100), 1);
+}
+
+TEST_F(BoundCheckBesideAWindow, IsLeftByAClickOnAnotherControlAsTheWindowComesBack) {
+    BringToFront(other);
+    after->setFocus();
+    BringToFront(*window);
+    EXPECT_EQ(At(0x100), 1);
+}
+
+TEST_F(BoundCheckBesideAWindow, IsNotLeftForTheMenuBar) {
+    QMenuBar menus(window.get());
+    menus.addMenu("Menu");
+    menus.show();
+    menus.setFocus(Qt::MenuBarFocusReason);
+    EXPECT_EQ(At(0x100), 0x37);
+    control->setFocus(Qt::MenuBarFocusReason);
+    EXPECT_EQ(At(0x100), 0x37);
 }
 
 } // namespace

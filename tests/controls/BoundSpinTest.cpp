@@ -1,5 +1,7 @@
 #include "controls/BoundSpin.h"
 
+#include <algorithm>
+
 #include "BoundControlFixture.h"
 
 namespace zelvor {

@@ -1,5 +1,8 @@
 #include "controls/ChildForm.h"
 
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMdiArea>
 #include <QPushButton>
 #include <QScrollBar>
@@ -7,7 +10,9 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include "../support/InView.h"
 #include "controls/ChildFrame.h"
+#include "controls/EditGrid.h"
 
 namespace zelvor {
 namespace {
@@ -72,6 +77,78 @@ TEST(ChildForm, AControlLargerThanTheViewScrollsNothing) {
     form.findChild<QScrollBar*>("HScroll1")->setValue(100);
     large->setFocus();
     EXPECT_EQ(form.Content()->pos(), QPoint(-100, 0));
+}
+
+TEST(ChildForm, TheVerticalBarsWidthIsReachedToo) {
+    PlainForm form;
+    form.show();
+    form.resize(400, 150);
+    auto* horizontal = form.findChild<QScrollBar*>("HScroll1");
+    EXPECT_TRUE(horizontal->isVisible());
+    EXPECT_EQ(horizontal->maximum(), 16);
+    form.resize(416, 150);
+    EXPECT_FALSE(horizontal->isVisible());
+    form.resize(300, 200); // the horizontal bar takes its height from the content
+    EXPECT_EQ(form.findChild<QScrollBar*>("VScroll1")->maximum(), 16);
+    form.resize(300, 216);
+    EXPECT_FALSE(form.findChild<QScrollBar*>("VScroll1")->isVisible());
+}
+
+TEST(ChildForm, ALabelComesIntoViewWithItsControlWhereThereIsRoom) {
+    PlainForm form;
+    auto* near = new QLineEdit(form.Content());
+    near->setGeometry(10, 10, 50, 20);
+    auto* label = new QLabel("Label", form.Content());
+    label->setGeometry(180, 160, 60, 20);
+    auto* far = new QLineEdit(form.Content());
+    far->setGeometry(300, 160, 50, 20);
+    label->setBuddy(far);
+    form.show();
+    form.resize(216, 100);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+    near->setFocus();
+    QTest::keyClick(near, Qt::Key_Tab);
+    ASSERT_TRUE(far->hasFocus());
+    EXPECT_TRUE(IsAllSeen(*label, label->rect()));
+    EXPECT_TRUE(IsAllSeen(*far, far->rect()));
+    form.resize(136, 100); // no room for both
+    QTest::keyClick(far, Qt::Key_Backtab);
+    QTest::keyClick(near, Qt::Key_Tab);
+    EXPECT_TRUE(IsAllSeen(*far, far->rect()));
+}
+
+TEST(ChildForm, OfAWideCheckBoxTheTextComesIntoView) {
+    PlainForm form;
+    auto* far = new QLineEdit(form.Content());
+    far->setGeometry(340, 10, 50, 20);
+    auto* wide = new QCheckBox("Wide", form.Content());
+    wide->setGeometry(10, 170, 380, 20);
+    form.show();
+    form.resize(200, 100);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+    far->setFocus();
+    ASSERT_LT(form.Content()->x(), -10);
+    QTest::keyClick(far, Qt::Key_Tab);
+    ASSERT_TRUE(wide->hasFocus());
+    EXPECT_TRUE(IsAllSeen(*wide, QRect(QPoint(), wide->sizeHint())));
+}
+
+TEST(ChildForm, TheViewFollowsTheCursorOfATable) {
+    PlainForm form;
+    EditGrid grid(4, 2, form.Content());
+    grid.setGeometry(10, 10, 380, 150);
+    grid.SetCaptions({"No.", "First", "Second"});
+    grid.FitCells({50, 120, 120});
+    form.show();
+    form.resize(200, 100);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+    grid.setFocus();
+    for (const Qt::Key key : {Qt::Key_Right, Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Left, Qt::Key_Up}) {
+        QTest::keyClick(&grid, key);
+        EXPECT_TRUE(IsAllSeen(*grid.viewport(), grid.visualItemRect(grid.currentItem()))) << key;
+    }
+    QTest::keyClick(&grid, Qt::Key_Home, Qt::ControlModifier);
+    EXPECT_EQ(form.Content()->pos(), QPoint(-10, -10)); // the captions, too
 }
 
 TEST(ChildForm, ClosingItsFrameAsksToBeUnloadedAndClosesNothing) {

@@ -7,6 +7,7 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include "controls/CellListEditor.h"
 #include "controls/CellTextEditor.h"
 #include "controls/TextCellEdit.h"
 
@@ -131,6 +132,37 @@ TEST_F(EditGridTest, AnEditorCoversTheCurrentCellAndSelectsItsText) {
     EXPECT_EQ(editor.width(), 100);
     EXPECT_TRUE(editor.hasFocus());
     EXPECT_EQ(editor.selectedText(), "145");
+}
+
+TEST_F(EditGridTest, TheLastCaptionHasABorderAtItsRightLikeTheOthers) {
+    const QImage picture = grid.horizontalHeader()->grab().toImage();
+    // The border's column of pixels differs from the heading's ground beside it.
+    for (const int right : {99, 199}) {
+        const int middle = picture.height() / 2;
+        EXPECT_NE(picture.pixel(right, middle), picture.pixel(right - 2, middle)) << right;
+        EXPECT_EQ(picture.pixel(right, middle), picture.pixel(99, middle)) << right;
+    }
+}
+
+TEST_F(EditGridTest, AListCoversItsRowAloneAndStaysWithinTheGrid) {
+    CellListEditor list(&panel);
+    const QStringList entries{"Off", "A rather long entry of the list"};
+    for (const int row : {1, 3}) {
+        for (const int column : {1, 2}) {
+            grid.MoveTo(row, column);
+            list.ShowOver(grid, entries, "Off", false);
+            const QRect cell = grid.CellRect(row, column);
+            const QRect cells = grid.CellRect(1, 1) | grid.CellRect(3, 2);
+            EXPECT_EQ(list.y(), cell.y());
+            EXPECT_EQ(list.height(), cell.height());
+            EXPECT_GT(list.width(), cell.width());
+            EXPECT_TRUE(cells.contains(list.geometry())) << row << ' ' << column;
+            EXPECT_EQ(list.lineEdit()->alignment(), Qt::AlignCenter);
+            EXPECT_EQ(list.lineEdit()->height(), cell.height());
+        }
+    }
+    list.ShowOver(grid, {"Off"}, "Off", false);
+    EXPECT_EQ(list.geometry(), grid.CellRect(3, 2));
 }
 
 TEST_F(EditGridTest, HeadersShrinkTheirFontUntilNoCaptionIsCutOff) {

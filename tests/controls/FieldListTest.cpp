@@ -48,6 +48,16 @@ TEST_F(FieldListTest, FillingSelectsNothingAndTellsNothing) {
     EXPECT_EQ(selected.count(), 0);
 }
 
+TEST_F(FieldListTest, ALetterFindsAnEntryAndAKeyOfACommandDoesNot) {
+    list->setCurrentIndex(0);
+    for (const Qt::KeyboardModifiers held : {Qt::AltModifier, Qt::MetaModifier}) {
+        QTest::keyClick(list, 's', held);
+        EXPECT_EQ(list->currentIndex(), 0);
+    }
+    QTest::keyClick(list, 's');
+    EXPECT_EQ(list->currentIndex(), 2);
+}
+
 TEST_F(FieldListTest, ASelectionByKeyOrByCodeIsToldOnce) {
     const QSignalSpy selected(list, &FieldList::Selected);
     QTest::keyClick(list, Qt::Key_Down);

@@ -2,8 +2,10 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDragEnterEvent>
 #include <QInputMethodEvent>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QSignalSpy>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -172,6 +174,95 @@ TEST_F(FilteredLineEditTest, TakesTheNumberPadsDecimalPointInEveryLayout) {
     EXPECT_EQ(edit.text(), "1.5");
 }
 
+/// A key as the system reports it: what it is, what is held with it, and what it would type.
+bool Press(QWidget& box, int key, Qt::KeyboardModifiers modifiers, const QString& text) {
+    QKeyEvent event(QEvent::KeyPress, key, modifiers, text);
+    QApplication::sendEvent(&box, &event);
+    return event.isAccepted();
+}
+
+constexpr Qt::KeyboardModifiers AltGr = Qt::ControlModifier | Qt::AltModifier; // as some systems report it
+constexpr Qt::KeyboardModifiers Option = Qt::AltModifier;
+
+TEST_F(FilteredLineEditTest, AKeyOfACommandEntersNothing) {
+    FilteredLineEdit box;
+    box.setText("x");
+    for (const Qt::KeyboardModifiers held :
+         {Qt::AltModifier | Qt::NoModifier, Qt::AltModifier | Qt::ShiftModifier, Qt::MetaModifier | Qt::NoModifier,
+          Qt::MetaModifier | Qt::ShiftModifier, Qt::AltModifier | Qt::KeypadModifier,
+          Qt::MetaModifier | Qt::AltModifier, AltGr | Qt::MetaModifier}) {
+        for (int code = 0x20; code < 0x7F; ++code) {
+            EXPECT_FALSE(Press(box, QChar(code).toUpper().unicode(), held, QChar(code)))
+                << static_cast<char>(code) << " with " << held;
+            ASSERT_EQ(box.text(), "x") << static_cast<char>(code) << " with " << held;
+        }
+    }
+    Press(box, 0x419, Qt::AltModifier, QString(QChar(0x439))); // Cyrillic
+    Press(box, Qt::Key_ssharp, Qt::AltModifier, "ß");
+    Press(box, Qt::Key_ydiaeresis, Qt::AltModifier, "ÿ");
+    Press(box, Qt::Key_A, Qt::ControlModifier | Qt::ShiftModifier, QString(QChar(0x200D))); // a joiner
+    EXPECT_EQ(box.text(), "x");
+}
+
+TEST_F(FilteredLineEditTest, WhatAltGrOrOptionTypesGoesThroughTheFilter) {
+    edit.SetFilter([](QChar entered) { return entered == u'#' || entered.isDigit() ? entered : QChar(); });
+    EXPECT_TRUE(Press(edit, Qt::Key_NumberSign, AltGr, "#"));
+    EXPECT_TRUE(Press(edit, Qt::Key_3, AltGr, "#"));
+    EXPECT_TRUE(Press(edit, Qt::Key_3, Option, "#"));
+    EXPECT_TRUE(Press(edit, Qt::Key_3, Option | Qt::ShiftModifier, "#"));
+    EXPECT_EQ(edit.text(), "####");
+    EXPECT_TRUE(Press(edit, Qt::Key_Q, AltGr, "@"));
+    EXPECT_TRUE(Press(edit, Qt::Key_Q, Option, "œ"));
+    EXPECT_EQ(edit.text(), "####");
+}
+
+TEST_F(FilteredLineEditTest, WhatAltGrOrOptionTypesKeepsToTheLength) {
+    FilteredLineEdit box;
+    box.SetLengthLimit(2);
+    box.setText("12");
+    Press(box, Qt::Key_Q, AltGr, "@");
+    Press(box, Qt::Key_Q, Option, "œ");
+    EXPECT_EQ(box.text(), "12");
+    box.selectAll();
+    Press(box, Qt::Key_Q, Option, "œ");
+    Press(box, Qt::Key_Q, AltGr, "@");
+    Press(box, Qt::Key_E, AltGr, "€");
+    EXPECT_EQ(box.text(), "œ@");
+}
+
+TEST_F(FilteredLineEditTest, TheEnterLetterIsNoneInACommand) {
+    edit.SetEnterLetter(u'l');
+    const QSignalSpy enter(&edit, &FilteredLineEdit::EnterPressed);
+    Press(edit, Qt::Key_L, Qt::AltModifier, "l");
+    Press(edit, Qt::Key_L, Qt::MetaModifier, "l");
+    EXPECT_EQ(enter.count(), 0);
+}
+
+TEST_F(FilteredLineEditTest, KeysOfEditingWorkAsTheyDo) {
+    edit.setText("12.34");
+    QTest::keyClick(&edit, Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(edit.selectedText(), "12.34");
+    QTest::keyClick(&edit, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), "12.34");
+    QTest::keyClick(&edit, Qt::Key_X, Qt::ControlModifier);
+    EXPECT_EQ(edit.text(), "");
+    QTest::keyClick(&edit, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(edit.text(), "12.34");
+    QTest::keyClick(&edit, Qt::Key_End);
+    QTest::keyClick(&edit, Qt::Key_Left, Qt::ShiftModifier);
+    EXPECT_EQ(edit.selectedText(), "4");
+}
+
+TEST_F(FilteredLineEditTest, TakesNothingThatIsDropped) {
+    QMimeData text;
+    text.setText("12");
+    QDragEnterEvent enter(QPoint(3, 3), Qt::CopyAction, &text, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&edit, &enter);
+    QDropEvent drop(QPointF(3, 3), Qt::CopyAction, &text, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&edit, &drop);
+    EXPECT_EQ(edit.text(), "");
+}
+
 /// A box and a neighbour, with another window of the program beside.
 class BoxBesideAWindow : public testing::Test {
 protected:
@@ -238,6 +329,7 @@ TEST_F(BoxBesideAWindow, IsLeftByAClickOnAnotherControlAsTheWindowComesBack) {
 TEST_F(BoxBesideAWindow, IsNotLeftForTheMenuBar) {
     QMenuBar menus(&form);
     menus.addMenu("Menu");
+    menus.show();
     menus.setFocus(Qt::MenuBarFocusReason);
     EXPECT_EQ(left.count(), 0);
     box.setFocus(Qt::MenuBarFocusReason);

@@ -13,6 +13,7 @@
 #include "controls/EditGrid.h"
 #include "data/Session.h"
 #include "features/CPUForm.h"
+#include "platform/fakes/FakeServices.h"
 #include "support/QtPrinting.h"
 
 namespace zelvor {
@@ -23,7 +24,7 @@ protected:
     void Load(Language language = Language::English) {
         session.LanguageFlag = language;
         form.reset();
-        form = std::make_unique<CPUForm>(session);
+        form = std::make_unique<CPUForm>(session, services.Get());
     }
     void Show(Language language = Language::English) {
         Load(language);
@@ -51,11 +52,23 @@ protected:
             QTest::keyClick(QApplication::focusWidget(), *character);
         }
     }
+    /// Whole rows in view.
+    int VisibleRows() { return Grid().viewport()->height() / Grid().rowHeight(0); }
+    /// The question before typed bytes are thrown away.
+    Message Question() const {
+        if (session.LanguageFlag == Language::Chinese) {
+            return {"内存指针图", "放弃已更改的字节吗？", MessageIcon::Question, MessageButtons::YesNo,
+                    MessageAnswer::No};
+        }
+        return {"Memory Map", "Discard the changed bytes?", MessageIcon::Question, MessageButtons::YesNo,
+                MessageAnswer::No};
+    }
     void ExpectCursor(int row, int column) {
         EXPECT_EQ(Grid().Row(), row);
         EXPECT_EQ(Grid().Column(), column);
     }
 
+    FakeServices services;
     Session session;
     std::unique_ptr<CPUForm> form;
 };

@@ -1,4 +1,5 @@
 #include <QHeaderView>
+#include <cstdio>
 #include <random>
 
 #include "features/CPUFormFixture.h"
@@ -14,6 +15,7 @@ TEST_F(CPUFormTest, ShowsItsTextsInEnglish) {
     EXPECT_EQ(Button("cmdCancel").text(), "&Cancel");
     EXPECT_EQ(Grid().accessibleName(), "Memory Map");
     EXPECT_EQ(form->findChild<QLabel*>("lblAddr")->accessibleName(), "Address");
+    EXPECT_EQ(form->findChild<QLabel*>("lblAddrCaption")->text(), "Address:");
     EXPECT_TRUE(form->isModal());
 }
 
@@ -23,6 +25,7 @@ TEST_F(CPUFormTest, ShowsItsTextsInChinese) {
     EXPECT_EQ(Button("cmdOK").text(), "确定(&O)");
     EXPECT_EQ(Button("cmdCancel").text(), "取消(&C)");
     EXPECT_EQ(form->findChild<QLabel*>("lblAddr")->accessibleName(), "地址");
+    EXPECT_EQ(form->findChild<QLabel*>("lblAddrCaption")->text(), "地址：");
 }
 
 TEST_F(CPUFormTest, TheHeaderRowHasTheLastDigitOfTheAddress) {
@@ -57,6 +60,52 @@ TEST_F(CPUFormTest, TheColumnsShareTheWidthByNineteenths) {
     for (int column = 0; column < 16; ++column) {
         EXPECT_EQ(Grid().columnWidth(column), Grid().width() / 19);
     }
+}
+
+TEST_F(CPUFormTest, GrowsAndShrinksWithItsWindow) {
+    Show();
+    const int rowsAtFirst = VisibleRows();
+    EXPECT_EQ(rowsAtFirst, 16);
+    const int widthAtFirst = Grid().width();
+    form->resize(form->width() + 76, form->height() + 250);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(VisibleRows(), 26);
+    EXPECT_EQ(Grid().width(), widthAtFirst + 76);
+    EXPECT_EQ(Grid().columnWidth(0), widthAtFirst / 19 + 4);
+    EXPECT_EQ(Grid().columnWidth(15), widthAtFirst / 19 + 4);
+    EXPECT_EQ(Grid().verticalHeader()->width(), (widthAtFirst + 76) * 2 / 19);
+    form->resize(1, 1);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(VisibleRows(), 6);
+    EXPECT_LE(form->width(), 620); // in a screen of 640 x 480
+    EXPECT_LE(form->height(), 440);
+    EXPECT_FALSE(Grid().horizontalScrollBar()->isVisible());
+    EXPECT_GE(Grid().columnWidth(0), Grid().fontMetrics().horizontalAdvance("DD"));
+}
+
+TEST_F(CPUFormTest, ARowThatIsHalfInViewIsScrolledUpForTheEditor) {
+    Show();
+    form->resize(form->width(), form->height() + 12);
+    QCoreApplication::processEvents();
+    const QRect cell = Grid().visualItemRect(Grid().item(16, 3));
+    ASSERT_LT(Grid().viewport()->height(), cell.bottom());
+    QTest::mouseClick(Grid().viewport(), Qt::LeftButton, {}, cell.topLeft() + QPoint(5, 5));
+    ExpectCursor(17, 4);
+    EXPECT_TRUE(Editor().hasFocus());
+    EXPECT_EQ(Editor().geometry(), Grid().CellRect(17, 4));
+    EXPECT_TRUE(Grid().geometry().contains(Editor().geometry()));
+    Type("3");
+    EXPECT_EQ(Grid().Text(17, 4), "3");
+}
+
+TEST_F(CPUFormTest, TheEditorStaysOverItsCellWhenTheWindowGrows) {
+    Show();
+    Grid().MoveTo(3, 9);
+    Type("A");
+    form->resize(form->width() + 95, form->height() + 50);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(Editor().hasFocus());
+    EXPECT_EQ(Editor().geometry(), Grid().CellRect(3, 9));
 }
 
 TEST_F(CPUFormTest, EveryByteShowsAtItsAddressInTwoCapitalDigits) {
@@ -94,6 +143,38 @@ TEST_F(CPUFormTest, TheAddressFollowsTheCursor) {
     EXPECT_EQ(Address(), "03FA");
 }
 
+TEST_F(CPUFormTest, TabGoesRoundTheGridAndTheButtonsEitherWay) {
+    Show();
+    const QWidget* const round[] = {&Grid(), &Button("cmdOK"), &Button("cmdCancel")};
+    for (int step = 1; step <= 6; ++step) {
+        Key(Qt::Key_Tab);
+        EXPECT_EQ(QApplication::focusWidget(), round[step % 3]) << "Tab " << step;
+    }
+    for (int step = 5; step >= 0; --step) {
+        Key(Qt::Key_Tab, Qt::ShiftModifier);
+        EXPECT_EQ(QApplication::focusWidget(), round[step % 3]) << "Shift+Tab back to " << step;
+    }
+    ExpectCursor(1, 1);
+}
+
+TEST_F(CPUFormTest, TabOutOfACellStoresItAndGoesOn) {
+    Show();
+    Grid().MoveTo(3, 5);
+    Type("A");
+    Key(Qt::Key_Tab);
+    EXPECT_EQ(Grid().Text(3, 5), "0A");
+    EXPECT_TRUE(Button("cmdOK").hasFocus());
+    Key(Qt::Key_Tab, Qt::ShiftModifier);
+    EXPECT_TRUE(Grid().hasFocus());
+    ExpectCursor(3, 5);
+    Type("b");
+    Key(Qt::Key_Tab, Qt::ShiftModifier);
+    EXPECT_EQ(Grid().Text(3, 5), "0B");
+    EXPECT_TRUE(Grid().hasFocus());
+    Key(Qt::Key_Tab, Qt::ShiftModifier);
+    EXPECT_TRUE(Button("cmdCancel").hasFocus());
+}
+
 TEST_F(CPUFormTest, OkStoresEveryCell) {
     Show();
     DataImage expected;
@@ -115,8 +196,9 @@ TEST_F(CPUFormTest, OkStoresEveryCell) {
 
 TEST_F(CPUFormTest, NothingIsStoredBeforeOkAndNothingAtAnyOtherEnd) {
     const DataImage before = session.Image;
-    const std::function<void()> ends[] = {[this] { Click("cmdCancel"); }, [this] { form->close(); },
-                                          [this] { Key(Qt::Key_Escape); }};
+    const auto expectQuestion = [this] { services.messages.Expect(Question(), MessageAnswer::Yes); };
+    const std::function<void()> ends[] = {[this] { Click("cmdCancel"); }, [&] { expectQuestion(), form->close(); },
+                                          [&] { expectQuestion(), Key(Qt::Key_Escape); }};
     for (const auto& end : ends) {
         Show();
         Type("12");

@@ -38,6 +38,36 @@ TEST_F(CorvaneFormTest, TheEditorOpensOverTheCellWithItsTextSelected) {
     EXPECT_EQ(Editor().selectedText(), "150");
 }
 
+TEST_F(CorvaneFormTest, AHintBelowTheListTellsHowANumberIsEntered) {
+    for (const Language language : {Language::English, Language::Chinese}) {
+        ShowList(language);
+        const auto& hint = Find<QLabel>("LabHint");
+        EXPECT_TRUE(hint.isVisible());
+        EXPECT_TRUE(hint.text().contains(language == Language::English ? "Shift+arrow" : "Shift 加方向键"));
+        EXPECT_LT(Grid().geometry().bottom(), hint.y());
+        EXPECT_LE(hint.heightForWidth(hint.width()), hint.height());
+        EXPECT_TRUE(hint.parentWidget()->rect().contains(hint.geometry()));
+    }
+}
+
+TEST_F(CorvaneFormTest, ANumberIsEnteredAsTheHintTells) {
+    ShowList();
+    Open(6, 1);
+    Type("2");
+    EXPECT_EQ(Cell(6, 1), "100");
+    for (const char* digit : {"7", "3", "2"}) { // from the last one on
+        QTest::keyClick(&Editor(), Qt::Key_Left, Qt::ShiftModifier);
+        Type(digit);
+        QTest::keyClick(&Editor(), Qt::Key_Home);
+        const int place = *digit == '7' ? 2 : *digit == '3' ? 1 : 0;
+        for (int i = 0; i < place; ++i) {
+            QTest::keyClick(&Editor(), Qt::Key_Right);
+        }
+    }
+    EXPECT_EQ(Cell(6, 1), "237");
+    EXPECT_EQ(Entry(6)[0], 138); // 237 - 99
+}
+
 TEST_F(CorvaneFormTest, OtherButtonsAndKeysDoNotOpenTheEditor) {
     ShowList();
     const DataImage before = session.Image;

@@ -1,3 +1,5 @@
+#include <random>
+
 #include "CorvaneFormFixture.h"
 
 namespace zelvor {

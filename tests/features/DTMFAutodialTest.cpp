@@ -87,6 +87,10 @@ TEST_F(DTMFAutodialTest, ShiftWithThreeAndEightOpensTheEditorWithHashAndStar) {
     ExpectOpenedWith("#");
     Press(Qt::Key_Asterisk, Qt::ShiftModifier, "*");
     ExpectOpenedWith("*");
+    Press(Qt::Key_3, Qt::ControlModifier | Qt::AltModifier, "#"); // by Alt Gr
+    ExpectOpenedWith("#");
+    Press(Qt::Key_3, Qt::AltModifier, "#"); // by Option
+    ExpectOpenedWith("#");
 }
 
 TEST_F(DTMFAutodialTest, NothingElseOpensTheEditor) {
@@ -96,6 +100,9 @@ TEST_F(DTMFAutodialTest, NothingElseOpensTheEditor) {
         EXPECT_FALSE(Editor().isVisible()) << key;
     }
     Press(Qt::Key_Percent, Qt::ShiftModifier, "%");
+    Press(Qt::Key_3, Qt::ShiftModifier | Qt::MetaModifier, "#");
+    Press(Qt::Key_A, Qt::AltModifier, "a");
+    Press(Qt::Key_5, Qt::AltModifier, "5");
     for (const char* typed : {"e", "Z", " ", "-", "+", ".", "/"}) {
         Type(typed);
         EXPECT_FALSE(Editor().isVisible()) << typed;

@@ -1,6 +1,8 @@
 #include "DTMFFormFixture.h"
 
 #include <QHeaderView>
+#include <QLayout>
+#include <QRegularExpression>
 #include <QScrollBar>
 
 #include "data/BlankImage.h"
@@ -284,6 +286,25 @@ TEST_F(DTMFFormTest, ThePanelScrollsInASmallWindow) {
     EXPECT_TRUE(Find<QWidget>("Picture2").isVisible());
     EXPECT_EQ(Find<QScrollBar>("HScroll1").maximum(), 419 - (300 - 16));
     EXPECT_EQ(Find<QScrollBar>("VScroll1").maximum(), 338 - (200 - 16));
+}
+
+TEST_F(DTMFFormTest, FieldsAndLabelsOfEveryPageAreOnOneRaster) {
+    for (const Language language : {Language::English, Language::Chinese}) {
+        Show(language);
+        for (int tab = 0; tab < Tabs().count(); ++tab) {
+            ClickTab(tab);
+            const QWidget& page = *Tabs().widget(tab);
+            const int needed = page.layout() == nullptr ? 0 : page.layout()->minimumSize().height();
+            EXPECT_LE(needed, page.height()) << tab;
+            for (const QLabel* label : page.findChildren<QLabel*>(QRegularExpression("^lbl"))) {
+                const QWidget& field = *label->buddy();
+                EXPECT_EQ(field.mapTo(form.get(), QPoint()).x(), 216) << label->objectName().toStdString();
+                const int indent = label->parentWidget() == &page ? 8 : 13; // in a frame
+                EXPECT_NEAR(label->mapTo(&page, QPoint()).x(), indent, 2) << label->objectName().toStdString();
+                EXPECT_LE(label->heightForWidth(label->width()), label->height()) << label->objectName().toStdString();
+            }
+        }
+    }
 }
 
 } // namespace

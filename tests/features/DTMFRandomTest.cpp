@@ -1,3 +1,5 @@
+#include <random>
+
 #include "DTMFFormFixture.h"
 
 namespace zelvor {

@@ -1,4 +1,5 @@
 #include <QContextMenuEvent>
+#include <algorithm>
 
 #include "OptionalFormFixture.h"
 

@@ -267,7 +267,7 @@ TEST_F(OptionalFormPttIdTest, AMissingCodeStopsTheWriteOnlyIfAChannelSendsIt) {
     Take("cboPTTIDType", Dtmf);
     const auto complaint = CheckBeforeWrite(session);
     ASSERT_TRUE(complaint.has_value());
-    EXPECT_EQ(complaint->text, std::string(Head) + "\r\n\"Begin of TX code\"");
+    EXPECT_EQ(complaint->text, "The following setting is incorrect.\r\n\"Begin of TX code\"");
     EXPECT_TRUE(session.TxCodeError);
 }
 

@@ -1,4 +1,5 @@
 #include <QLayout>
+#include <random>
 
 #include "OptionalFormFixture.h"
 

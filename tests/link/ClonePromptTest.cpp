@@ -1,5 +1,6 @@
 // The connection prompt: when it comes, Retry, Cancel.
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 #include "link/EngineRig.h"

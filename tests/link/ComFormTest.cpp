@@ -3,6 +3,7 @@
 #include <QGroupBox>
 #include <QRadioButton>
 #include <QSignalSpy>
+#include <algorithm>
 
 #include "link/LinkFormRig.h"
 
@@ -69,6 +70,16 @@ TEST_F(ComFormTest, ProbesThePortsInOrderForTwoHundredMillisecondsEach) {
     for (std::size_t n = 1; n <= 20; ++n) {
         EXPECT_EQ(numbers[n - 1], "number " + std::to_string(n));
     }
+}
+
+TEST_F(ComFormTest, NumbersThePortsAnewBeforeItShowsThem) {
+    int numberings = 0;
+    fakes.ports.OnMake = [&](FakeSerialPort& port) {
+        port.OnSend = [&](std::span<const std::uint8_t>) { numberings = fakes.ports.Numberings(); };
+    };
+    Load();
+    EXPECT_EQ(numberings, 1);
+    EXPECT_EQ(fakes.ports.Numberings(), 1);
 }
 
 TEST_F(ComFormTest, SendsItsBytesAtNineteenTwoHundredWithOneStopBit) {

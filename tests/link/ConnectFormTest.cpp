@@ -1,5 +1,6 @@
 #include "link/ConnectForm.h"
 
+#include <QEvent>
 #include <QLabel>
 #include <QProgressBar>
 #include <QSignalSpy>
@@ -266,6 +267,128 @@ TEST_F(ConnectFormTest, SaysCompletedUnderTheBoxThatSaysSo) {
     Message box = ReadingCompleted();
     box.text = "读取完毕";
     EXPECT_EQ(statusAtBox(TransferDirection::Read, box), "完毕。");
+}
+
+TEST_F(ConnectFormTest, SaysBeforeOkThatItsPortCannotBeOpenedAndWhy) {
+    session.CommPortNumber = 3;
+    fakes.ports.Missing(3);
+    Load(TransferDirection::Read);
+    EXPECT_EQ(Status(), "COM3 is missing. Plug in the cable, or choose another port in Setup > Communication Port.");
+    fakes.ports.Present(3);
+    fakes.ports.InUse(3);
+    Load(TransferDirection::Read);
+    EXPECT_EQ(Status(), "COM3 (/dev/fake3) is in use by another program. Close that program.");
+    fakes.ports.Present(3);
+    fakes.ports.NotPermitted(3, "dialout");
+    Load(TransferDirection::Write);
+    EXPECT_EQ(Status(),
+              "You have no permission to open COM3 (/dev/fake3). Run: sudo usermod -aG dialout $USER, then log "
+              "in again.");
+    fakes.ports.NotPermitted(3, "");
+    Load(TransferDirection::Write);
+    EXPECT_EQ(Status(), "You have no permission to open COM3 (/dev/fake3). Ask the administrator of this computer.");
+}
+
+TEST_F(ConnectFormTest, SaysInChineseWhyItsPortCannotBeOpened) {
+    session.LanguageFlag = Language::Chinese;
+    fakes.ports.Missing(1);
+    Load(TransferDirection::Read);
+    EXPECT_EQ(Status(), "通信口1 不存在。请插上编程线，或在“设置 > 通信端口”中选择其他端口。");
+    fakes.ports.Present(1);
+    fakes.ports.InUse(1);
+    Load(TransferDirection::Read);
+    EXPECT_EQ(Status(), "通信口1 (/dev/fake1) 正被其他程序使用。请关闭该程序。");
+    fakes.ports.Present(1);
+    fakes.ports.NotPermitted(1, "dialout");
+    Load(TransferDirection::Read);
+    EXPECT_EQ(Status(),
+              "您没有打开 通信口1 (/dev/fake1) 的权限。请执行 sudo usermod -aG dialout $USER，然后重新登录。");
+    fakes.ports.NotPermitted(1, "");
+    Load(TransferDirection::Read);
+    EXPECT_EQ(Status(), "您没有打开 通信口1 (/dev/fake1) 的权限。请与计算机管理员联系。");
+}
+
+TEST_F(ConnectFormTest, TellsAMissingPortFromASilentRadioWhileThePromptIsUp) {
+    ShowActive(Load(TransferDirection::Read));
+    radio.Spoil(1, Fault::Drop);
+    std::vector<std::string> atPrompt;
+    fakes.messages.Expect(ConnectionPrompt(), [&] {
+        atPrompt.push_back(Status());
+        fakes.ports.Port("MSComm1")->Vanish();
+        return MessageAnswer::Retry;
+    });
+    fakes.messages.Expect(ConnectionPrompt(), [&] {
+        atPrompt.push_back(Status());
+        fakes.ports.Present(1);
+        return MessageAnswer::Retry;
+    });
+    fakes.messages.Expect(ReadingCompleted(), MessageAnswer::Ok);
+    Click(*form, "cmdOK");
+    fakes.clock.Advance(10000);
+    EXPECT_EQ(atPrompt,
+              (std::vector<std::string>{
+                  "COM1 is open, but the radio does not answer as it should.",
+                  "COM1 is missing. Plug in the cable, or choose another port in Setup > Communication Port."}));
+    EXPECT_EQ(notes, (std::vector<std::string>{"read completed, visible", "unloaded, hidden"}));
+}
+
+/// Notes the texts that are painted.
+class PaintedTexts : public QObject {
+public:
+    explicit PaintedTexts(QLabel& label) : label_(label) { label.installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint && (texts.empty() || texts.back() != FromQString(label_.text()))) {
+            texts.push_back(FromQString(label_.text()));
+        }
+        return false;
+    }
+    std::vector<std::string> texts;
+
+private:
+    QLabel& label_;
+};
+
+class ConnectFormRetry : public ConnectFormTest, public testing::WithParamInterface<Language> {};
+
+INSTANTIATE_TEST_SUITE_P(Languages, ConnectFormRetry, testing::Values(Language::English, Language::Chinese),
+                         [](const auto& test) { return test.param == Language::English ? "English" : "Chinese"; });
+
+TEST_P(ConnectFormRetry, SaysThatItTakesItsTimeBeforeTheWindowStandsStill) {
+    const bool english = GetParam() == Language::English;
+    session.LanguageFlag = GetParam();
+    radio.Spoil(1, Fault::Drop);
+    ShowActive(Load(TransferDirection::Read));
+    PaintedTexts painted(Find<QLabel>(*form, "labStatus"));
+    Message prompt = ConnectionPrompt();
+    prompt.title = english ? "Error" : "错误";
+    prompt.text =
+        english ? "please check all connections and communication port settings." : "检查所有连接及通信端口设置。";
+    fakes.messages.Expect(prompt, [&] {
+        painted.texts.clear();
+        return MessageAnswer::Retry;
+    });
+    Click(*form, "cmdOK");
+    fakes.clock.Advance(610); // the prompt, and the pause behind it, in which no event is served
+    EXPECT_EQ(fakes.clock.Sleeps(), (std::vector<int>{100, 1700}));
+    EXPECT_EQ(painted.texts,
+              std::vector<std::string>{english ? "Beginning again in 1.7 seconds. The window does not react "
+                                                 "until then."
+                                               : "1.7 秒后重新开始，在此之前窗口没有反应。"});
+}
+
+TEST_F(ConnectFormTest, HasRoomForWhateverItTells) {
+    for (const Language language : {Language::English, Language::Chinese}) {
+        session.LanguageFlag = language;
+        fakes.ports.Present(1);
+        ShowActive(Load(TransferDirection::Read));
+        const QSize size = form->size();
+        fakes.ports.SetDescription(1, {"/dev/ttyUSB0", ""});
+        fakes.ports.NotPermitted(1, "dialout");
+        ShowActive(Load(TransferDirection::Read));
+        EXPECT_EQ(form->size(), size);
+        const auto& label = Find<QLabel>(*form, "labStatus");
+        EXPECT_LE(label.heightForWidth(label.width()), label.height());
+    }
 }
 
 TEST_F(ConnectFormTest, KeepsItsSizeWhateverItTells) {

@@ -72,6 +72,7 @@ public:
 
     void OnProgress(int value) override { events.push_back("progress " + std::to_string(value)); }
     void OnButtonsEnabled(bool enabled) override { events.emplace_back(enabled ? "buttons on" : "buttons off"); }
+    void OnStandstill() override {}
     void OnTransferDone() override {}
     void OnReadCompleted() override;
     void OnWriteCompleted() override { events.emplace_back("write completed"); }

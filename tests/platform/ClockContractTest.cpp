@@ -2,6 +2,7 @@
 #include <QDateTime>
 #include <QTest>
 #include <QTimer>
+#include <algorithm>
 #include <gtest/gtest.h>
 
 #include "platform/QtClock.h"

@@ -176,9 +176,22 @@ TEST(FakePageDevice, FailsOnDrawingOutsideOfADocument) {
 
 TEST(FakePageDevice, FailsOnASetUpDialogThatWasNotExpected) {
     FakePageDevice device;
-    EXPECT_NONFATAL_FAILURE(EXPECT_FALSE(device.ShowSetup()), "not expected");
+    EXPECT_NONFATAL_FAILURE(EXPECT_FALSE(device.ShowSetup("radio.dat")), "not expected");
     device.ExpectSetup(true);
-    EXPECT_TRUE(device.ShowSetup());
+    EXPECT_TRUE(device.ShowSetup("other.dat"));
+    EXPECT_EQ(device.SetupDocuments(), (std::vector<std::string>{"radio.dat", "other.dat"}));
+}
+
+TEST(FakePageDevice, HoldsItsAnswersUntilItIsLetTell) {
+    FakePageDevice device;
+    device.HoldAnswers();
+    std::vector<std::string> told;
+    device.FindTarget([&](const PageTarget& target) { told.push_back(target.name); });
+    device.AskForPrinters([&](bool isAnswered) { told.emplace_back(isAnswered ? "answered" : "not answered"); });
+    EXPECT_TRUE(told.empty());
+    device.SetTarget({PageTarget::Kind::NoAnswer, "nothing"});
+    device.Answer();
+    EXPECT_EQ(told, (std::vector<std::string>{"nothing", "not answered"}));
 }
 
 TEST(FakePageDevice, FailsOnASetUpDialogThatWasNeverShown) {

@@ -327,6 +327,17 @@ TEST_F(AHelpWindow, OutlivesTheDialogThatOpenedIt) {
     EXPECT_EQ(Title(), "Corvane");
 }
 
+TEST_F(AHelpWindow, DoesNotBelongToADialogThatBelongsToIt) {
+    ShowEnglish("general.htm");
+    QDialog dialog(window);
+    dialog.setModal(true);
+    dialog.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(dialog.windowHandle()->transientParent(), window->windowHandle());
+    EXPECT_EQ(window->windowHandle()->transientParent(), nullptr);
+}
+
 class AHelpWindowOnAPageWithALink : public AHelpWindow {
 protected:
     void Follow(const char* link) {

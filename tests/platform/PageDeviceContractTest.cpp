@@ -1,13 +1,15 @@
-#include <QDialogButtonBox>
+#include <QDir>
 #include <QFile>
-#include <QLineEdit>
-#include <QPrintDialog>
-#include <QPrinterInfo>
-#include <QPushButton>
+#include <QFileInfo>
 #include <QTemporaryDir>
+#include <csignal>
+#include <filesystem>
+#include <fstream>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <vector>
 
-#include "platform/ModalDriver.h"
 #include "platform/QtPageDevice.h"
 #include "platform/fakes/FakePageDevice.h"
 
@@ -34,8 +36,13 @@ protected:
 using Printers = testing::Types<FakePrinter, PdfPrinter>;
 TYPED_TEST_SUITE(PageDeviceContract, Printers);
 
-TYPED_TEST(PageDeviceContract, IsAvailable) {
-    EXPECT_TRUE(this->device_.IsAvailable());
+TYPED_TEST(PageDeviceContract, FindsSomethingToPrintOn) {
+    std::vector<PageTarget> targets;
+    this->device_.FindTarget([&targets](const PageTarget& target) { targets.push_back(target); });
+    ASSERT_EQ(targets.size(), 1U);
+    EXPECT_TRUE(targets[0].kind == PageTarget::Kind::Printer || targets[0].kind == PageTarget::Kind::File);
+    EXPECT_FALSE(targets[0].name.empty());
+    EXPECT_FALSE(targets[0].replacesFile);
 }
 
 TYPED_TEST(PageDeviceContract, HasAPageOfPaperSizeInTwips) {
@@ -92,12 +99,23 @@ TEST(QtPageDevice, MakesAPdfFileOfAsManyPagesAsWereBegun) {
     EXPECT_EQ(pdf.count("/Type /Page\n"), 3);
 }
 
-/// The drawing of a PDF file of one page, uncompressed.
+/// An object of a PDF file: what lies between its head and its end.
+QByteArray ObjectOf(const QByteArray& pdf, const QByteArray& number) {
+    const QByteArray head = "\n" + number + " 0 obj";
+    const auto start = pdf.indexOf(head);
+    return start < 0 ? QByteArray()
+                     : pdf.mid(start + head.size(), pdf.indexOf("\nendobj", start) - start - head.size());
+}
+
+/// The drawing of a PDF file of one page, uncompressed: the stream of the object that the page names.
 QByteArray DrawingOf(const QString& file) {
     const QByteArray pdf = ContentOf(file);
+    const QByteArray name = "/Contents ";
+    const auto start = pdf.indexOf(name) + name.size();
+    const QByteArray contents = ObjectOf(pdf, pdf.mid(start, pdf.indexOf(' ', start) - start));
     const QByteArray begin = "stream\n";
-    const auto start = pdf.indexOf(begin) + begin.size();
-    const QByteArray compressed = pdf.mid(start, pdf.indexOf("\nendstream", start) - start);
+    const auto stream = contents.indexOf(begin) + begin.size();
+    const QByteArray compressed = contents.mid(stream, contents.indexOf("\nendstream", stream) - stream);
     return qUncompress(QByteArray(4, '\x01') + compressed); // the length expected comes first
 }
 
@@ -127,51 +145,78 @@ TEST(QtPageDevice, NarrowsLettersAsTheirFontSays) {
     EXPECT_TRUE(drawing.contains("0.800000000 0 0 1 600 ")) << drawing.toStdString();
 }
 
-class SystemWithoutPrinter : public testing::Test {
-protected:
-    void SetUp() override {
-        if (!QPrinterInfo::availablePrinters().isEmpty()) {
-            GTEST_SKIP() << "This machine has a printer";
-        }
-    }
-
-    QTemporaryDir folder_;
-    QString file_ = folder_.filePath("chosen.pdf");
-    QtPageDevice device_;
-};
-
-TEST_F(SystemWithoutPrinter, HasNothingToPrintOn) {
-    EXPECT_FALSE(device_.IsAvailable());
-    EXPECT_FALSE(device_.BeginDocument("Report"));
+TEST(QtPageDevice, TellsOfAFileThatItReplaces) {
+    PdfPrinter printer;
+    std::vector<PageTarget> targets;
+    const auto find = [&] {
+        printer.device.FindTarget([&targets](const PageTarget& target) { targets.push_back(target); });
+    };
+    find();
+    ASSERT_TRUE(printer.device.BeginDocument("Report"));
+    printer.device.EndDocument();
+    find();
+    ASSERT_EQ(targets.size(), 2U);
+    EXPECT_EQ(targets[0].name, printer.file.toStdString());
+    EXPECT_FALSE(targets[0].replacesFile);
+    EXPECT_TRUE(targets[1].replacesFile);
 }
 
-TEST_F(SystemWithoutPrinter, PrintsToAFileChosenInTheSetUpDialog) {
-    WithNextDialog<QPrintDialog>([this](QPrintDialog& dialog) {
-        EXPECT_EQ(dialog.objectName(), "dlgPrint");
-        auto* fileName = dialog.findChild<QLineEdit*>("filename");
-        ASSERT_NE(fileName, nullptr);
-        fileName->setText(file_);
-        const auto* buttons = dialog.findChild<QDialogButtonBox*>();
-        ASSERT_NE(buttons, nullptr);
-        EXPECT_EQ(buttons->button(QDialogButtonBox::Ok)->text(), "OK");
-        buttons->button(QDialogButtonBox::Ok)->click();
-    });
-    EXPECT_TRUE(device_.ShowSetup());
-    EXPECT_TRUE(device_.IsAvailable());
-    for (int document = 0; document < 2; ++document) {
-        ASSERT_TRUE(device_.BeginDocument("Report"));
-        device_.DrawText(100, 100, "Report");
-        device_.EndDocument();
-        EXPECT_TRUE(ContentOf(file_).startsWith("%PDF-"));
-        EXPECT_TRUE(QFile::remove(file_));
+TEST(QtPageDevice, LeavesAFileAsItWasUntilTheNewOneIsComplete) {
+    PdfPrinter printer;
+    std::ofstream(printer.file.toStdString()) << "the report of another radio";
+    ASSERT_TRUE(printer.device.BeginDocument("Report"));
+    printer.device.DrawText(100, 100, "Report");
+    EXPECT_EQ(ContentOf(printer.file), "the report of another radio");
+    printer.device.EndDocument();
+    EXPECT_TRUE(ContentOf(printer.file).startsWith("%PDF-"));
+    EXPECT_EQ(printer.folder.isValid() ? QDir(printer.folder.path()).entryList(QDir::Files).size() : 0, 1);
+}
+
+TEST(QtPageDevice, PrintsOverAFileThroughALink) {
+    const QTemporaryDir folder;
+    const QString file = folder.filePath("report.pdf");
+    const QString link = folder.filePath("link.pdf");
+    std::ofstream(file.toStdString()) << "old";
+    ASSERT_TRUE(QFile::link(file, link));
+    QtPageDevice device(link);
+    ASSERT_TRUE(device.BeginDocument("Report"));
+    device.EndDocument();
+    EXPECT_TRUE(QFileInfo(link).isSymLink());
+    EXPECT_TRUE(ContentOf(file).startsWith("%PDF-"));
+}
+
+/// A device, a folder, a pipe, and a link to one.
+TEST(QtPageDevice, PrintsOverNothingButAFile) {
+    const QTemporaryDir folder;
+    const std::filesystem::path folderPath = folder.path().toStdString();
+    std::filesystem::create_directory(folderPath / "folder.pdf");
+    ASSERT_EQ(mkfifo((folderPath / "pipe.pdf").c_str(), S_IRUSR | S_IWUSR), 0);
+    std::filesystem::create_symlink("/dev/null", folderPath / "link.pdf");
+    for (const std::filesystem::path& path :
+         {std::filesystem::path("/dev/full"), std::filesystem::path("/dev/null"), folderPath / "folder.pdf",
+          folderPath / "pipe.pdf", folderPath / "link.pdf"}) {
+        const auto typeBefore = std::filesystem::symlink_status(path).type();
+        QtPageDevice device(QString::fromStdString(path.string()));
+        EXPECT_FALSE(device.BeginDocument("Report")) << path;
+        EXPECT_EQ(std::filesystem::symlink_status(path).type(), typeBefore) << path;
     }
 }
 
-TEST_F(SystemWithoutPrinter, StillHasNothingToPrintOnAfterACancelledDialog) {
-    WithNextDialog<QPrintDialog>([](QPrintDialog& dialog) { dialog.reject(); });
-    EXPECT_FALSE(device_.ShowSetup());
-    EXPECT_FALSE(device_.IsAvailable());
-    EXPECT_FALSE(device_.BeginDocument("Report"));
+/// The disk is full for this process alone: no file may grow beyond some bytes.
+TEST(QtPageDevice, LeavesTheFormerFileWhereTheDiskIsFull) {
+    PdfPrinter printer;
+    std::ofstream(printer.file.toStdString()) << "the report of another radio";
+    rlimit before{};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
+    const rlimit small{.rlim_cur = 512, .rlim_max = before.rlim_max};
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
+    ASSERT_TRUE(printer.device.BeginDocument("Report"));
+    printer.device.DrawText(100, 100, "Report");
+    printer.device.EndDocument();
+    EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &before), 0);
+    std::signal(SIGXFSZ, handler);
+    EXPECT_EQ(ContentOf(printer.file), "the report of another radio");
 }
 
 TEST(QtPageDevice, DoesNotBeginWhereTheFileCannotBeWritten) {

@@ -23,8 +23,20 @@ Devices DevicesOf(const PortNumbers& numbers) {
     return devices;
 }
 
+Devices DevicesOf(const PortNumbering& numbering) {
+    Devices devices;
+    for (int number = 1; number <= 20; ++number) {
+        if (const PortDescription device = numbering.DeviceOf(number); !device.devicePath.empty()) {
+            devices[number] = device.devicePath;
+        }
+    }
+    return devices;
+}
+
 Devices Assign(const std::vector<PortLink>& links, const std::vector<MachinePort>& ports) {
-    return DevicesOf(NumbersByLinksAndOrder(links, ports));
+    PortNumbering numbering;
+    numbering.NumberAnew(links, ports);
+    return DevicesOf(numbering);
 }
 
 TEST(PortNumbers, AMachineWithoutPortsHasNone) {
@@ -63,9 +75,10 @@ TEST(PortNumbers, ALinkToNothingStillHoldsItsNumber) {
 TEST(PortNumbers, ALinkedPortKeepsTheDescriptionOfTheMachine) {
     const std::vector<PortLink> links{{7, "/dev/ttyUSB0"}, {8, "/dev/pts/3"}};
     const std::vector<MachinePort> ports{Usb("ttyUSB0")};
-    const PortNumbers numbers = NumbersByLinksAndOrder(links, ports);
-    EXPECT_EQ(numbers.at(7).description, "Adapter ttyUSB0");
-    EXPECT_EQ(numbers.at(8).description, "");
+    PortNumbering numbering;
+    numbering.NumberAnew(links, ports);
+    EXPECT_EQ(numbering.DeviceOf(7).description, "Adapter ttyUSB0");
+    EXPECT_EQ(numbering.DeviceOf(8).description, "");
 }
 
 TEST(PortNumbers, EndAt20) {
@@ -76,6 +89,125 @@ TEST(PortNumbers, EndAt20) {
     const Devices devices = Assign({}, ports);
     EXPECT_EQ(devices.size(), 20U);
     EXPECT_EQ(devices.at(20), "/dev/ttyS19");
+}
+
+MachinePort Cable(const std::string& name, const std::string& serialNumber, int product = 0x6001) {
+    MachinePort port = Usb(name);
+    port.identity = {.vendor = 0x0403, .product = product, .serialNumber = serialNumber};
+    return port;
+}
+
+/// A machine whose ports and links come and go after they were numbered.
+class KeptPortNumbers : public testing::Test {
+protected:
+    void Begin(std::vector<PortLink> links, const std::vector<MachinePort>& ports) {
+        numbering.NumberAnew(links, ports);
+    }
+    Devices Then(const std::vector<PortLink>& links, const std::vector<MachinePort>& ports) {
+        numbering.Follow(links, ports);
+        return DevicesOf(numbering);
+    }
+
+    PortNumbering numbering;
+};
+
+TEST_F(KeptPortNumbers, ThatOfAPulledCableIsMissingAndFallsToNoOtherDevice) {
+    Begin({}, {Usb("ttyUSB0"), BuiltIn("ttyS0")});
+    EXPECT_EQ(Then({}, {BuiltIn("ttyS0")}), (Devices{{2, "/dev/ttyS0"}}));
+    EXPECT_EQ(Then({}, {BuiltIn("ttyS0"), Usb("ttyUSB0")}), (Devices{{1, "/dev/ttyUSB0"}, {2, "/dev/ttyS0"}}));
+}
+
+TEST_F(KeptPortNumbers, ThatOfALinkThatGoesIsMissingAndFallsToNoOtherDevice) {
+    Begin({{1, "/dev/pts/5"}}, {BuiltIn("ttyS0")});
+    EXPECT_EQ(Then({}, {BuiltIn("ttyS0")}), (Devices{{2, "/dev/ttyS0"}}));
+    EXPECT_EQ(Then({}, {BuiltIn("ttyS0"), Usb("ttyUSB0")}), (Devices{{2, "/dev/ttyS0"}, {3, "/dev/ttyUSB0"}}));
+    EXPECT_EQ(Then({{1, "/dev/pts/8"}}, {BuiltIn("ttyS0")}), (Devices{{1, "/dev/pts/8"}, {2, "/dev/ttyS0"}}));
+}
+
+TEST_F(KeptPortNumbers, AreNotMovedByACableThatIsPluggedIn) {
+    Begin({}, {BuiltIn("ttyS0"), BuiltIn("ttyS1")});
+    EXPECT_EQ(Then({}, {BuiltIn("ttyS0"), BuiltIn("ttyS1"), Usb("ttyUSB0")}),
+              (Devices{{1, "/dev/ttyS0"}, {2, "/dev/ttyS1"}, {3, "/dev/ttyUSB0"}}));
+}
+
+TEST_F(KeptPortNumbers, ANewCableGetsTheFirstThatNoDeviceHasHad) {
+    Begin({{2, "/dev/pts/5"}}, {Usb("ttyUSB0"), BuiltIn("ttyS0")});
+    EXPECT_EQ(Then({}, {Usb("ttyUSB7"), BuiltIn("ttyS0")}), (Devices{{3, "/dev/ttyS0"}, {4, "/dev/ttyUSB7"}}));
+}
+
+TEST_F(KeptPortNumbers, ACableInAnotherSocketIsKnownByItsSerialNumber) {
+    Begin({}, {Cable("ttyUSB0", "A1"), BuiltIn("ttyS0")});
+    EXPECT_EQ(Then({}, {BuiltIn("ttyS0")}), (Devices{{2, "/dev/ttyS0"}}));
+    EXPECT_EQ(Then({}, {Cable("ttyUSB5", "A1"), BuiltIn("ttyS0")}), (Devices{{1, "/dev/ttyUSB5"}, {2, "/dev/ttyS0"}}));
+}
+
+TEST_F(KeptPortNumbers, ACableThatMovesWhileNobodyLooksIsKnownByItsSerialNumber) {
+    Begin({}, {Cable("ttyUSB0", "A1"), Cable("ttyUSB1", "B2")});
+    EXPECT_EQ(Then({}, {Cable("ttyUSB0", "B2"), Cable("ttyUSB1", "A1")}),
+              (Devices{{1, "/dev/ttyUSB1"}, {2, "/dev/ttyUSB0"}}));
+}
+
+TEST_F(KeptPortNumbers, AnotherCableAtTheSamePathIsAnotherDevice) {
+    Begin({}, {Cable("ttyUSB0", "A1")});
+    EXPECT_EQ(Then({}, {Cable("ttyUSB0", "B2")}), (Devices{{2, "/dev/ttyUSB0"}}));
+    EXPECT_EQ(Then({}, {Cable("ttyUSB0", "", 0x6015)}), (Devices{{3, "/dev/ttyUSB0"}}));
+    EXPECT_EQ(Then({}, {Cable("ttyUSB0", "A1")}), (Devices{{1, "/dev/ttyUSB0"}}));
+}
+
+TEST_F(KeptPortNumbers, ASerialNumberThatTwoCablesHaveTellsNothing) {
+    Begin({}, {Cable("ttyUSB0", "0001"), Cable("ttyUSB1", "0001")});
+    EXPECT_EQ(Then({}, {Cable("ttyUSB1", "0001")}), (Devices{{2, "/dev/ttyUSB1"}}));
+    EXPECT_EQ(Then({}, {Cable("ttyUSB1", "0001"), Cable("ttyUSB2", "0001")}),
+              (Devices{{2, "/dev/ttyUSB1"}, {3, "/dev/ttyUSB2"}}));
+}
+
+TEST_F(KeptPortNumbers, ACableWithoutSerialNumberIsKnownByItsPathOnly) {
+    Begin({}, {Cable("ttyUSB0", "")});
+    EXPECT_EQ(Then({}, {Cable("ttyUSB1", "")}), (Devices{{2, "/dev/ttyUSB1"}}));
+    EXPECT_EQ(Then({}, {Cable("ttyUSB0", "")}), (Devices{{1, "/dev/ttyUSB0"}}));
+}
+
+TEST_F(KeptPortNumbers, ACableThatTheSystemDoesNotKnowYetIsWaitedFor) {
+    Begin({}, {Cable("ttyUSB0", "A1")});
+    EXPECT_EQ(Then({}, {}), Devices{});
+    EXPECT_EQ(Then({}, {Usb("ttyUSB0")}), Devices{});
+    EXPECT_EQ(Then({}, {Cable("ttyUSB0", "A1")}), (Devices{{1, "/dev/ttyUSB0"}}));
+}
+
+TEST_F(KeptPortNumbers, ALinkTakesItsNumberAtOnce) {
+    Begin({}, {BuiltIn("ttyS0")});
+    EXPECT_EQ(Then({{1, "/dev/pts/5"}}, {BuiltIn("ttyS0")}), (Devices{{1, "/dev/pts/5"}, {2, "/dev/ttyS0"}}));
+    EXPECT_EQ(Then({}, {BuiltIn("ttyS0")}), (Devices{{2, "/dev/ttyS0"}}));
+}
+
+TEST_F(KeptPortNumbers, ALinkIsASecondNumberForADeviceThatHasOne) {
+    Begin({}, {Usb("ttyUSB0")});
+    EXPECT_EQ(Then({{5, "/dev/ttyUSB0"}}, {Usb("ttyUSB0")}), (Devices{{1, "/dev/ttyUSB0"}, {5, "/dev/ttyUSB0"}}));
+}
+
+TEST_F(KeptPortNumbers, ADeviceWhoseLinkIsTakenAwayKeepsTheNumber) {
+    Begin({{5, "/dev/ttyUSB0"}}, {Usb("ttyUSB0")});
+    EXPECT_EQ(Then({}, {Usb("ttyUSB0")}), (Devices{{5, "/dev/ttyUSB0"}}));
+}
+
+TEST_F(KeptPortNumbers, AreForgottenWhenThePortsAreNumberedAnew) {
+    Begin({}, {Usb("ttyUSB0"), BuiltIn("ttyS0")});
+    EXPECT_EQ(Then({}, {BuiltIn("ttyS0")}), (Devices{{2, "/dev/ttyS0"}}));
+    Begin({}, {BuiltIn("ttyS0")});
+    EXPECT_EQ(Then({}, {BuiltIn("ttyS0")}), (Devices{{1, "/dev/ttyS0"}}));
+}
+
+TEST_F(KeptPortNumbers, RunOutAt20) {
+    std::vector<MachinePort> ports;
+    for (int port = 0; port < 20; ++port) {
+        ports.push_back(BuiltIn("ttyS" + std::to_string(port)));
+    }
+    Begin({}, ports);
+    ports.erase(ports.begin());
+    ports.push_back(Usb("ttyUSB0"));
+    const Devices devices = Then({}, ports);
+    EXPECT_EQ(devices.size(), 19U);
+    EXPECT_FALSE(devices.contains(1));
 }
 
 TEST(PortNumbers, ThoseOfNumberedSystemsAreTheirNames) {

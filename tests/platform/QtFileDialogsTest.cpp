@@ -1,6 +1,9 @@
+#include <QDialogButtonBox>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -8,10 +11,13 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include "ModalDriver.h"
 #include "platform/QtFileDialogs.h"
+#include "platform/StartDirectory.h"
+#include "platform/ToolkitSettings.h"
 #include "support/QtPrinting.h"
 
 namespace zelvor {
@@ -39,6 +45,21 @@ protected:
         box->selectAll();
         QTest::keyClicks(box, name);
         QTest::keyClick(box, Qt::Key_Return);
+    }
+    /// Types the name, leaves what the toolkit proposes for it, and clicks Open.
+    static void TypeAndClickOpen(QFileDialog& dialog, const QString& name) {
+        auto* box = dialog.findChild<QLineEdit*>("fileNameEdit");
+        QTest::keyClicks(box, name);
+        if (QWidget* proposals = QApplication::activePopupWidget()) {
+            QTest::keyClick(proposals, Qt::Key_Escape);
+        }
+        EXPECT_EQ(box->text(), name);
+        QTest::mouseClick(dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open), Qt::LeftButton);
+        const bool isOpened = !dialog.isVisible();
+        EXPECT_TRUE(isOpened);
+        if (!isOpened) {
+            dialog.reject();
+        }
     }
     /// Looks at the dialog and cancels it.
     static void WillLook(std::function<void(QFileDialog&)> look) {
@@ -135,6 +156,165 @@ TEST_F(QtFileDialogsInUse, DoNotOpenAMissingFile) {
     EXPECT_EQ(dialogs_.Open(Request()), std::nullopt);
     EXPECT_TRUE(wasTold);
 }
+
+TEST_F(QtFileDialogsInUse, OpenATypedNameThatTheFilterDoesNotShow) {
+    MakeFile("radio.txt");
+    MakeFile("no ending");
+    for (const char* name : {"radio.txt", "no ending"}) {
+        WithNextDialog<QFileDialog>([name](QFileDialog& dialog) { Type(dialog, name); });
+        EXPECT_EQ(dialogs_.Open(Request()), Path(name));
+        WithNextDialog<QFileDialog>([name](QFileDialog& dialog) { TypeAndClickOpen(dialog, name); });
+        EXPECT_EQ(dialogs_.Open(Request()), Path(name));
+    }
+}
+
+TEST_F(QtFileDialogsInUse, KeepTheButtonForAFolderAndForNoFile) {
+    ASSERT_TRUE(QDir(folder_.path()).mkdir("below"));
+    WillLook([](QFileDialog& dialog) {
+        auto* box = dialog.findChild<QLineEdit*>("fileNameEdit");
+        QTest::keyClicks(box, "missing.txt");
+        EXPECT_FALSE(dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open)->isEnabled());
+    });
+    EXPECT_EQ(dialogs_.Open(Request()), std::nullopt);
+}
+
+/// Ends the dialog as a dialog of the system's does, which shows no window of the toolkit's and asks about the typed
+/// name alone.
+void EndAsASystemDialog(QFileDialog& dialog, const QString& typed) {
+    const QString suffix = dialog.defaultSuffix();
+    dialog.setDefaultSuffix(QString()); // else the toolkit's own list would choose the name with it
+    dialog.findChild<QLineEdit*>("fileNameEdit")->setText(typed);
+    dialog.setDefaultSuffix(suffix);
+    static_cast<QDialog&>(dialog).done(QDialog::Accepted);
+    dialog.setAttribute(Qt::WA_DontShowOnScreen); // hiding cleared it: it is the toolkit's dialog, after all
+}
+
+TEST_F(QtFileDialogsInUse, AskAboutTheNameThatASystemDialogDidNotAskAbout) {
+    bool wasAsked = false;
+    WithNextDialog<QFileDialog>([&](QFileDialog& dialog) {
+        WithNextDialog<QMessageBox>([&](QMessageBox& box) {
+            wasAsked = true;
+            EXPECT_EQ(box.text(), "old.dat already exists.\nDo you want to replace it?");
+            EXPECT_EQ(box.defaultButton(), box.button(QMessageBox::No));
+            QTest::mouseClick(box.button(QMessageBox::Yes), Qt::LeftButton);
+        });
+        EndAsASystemDialog(dialog, "old");
+    });
+    EXPECT_EQ(dialogs_.Save(Request()), Path("old.dat"));
+    EXPECT_TRUE(wasAsked);
+}
+
+TEST_F(QtFileDialogsInUse, ShowASystemDialogAgainWhereTheUserWillNotOverwrite) {
+    int questions = 0;
+    WithNextDialog<QFileDialog>([&](QFileDialog& dialog) {
+        WillAnswer(QMessageBox::No, [&] {
+            ++questions;
+            WithNextDialog<QFileDialog>([](QFileDialog& again) { EndAsASystemDialog(again, "fresh"); });
+        });
+        EndAsASystemDialog(dialog, "old");
+    });
+    EXPECT_EQ(dialogs_.Save(Request()), Path("fresh.dat"));
+    EXPECT_EQ(questions, 1);
+}
+
+TEST_F(QtFileDialogsInUse, DoNotAskTwiceAboutTheNameThatASystemDialogAskedAbout) {
+    WithNextDialog<QFileDialog>([](QFileDialog& dialog) { EndAsASystemDialog(dialog, "old.dat"); });
+    EXPECT_EQ(dialogs_.Save(Request()), Path("old.dat"));
+}
+
+TEST_F(QtFileDialogsInUse, StartAtHomeWhereThereIsNoFolderOfDocuments) {
+    QtFileDialogs dialogs(folder_.filePath("Documents"));
+    WillLook([](QFileDialog& dialog) { EXPECT_EQ(dialog.directory().path(), QDir::homePath()); });
+    EXPECT_EQ(dialogs.Open({"", "QPK Data Files(*.dat)|*.dat", ""}), std::nullopt);
+}
+
+TEST(StartDirectory, IsTheDocumentsForAProgramThatTheSystemInstalled) {
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    for (const char* folder : {"/usr/bin", "/usr/local/bin", "/opt/zelvor/bin", "/app/bin", "/usr"}) {
+        EXPECT_TRUE(IsSystemFolder(folder)) << folder;
+        EXPECT_EQ(StartDirectoryFor(folder), documents) << folder;
+    }
+    for (const char* folder : {"/home/dealer/zelvor", "/srv/radio", "/usrx/bin", "/optional", "/"}) {
+        EXPECT_FALSE(IsSystemFolder(folder)) << folder;
+    }
+    qputenv("ProgramFiles", "C:/Program Files");
+    EXPECT_EQ(IsSystemFolder("C:/Program Files/Zelvor"), true);
+    EXPECT_EQ(IsSystemFolder("C:/Zelvor"), false);
+    qunsetenv("ProgramFiles");
+}
+
+TEST(StartDirectory, IsTheProgramsOwnWithinTheHomeOfTheUser) {
+    const QByteArray home = qgetenv("HOME");
+    qputenv("HOME", "/usr/home/dealer");
+    EXPECT_FALSE(IsSystemFolder("/usr/home/dealer/zelvor"));
+    EXPECT_TRUE(IsSystemFolder("/usr/home/other/zelvor"));
+    qputenv("HOME", home);
+}
+
+#if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
+
+/// The toolkit's own settings, with something in the way.
+class ToolkitSettingsInTheWay : public QtFileDialogsInUse {
+protected:
+    ToolkitSettingsInTheWay() {
+        QDir().mkpath(Config());
+        QFile::remove(Config() + "/QtProject.conf");
+    }
+    ~ToolkitSettingsInTheWay() override {
+        QFile::remove(Config() + "/QtProject.conf");
+        QFile::remove(Config() + "/QtProject.conf.lock");
+        QDir().rmdir(Config() + "/QtProject.conf.lock");
+        ToolkitSettings().Review();
+    }
+
+    static QString Config() { return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation); }
+    static void Put(const QString& path, const QByteArray& content) {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        ASSERT_EQ(file.write(content), content.size());
+    }
+    void ExpectQuick() {
+        QElapsedTimer time;
+        time.start();
+        WithNextDialog<QFileDialog>([&](QFileDialog& dialog) { Type(dialog, "old.dat"); });
+        EXPECT_EQ(dialogs_.Open(Request()), Path("old.dat"));
+        EXPECT_LT(time.elapsed(), 5000) << "the toolkit's settings held the program up";
+    }
+};
+
+TEST_F(ToolkitSettingsInTheWay, AnEmptyLockFileIsNotWaitedFor) {
+    Put(Config() + "/QtProject.conf.lock", "");
+    ExpectQuick();
+}
+
+TEST_F(ToolkitSettingsInTheWay, ALockFileOfAnotherMachineThatComesMeanwhileIsNotWaitedFor) {
+    QElapsedTimer time;
+    WithNextDialog<QFileDialog>([&](QFileDialog& dialog) {
+        Put(Config() + "/QtProject.conf.lock", "4711\nprogram\nanother-machine\n\n\n");
+        time.start();
+        Type(dialog, "old.dat");
+    });
+    EXPECT_EQ(dialogs_.Open(Request()), Path("old.dat"));
+    EXPECT_LT(time.elapsed(), 5000) << "the toolkit's settings held the program up";
+}
+
+TEST_F(ToolkitSettingsInTheWay, AFolderWithTheLocksNameIsNotWaitedFor) {
+    ASSERT_TRUE(QDir().mkpath(Config() + "/QtProject.conf.lock"));
+    ExpectQuick();
+}
+
+TEST_F(ToolkitSettingsInTheWay, APipeIsNotReadFrom) {
+    ASSERT_EQ(mkfifo(QFile::encodeName(Config() + "/QtProject.conf").constData(), 0666), 0);
+    ExpectQuick();
+}
+
+TEST_F(ToolkitSettingsInTheWay, NothingKeepsTheLookOfTheDialogs) {
+    ExpectQuick();
+    EXPECT_TRUE(QFileInfo(Config() + "/QtProject.conf").isFile());
+    EXPECT_FALSE(QFileInfo::exists(Config() + "/QtProject.conf.lock"));
+}
+
+#endif
 
 TEST(FileFilters, ShowTheirTextOnce) {
     EXPECT_EQ(NameFilterOf("QPK Data Files(*.dat)|*.dat"), "QPK Data Files(*.dat)");

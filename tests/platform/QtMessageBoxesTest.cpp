@@ -1,10 +1,14 @@
+#include <QDialog>
+#include <QMainWindow>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QTest>
 #include <QWindow>
 #include <gtest/gtest.h>
 
 #include "ModalDriver.h"
+#include "platform/QtHelpViewer.h"
 #include "platform/QtMessageBoxes.h"
 #include "platform/fakes/FakeMessageBoxes.h"
 #include "support/QtPrinting.h"
@@ -47,6 +51,32 @@ TEST(QtMessageBoxes, ShowTitleTextAndIcon) {
     LookAt({"", "x", MessageIcon::Information},
            [](QMessageBox& box) { EXPECT_EQ(box.icon(), QMessageBox::Information); });
     LookAt({"", "x", MessageIcon::None}, [](QMessageBox& box) { EXPECT_EQ(box.icon(), QMessageBox::NoIcon); });
+}
+
+TEST(QtMessageBoxes, HideNothingOfTheDialogThatTheyBelongTo) {
+    for (const QPoint place : {QPoint(300, 100), QPoint(0, 0), QPoint(700, 900)}) {
+        QDialog dialog;
+        dialog.setModal(true);
+        dialog.setFixedSize(350, 150);
+        dialog.move(place);
+        dialog.show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&dialog));
+        LookAt({"Error", "please check all connections and communication port settings."}, [&](QMessageBox& box) {
+            EXPECT_EQ(box.parentWidget(), &dialog);
+            EXPECT_FALSE(box.frameGeometry().intersects(dialog.frameGeometry())) << place.x() << ", " << place.y();
+            EXPECT_TRUE(dialog.screen()->availableGeometry().contains(box.frameGeometry()));
+        });
+    }
+}
+
+TEST(QtMessageBoxes, StayOnTheScreenOverADialogThatLeavesNoRoom) {
+    QDialog dialog;
+    dialog.setModal(true);
+    dialog.setFixedSize(dialog.screen()->availableGeometry().size() * 0.9);
+    dialog.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&dialog));
+    LookAt({"Error", "x"},
+           [&](QMessageBox& box) { EXPECT_TRUE(dialog.screen()->availableGeometry().contains(box.frameGeometry())); });
 }
 
 TEST(QtMessageBoxes, ShowTextsThatLookLikeMarkupAsTheyAre) {
@@ -120,6 +150,27 @@ TEST(QtMessageBoxes, BelongToTheDialogOnTop) {
     dialog.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
     LookAt({"", "x"}, [&](QMessageBox& box) { EXPECT_EQ(box.parentWidget(), &dialog); });
+}
+
+TEST(QtMessageBoxes, BelongToTheInnermostWindowThatIsEnabledWhoeverHasTheKeys) {
+    QMainWindow main;
+    QDialog over(&main);
+    QtHelpViewer help{QStringList{HELP_FOLDER}};
+    main.show();
+    over.show();
+    main.setEnabled(false);
+    over.setEnabled(true);
+    help.ShowTopic("/opt\\Zelvor_e.chm::/html/general.htm");
+    ASSERT_TRUE(QTest::qWaitFor(
+        [] { return QApplication::activeWindow() && QApplication::activeWindow()->objectName() == "HelpWindow"; }));
+    LookAt({"", "x"}, [&](QMessageBox& box) { EXPECT_EQ(box.parentWidget(), &over); });
+    over.close();
+    LookAt({"", "x"}, [&](QMessageBox& box) {
+        EXPECT_EQ(box.parentWidget(), nullptr) << "a box of a disabled window would be disabled";
+        EXPECT_TRUE(box.isEnabled());
+    });
+    main.setEnabled(true);
+    LookAt({"", "x"}, [&](QMessageBox& box) { EXPECT_EQ(box.parentWidget(), &main); });
 }
 
 TEST(QtMessageBoxes, AreAnsweredAsEscapeWhenTheirDialogGoes) {

@@ -1,3 +1,4 @@
+#include <chrono>
 #include <gtest/gtest.h>
 #include <numeric>
 #include <thread>
@@ -53,8 +54,10 @@ TEST_P(SerialPortContract, DoesNotOpenAMissingPort) {
     port->SetSettings(ProbePortSettings);
     EXPECT_FALSE(port->Open());
     EXPECT_FALSE(port->IsOpen());
+    EXPECT_EQ(port->Failure().fault, PortFault::Missing);
     port->SetNumber(PortBench::Number);
     EXPECT_TRUE(port->Open());
+    EXPECT_EQ(port->Failure().fault, PortFault::None);
 }
 
 TEST_P(SerialPortContract, DoesNotOpenAPortThatAnotherProgramHolds) {
@@ -64,8 +67,11 @@ TEST_P(SerialPortContract, DoesNotOpenAPortThatAnotherProgramHolds) {
     port->SetSettings(RadioPortSettings);
     EXPECT_FALSE(port->Open());
     EXPECT_FALSE(port->IsOpen());
+    EXPECT_EQ(port->Failure().fault, PortFault::InUse);
+    EXPECT_EQ(port->Failure().devicePath, bench_->Ports().Describe(PortBench::Number).devicePath);
     bench_->ReleaseElsewhere();
     EXPECT_TRUE(port->Open());
+    EXPECT_EQ(port->Failure().fault, PortFault::None);
 }
 
 TEST_P(SerialPortContract, LetsOnlyOneObjectHaveThePortAtATime) {
@@ -263,6 +269,7 @@ TEST_P(SerialPortContract, TellsOnceThatTheDeviceVanishedAndIsClosedThen) {
     port->Send(Bytes{1});
     EXPECT_EQ(port->Read(), Bytes{});
     EXPECT_FALSE(port->Open());
+    EXPECT_EQ(port->Failure().fault, PortFault::Missing);
 }
 
 TEST_P(SerialPortContract, TellsThatTheDeviceVanishedAlsoWhereAnotherHasItsNumberAndOpensThatOne) {

@@ -1,7 +1,13 @@
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
+#include <QFileInfo>
+#include <QSettings>
 #include <QStandardPaths>
 #include <gtest/gtest.h>
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
 
 #include "platform/QtSettingsStore.h"
 #include "platform/fakes/FakeSettingsStore.h"
@@ -104,6 +110,93 @@ TEST_F(QtSettingsStoreFile, IsQuietWhereItCannotBeMade) {
     EXPECT_EQ(store_.Read(LanguageEntry), "");
     inTheWay.remove();
 }
+
+TEST_F(QtSettingsStoreFile, IsReadAsTheToolkitWroteIt) {
+    const QString path = Folder() + QStringLiteral("/Zelvor.ini");
+    {
+        QSettings earlier(path, QSettings::IniFormat);
+        earlier.setValue("BackUp/LastModel", "50:34:36:31:38:01:F8:FF");
+        earlier.setValue("BackUp/Language", "1");
+        earlier.setValue("Other/Word", "kept");
+    }
+    EXPECT_EQ(store_.Read(LastModelEntry), "50:34:36:31:38:01:F8:FF");
+    EXPECT_EQ(store_.Read(LanguageEntry), "1");
+    store_.Write(LanguageEntry, "0");
+    const QSettings later(path, QSettings::IniFormat);
+    EXPECT_EQ(later.value("BackUp/Language"), "0");
+    EXPECT_EQ(later.value("BackUp/LastModel"), "50:34:36:31:38:01:F8:FF");
+    EXPECT_EQ(later.value("Other/Word"), "kept");
+}
+
+#ifdef Q_OS_UNIX
+
+/// What is in the way of the settings, and what must hold nobody up.
+class SettingsInTheWay : public QtSettingsStoreFile {
+protected:
+    SettingsInTheWay() { QDir().mkpath(Folder()); }
+    ~SettingsInTheWay() override { EXPECT_LT(time_.elapsed(), 3000) << "the settings held the program up"; }
+
+    static QString Path() { return Folder() + QStringLiteral("/Zelvor.ini"); }
+    static QString Lock() { return Folder() + QStringLiteral("/Zelvor.ini.lock"); }
+    static void Put(const QString& path, const QByteArray& content) {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        ASSERT_EQ(file.write(content), content.size());
+    }
+    void ExpectInUse() {
+        store_.Create();
+        store_.Write(LanguageEntry, "1");
+        EXPECT_EQ(store_.Read(LanguageEntry), "1");
+    }
+
+private:
+    QElapsedTimer time_ = [] {
+        QElapsedTimer timer;
+        timer.start();
+        return timer;
+    }();
+};
+
+TEST_F(SettingsInTheWay, AnEmptyLockFileIsNotWaitedFor) {
+    Put(Lock(), "");
+    ExpectInUse();
+}
+
+TEST_F(SettingsInTheWay, ALockFileOfAnotherMachineIsNotWaitedFor) {
+    Put(Lock(), "4711\nzelvor\nanother-machine\n\n\n");
+    ExpectInUse();
+}
+
+TEST_F(SettingsInTheWay, AFolderWithTheLocksNameIsNotWaitedFor) {
+    ASSERT_TRUE(QDir().mkpath(Lock()));
+    ExpectInUse();
+}
+
+TEST_F(SettingsInTheWay, APipeIsNeitherReadNorWritten) {
+    ASSERT_EQ(mkfifo(QFile::encodeName(Path()).constData(), 0666), 0);
+    EXPECT_TRUE(store_.Exists());
+    EXPECT_EQ(store_.Read(LastModelEntry), "");
+    store_.Write(LanguageEntry, "1");
+    EXPECT_EQ(store_.Read(LanguageEntry), "");
+    EXPECT_FALSE(QFileInfo(Path()).isFile());
+}
+
+TEST_F(SettingsInTheWay, AFolderWithTheFilesNameStays) {
+    ASSERT_TRUE(QDir().mkpath(Path()));
+    EXPECT_EQ(store_.Read(LastModelEntry), "");
+    store_.Write(LanguageEntry, "1");
+    EXPECT_TRUE(QFileInfo(Path()).isDir());
+}
+
+TEST_F(SettingsInTheWay, AHugeFileIsNotReplacedByASmallOne) {
+    Put(Path(), "[BackUp]\nLanguage=1\n");
+    ASSERT_TRUE(QFile::resize(Path(), 2000000));
+    EXPECT_EQ(store_.Read(LanguageEntry), "");
+    store_.Write(LanguageEntry, "0");
+    EXPECT_EQ(QFileInfo(Path()).size(), 2000000);
+}
+
+#endif
 
 } // namespace
 } // namespace zelvor

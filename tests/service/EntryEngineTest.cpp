@@ -24,6 +24,10 @@ protected:
     void OnExchangeDone() override { events.emplace_back(rig.IsPortOpen() ? "done, port open" : "done, port closed"); }
     void OnInformationReady() override { events.emplace_back("show information"); }
     void OnTestModeReady() override { events.emplace_back("show test mode"); }
+    void OnProgress(int replies, int all) override {
+        progress.push_back(std::to_string(replies) + "/" + std::to_string(all));
+    }
+    void OnExchangeEnded() override { ++ended; }
 
     [[nodiscard]] static Commands TestModeCommands() {
         Commands commands{"54 55 4E 49 4E 47 20", "02", "06", "05", "06"};
@@ -39,6 +43,8 @@ protected:
     std::unique_ptr<SerialPort> port = rig.ports.Make("MSComm1");
     EntryEngine engine{rig.session, *port, rig.clock, rig.messages, *this};
     std::vector<std::string> events;
+    std::vector<std::string> progress;
+    int ended = 0; // without a window
     std::string information;
 };
 
@@ -98,6 +104,34 @@ TEST_F(EntryEngineTest, EntryAsksForTuningDataAndSixteenChannelsAndSendsNoEnd) {
     EXPECT_FALSE(rig.IsPortOpen());
 }
 
+TEST_F(EntryEngineTest, EveryReplyIsProgress) {
+    engine.StartInformation();
+    EXPECT_EQ(progress, std::vector<std::string>{"0/8"});
+    rig.clock.Advance(1000);
+    EXPECT_EQ(progress, (std::vector<std::string>{"0/8", "1/8", "2/8", "3/8", "4/8", "5/8", "6/8", "7/8", "8/8"}));
+    progress.clear();
+    engine.StartTestMode();
+    rig.clock.Advance(1000);
+    ASSERT_EQ(progress.size(), 38U);
+    EXPECT_EQ(progress[0], "0/37");
+    EXPECT_EQ(progress[5], "5/37");
+    EXPECT_EQ(progress.back(), "37/37");
+    EXPECT_EQ(ended, 0);
+}
+
+TEST_F(EntryEngineTest, RetryBeginsTheProgressAgainAndGivingUpEndsIt) {
+    rig.Spoil(3, Fault::Drop);
+    rig.messages.Expect(ConnectionPrompt(), [this] {
+        rig.Spoil(rig.Replies() + 2, Fault::Drop);
+        return MessageAnswer::Retry;
+    });
+    rig.messages.Expect(ConnectionPrompt(), MessageAnswer::Cancel);
+    engine.StartInformation();
+    rig.clock.Advance(1000);
+    EXPECT_EQ(progress, (std::vector<std::string>{"0/8", "1/8", "2/8", "0/8", "1/8"}));
+    EXPECT_EQ(ended, 1);
+}
+
 TEST_F(EntryEngineTest, EntryStoresTheTuningRecordAndTheTestFrequencies) {
     engine.StartTestMode();
     rig.clock.Advance(1000);
@@ -119,6 +153,7 @@ TEST_F(EntryEngineTest, AMismatchEndsTheEntryWithABox) {
     EXPECT_EQ(rig.sent.back(), "06"); // of channel 3, and no End
     EXPECT_EQ(rig.sent.size(), 5U + 2 * 3);
     EXPECT_TRUE(events.empty());
+    EXPECT_EQ(ended, 1);
     EXPECT_FALSE(engine.IsEntryDone());
     EXPECT_EQ(rig.clock.Sleeps(), std::vector{10});
     EXPECT_FALSE(rig.IsPortOpen());

@@ -11,6 +11,7 @@
 #include "platform/Services.h"
 #include "platform/fakes/FakeClock.h"
 #include "platform/fakes/FakeFileDialogs.h"
+#include "platform/fakes/FakeFileStore.h"
 #include "platform/fakes/FakeHelpViewer.h"
 #include "platform/fakes/FakeMessageBoxes.h"
 #include "platform/fakes/FakePageDevice.h"
@@ -39,7 +40,8 @@ public:
     FakeFileDialogs files;
     FakeHelpViewer help;
     FakePageDevice pages;
-    Services services{ports, settings, messages, files, clock, help, pages}; // for a window
+    FakeFileStore store;
+    Services services{ports, settings, messages, files, clock, help, pages, store}; // for a window
 
     /// Every command as it was sent, and when it was.
     std::vector<std::string> sent;

@@ -1,34 +1,7 @@
-#include "service/TestEngine.h"
-
-#include <gtest/gtest.h>
-
-#include "service/ServiceRig.h"
+#include "service/EngineTests.h"
 
 namespace zelvor {
 namespace {
-
-class TestEngineTest : public ::testing::Test, public TestObserver {
-protected:
-    void OnLamps(bool transmitting) override { lamps.emplace_back(transmitting ? "transmit" : "idle"); }
-    void OnTuningReady() override { events.emplace_back(rig.IsPortOpen() ? "tune, port open" : "tune, port closed"); }
-    void OnUnloadRequested() override {
-        events.emplace_back("unload");
-        engine.Close();
-    }
-
-    /// Loads and lets channel and signalling go out.
-    void Open() {
-        engine.Load();
-        rig.clock.Advance(100);
-        rig.TakeSent();
-    }
-
-    ServiceRig rig;
-    std::unique_ptr<SerialPort> port = rig.ports.Make("MSComm1");
-    TestEngine engine{rig.session, *port, rig.clock, rig.messages, *this};
-    std::vector<std::string> lamps;
-    std::vector<std::string> events;
-};
 
 TEST_F(TestEngineTest, OnLoadTheRadioGetsTheChannelAndThenTheFirstSignalling) {
     rig.session.Service.TestChannelNo = 3;

@@ -31,8 +31,8 @@ TEST_F(TestFormRadioTest, PressingPttTwiceKeysAndUnkeysTheRadio) {
 TEST_F(TestFormRadioTest, LampsTellWhatTheyShow) {
     Open();
     const auto said = [this](const char* name) {
-        const auto& lamp = In<QWidget>(*form, name);
-        return FromQString(lamp.accessibleName() + ": " + lamp.accessibleDescription());
+        const QWidget* lamp = &In<QWidget>(*form, name);
+        return FromQString(lamp->accessibleName() + ": " + lamp->accessibleDescription());
     };
     EXPECT_EQ(said("PicChannelRx"), "Test Channel RX: On");
     EXPECT_EQ(said("PicSignalTx"), "Test Signalling TX: Off");
@@ -56,6 +56,15 @@ TEST_F(TestFormRadioTest, AChannelChosenWhileKeyedDropsTheTransmitterFirst) {
     EXPECT_EQ(rig.sent, (Commands{"08 0E", "10 02", "06"}));
     PressPtt();
     EXPECT_EQ(rig.sent.back(), "08 0D"); // keyed anew, not unkeyed
+}
+
+TEST_F(TestFormRadioTest, AChannelAndASignallingChosenAtOnceAreBothSent) {
+    Open();
+    Press(Channels(), Qt::Key_Down);
+    Press(Signallings(), Qt::Key_Down);
+    EXPECT_EQ(TextOf(*form, "LabRxFreq"), "136.05000MHz");
+    rig.clock.Advance(200);
+    EXPECT_EQ(rig.sent, (Commands{"10 02", "06", "11 02"}));
 }
 
 TEST_F(TestFormRadioTest, SignallingAndWidthChosenWhileKeyedDropTheTransmitterFirst) {

@@ -238,6 +238,34 @@ TEST_F(TestFormTest, ASecondClickOnPrintDuringTheFirstAsksNothingMore) {
     EXPECT_EQ(rig.messages.Shown().size(), 1U);
 }
 
+TEST_F(TestFormTest, PrintAsksNothingMoreWhileThePrintingSystemIsAsked) {
+    Open();
+    const Message question{"Confirmation", "All tuning data print out.", MessageIcon::Question,
+                           MessageButtons::OkCancel, MessageAnswer::Cancel};
+    rig.pages.HoldAnswers();
+    rig.messages.Expect(question, MessageAnswer::Ok);
+    Click(*form, "CmdPrint");
+    Click(*form, "CmdPrint");
+    EXPECT_TRUE(rig.pages.Documents().empty());
+    rig.pages.Answer();
+    EXPECT_EQ(rig.pages.Documents().size(), 1U);
+    rig.messages.Expect(question, MessageAnswer::Ok);
+    Click(*form, "CmdPrint");
+    EXPECT_EQ(rig.pages.Documents().size(), 2U);
+}
+
+TEST_F(TestFormTest, ClosedWhileThePrintingSystemIsAskedItPrintsNothing) {
+    Open();
+    rig.pages.HoldAnswers();
+    rig.messages.Expect({"Confirmation", "All tuning data print out.", MessageIcon::Question, MessageButtons::OkCancel,
+                         MessageAnswer::Cancel},
+                        MessageAnswer::Ok);
+    Click(*form, "CmdPrint");
+    form->close();
+    rig.pages.Answer();
+    EXPECT_TRUE(rig.pages.Documents().empty());
+}
+
 TEST_F(TestFormTest, ClosedBeforeTheQuestionItPrintsNothing) {
     Open();
     rig.clock.At(100, [this] { form->close(); });

@@ -37,6 +37,23 @@ TEST_F(TestFormTuningTest, ADoubleClickOpensTheItemsDialog) {
     EXPECT_EQ(Tuning()->windowTitle(), "Sensitivity");
 }
 
+TEST_F(TestFormTuningTest, EnterOnAChosenItemOpensItsDialog) {
+    for (const Qt::Key enter : {Qt::Key_Return, Qt::Key_Enter}) {
+        Open();
+        Press(Items(), enter);
+        rig.clock.Advance(300);
+        EXPECT_TRUE(rig.sent.empty()); // nothing is chosen yet
+        ClickItem(7);
+        Press(Items(), Qt::Key_Down);
+        Press(Items(), enter);
+        rig.clock.Advance(300);
+        EXPECT_EQ(rig.sent, (Commands{"05", "06", "1F 0D"}));
+        ASSERT_NE(Tuning(), nullptr);
+        EXPECT_EQ(Tuning()->windowTitle(), "Sensitivity");
+        delete form;
+    }
+}
+
 struct DialogRow {
     int item;
     const char* select;

@@ -1,52 +1,7 @@
-#include "service/TuningEngine.h"
-
-#include <gtest/gtest.h>
-
-#include <array>
-
-#include "service/ServiceRig.h"
+#include "service/EngineTests.h"
 
 namespace zelvor {
 namespace {
-
-/// A dialog that shows 10, 20, 30 ... on its pages and opened with 110, 120, 130 ...
-class Dialog : public TuningSource, public TuningObserver {
-public:
-    [[nodiscard]] int Value(int page) const override { return values[static_cast<std::size_t>(page)]; }
-    [[nodiscard]] int OldValue(int page) const override { return 110 + 10 * page; }
-    void OnLamp(bool transmitting) override { events.emplace_back(transmitting ? "transmit" : "idle"); }
-    void OnPointRead(int page) override { events.push_back("point " + std::to_string(page)); }
-    void OnMeasured(int value) override {
-        events.push_back("measured " + std::to_string(value));
-        values[0] = value;
-    }
-    void OnUnloadRequested() override {
-        events.emplace_back("unload");
-        engine->Close(TuningEngine::Ending::Cancel);
-    }
-
-    std::array<int, 6> values{10, 20, 30, 40, 50, 60};
-    std::vector<std::string> events;
-    TuningEngine* engine = nullptr;
-};
-
-class TuningEngineTest : public ::testing::Test {
-protected:
-    void Open(const TuningPlan& plan) {
-        engine = std::make_unique<TuningEngine>(rig.session, *port, rig.clock, rig.messages, plan, dialog, dialog);
-        dialog.engine = engine.get();
-        engine->Load();
-    }
-    /// RF High Power: six pages.
-    void OpenSixPages() { Open({TuningKind::Points, 18, {18, 48, 51, 49, 52, 50}}); }
-    void OpenOneValue() { Open({TuningKind::Single, 29, {29}}); }
-    void OpenMeasured() { Open({TuningKind::Measured, 34, {34}}); }
-
-    ServiceRig rig;
-    Dialog dialog;
-    std::unique_ptr<SerialPort> port = rig.ports.Make("MSComm1");
-    std::unique_ptr<TuningEngine> engine;
-};
 
 TEST_F(TuningEngineTest, NothingIsSentOnLoad) {
     OpenSixPages();

@@ -265,6 +265,15 @@ TEST_F(TuningFormEditingTest, PttKeysAndUnkeysTheRadio) {
     EXPECT_EQ(rig.sent, (Commands{"08 0D", "12 20 65", "08 0E"}));
 }
 
+TEST_F(TuningFormEditingTest, AStepAndPttAtOnceBothGetToTheRadio) {
+    OpenHighPower();
+    Press(Box(), Qt::Key_Up);
+    Click(*form, "CmdPTT");
+    Settle();
+    EXPECT_EQ(rig.sent, (Commands{"12 20 65", "08 0D"}));
+    EXPECT_EQ(LampOf(*form, "PicPtt"), "102");
+}
+
 TEST_F(TuningFormEditingTest, APageChangeWhileKeyedDropsTheTransmitterFirst) {
     OpenHighPower();
     Click(*form, "CmdPTT");

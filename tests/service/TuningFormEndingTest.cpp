@@ -81,7 +81,7 @@ TEST_F(TuningFormEndingTest, OkOfEverySizeStores) {
     ExpectGone();
     EXPECT_EQ(rig.TakeSent(), Commands{"12 0E"});
     OpenSensitivity();
-    QTest::keyPress(QApplication::focusWidget(), Qt::Key_Return); // the default button
+    Press(In<QPushButton>(*form, "CmdOK"), Qt::Key_Return);
     ExpectGone();
     EXPECT_EQ(rig.TakeSent(), Commands{"1F 0E"});
     OpenOneValue();
@@ -92,6 +92,63 @@ TEST_F(TuningFormEndingTest, OkOfEverySizeStores) {
     Click(*form, "CmdOK");
     ExpectGone();
     EXPECT_EQ(rig.TakeSent(), (Commands{"21 20 46", "21 0E"}));
+}
+
+TEST_F(TuningFormEndingTest, EnterInTheValueOnTheSliderOrOnThePagesStoresNothing) {
+    OpenHighPower();
+    for (const Qt::Key enter : {Qt::Key_Return, Qt::Key_Enter}) {
+        for (QWidget* control : std::initializer_list<QWidget*>{&Box(), &Slider(), Pages().tabBar()}) {
+            control->setFocus();
+            QTest::keyClicks(control, "120");
+            Press(*control, enter);
+            rig.clock.Advance(500);
+        }
+    }
+    EXPECT_EQ(unloaded->count(), 0);
+    EXPECT_TRUE(form->isVisible());
+    EXPECT_EQ(Box().text(), "100");
+    EXPECT_TRUE(rig.sent.empty());
+}
+
+TEST_F(TuningFormEndingTest, NoSizeHasADefaultButton) {
+    const std::vector<std::function<void()>> sizes{[this] { OpenHighPower(); }, [this] { OpenSensitivity(); },
+                                                   [this] { OpenOneValue(); }, [this] { OpenMeasured(); }};
+    for (const auto& open : sizes) {
+        open();
+        for (const Qt::Key enter : {Qt::Key_Return, Qt::Key_Enter}) {
+            for (QWidget* control : form->findChildren<QWidget*>()) {
+                if (qobject_cast<QPushButton*>(control) == nullptr && control->isVisible() &&
+                    control->focusPolicy() != Qt::NoFocus) {
+                    Press(*control, enter);
+                    rig.clock.Advance(500);
+                }
+            }
+            QTest::keyClick(form, enter);
+        }
+        EXPECT_EQ(unloaded->count(), 0) << FromQString(form->objectName());
+        EXPECT_TRUE(rig.sent.empty());
+        delete form;
+    }
+}
+
+TEST_F(TuningFormEndingTest, EnterPressesTheButtonThatHasTheFocus) {
+    for (const Qt::Key enter : {Qt::Key_Return, Qt::Key_Enter}) {
+        OpenOneValue();
+        Press(In<QPushButton>(*form, "CmdPTT"), enter);
+        Settle();
+        EXPECT_EQ(rig.TakeSent(), Commands{"08 0D"});
+        Press(In<QPushButton>(*form, "CmdPTT"), enter);
+        Settle();
+        EXPECT_EQ(rig.TakeSent(), Commands{"08 0E"});
+        In<QPushButton>(*form, "CmdCancel").setFocus();
+        QTest::keyPress(&In<QPushButton>(*form, "CmdCancel"), enter);
+        EXPECT_EQ(rig.TakeSent(), OneValueCancel);
+        ExpectGone();
+    }
+    OpenMeasured();
+    Press(In<QPushButton>(*form, "CmdStart"), Qt::Key_Return);
+    rig.clock.Advance(50);
+    EXPECT_EQ(rig.TakeSent(), (Commands{"21 0A", "06"}));
 }
 
 TEST_F(TuningFormEndingTest, AKeyedTransmitterIsDroppedBeforeOkAndBeforeCancel) {
@@ -123,6 +180,14 @@ TEST_F(TuningFormEndingTest, ClosingInTheMiddleOfACommandWaitsForItsAnswer) {
     rig.clock.Advance(2); // sent at 1, its answer comes at 3
     Click(*form, "CmdOK");
     EXPECT_EQ(rig.sent, (Commands{"12 20 65", "12 0E"}));
+    ExpectGone();
+}
+
+TEST_F(TuningFormEndingTest, OkRightBehindAStepStoresWhatIsShown) {
+    OpenOneValue();
+    Press(Box(), Qt::Key_Up);
+    Click(*form, "CmdOK");
+    EXPECT_EQ(rig.sent, (Commands{"1B 20 3D", "1B 0E"}));
     ExpectGone();
 }
 

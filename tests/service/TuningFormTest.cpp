@@ -169,6 +169,37 @@ TEST_F(TuningFormTest, TheMeasuringDialogsStartFromTheirImageBytes) {
     }
 }
 
+TEST_F(TuningFormTest, TheValueLooksLikeADisplayAndSaysHowItIsChanged) {
+    OpenHighPower();
+    for (int page = 0; page < 6; ++page) {
+        const QPalette palette = Box(page).palette();
+        EXPECT_EQ(palette.color(QPalette::Base), palette.color(QPalette::Window));
+        EXPECT_EQ(Box(page).cursor().shape(), Qt::ArrowCursor);
+        EXPECT_EQ(Box(page).toolTip(),
+                  "Change the value with the slider, the arrows, or Up and Down here. It cannot be typed.");
+    }
+    delete form;
+    PutHighPower();
+    Open(1, false, Language::Chinese);
+    EXPECT_EQ(Box().toolTip(), "用滑块、箭头按钮，或在此按上、下方向键更改数值。不能键入。");
+    delete form;
+    OpenMeasured();
+    EXPECT_EQ(In<QLineEdit>(*form, "txtTuneValue").toolTip(),
+              "The value that the radio has measured last. It cannot be typed.");
+}
+
+TEST_F(TuningFormTest, NothingOfTheArrowsFrameShowsBesideTheValue) {
+    OpenHighPower();
+    const auto& spin = In<QWidget>(*form, Of("updValue", 0));
+    EXPECT_LT(spin.mapTo(form, QPoint()).x(), Box().mapTo(form, QPoint(Box().width(), 0)).x());
+    EXPECT_EQ(spin.height(), Box().height());
+    // The pixel in the middle of the covered edge is the box's.
+    const QPoint edge(spin.mapTo(form, QPoint()).x() + 1, Box().mapTo(form, QPoint()).y() + Box().height() / 2);
+    const QImage picture = form->grab().toImage();
+    const qreal scale = picture.devicePixelRatio();
+    EXPECT_EQ(picture.pixelColor((QPointF(edge) * scale).toPoint()), Box().palette().color(QPalette::Base));
+}
+
 TEST_F(TuningFormTest, EveryControlRangesOverAByte) {
     OpenHighPower();
     for (int page = 0; page < 6; ++page) {

@@ -206,5 +206,48 @@ TEST_F(TuningReportTest, OnAPrinterThatFailsEndsWithoutAWord) {
     EXPECT_EQ(fakes.messages.Shown().size(), 1U);
 }
 
+TEST_F(TuningReportTest, TellsOfAPrintingSystemThatDoesNotAnswer) {
+    fakes.pages.SetTarget({PageTarget::Kind::NoAnswer, ""});
+    ExpectQuestion(MessageAnswer::Ok);
+    fakes.messages.Expect(
+        {.title = "Warning",
+         .text = "No answer from the printing system.\nTry again later, or choose a PDF file in Print setup.",
+         .icon = MessageIcon::Exclamation,
+         .buttons = MessageButtons::Ok},
+        MessageAnswer::Ok);
+    PrintTuningReport(session, fakes.Get(), [] { return true; });
+    EXPECT_EQ(fakes.messages.Pending(), 0);
+    EXPECT_TRUE(fakes.pages.Pages().empty());
+}
+
+TEST_F(TuningReportTest, AsksBeforeItReplacesAFileEveryTime) {
+    fakes.pages.SetTarget({PageTarget::Kind::File, "/home/user/radio1.pdf", true});
+    for (const MessageAnswer answer : {MessageAnswer::No, MessageAnswer::Yes, MessageAnswer::No}) {
+        ExpectQuestion(MessageAnswer::Ok);
+        fakes.messages.Expect({.title = "Warning",
+                               .text = "The file already exists:\n/home/user/radio1.pdf\nReplace it?",
+                               .icon = MessageIcon::Exclamation,
+                               .buttons = MessageButtons::YesNo,
+                               .defaultButton = MessageAnswer::No},
+                              answer);
+        PrintTuningReport(session, fakes.Get(), [] { return true; });
+        EXPECT_EQ(fakes.messages.Pending(), 0);
+    }
+    EXPECT_EQ(fakes.pages.Documents().size(), 1U);
+}
+
+TEST_F(TuningReportTest, IsPrintedWhenThePrintingSystemAnswersUnlessItIsNotWantedAnyMore) {
+    for (const bool isWanted : {true, false}) {
+        fakes.pages.HoldAnswers();
+        ExpectQuestion(MessageAnswer::Ok);
+        bool isStillWanted = true;
+        PrintTuningReport(session, fakes.Get(), [&isStillWanted] { return isStillWanted; });
+        const std::size_t before = fakes.pages.Documents().size();
+        isStillWanted = isWanted;
+        fakes.pages.Answer();
+        EXPECT_EQ(fakes.pages.Documents().size() - before, isWanted ? 1U : 0U);
+    }
+}
+
 } // namespace
 } // namespace zelvor

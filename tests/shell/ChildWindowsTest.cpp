@@ -4,6 +4,7 @@
 #include <QMdiSubWindow>
 #include <QMenu>
 
+#include "../support/InView.h"
 #include "controls/ChildForm.h"
 #include "shell/ShellTest.h"
 #include "shell/WindowList.h"
@@ -146,6 +147,44 @@ TEST_F(MainWindowChildrenTest, CascadingLeavesTheNavigatorOut) {
     EXPECT_NE(Frame("ChannelForm")->pos(), QPoint(200, 150));
     EXPECT_EQ(Frame("TreeViewForm")->pos(), QPoint(50, 60));
     EXPECT_TRUE(IsChildShown("TreeViewForm"));
+}
+
+TEST_F(MainWindowChildrenTest, CascadeLeavesTheActiveWindowOnTopAndShowsEveryTitleBar) {
+    OpenMainWindow();
+    for (const char* entry : {"MnuEditOptionalFeatures", "MnuEditScanInformation", "MnuEditDTMF", "MnuViewTreeView"}) {
+        Choose(entry);
+    }
+    Choose("MnuEditOptionalFeatures");
+    ASSERT_EQ(Active(), Frame("OptionalForm"));
+    Choose("MnuWindowCascade");
+    EXPECT_EQ(Active(), Frame("OptionalForm"));
+    const QStringList order{"ChannelForm", "ScanForm", "DTMFForm", "OptionalForm"}; // from the back
+    for (qsizetype i = 0; i < order.size(); ++i) {
+        const QMdiSubWindow* frame = Frame(order[i].toLatin1());
+        EXPECT_EQ(frame->pos(), QPoint(24, 24) * static_cast<int>(i)) << order[i].toStdString();
+        for (qsizetype later = i + 1; later < order.size(); ++later) {
+            const QRect titleBar(frame->pos(), QSize(frame->width(), 24));
+            EXPECT_FALSE(Frame(order[later].toLatin1())->geometry().intersects(titleBar)) << order[i].toStdString();
+        }
+    }
+    EXPECT_TRUE(IsAllSeen(*Child("OptionalForm"), Child("OptionalForm")->rect()));
+}
+
+TEST_F(MainWindowChildrenTest, CascadeKeepsAMaximisedWindowOnTopAndLeavesMinimisedOnesAlone) {
+    OpenMainWindow();
+    Choose("MnuEditScanInformation");
+    Choose("MnuEditDTMF");
+    Frame("ScanForm")->showMinimized();
+    Choose("MnuEditChannelInformation");
+    Frame("ChannelForm")->showMaximized();
+    const QRect icon = Frame("ScanForm")->geometry();
+    Choose("MnuWindowCascade");
+    EXPECT_EQ(Active(), Frame("ChannelForm"));
+    EXPECT_FALSE(Frame("ChannelForm")->isMaximized());
+    EXPECT_EQ(Frame("DTMFForm")->pos(), QPoint(0, 0));
+    EXPECT_EQ(Frame("ChannelForm")->pos(), QPoint(24, 24));
+    EXPECT_EQ(Child("ChannelForm")->size(), QSize(800, 433));
+    EXPECT_EQ(Frame("ScanForm")->geometry(), icon);
 }
 
 TEST_F(MainWindowChildrenTest, IconsAreArrangedAlongTheBottom) {

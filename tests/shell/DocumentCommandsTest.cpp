@@ -1,4 +1,3 @@
-#include <QFile>
 #include <QMdiSubWindow>
 #include <QTableWidget>
 #include <QTemporaryDir>
@@ -38,10 +37,8 @@ protected:
         return bytes;
     }
 
-    std::string WriteFile(const char* name, const QByteArray& bytes) const {
-        QFile file(directory.filePath(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        EXPECT_EQ(file.write(bytes), bytes.size());
+    std::string WriteFile(const char* name, const QByteArray& bytes) {
+        fakes.store.Put(PathOf(name), bytes.toStdString());
         return PathOf(name);
     }
 

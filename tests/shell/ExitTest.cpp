@@ -1,4 +1,3 @@
-#include <QFile>
 #include <QSignalSpy>
 #include <QTableWidget>
 #include <QTemporaryDir>
@@ -46,6 +45,16 @@ TEST_F(ExitTest, ACleanDocumentNeedsTheOneQuestion) {
     EXPECT_EQ(ended.count(), 1);
     EXPECT_TRUE(session.ExitConfirmed);
     EXPECT_EQ(fakes.settings.Writes(), (Writes{{"LastModel", "50:34:36:31:38:01:F8:FF"}, {"Language", "0"}}));
+}
+
+TEST_F(ExitTest, CtrlQAsksTheSame) {
+    Open();
+    fakes.messages.Expect(ExitQuestion, MessageAnswer::No);
+    QTest::keyClick(window.get(), Qt::Key_Q, Qt::ControlModifier);
+    ExpectStillOpen();
+    fakes.messages.Expect(ExitQuestion, MessageAnswer::Yes);
+    QTest::keyClick(window.get(), Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_FALSE(window->isVisible());
 }
 
 TEST_F(ExitTest, NoKeepsTheProgram) {
@@ -119,7 +128,7 @@ TEST_F(ExitTest, TheOfferToSaveTakenSavesUnderANewName) {
     fakes.messages.Expect(SaveQuestion, MessageAnswer::Yes);
     fakes.files.ExpectSave({"Zelvor.dat", "QPK Data Files(*.dat)|*.dat", ""}, path.toStdString());
     EXPECT_TRUE(window->close());
-    EXPECT_EQ(QFile(path).size(), 1040);
+    EXPECT_EQ(fakes.store.Content(path.toStdString()).size(), 1040U);
     QDir::setCurrent(oldDirectory);
 }
 
@@ -128,8 +137,9 @@ TEST_F(ExitTest, AFileThatCannotBeWrittenKeepsTheProgram) {
     ChangeImage();
     fakes.messages.Expect(ExitQuestion, MessageAnswer::Yes);
     fakes.messages.Expect(SaveQuestion, MessageAnswer::Yes);
-    fakes.files.ExpectSave({"Zelvor.dat", "QPK Data Files(*.dat)|*.dat", ""},
-                           directory.filePath("missing/Last.dat").toStdString());
+    const std::string path = directory.filePath("missing/Last.dat").toStdString();
+    fakes.store.Refuse(path);
+    fakes.files.ExpectSave({"Zelvor.dat", "QPK Data Files(*.dat)|*.dat", ""}, path);
     EXPECT_FALSE(window->close());
     ExpectStillOpen();
 }

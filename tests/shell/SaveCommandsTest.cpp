@@ -1,5 +1,4 @@
 #include <QDir>
-#include <QFile>
 #include <QMdiSubWindow>
 #include <QTableWidget>
 #include <QTemporaryDir>
@@ -23,9 +22,8 @@ protected:
 
     [[nodiscard]] std::string PathOf(const char* name) const { return directory.filePath(name).toStdString(); }
 
-    [[nodiscard]] static QByteArray Content(const std::string& path) {
-        QFile file(QString::fromStdString(path));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    [[nodiscard]] QByteArray Content(const std::string& path) const {
+        return QByteArray::fromStdString(fakes.store.Content(path));
     }
 
     /// The head and the 1024 bytes of the memory in address order.
@@ -84,7 +82,7 @@ TEST_F(SaveCommandsTest, OverwritingRefusedWritesNothing) {
     session.Image.Set(0x100, 0x12);
     fakes.messages.Expect(OverwriteQuestion("First.dat"), MessageAnswer::Cancel);
     Choose("MnuFileSave");
-    EXPECT_FALSE(QFile::exists(directory.filePath("First.dat")));
+    EXPECT_FALSE(fakes.store.Has(PathOf("First.dat")));
     EXPECT_TRUE(session.IsDocumentChanged());
 }
 
@@ -102,6 +100,7 @@ TEST_F(SaveCommandsTest, SaveToAPathThatCannotBeWrittenIsSilentAndKeepsTheSnapsh
     OpenMainWindow();
     session.Image.Set(0x100, 0x12);
     const DataImage saved = session.SavedImage;
+    fakes.store.Refuse(PathOf("missing/First.dat"));
     fakes.files.ExpectSave({"Zelvor.dat", Filter, ""}, PathOf("missing/First.dat"));
     Choose("MnuFileSave");
     EXPECT_TRUE(fakes.messages.Shown().empty());
@@ -140,6 +139,7 @@ TEST_F(SaveCommandsTest, SaveAsUsesTheChineseFilterInChinese) {
 TEST_F(SaveCommandsTest, SaveAsToAPathThatCannotBeWrittenCountsAsCancelled) {
     OpenMainWindow();
     session.Image.Set(0x100, 0x12);
+    fakes.store.Refuse(PathOf("missing/Second.dat"));
     fakes.files.ExpectSave({"Zelvor.dat", Filter, ""}, PathOf("missing/Second.dat"));
     Choose("MnuFileSaveAs");
     EXPECT_TRUE(session.SaveCancelled);
@@ -189,6 +189,15 @@ TEST_F(SaveCommandsTest, SaveByItsShortcutCommitsTheEditInTheGridAndLeavesTheKey
     QTest::keyClick(window.get(), Qt::Key_S, Qt::ControlModifier);
     EXPECT_EQ(Content(PathOf("Edited.dat")).mid(16 + 0x010, 4).toHex(), "00006014");
     EXPECT_TRUE(grid->hasFocus());
+}
+
+TEST_F(SaveCommandsTest, CtrlShiftSSavesUnderAnotherName) {
+    OpenMainWindow();
+    session.CurrentFileName = PathOf("First.dat");
+    fakes.files.ExpectSave({PathOf("First.dat"), Filter, ""}, PathOf("Second.dat"));
+    QTest::keyClick(window.get(), Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(Content(PathOf("Second.dat")), FileOfTheImage());
+    EXPECT_FALSE(QFile::exists(directory.filePath("First.dat")));
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPushButton>
+#include <algorithm>
 #include <map>
 
 #include "ShellTest.h"
@@ -130,8 +131,179 @@ TEST_F(ServiceCommandsTest, TestModeOpensOverADisabledMainWindowAndEndsWithEnd) 
 TEST_F(ServiceCommandsTest, TheMainWindowDoesNotCloseWhileTestModeIsOpen) {
     Choose("MnuProgramTestMode");
     fakes.clock.Advance(1000);
+    fakes.messages.Expect({"Warning", "Test Mode is still open. Close it before you leave Zelvor.",
+                           MessageIcon::Exclamation, MessageButtons::Ok, MessageAnswer::Ok},
+                          MessageAnswer::Ok);
     EXPECT_FALSE(window->close());
     EXPECT_TRUE(window->isVisible());
+    EXPECT_EQ(fakes.messages.Pending(), 0);
+    EXPECT_TRUE(Find<TestForm>("TestForm")->isEnabled());
+}
+
+TEST_F(ServiceCommandsTest, TheMainWindowDoesNotCloseWhileRadioInformationIsOpen) {
+    session.LanguageFlag = Language::Chinese;
+    Choose("MnuToolRadioInformation");
+    fakes.clock.Advance(500);
+    ASSERT_NE(Find<DJJInfoForm>("DJJInfoForm"), nullptr);
+    fakes.messages.Expect({"警告", "对讲机信息窗口仍未关闭。请先将其关闭，再退出 Zelvor。", MessageIcon::Exclamation,
+                           MessageButtons::Ok, MessageAnswer::Ok},
+                          MessageAnswer::Ok);
+    EXPECT_FALSE(window->close());
+    EXPECT_EQ(fakes.messages.Pending(), 0);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(Find<DJJInfoForm>("DJJInfoForm")));
+}
+
+TEST_F(ServiceCommandsTest, AClosedWindowDoesNotKeepTheProgramOpen) {
+    Choose("MnuToolRadioInformation");
+    fakes.clock.Advance(500);
+    Find<DJJInfoForm>("DJJInfoForm")->close();
+    fakes.messages.Expect({"Confirmation", "Do you wish to exit Zelvor program？", MessageIcon::Question,
+                           MessageButtons::YesNo, MessageAnswer::Yes},
+                          MessageAnswer::No);
+    EXPECT_FALSE(window->close());
+    EXPECT_EQ(fakes.messages.Pending(), 0);
+}
+
+TEST_F(ServiceCommandsTest, TheStatusBarShowsHowFarAnExchangeIs) {
+    EXPECT_EQ(Text("LabExchange"), "");
+    Choose("MnuToolRadioInformation");
+    EXPECT_EQ(Text("LabExchange"), "Reading radio information: 0 %");
+    fakes.clock.Advance(105);
+    EXPECT_EQ(Text("LabExchange"), "Reading radio information: 25 %"); // 2 of 8
+    fakes.clock.Advance(400);
+    EXPECT_EQ(Text("LabExchange"), "");
+    Find<DJJInfoForm>("DJJInfoForm")->close();
+    session.LanguageFlag = Language::Chinese;
+    Choose("MnuProgramTestMode");
+    EXPECT_EQ(Text("LabExchange"), "正在进入测试模式：0 %");
+    fakes.clock.Advance(100 + 2 + 9 * 3);
+    EXPECT_EQ(Text("LabExchange"), "正在进入测试模式：27 %"); // 10 of 37
+    fakes.clock.Advance(400);
+    EXPECT_EQ(Text("LabExchange"), "");
+    EXPECT_EQ(Text("StatusBar1(1)"), "COM1");
+}
+
+TEST_F(ServiceCommandsTest, NothingIsShownOfAnExchangeThatTheUserHasGivenUp) {
+    silent = true;
+    fakes.messages.Expect(ConnectionPrompt(), [this] {
+        EXPECT_EQ(Text("LabExchange"), "Entering test mode: 0 %");
+        return MessageAnswer::Cancel;
+    });
+    Choose("MnuProgramTestMode");
+    fakes.clock.Advance(1000);
+    EXPECT_EQ(Text("LabExchange"), "");
+}
+
+/// A command that ends an exchange; its dialog or question is left at once.
+struct EndingCommand {
+    const char* entry;
+    const char* cancelButton; // of its dialog
+};
+
+void PrintTo(const EndingCommand& value, std::ostream* out) {
+    *out << value.entry;
+}
+
+class EndingCommandTest : public ServiceCommandsTest, public testing::WithParamInterface<EndingCommand> {
+protected:
+    void LeaveCommand() {
+        if (GetParam().cancelButton == nullptr) {
+            Choose(GetParam().entry);
+        } else {
+            ChooseDialog(GetParam().entry, [](QWidget& dialog) { Click(dialog, GetParam().cancelButton); });
+        }
+    }
+};
+
+TEST_P(EndingCommandTest, EndsTheEntryIntoTestModeAndSaysSo) {
+    Choose("MnuProgramTestMode");
+    fakes.clock.Advance(120);
+    if (std::string(GetParam().entry) == "MnuFileNew") {
+        fakes.messages.Expect({"Warning", "All data will be cleared.", MessageIcon::Exclamation,
+                               MessageButtons::OkCancel, MessageAnswer::Cancel},
+                              MessageAnswer::Ok);
+    }
+    if (std::string(GetParam().entry) == "MnuFileOpen") {
+        fakes.files.ExpectOpen({"", "QPK Data Files(*.dat)|*.dat", ""}, std::nullopt);
+    }
+    LeaveCommand();
+    EXPECT_EQ(Text("LabExchange"), "Test mode was not entered: another command was chosen.");
+    sent.clear();
+    fakes.clock.Advance(2000);
+    QTest::qWait(100); // a window that waited for the dialog would come now
+    EXPECT_TRUE(sent.empty());
+    EXPECT_EQ(Find<TestForm>("TestForm"), nullptr);
+    EXPECT_TRUE(window->isEnabled());
+    fakes.clock.Advance(12'999);
+    EXPECT_EQ(Text("LabExchange"), "Test mode was not entered: another command was chosen.");
+    fakes.clock.Advance(1);
+    EXPECT_EQ(Text("LabExchange"), "");
+}
+
+INSTANTIATE_TEST_SUITE_P(Commands, EndingCommandTest,
+                         testing::Values(EndingCommand{"MnuFileNew", nullptr}, EndingCommand{"MnuFileOpen", nullptr},
+                                         EndingCommand{"MnuModelInformation", "cmdCancel"},
+                                         EndingCommand{"MnuProgramRead", "cmdCancel"},
+                                         EndingCommand{"MnuProgramWrite", "cmdCancel"}));
+
+TEST_F(ServiceCommandsTest, TheChoiceOfThePortEndsAnExchange) {
+    Choose("MnuProgramTestMode");
+    fakes.clock.Advance(110);
+    ChooseDialog("MnuSetupCommunicationPort", [](QWidget& dialog) { Click(dialog, "cmdCancel"); });
+    sent.clear();
+    fakes.clock.Advance(2000);
+    QTest::qWait(100);
+    EXPECT_TRUE(sent.empty());
+    EXPECT_EQ(Find<TestForm>("TestForm"), nullptr);
+}
+
+TEST_F(ServiceCommandsTest, TestModeDoesNotOpenOnADocumentThatWasOpenedMeanwhile) {
+    Choose("MnuProgramTestMode");
+    fakes.clock.Advance(150); // the radio tells its test frequencies
+    const std::string path = "/nowhere/Fleet.dat";
+    fakes.store.Put(path, "RQ6152" + std::string(10, '\xFF') + std::string(1024, '\x5A'));
+    fakes.files.ExpectOpen({"", "QPK Data Files(*.dat)|*.dat", ""}, path);
+    Choose("MnuFileOpen");
+    EXPECT_EQ(session.Image.At(0x280), 0x5A);
+    fakes.clock.Advance(1000);
+    EXPECT_EQ(Text("LabExchange"), "Test mode was not entered: another command was chosen.");
+    QTest::qWait(200);
+    EXPECT_EQ(Find<TestForm>("TestForm"), nullptr);
+    EXPECT_TRUE(window->isEnabled());
+}
+
+TEST_F(ServiceCommandsTest, AWindowThatWaitsForADialogIsAnnouncedAndDroppedForAnotherDocument) {
+    Choose("MnuProgramTestMode");
+    ChooseDialog("MnuHelpAbout", [this](QWidget& dialog) {
+        fakes.clock.Advance(1000); // the radio has answered everything
+        EXPECT_EQ(Text("LabExchange"), "Entering test mode: 100 %");
+        fakes.files.ExpectOpen({"", "QPK Data Files(*.dat)|*.dat", ""}, std::nullopt);
+        Entry("MnuFileOpen")->trigger();
+        EXPECT_EQ(Text("LabExchange"), "Test mode was not entered: another command was chosen.");
+        dialog.close();
+    });
+    QTest::qWait(200);
+    EXPECT_EQ(Find<TestForm>("TestForm"), nullptr);
+    EXPECT_TRUE(window->isEnabled());
+}
+
+TEST_F(ServiceCommandsTest, TheSameCommandAgainLetsTheExchangeGoOn) {
+    Choose("MnuProgramTestMode");
+    fakes.clock.Advance(110);
+    Choose("MnuProgramTestMode");
+    fakes.clock.Advance(1000);
+    EXPECT_NE(Find<TestForm>("TestForm"), nullptr);
+    EXPECT_EQ(std::count(sent.begin(), sent.end(), "54 55 4E 49 4E 47 20"), 1);
+}
+
+TEST_F(ServiceCommandsTest, RadioInformationTakesThePlaceOfAnEntryIntoTestMode) {
+    Choose("MnuProgramTestMode");
+    fakes.clock.Advance(110);
+    Choose("MnuToolRadioInformation");
+    EXPECT_EQ(Text("LabExchange"), "Reading radio information: 0 %");
+    fakes.clock.Advance(1000);
+    EXPECT_NE(Find<DJJInfoForm>("DJJInfoForm"), nullptr);
+    EXPECT_EQ(Find<TestForm>("TestForm"), nullptr);
 }
 
 TEST_F(ServiceCommandsTest, ADialogThatWasOpenedMeanwhileComesFirst) {

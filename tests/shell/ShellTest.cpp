@@ -6,8 +6,21 @@
 #include <QMenuBar>
 #include <QTimer>
 #include <QToolButton>
+#include <QWindow>
 
 namespace zelvor {
+
+namespace {
+
+/// Clicks as the window system does: the toolkit finds who gets it, and an open menu follows the pointer there.
+void ClickInWindow(const QWidget& widget, const QPoint& place) {
+    QWindow* top = widget.window()->windowHandle();
+    const QPoint point = widget.mapTo(widget.window(), place);
+    QTest::mouseMove(top, point);
+    QTest::mouseClick(top, Qt::LeftButton, {}, point);
+}
+
+} // namespace
 
 void ShellTest::OpenMainWindow() {
     window = std::make_unique<MDIForm1>(session, fakes.Get());
@@ -34,9 +47,9 @@ void ShellTest::Choose(const std::string& name) {
             continue;
         }
         ASSERT_TRUE(title->isVisible() && entry->isVisible() && entry->isEnabled()) << name;
-        QTest::mouseClick(window->menuBar(), Qt::LeftButton, {}, window->menuBar()->actionGeometry(title).center());
+        ClickInWindow(*window->menuBar(), window->menuBar()->actionGeometry(title).center());
         ASSERT_TRUE(menu->isVisible()) << name;
-        QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(entry).center());
+        ClickInWindow(*menu, menu->actionGeometry(entry).center());
         return;
     }
     FAIL() << name << " is in no menu";
@@ -50,9 +63,13 @@ void ShellTest::ClickToolbar(int index) {
 
 void ShellTest::ChooseDialog(const std::string& name, const std::function<void(QWidget&)>& whileUp) {
     bool wasShown = false;
-    QTimer::singleShot(0, window.get(), [&] {
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
         QWidget* dialog = QApplication::activeModalWidget();
-        ASSERT_NE(dialog, nullptr) << name;
+        if (!dialog || !dialog->isVisible()) {
+            return; // the menu is still open
+        }
+        poll.stop();
         wasShown = true;
         whileUp(*dialog);
         if (QWidget* left = QApplication::activeModalWidget()) {
@@ -60,6 +77,7 @@ void ShellTest::ChooseDialog(const std::string& name, const std::function<void(Q
             left->close();
         }
     });
+    poll.start();
     Choose(name);
     EXPECT_TRUE(wasShown) << name;
     window->activateWindow();

@@ -25,5 +25,21 @@ TEST(TilePlacesTest, NoWindowHasNoPlace) {
     EXPECT_TRUE(TilePlaces({900, 600}, 0, Qt::Vertical).empty());
 }
 
+TEST(CascadeCornersTest, EachLiesATitleBarFurther) {
+    const std::vector<QPoint> expected{{0, 0}, {24, 24}, {48, 48}};
+    EXPECT_EQ(CascadeCorners({900, 600}, 3, 24), expected);
+}
+
+TEST(CascadeCornersTest, ALowAreaHasThemInRowsSideBySide) {
+    // Room for two title bars above the lowest window.
+    const std::vector<QPoint> expected{{0, 0}, {20, 20}, {300, 0}, {320, 20}, {600, 0}};
+    EXPECT_EQ(CascadeCorners({900, 80}, 5, 20), expected);
+}
+
+TEST(CascadeCornersTest, NoWindowHasNoCorner) {
+    EXPECT_TRUE(CascadeCorners({900, 600}, 0, 24).empty());
+    EXPECT_EQ(CascadeCorners({10, 10}, 2, 24).size(), 2U);
+}
+
 } // namespace
 } // namespace zelvor

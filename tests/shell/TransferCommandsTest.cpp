@@ -2,6 +2,7 @@
 #include <QMdiSubWindow>
 #include <QTableWidget>
 #include <QTimer>
+#include <algorithm>
 
 #include "link/ScriptedRadio.h"
 #include "shell/ShellTest.h"

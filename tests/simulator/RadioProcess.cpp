@@ -48,7 +48,8 @@ RadioProcess::RadioProcess(const std::filesystem::path& configDirectory, const s
 }
 
 RadioProcess::~RadioProcess() {
-    if (process_ > 0) {
+    Signal(SIGTERM);
+    if (ExitCode() < 0 && process_ > 0) {
         ::kill(process_, SIGKILL);
         ::waitpid(process_, nullptr, 0);
     }
@@ -67,7 +68,9 @@ bool RadioProcess::WaitFor(const std::filesystem::path& path, const std::string&
 }
 
 void RadioProcess::Signal(int signal) const {
-    ::kill(process_, signal);
+    if (process_ > 0) {
+        ::kill(process_, signal);
+    }
 }
 
 int RadioProcess::ExitCode() {

@@ -9,7 +9,8 @@
 
 namespace zelvor::test {
 
-/// A running zelvor-radio with a configuration directory of its own. Killed with the object if it still runs.
+/// A running zelvor-radio with a configuration directory of its own. Ended with the object, so that it takes its link
+/// away, and killed where it does not end.
 class RadioProcess {
 public:
     RadioProcess(const std::filesystem::path& configDirectory, const std::vector<std::string>& arguments);

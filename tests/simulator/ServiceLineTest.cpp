@@ -1,5 +1,6 @@
 // The service protocol with the timing and the faults of the line, on virtual time.
 
+#include <chrono>
 #include <gtest/gtest.h>
 
 #include "RadioLineRig.h"

@@ -181,12 +181,51 @@ TEST_F(ZelvorRadioTest, ReplacesAStaleLinkAndLeavesASuccessorsLinkAlone) {
     fs::create_symlink("/dev/pts/gone", Link());
     RadioProcess first(directory, {});
     ASSERT_TRUE(first.WaitForOut("ready: "));
+    fs::remove(Link()); // as a user does who wants the number for another one
     RadioProcess second(directory, {});
     ASSERT_TRUE(second.WaitForOut("ready: "));
     first.Signal(SIGTERM);
     EXPECT_EQ(first.ExitCode(), 0);
     const TerminalHost host(Link());
     EXPECT_EQ(host.Ask(Text("PROGRAM"), 1), Acknowledged);
+}
+
+TEST_F(ZelvorRadioTest, RefusesANumberThatTheUserHasLinkedAndLeavesTheLinkAlone) {
+    fs::create_directories(Link().parent_path());
+    fs::create_symlink("/dev/null", Link());
+    std::string complaint;
+    EXPECT_EQ(ExitCodeOf({"--port", "1"}, complaint), 2);
+    EXPECT_EQ(complaint, "zelvor-radio: COM1 is taken: " + Link().string() +
+                             " points to /dev/null; remove that link, or choose another --port\n");
+    EXPECT_EQ(fs::read_symlink(Link()), "/dev/null");
+}
+
+TEST_F(ZelvorRadioTest, RefusesTheNumberOfARadioThatRunsAndLeavesItAlone) {
+    RadioProcess first(directory, {});
+    ASSERT_TRUE(first.WaitForOut("ready: "));
+    const fs::path terminal = fs::read_symlink(Link());
+    std::string complaint;
+    EXPECT_EQ(ExitCodeOf({}, complaint), 2);
+    EXPECT_NE(complaint.find(terminal.string()), std::string::npos) << complaint;
+    EXPECT_EQ(fs::read_symlink(Link()), terminal);
+    const TerminalHost host(Link());
+    EXPECT_EQ(host.Ask(Text("PROGRAM"), 1), Acknowledged);
+}
+
+TEST_F(ZelvorRadioTest, AUsersLinkToACableThatIsNotPluggedInComesBackAtTheEnd) {
+    fs::create_directories(Link().parent_path());
+    fs::create_symlink("/dev/cable that is out", Link());
+    RadioProcess radio(directory, {"--fault", "unplug@1", "--unplugged", "100"});
+    ASSERT_TRUE(radio.WaitForOut("ready: "));
+    {
+        const TerminalHost host(Link());
+        host.Send(Text("PROGRAM"));
+    }
+    ASSERT_TRUE(radio.WaitForErr("plugged in again: COM1"));
+    EXPECT_EQ(fs::read_symlink(Link()).string().substr(0, 9), "/dev/pts/");
+    radio.Signal(SIGTERM);
+    EXPECT_EQ(radio.ExitCode(), 0);
+    EXPECT_EQ(fs::read_symlink(Link()), "/dev/cable that is out");
 }
 
 TEST_F(ZelvorRadioTest, DoesNotReplaceAFileByItsLink) {
@@ -219,7 +258,7 @@ TEST_F(ZelvorRadioTest, SaysNothingOfAPortThatIsSetRightly) {
     EXPECT_EQ(radio.Err(), "");
 }
 
-TEST_F(ZelvorRadioTest, RefusesBadArgumentsWithUsageAndCodeTwo) {
+TEST_F(ZelvorRadioTest, RefusesBadArgumentsWithOneLineAHintAndCodeTwo) {
     const std::vector<std::vector<std::string>> bad{
         {"--port", "0"},
         {"--port", "21"},
@@ -228,6 +267,11 @@ TEST_F(ZelvorRadioTest, RefusesBadArgumentsWithUsageAndCodeTwo) {
         {"--fault", "explode@17"},
         {"--fault", "drop"},
         {"--fault", "cut@17"},
+        {"--fault", "cut:1@1"},
+        {"--fault", "cut:8@2"},
+        {"--fault", "cut:8@3"},
+        {"--fault", "cut:68@4"},
+        {"--fault", "cut:999@17"},
         {"--fault", "drop@1", "drop@2"},
         {"--unplugged", "-1"},
         {"--nonsense"},
@@ -236,7 +280,9 @@ TEST_F(ZelvorRadioTest, RefusesBadArgumentsWithUsageAndCodeTwo) {
     for (const auto& arguments : bad) {
         std::string complaint;
         EXPECT_EQ(ExitCodeOf(arguments, complaint), 2) << arguments.back();
-        EXPECT_NE(complaint.find("--trace"), std::string::npos) << "no usage for " << arguments.back();
+        const std::size_t hint = complaint.find('\n') + 1;
+        EXPECT_EQ(complaint.substr(0, 14), "zelvor-radio: ") << complaint;
+        EXPECT_EQ(complaint.substr(hint), "Try \"zelvor-radio --help\".\n") << complaint;
     }
     EXPECT_FALSE(fs::exists(Link()));
 }
@@ -261,11 +307,40 @@ TEST_F(ZelvorRadioTest, HelpAndVersionGoToStandardOutput) {
 }
 
 TEST_F(ZelvorRadioTest, ASaveThatFailsIsCodeOne) {
-    RadioProcess radio(directory, {"--save", (directory / "no" / "such" / "place.dat").string()});
+    const fs::path folder = directory / "place";
+    fs::create_directory(folder);
+    RadioProcess radio(directory, {"--save", (folder / "place.dat").string()});
     ASSERT_TRUE(radio.WaitForOut("ready: "));
+    fs::remove(folder);
     radio.Signal(SIGTERM);
     EXPECT_EQ(radio.ExitCode(), 1);
     EXPECT_NE(radio.Err().find("place.dat"), std::string::npos);
+}
+
+TEST_F(ZelvorRadioTest, TellsAtItsStartThatItCannotSave) {
+    for (const fs::path& place : {directory / "no" / "such" / "place.dat", directory, fs::path("/proc/place.dat")}) {
+        std::string complaint;
+        EXPECT_EQ(ExitCodeOf({"--save", place.string()}, complaint), 2) << place;
+        EXPECT_EQ(complaint, "zelvor-radio: cannot write " + place.string() + "\n");
+    }
+    EXPECT_FALSE(fs::exists(Link()));
+}
+
+TEST_F(ZelvorRadioTest, LeavesTheFileToSaveAsItIsUntilItSaves) {
+    const fs::path fresh = directory / "fresh.dat";
+    const fs::path old = MakeDataFile("old.dat", 'x');
+    const Bytes before = FileBytes(old);
+    RadioProcess first(directory, {"--save", fresh.string()});
+    ASSERT_TRUE(first.WaitForOut("ready: "));
+    EXPECT_FALSE(fs::exists(fresh));
+    RadioProcess second(directory, {"--port", "2", "--save", old.string()});
+    ASSERT_TRUE(second.WaitForOut("ready: "));
+    EXPECT_EQ(FileBytes(old), before);
+}
+
+TEST_F(ZelvorRadioTest, TakesCutsThatLeaveSomethingOut) {
+    RadioProcess radio(directory, {"--fault", "cut:7@2", "--fault", "cut:67@4", "--fault", "cut:33@17"});
+    EXPECT_TRUE(radio.WaitForOut("ready: "));
 }
 
 TEST_F(ZelvorRadioTest, TracesEveryExchangeInHexadecimal) {

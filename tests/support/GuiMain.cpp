@@ -8,9 +8,11 @@ namespace {
 
 constexpr auto OnlyOwner = QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner;
 
-// One screen that holds the largest window, at 96 dots an inch.
-constexpr auto OffscreenScreen = R"({"screens": [{"name": "Screen", "x": 0, "y": 0, "width": 1600, "height": 1200,
-    "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})";
+// One screen that holds the largest window, and beside it a small one: 1280 x 800 at 300 %. Both at 96 dots an inch.
+constexpr auto OffscreenScreen = R"({"screens": [
+    {"name": "Screen", "x": 0, "y": 0, "width": 1600, "height": 1200, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1},
+    {"name": "Small", "x": 1600, "y": 0, "width": 427, "height": 267, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}
+]})";
 
 QByteArray MakeFolder(const QTemporaryDir& home, const QString& name) {
     const QString path = home.filePath(name);

@@ -24,6 +24,7 @@ public:
     MessageAnswer Show(const Message& message) override {
         constexpr int thought = 300; // milliseconds, in which a late reply comes to its end
         shown.push_back(message);
+        wasEarly = wasEarly || (radio != nullptr && radio->Err().find(" fired") == std::string::npos);
         clock_.WaitProcessingEvents(thought);
         if (radio != nullptr && radio->Err().find("unplugged") != std::string::npos) {
             EXPECT_TRUE(radio->WaitForErr("plugged in again"));
@@ -33,6 +34,7 @@ public:
 
     RadioProcess* radio = nullptr;
     std::vector<Message> shown;
+    bool wasEarly = false; // prompted before a fault has fired: the machine is busy
 
 private:
     Clock& clock_;
@@ -44,6 +46,8 @@ public:
     void OnExchangeDone() override {}
     void OnInformationReady() override { isInformationReady = true; }
     void OnTestModeReady() override { isTestModeReady = true; }
+    void OnProgress(int /*replies*/, int /*all*/) override {}
+    void OnExchangeEnded() override {}
 
     std::string information;
     bool isInformationReady = false;

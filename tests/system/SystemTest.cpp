@@ -46,8 +46,43 @@ void SystemTest::Start(const QStringList& faults, const QStringList& radioArgume
     for (const QString& fault : faults) {
         arguments << "--fault" << fault;
     }
+    radio_.reset(); // an earlier one has the port
     radio_ = std::make_unique<tour::RadioProgram>(ZELVOR_RADIO_PROGRAM, directory.filePath("radio.dat"), arguments);
-    program_ = std::make_unique<tour::Program>(windows_);
+    if (!program_) {
+        program_ = std::make_unique<tour::Program>(windows_);
+    }
+}
+
+void SystemTest::ReadUntil(const QString& fault, const QStringList& radioArguments) {
+    MeetFault(fault, radioArguments, &SystemTest::BeginRead);
+}
+
+void SystemTest::WriteUntil(const QString& fault, const QStringList& radioArguments) {
+    MeetFault(fault, radioArguments, &SystemTest::BeginWrite);
+}
+
+void SystemTest::MeetFault(const QString& fault, const QStringList& radioArguments, void (SystemTest::*begin)()) {
+    for (;;) { // ends at the latest when the script's time is up
+        Start({fault}, radioArguments);
+        (this->*begin)();
+        ExpectPrompt();
+        if (HasFired(fault)) {
+            return;
+        }
+        CancelTransfer();
+    }
+}
+
+void SystemTest::RetryUntil(const QString& fault) {
+    ExpectPrompt();
+    while (!HasFired(fault)) {
+        Retry();
+        ExpectPrompt();
+    }
+}
+
+bool SystemTest::HasFired(const QString& fault) {
+    return radio_->PrintsSoon("fault " + fault.toUtf8() + " fired");
 }
 
 void SystemTest::BeginRead() {
@@ -65,7 +100,12 @@ void SystemTest::Begin(Qt::Key entry, const QString& caption) {
     user_.Click("cmdOK");
 }
 
+bool SystemTest::IsPrompted() {
+    return boxes_.TextOfNext() == English().noConnection.text;
+}
+
 void SystemTest::ExpectPrompt() {
+    static_cast<void>(IsPrompted()); // has the patience
     boxes_.Expect(English().noConnection);
 }
 
@@ -88,6 +128,9 @@ void SystemTest::ExpectWriteCompleted() {
 }
 
 void SystemTest::ExpectCompleted(const tour::Box& box) {
+    while (IsPrompted()) {
+        Retry();
+    }
     boxes_.Expect(box);
     boxes_.Answer(QMessageBox::Ok);
     boxes_.WaitUntilGone("ConnectForm");

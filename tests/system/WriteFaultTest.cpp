@@ -10,10 +10,7 @@ class WriteFault : public SystemTest, public ::testing::WithParamInterface<const
 
 TEST_P(WriteFault, PromptsAndRetryWritesAll) {
     Script([this] {
-        Start({GetParam()});
-        BeginWrite();
-        ExpectPrompt();
-        Radio().WaitForText(QByteArray("fault ") + GetParam() + " fired");
+        WriteUntil(GetParam());
         Retry();
         ExpectWriteCompleted();
         ExpectBlankWritten();
@@ -29,9 +26,7 @@ class WriteTest : public SystemTest {};
 
 TEST_F(WriteTest, CancelClosesAndTheNextWriteWorks) {
     Script([this] {
-        Start({"corrupt@20"});
-        BeginWrite();
-        ExpectPrompt();
+        WriteUntil("corrupt@20");
         CancelTransfer();
         BeginWrite();
         ExpectWriteCompleted();
@@ -41,9 +36,7 @@ TEST_F(WriteTest, CancelClosesAndTheNextWriteWorks) {
 
 TEST_F(WriteTest, ACancelledReadDoesNotHinderAWrite) {
     Script([this] {
-        Start({"drop@1"});
-        BeginRead();
-        ExpectPrompt();
+        ReadUntil("drop@1");
         CancelTransfer();
         BeginWrite();
         ExpectWriteCompleted();

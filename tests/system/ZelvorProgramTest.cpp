@@ -1,11 +1,13 @@
 // The program zelvor as a process.
 
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QThread>
 #include <csignal>
+#include <sys/stat.h>
 
 #include <gtest/gtest.h>
 
@@ -17,9 +19,9 @@ constexpr int PatienceMilliseconds = 10000;
 class ZelvorProgramTest : public ::testing::Test {
 protected:
     void Start(const QStringList& arguments = {}) {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert("XDG_CONFIG_HOME", config.path());
         environment.insert("QT_QPA_PLATFORM", "offscreen");
+        environment.insert("LC_ALL", locale);
         zelvor.setProcessEnvironment(environment);
         zelvor.start(ZELVOR_PROGRAM, arguments);
         ASSERT_TRUE(zelvor.waitForStarted(PatienceMilliseconds));
@@ -59,6 +61,8 @@ protected:
     }
 
     QTemporaryDir config;
+    QString locale = "C.UTF-8";
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     QProcess zelvor;
 };
 
@@ -79,6 +83,15 @@ TEST_F(ZelvorProgramTest, StaysUntilItIsEndedAndSaysNothing) {
     EXPECT_EQ(zelvor.readAllStandardOutput(), "");
 }
 
+TEST_F(ZelvorProgramTest, SaysNothingOfALocaleThatIsNotUtf8Either) {
+    locale = "C";
+    Start();
+    ASSERT_TRUE(WaitForSettings());
+    zelvor.terminate();
+    ASSERT_TRUE(zelvor.waitForFinished(PatienceMilliseconds));
+    EXPECT_EQ(Complaints(), "");
+}
+
 TEST_F(ZelvorProgramTest, AForcedEndStoresNothing) {
     Start();
     ASSERT_TRUE(WaitForSettings());
@@ -95,6 +108,43 @@ TEST_F(ZelvorProgramTest, ReadsNoCommandLine) {
     EXPECT_EQ(Complaints(), "");
     EXPECT_EQ(zelvor.readAllStandardOutput(), "");
 }
+
+#ifdef Q_OS_LINUX
+
+TEST_F(ZelvorProgramTest, SaysInBothLanguagesThatThereIsNoFontAndNothingElse) {
+    const QString fonts = config.filePath("fonts.conf");
+    {
+        QFile file(fonts);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write("<?xml version=\"1.0\"?><!DOCTYPE fontconfig SYSTEM \"fonts.dtd\"><fontconfig><cachedir>" +
+                   config.path().toUtf8() + "</cachedir></fontconfig>");
+    }
+    environment.insert("FONTCONFIG_FILE", fonts);
+    Start();
+    ASSERT_TRUE(WaitForSettings());
+    EXPECT_FALSE(zelvor.waitForFinished(500)) << "it ended by itself";
+    EXPECT_EQ(Complaints(),
+              "zelvor: no font is installed, so texts are shown as empty boxes. Please install a font, for example the "
+              "packages fonts-dejavu-core and fonts-wqy-zenhei.\n"
+              "zelvor: 系统没有安装字体，文字将显示为空框。请安装字体，例如软件包 fonts-dejavu-core 和 "
+              "fonts-wqy-zenhei。\n");
+}
+
+TEST_F(ZelvorProgramTest, StartsWithAPipeInPlaceOfItsSettings) {
+    ASSERT_TRUE(QDir(config.path()).mkdir("Zelvor"));
+    ASSERT_EQ(mkfifo(QFile::encodeName(config.filePath("Zelvor/Zelvor.ini")).constData(), 0600), 0);
+    Start();
+    QElapsedTimer waited;
+    waited.start();
+    QByteArray said;
+    while (!said.contains("This plugin") && waited.elapsed() < PatienceMilliseconds) { // a window came up
+        zelvor.waitForReadyRead(100);
+        said += zelvor.readAllStandardError();
+    }
+    EXPECT_TRUE(said.contains("This plugin")) << said.constData();
+}
+
+#endif
 
 } // namespace
 } // namespace zelvor::test

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QPushButton>
+#include <chrono>
 
 #include "tour/Checks.h"
 #include "tour/User.h"
@@ -41,6 +42,13 @@ Box Seen(const QMessageBox& box) {
 }
 
 } // namespace
+
+QString Boxes::TextOfNext() {
+    constexpr std::chrono::seconds patience(30); // of a whole transfer on a busy machine
+    windows_.WaitUntil(
+        "a message", [] { return BoxOnTop() != nullptr; }, patience);
+    return windows_.Ask([] { return BoxOnTop()->text(); });
+}
 
 void Boxes::Expect(const Box& box) {
     windows_.WaitUntil("the message \"" + box.text.toStdString() + "\"", [] { return BoxOnTop() != nullptr; });

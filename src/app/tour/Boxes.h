@@ -23,6 +23,8 @@ class Boxes {
 public:
     Boxes(WindowThread& windows, User& user) : windows_(windows), user_(user) {}
 
+    /// Waits for a message box, whatever it says; its text.
+    [[nodiscard]] QString TextOfNext();
     /// Waits for the message box and checks all of it.
     void Expect(const Box& box);
     /// Clicks a button of the message box that is up, and waits until it is gone.

@@ -62,6 +62,11 @@ QByteArray RadioProgram::Memory() {
     return MemoryOfDataFile(memoryFile_);
 }
 
+bool RadioProgram::PrintsSoon(const QByteArray& text) {
+    constexpr std::chrono::seconds moment(1);
+    return HasPrinted(text, moment);
+}
+
 void RadioProgram::WaitForText(const QByteArray& text) {
     if (!HasPrinted(text, Patience)) {
         throw Failure("the radio did not print \"" + text.toStdString() + "\" but\n" + printed_.toStdString());

@@ -23,6 +23,8 @@ public:
     /// The 1024 bytes that the radio has written out since, at the end of a session.
     [[nodiscard]] QByteArray Memory();
 
+    /// Whether the radio has printed the text, on either channel, or does so within a moment.
+    [[nodiscard]] bool PrintsSoon(const QByteArray& text);
     /// Waits until the radio has printed the text, on either channel.
     void WaitForText(const QByteArray& text);
 

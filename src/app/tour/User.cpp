@@ -10,11 +10,14 @@
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QTest>
+#include <QTimer>
 #include <QTreeWidget>
 #include <QWindow>
+#include <chrono>
 #include <memory>
 
 #include "tour/Checks.h"
+#include "tour/KeyEvents.h"
 #include "tour/WindowOnTop.h"
 #include "tour/WindowThread.h"
 
@@ -27,32 +30,19 @@ QMenuBar* MenuBar() {
     return window ? window->menuBar() : nullptr;
 }
 
-/// An open menu gets the keys, wherever the window system has the focus.
-QWindow* WindowForKeys() {
-    const QWidget* popup = QApplication::activePopupWidget();
-    if (popup) {
-        return popup->windowHandle();
-    }
-    QWindow* focus = QGuiApplication::focusWindow();
-    const QWidget* top = WindowOnTop();
-    return focus || !top ? focus : top->windowHandle();
-}
-
-void SendKey(bool press, Qt::Key key, Qt::KeyboardModifiers modifiers) {
-    if (QWindow* window = WindowForKeys()) {
-        press ? QTest::keyPress(window, key, modifiers) : QTest::keyRelease(window, key, modifiers);
-    }
-}
-
-void SendCharacter(bool press, char character) {
-    if (QWindow* window = WindowForKeys()) {
-        press ? QTest::keyPress(window, character) : QTest::keyRelease(window, character);
-    }
-}
-
 bool IsReadyForKeys() {
     const QWidget* top = WindowOnTop();
     return top && (QApplication::activeWindow() == top || QApplication::activePopupWidget());
+}
+
+/// A small window that has the keys for a moment; its closing hands them back.
+void BorrowKeys() {
+    constexpr auto moment = std::chrono::milliseconds(200);
+    auto* borrower = new QWidget(nullptr, Qt::Tool);
+    borrower->setAttribute(Qt::WA_DeleteOnClose);
+    borrower->show();
+    borrower->activateWindow();
+    QTimer::singleShot(moment, borrower, &QWidget::close);
 }
 
 /// A window manager takes its time, and activates by itself what a closed dialog leaves behind; without one, nobody
@@ -60,11 +50,12 @@ bool IsReadyForKeys() {
 void AskForKeys(QWidget& window, int timesAsked) {
     constexpr int patience = 30;
     const int firstRequest = QGuiApplication::platformName() == "offscreen" ? 0 : patience;
-    if (timesAsked == firstRequest) {
+    if (timesAsked == firstRequest || timesAsked == firstRequest + 2 * patience) {
         window.activateWindow();
     } else if (timesAsked == firstRequest + patience) {
-        // The toolkit ignores a window that gets the keys while the completer's list of a closing file dialog is up.
-        QApplication::setActiveWindow(&window);
+        // The toolkit ignores a window that gets the keys while the completer's list of a closing file dialog is up,
+        // until it gets them anew.
+        BorrowKeys();
     }
 }
 

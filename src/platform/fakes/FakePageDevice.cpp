@@ -23,19 +23,51 @@ FakePageDevice::~FakePageDevice() {
     }
 }
 
-bool FakePageDevice::ShowSetup() {
+void FakePageDevice::FindTarget(std::function<void(const PageTarget& target)> found) {
+    Tell([this, found = std::move(found)] { found(PageTarget(target_)); });
+}
+
+void FakePageDevice::AskForPrinters(std::function<void(bool isAnswered)> told) {
+    Tell([this, told = std::move(told)] { told(target_.kind != PageTarget::Kind::NoAnswer); });
+}
+
+void FakePageDevice::Tell(std::function<void()> tell) {
+    if (isHolding_) {
+        held_.push_back(std::move(tell));
+    } else {
+        tell();
+    }
+}
+
+void FakePageDevice::Answer() {
+    isHolding_ = false;
+    for (const auto& tell : std::exchange(held_, {})) {
+        tell();
+    }
+}
+
+void FakePageDevice::SetAvailable(bool isAvailable) {
+    target_ = isAvailable ? PageTarget{PageTarget::Kind::Printer, "Office"} : PageTarget{};
+}
+
+bool FakePageDevice::ShowSetup(std::string_view documentFile) {
+    setupDocuments_.emplace_back(documentFile);
     if (setups_.empty()) {
         ADD_FAILURE() << "The printer's set-up dialog was not expected";
         return false;
     }
-    const bool answer = setups_.front();
+    const auto answer = std::move(setups_.front());
     setups_.pop_front();
-    return answer;
+    if (const auto* chosen = std::get_if<PageTarget>(&answer)) {
+        target_ = *chosen;
+        return true;
+    }
+    return std::get<bool>(answer);
 }
 
 bool FakePageDevice::BeginDocument(std::string_view name) {
     EXPECT_FALSE(isInDocument_) << "A document was begun within another";
-    if (!isAvailable_) {
+    if (target_.kind != PageTarget::Kind::Printer && target_.kind != PageTarget::Kind::File) {
         return false;
     }
     isInDocument_ = true;

@@ -55,7 +55,8 @@ void FakeSerialPort::SetBinaryInput() {
 }
 
 bool FakeSerialPort::Open() {
-    if (!isOpen_ && !(ports_ && ports_->CanOpen(number_))) {
+    failure_ = isOpen_ || !ports_ ? PortFailure() : ports_->FailureOf(number_);
+    if (!isOpen_ && (!ports_ || failure_.fault != PortFault::None)) {
         Note("open failed");
         return false;
     }
@@ -171,6 +172,7 @@ void FakeSerialPorts::AllMissing() {
 void FakeSerialPorts::Present(int number) {
     missing_.erase(number);
     inUse_.erase(number);
+    groups_.erase(number);
 }
 
 void FakeSerialPorts::SetDescription(int number, PortDescription description) {
@@ -190,10 +192,20 @@ const FakePortRecord& FakeSerialPorts::Record(std::string_view objectName) const
     return latest == records_.rend() ? none : **latest;
 }
 
-bool FakeSerialPorts::CanOpen(int number) const {
+PortFailure FakeSerialPorts::FailureOf(int number) {
+    const std::string path = Describe(number).devicePath;
+    if (number < 1 || number > LastPortNumber || missing_.contains(number)) {
+        return {.fault = PortFault::Missing};
+    }
     const bool isHeld = std::ranges::any_of(
         living_, [&](const FakeSerialPort* port) { return port->isOpen_ && port->number_ == number; });
-    return number >= 1 && number <= LastPortNumber && !missing_.contains(number) && !inUse_.contains(number) && !isHeld;
+    if (isHeld || inUse_.contains(number)) {
+        return {.fault = PortFault::InUse, .devicePath = path};
+    }
+    if (const auto group = groups_.find(number); group != groups_.end()) {
+        return {.fault = PortFault::NotPermitted, .devicePath = path, .group = group->second};
+    }
+    return {};
 }
 
 } // namespace zelvor

@@ -42,6 +42,7 @@ public:
     void SetBinaryInput() override;
     [[nodiscard]] bool Open() override;
     void Close() override;
+    [[nodiscard]] PortFailure Failure() const override { return failure_; }
     [[nodiscard]] bool IsOpen() const override { return isOpen_; }
     [[nodiscard]] bool IsStale() const override { return isOpen_ && isStale_; }
     void ClearInput() override;
@@ -85,6 +86,7 @@ private:
     std::shared_ptr<FakePortRecord> record_;
     int number_ = 1;
     std::string settings_;
+    PortFailure failure_;
     bool isOpen_ = false;
     bool isStale_ = false;
     int threshold_ = 0;
@@ -103,13 +105,17 @@ public:
     [[nodiscard]] std::unique_ptr<SerialPort> Make(std::string_view objectName) override;
     /// "/dev/fake3" and "Fake port 3" unless SetDescription told otherwise; empty for a missing port.
     [[nodiscard]] PortDescription Describe(int number) override;
+    void NumberAnew() override { ++numberings_; }
+    [[nodiscard]] int Numberings() const { return numberings_; }
 
     /// Opening the port fails, and nothing is known of it.
     void Missing(int number) { missing_.insert(number); }
     void AllMissing();
     /// Another program holds the port: opening it fails.
     void InUse(int number) { inUse_.insert(number); }
-    /// There and free again.
+    /// Only members of the group may open the port, and the user is none: opening it fails.
+    void NotPermitted(int number, std::string group) { groups_[number] = std::move(group); }
+    /// There, free and permitted again.
     void Present(int number);
     void SetDescription(int number, PortDescription description);
 
@@ -124,10 +130,12 @@ public:
 private:
     friend class FakeSerialPort;
 
-    [[nodiscard]] bool CanOpen(int number) const;
+    [[nodiscard]] PortFailure FailureOf(int number);
 
     std::set<int> missing_;
     std::set<int> inUse_;
+    std::map<int, std::string> groups_; // of ports that are not permitted
+    int numberings_ = 0;
     std::map<int, PortDescription> descriptions_;
     std::vector<FakeSerialPort*> living_;
     std::vector<std::shared_ptr<FakePortRecord>> records_;

@@ -3,6 +3,7 @@
 #include "platform/Services.h"
 #include "platform/fakes/FakeClock.h"
 #include "platform/fakes/FakeFileDialogs.h"
+#include "platform/fakes/FakeFileStore.h"
 #include "platform/fakes/FakeHelpViewer.h"
 #include "platform/fakes/FakeMessageBoxes.h"
 #include "platform/fakes/FakePageDevice.h"
@@ -20,8 +21,9 @@ struct FakeServices {
     FakeClock clock;
     FakeHelpViewer help;
     FakePageDevice pages;
+    FakeFileStore store;
 
-    Services services{ports, settings, messages, files, clock, help, pages};
+    Services services{ports, settings, messages, files, clock, help, pages, store};
 
     FakeServices() = default;
     FakeServices(const FakeServices&) = delete;

@@ -1,5 +1,6 @@
 #include "simulator/program/Options.h"
 
+#include <algorithm>
 #include <iostream>
 #include <string>
 
@@ -11,7 +12,13 @@ namespace zelvor {
 namespace {
 
 std::string CheckFault(const std::string& text) {
-    if (ParseFault(text)) {
+    const std::optional<Fault> fault = ParseFault(text);
+    if (fault && fault->kind == FaultKind::Cut && fault->value >= LongestReply(fault->reply)) {
+        const std::string longest = std::to_string(LongestReply(fault->reply));
+        return "\"" + text + "\" cuts nothing off; reply " + std::to_string(fault->reply) + " has no more bytes than " +
+               longest;
+    }
+    if (fault) {
         return {};
     }
     return "\"" + text + "\" is no fault; one of drop@N, corrupt@N, cut:BYTES@N, delay:MS@N, hang@N, unplug@N is";
@@ -66,7 +73,9 @@ OptionsResult ReadOptions(int argc, char** argv) {
     } catch (const CLI::Success& request) {
         return {std::nullopt, app.exit(request)};
     } catch (const CLI::ParseError& error) {
-        std::cerr << "zelvor-radio: " << error.what() << "\n\n" << app.help();
+        std::string complaint = error.what();
+        std::ranges::replace(complaint, '\n', ' ');
+        std::cerr << "zelvor-radio: " << complaint << "\nTry \"zelvor-radio --help\".\n";
         return {std::nullopt, ExitUsage};
     }
     options.load = PathIfGiven(texts.load);

@@ -27,7 +27,8 @@ struct OptionsResult {
     int exitCode = 0;               // with this code
 };
 
-/// Reads the command line. Help and version go to standard output; a complaint with the usage to standard error.
+/// Reads the command line. Help and version go to standard output; a complaint of one line, and where to read more, to
+/// standard error.
 [[nodiscard]] OptionsResult ReadOptions(int argc, char** argv);
 
 } // namespace zelvor

@@ -6,7 +6,7 @@
 
 #include <poll.h>
 
-#include "data/DataFile.h"
+#include "simulator/program/MemoryFile.h"
 
 namespace zelvor {
 namespace {
@@ -161,7 +161,7 @@ void RadioServer::SessionEnded() {
 }
 
 bool RadioServer::Save() {
-    if (!options_.save || WriteDataFile(*options_.save, memory_)) {
+    if (!options_.save || WriteMemoryFile(*options_.save, memory_)) {
         return true;
     }
     Tell("cannot write " + options_.save->string());

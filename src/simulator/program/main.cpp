@@ -1,11 +1,16 @@
 #include <csignal>
+#include <filesystem>
 #include <iostream>
+#include <system_error>
 
+#include <fcntl.h>
 #include <sys/prctl.h>
+#include <unistd.h>
 
-#include "data/DataFile.h"
 #include "simulator/SampleRadio.h"
+#include "simulator/program/MemoryFile.h"
 #include "simulator/program/Options.h"
+#include "simulator/program/PortLink.h"
 #include "simulator/program/RadioServer.h"
 
 namespace {
@@ -36,6 +41,36 @@ sigset_t CatchStopSignals() {
     return waitMask;
 }
 
+/// Tried out, and nothing left behind: what the permissions say does not hold everywhere.
+bool CanBeWritten(const std::filesystem::path& file) {
+    std::error_code error;
+    const bool isNew = !std::filesystem::exists(file, error);
+    const int descriptor = ::open(file.c_str(), O_WRONLY | O_CREAT | O_NONBLOCK | O_CLOEXEC, 0666);
+    if (descriptor < 0) {
+        return false;
+    }
+    ::close(descriptor);
+    if (isNew) {
+        std::filesystem::remove(file, error);
+    }
+    return true;
+}
+
+/// What stands against the options on this machine, with the complaint told; false where something does.
+bool CanServe(const zelvor::Options& options) {
+    if (options.save && !CanBeWritten(*options.save)) {
+        std::cerr << "zelvor-radio: cannot write " << options.save->string() << '\n';
+        return false;
+    }
+    const zelvor::PortLink link(options.linkDirectory, options.port);
+    if (const auto occupant = link.Occupant()) {
+        std::cerr << "zelvor-radio: COM" << options.port << " is taken: " << link.Path().string() << " points to "
+                  << occupant->string() << "; remove that link, or choose another --port\n";
+        return false;
+    }
+    return true;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -46,13 +81,16 @@ int main(int argc, char** argv) {
     const zelvor::Options& options = *commandLine.options;
     zelvor::DataImage memory = zelvor::SampleRadioMemory();
     if (options.load) {
-        const zelvor::DataFileRead read = zelvor::ReadDataFile(*options.load);
+        const zelvor::DataFileRead read = zelvor::ReadMemoryFile(*options.load);
         if (read.error != zelvor::DataFileError::None) {
             std::cerr << "zelvor-radio: " << options.load->string()
                       << (read.error == zelvor::DataFileError::WrongType ? " is no data file\n" : " cannot be read\n");
             return zelvor::ExitUsage;
         }
         memory = read.image;
+    }
+    if (!CanServe(options)) {
+        return zelvor::ExitUsage;
     }
 
     const sigset_t waitMask = CatchStopSignals();

@@ -45,6 +45,11 @@ inline std::string FileContent(const std::filesystem::path& path) {
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
+inline std::string Utf8(const std::filesystem::path& path) {
+    const std::u8string text = path.u8string();
+    return {text.begin(), text.end()};
+}
+
 /// Names of the entries of a directory, in order.
 inline std::vector<std::string> EntriesOf(const std::filesystem::path& directory) {
     std::vector<std::string> names;

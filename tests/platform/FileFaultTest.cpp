@@ -15,8 +15,9 @@
 #include <string>
 #include <vector>
 
-#include "data/DataFile.h"
-#include "data/TestDirectory.h"
+#include "platform/DataFiles.h"
+#include "platform/QtFileStore.h"
+#include "support/TestDirectory.h"
 
 namespace zelvor {
 namespace {
@@ -26,6 +27,17 @@ using testing::EntriesOf;
 using testing::FileContent;
 using testing::PutFile;
 using testing::TestDirectory;
+
+/// As the window program does.
+DataFileRead ReadDataFile(const fs::path& path) {
+    QtFileStore store;
+    return zelvor::ReadDataFile(store, testing::Utf8(path));
+}
+
+bool WriteDataFile(const fs::path& path, const DataImage& image) {
+    QtFileStore store;
+    return zelvor::WriteDataFile(store, testing::Utf8(path), image);
+}
 
 // What a child process reports.
 constexpr int Refused = 0;

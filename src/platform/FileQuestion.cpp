@@ -1,0 +1,60 @@
+#include "platform/FileQuestion.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QPointer>
+
+#include "platform/QtDialogs.h"
+#include "platform/ScreenRoom.h"
+
+namespace zelvor {
+
+namespace {
+
+/// The system's dialog, if it is one, asks about the name that was typed; the toolkit then adds the suffix. So the file
+/// that would be replaced may be another one, and is asked about here. Returns whether the choice stands.
+bool ConfirmAddedSuffix(QFileDialog& dialog, const QString& file) {
+    const bool isSystems = dialog.testAttribute(Qt::WA_DontShowOnScreen);
+    if (dialog.acceptMode() != QFileDialog::AcceptSave || !isSystems || !QFileInfo::exists(file)) {
+        return true;
+    }
+    const QString suffix = dialog.defaultSuffix();
+    dialog.setDefaultSuffix(QString());
+    const QString typed = dialog.selectedFiles().value(0);
+    dialog.setDefaultSuffix(suffix);
+    if (typed == file) {
+        return true;
+    }
+    dialog.selectFile(typed); // for the next time it is shown
+    const QString question = QFileDialog::tr("%1 already exists.\nDo you want to replace it?");
+    return QMessageBox::warning(DialogParent(), dialog.windowTitle(), question.arg(QFileInfo(file).fileName()),
+                                QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
+}
+
+} // namespace
+
+std::optional<QString> FileQuestion::Ask(const std::function<void(QFileDialog& dialog)>& setUp) {
+    settings_.Review();
+    const QPointer<QFileDialog> dialog = new QFileDialog(DialogParent());
+    setUp(*dialog);
+    KeepOnScreen(*dialog);
+    QString file;
+    bool isAsking = true;
+    while (isAsking) {
+        const bool isAccepted = dialog->exec() == QDialog::Accepted;
+        if (!dialog) { // its parent went while it was up
+            return std::nullopt;
+        }
+        file = isAccepted ? dialog->selectedFiles().value(0) : QString();
+        isAsking = !file.isEmpty() && !ConfirmAddedSuffix(*dialog, file);
+        if (!dialog) {
+            return std::nullopt;
+        }
+    }
+    settings_.Review();
+    delete dialog;
+    return file.isEmpty() ? std::nullopt : std::optional(file);
+}
+
+} // namespace zelvor

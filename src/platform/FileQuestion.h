@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <optional>
+
+#include "platform/ToolkitSettings.h"
+
+class QFileDialog;
+
+namespace zelvor {
+
+/// Asks for one file with the toolkit's file dialog, which may be one of the system's. Where the dialog is for saving,
+/// the user has agreed to the replacing of the file that is returned. No left-over lock of the toolkit's is waited for.
+class FileQuestion {
+public:
+    /// Nothing where the dialog was cancelled, or went with its parent.
+    [[nodiscard]] std::optional<QString> Ask(const std::function<void(QFileDialog& dialog)>& setUp);
+
+private:
+    ToolkitSettings settings_;
+};
+
+} // namespace zelvor

@@ -1,0 +1,109 @@
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "platform/ExtendedAttributes.h"
+#include "platform/FileSystem.h"
+
+namespace zelvor {
+
+namespace {
+
+constexpr mode_t RightsBits = 07777;
+
+int AccessOf(QIODevice::OpenMode mode) {
+    if (!mode.testFlag(QIODevice::WriteOnly)) {
+        return O_RDONLY;
+    }
+    return mode.testFlag(QIODevice::ReadOnly) ? O_RDWR : O_WRONLY;
+}
+
+/// A descriptor of a regular file; -1 for all else. Without O_NONBLOCK a pipe would wait for its other end.
+int OpenRegular(const std::filesystem::path& path, int flags) {
+    const int descriptor = open(path.c_str(), flags | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    struct stat status {};
+    if (descriptor >= 0 && (fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode))) {
+        close(descriptor);
+        return -1;
+    }
+    return descriptor;
+}
+
+} // namespace
+
+QString ToolkitName(const std::filesystem::path& path) {
+    return QFile::decodeName(path.c_str());
+}
+
+bool OpenRegularFile(QFile& file, const std::filesystem::path& path, QIODevice::OpenMode mode) {
+    const int descriptor = OpenRegular(path, AccessOf(mode));
+    if (descriptor < 0) {
+        return false;
+    }
+    if (!file.open(descriptor, mode, QFileDevice::AutoCloseHandle)) {
+        close(descriptor);
+        return false;
+    }
+    return true;
+}
+
+bool HasOtherNames(const QFile& file) {
+    struct stat status {};
+    return fstat(file.handle(), &status) == 0 && status.st_nlink > 1;
+}
+
+bool TakeOverBelongings(const QFile& from, QFileDevice& to) {
+    struct stat old {};
+    struct stat fresh {};
+    if (fstat(from.handle(), &old) != 0 || fstat(to.handle(), &fresh) != 0) {
+        return false;
+    }
+    const bool isOthers = old.st_uid != fresh.st_uid || old.st_gid != fresh.st_gid;
+    if (isOthers && fchown(to.handle(), old.st_uid, old.st_gid) != 0) {
+        return false;
+    }
+    // Rights last: another owner and an access list change them.
+    return CopyExtendedAttributes(from.handle(), to.handle()) && fchmod(to.handle(), old.st_mode & RightsBits) == 0;
+}
+
+bool SyncFile(QFileDevice& file) {
+    // A file system that cannot be synced says so in other ways.
+    return file.flush() && (fsync(file.handle()) == 0 || (errno != EIO && errno != ENOSPC && errno != EDQUOT));
+}
+
+void SyncFolder(const std::filesystem::path& folder) {
+    const int descriptor = open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor >= 0) {
+        [[maybe_unused]] const int ignored = fsync(descriptor);
+        close(descriptor);
+    }
+}
+
+FileClaim::FileClaim(QFileDevice& file) : descriptor_(fcntl(file.handle(), F_DUPFD_CLOEXEC, 0)) {
+    if (descriptor_ >= 0) {
+        [[maybe_unused]] const int ignored = flock(descriptor_, LOCK_EX | LOCK_NB);
+    }
+}
+
+FileClaim::~FileClaim() {
+    if (descriptor_ >= 0) {
+        close(descriptor_);
+    }
+}
+
+void RemoveUnclaimedFile(const std::filesystem::path& path) {
+    const int descriptor = OpenRegular(path, O_RDWR | O_NOFOLLOW);
+    if (descriptor < 0) {
+        return;
+    }
+    struct stat status {};
+    const bool isOurs = fstat(descriptor, &status) == 0 && status.st_uid == geteuid();
+    if (isOurs && flock(descriptor, LOCK_EX | LOCK_NB) == 0) {
+        [[maybe_unused]] const int ignored = unlink(path.c_str());
+    }
+    close(descriptor);
+}
+
+} // namespace zelvor

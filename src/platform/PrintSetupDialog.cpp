@@ -1,0 +1,151 @@
+#include "platform/PrintSetupDialog.h"
+
+#include <QChildEvent>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QDialogButtonBox>
+#include <QLineEdit>
+#include <QPageSize>
+#include <QPushButton>
+#include <QShowEvent>
+#include <QTabWidget>
+#include <algorithm>
+#include <utility>
+
+#include "platform/NativePrinter.h"
+#include "platform/ScreenRoom.h"
+#include "platform/Toolkit.h"
+
+namespace zelvor {
+
+namespace {
+
+/// Copies, reverse order, page range and both sides of the paper, in the dialog itself.
+constexpr const char* OptionTabs = "tabs";
+
+/// Page, and behind it the jobs of the printing system.
+constexpr int PageTab = 0;
+constexpr const char* PaperList = "pageSizeCombo";
+
+// The dialog only chooses: its button must not promise to print.
+void NameButtonOk(const QPrintDialog& dialog) {
+    if (const auto* buttons = dialog.findChild<QDialogButtonBox*>()) {
+        if (QPushButton* ok = buttons->button(QDialogButtonBox::Ok)) {
+            ok->setText(QCoreApplication::translate("QPlatformTheme", "OK"));
+        }
+    }
+}
+
+void LeaveOnlyThePage(const QDialog& properties) {
+    if (auto* tabs = properties.findChild<QTabWidget*>()) {
+        for (int tab = PageTab + 1; tab < tabs->count(); ++tab) {
+            tabs->setTabEnabled(tab, false);
+        }
+    }
+}
+
+void SelectPaper(const QDialog& properties, const QPageSize& paper) {
+    auto* papers = properties.findChild<QComboBox*>(QLatin1String(PaperList));
+    for (int i = 0; papers != nullptr && i < papers->count(); ++i) {
+        if (papers->itemData(i).value<QPageSize>().isEquivalentTo(paper)) {
+            papers->setCurrentIndex(i);
+            return;
+        }
+    }
+}
+
+} // namespace
+
+PrintSetupDialog::PrintSetupDialog(QPrinter& printer, std::vector<InstalledPrinter> printers, QWidget* parent)
+    : QPrintDialog(&printer, parent), printers_(std::move(printers)), firstPrinter_(printer.printerName()),
+      firstLayout_(printer.pageLayout()), printerList_(findChild<QComboBox*>(QStringLiteral("printers"))),
+      fileName_(findChild<QLineEdit*>(QStringLiteral("filename"))) {
+    setObjectName(QStringLiteral("dlgPrint"));
+    setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
+    NameButtonOk(*this);
+    KeepOnScreen(*this);
+    if (fileName_ != nullptr) {
+        fileName_->installEventFilter(this);
+    }
+}
+
+void PrintSetupDialog::SetFile(const QString& file) {
+    if (fileName_ != nullptr) {
+        fileName_->setText(file);
+    }
+}
+
+bool PrintSetupDialog::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == fileName_ && event->type() == QEvent::EnabledChange) {
+        OfferWhatWorks();
+    }
+    return QPrintDialog::eventFilter(watched, event);
+}
+
+// The dialog of the properties is made when it is asked for.
+void PrintSetupDialog::childEvent(QChildEvent* event) {
+    QPrintDialog::childEvent(event);
+    auto* properties = event->polished() ? qobject_cast<QDialog*>(event->child()) : nullptr;
+    if (properties != nullptr) {
+        PrepareProperties(*properties);
+    }
+}
+
+void PrintSetupDialog::PrepareProperties(QDialog& properties) {
+    if (IsFileChosen()) {
+        LeaveOnlyThePage(properties);
+    } else if (IsFirstPrinterChosen()) {
+        SelectPaper(properties, firstLayout_.pageSize());
+        connect(&properties, &QDialog::accepted, this, [this] { isPaperChosen_ = true; });
+    }
+}
+
+// The toolkit gives a printer its usual paper whatever it had, unless it is chosen among the properties.
+void PrintSetupDialog::accept() {
+    QPrintDialog::accept();
+    if (result() == Accepted && IsFirstPrinterChosen() && !isPaperChosen_) {
+        printer()->setPageLayout(firstLayout_);
+    }
+}
+
+// The toolkit puts the PDF file at the end of its list when the dialog is shown.
+void PrintSetupDialog::showEvent(QShowEvent* event) {
+    QPrintDialog::showEvent(event);
+    if (printerList_ == nullptr || fileName_ == nullptr || event->spontaneous()) {
+        return;
+    }
+    if (fileLayout_) {
+        printerList_->setCurrentIndex(printerList_->count() - 1);
+        printer()->setPageLayout(*fileLayout_);
+    }
+    OfferWhatWorks();
+    connect(printerList_, &QComboBox::currentIndexChanged, this, &PrintSetupDialog::OnPrinterChosen,
+            Qt::UniqueConnection);
+}
+
+void PrintSetupDialog::OnPrinterChosen() {
+    isFirstLeft_ = true;
+    const std::string name = FromQString(printerList_->currentText());
+    const auto chosen = std::ranges::find(printers_, name, &InstalledPrinter::name);
+    if (!IsFileChosen() && chosen != printers_.end()) {
+        printer()->setPageOrientation(QPageLayout::Portrait);
+        UseOwnPaper(*printer(), *chosen);
+    }
+}
+
+void PrintSetupDialog::OfferWhatWorks() {
+    if (auto* tabs = findChild<QTabWidget*>(QLatin1String(OptionTabs))) {
+        tabs->setEnabled(!IsFileChosen());
+    }
+}
+
+// The toolkit lets the file's name be edited exactly then.
+bool PrintSetupDialog::IsFileChosen() const {
+    return fileName_ != nullptr && fileName_->isEnabled();
+}
+
+bool PrintSetupDialog::IsFirstPrinterChosen() const {
+    return printerList_ != nullptr && !IsFileChosen() && !isFirstLeft_ && printerList_->currentText() == firstPrinter_;
+}
+
+} // namespace zelvor

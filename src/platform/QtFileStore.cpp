@@ -1,0 +1,203 @@
+#include "platform/QtFileStore.h"
+
+#include <QSaveFile>
+#include <algorithm>
+#include <filesystem>
+#include <random>
+#include <regex>
+#include <system_error>
+
+#include "platform/FileSystem.h"
+
+namespace zelvor {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+using Bytes = std::span<const std::uint8_t>;
+
+constexpr qint64 CopyBlock = 64 * 1024;
+
+fs::path PathOf(const std::string& path) {
+    return {std::u8string(path.begin(), path.end())};
+}
+
+/// The file behind a chain of links, which need not exist; nothing for links in a circle.
+std::optional<fs::path> FollowLinks(fs::path path) {
+    constexpr int MostLinks = 40;
+    std::error_code error;
+    for (int i = 0; i < MostLinks; ++i) {
+        if (!fs::is_symlink(fs::symlink_status(path, error))) {
+            return path;
+        }
+        const fs::path target = fs::read_symlink(path, error);
+        if (error) {
+            return std::nullopt;
+        }
+        path = path.parent_path() / target;
+    }
+    return std::nullopt;
+}
+
+bool IsReadOnly(fs::perms permissions) {
+    constexpr fs::perms AnyWrite = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+    return (permissions & AnyWrite) == fs::perms::none;
+}
+
+/// A name beside the target that no file has: only within one folder is the last step, the renaming, indivisible.
+fs::path UnusedNameBeside(const fs::path& target) {
+    std::random_device random;
+    std::error_code ignored;
+    fs::path path;
+    do {
+        const std::uint64_t number = (static_cast<std::uint64_t>(random()) << 32U) | random();
+        path = target.parent_path() / (".zelvor-" + std::to_string(number) + ".tmp");
+    } while (fs::exists(fs::symlink_status(path, ignored)));
+    return path;
+}
+
+/// Where the system cannot make a file without a name, the toolkit puts a dot and six letters behind the name until the
+/// file is complete.
+bool IsLeftoverName(const std::string& name) {
+    return std::regex_match(name, std::regex(R"(\.zelvor-[0-9]+\.tmp(\.[A-Za-z]{6})?)"));
+}
+
+void SweepLeftovers(const fs::path& folder) {
+    std::error_code error;
+    for (auto entry = fs::directory_iterator(folder.empty() ? fs::path(".") : folder, error);
+         !error && entry != fs::directory_iterator(); entry.increment(error)) {
+        const std::u8string name = entry->path().filename().u8string();
+        if (IsLeftoverName(std::string(name.begin(), name.end()))) {
+            RemoveUnclaimedFile(entry->path());
+        }
+    }
+}
+
+bool WriteBytes(QFileDevice& file, Bytes bytes) {
+    const auto size = static_cast<qint64>(bytes.size());
+    return file.write(reinterpret_cast<const char*>(bytes.data()), size) == size;
+}
+
+bool CopyTail(QFile& from, QFileDevice& to, Bytes head) {
+    if (!from.seek(static_cast<qint64>(head.size()))) {
+        return false;
+    }
+    for (;;) {
+        const QByteArray block = from.read(CopyBlock);
+        if (block.isEmpty()) {
+            return from.atEnd() && from.error() == QFileDevice::NoError;
+        }
+        if (to.write(block) != block.size()) {
+            return false;
+        }
+    }
+}
+
+enum class Replacement {
+    Done,
+    Failed,
+    NotPossible, // the folder takes no new file, or the new file cannot be all that the old one is
+};
+
+/// old is open where there is a file to replace.
+Replacement ReplaceFile(const fs::path& target, QFile& old, Bytes bytes, FileTail tail) {
+    const fs::path name = UnusedNameBeside(target);
+    QSaveFile file(ToolkitName(name));
+    if (!file.open(QIODevice::WriteOnly)) {
+        return Replacement::NotPossible;
+    }
+    const FileClaim claim(file);
+    if (!WriteBytes(file, bytes) || (old.isOpen() && tail == FileTail::Keep &&
+                                     old.size() > static_cast<qint64>(bytes.size()) && !CopyTail(old, file, bytes))) {
+        return Replacement::Failed;
+    }
+    if (old.isOpen() && !TakeOverBelongings(old, file)) {
+        return Replacement::NotPossible;
+    }
+    if (!SyncFile(file) || !file.commit()) {
+        return Replacement::Failed;
+    }
+    old.close(); // an open file cannot be replaced everywhere
+    std::error_code error;
+    fs::rename(name, target, error);
+    if (error) {
+        std::error_code ignored;
+        fs::remove(name, ignored);
+        return Replacement::NotPossible;
+    }
+    SyncFolder(target.parent_path());
+    return Replacement::Done;
+}
+
+constexpr QIODevice::OpenMode ForUpdate = QIODevice::ReadWrite | QIODevice::Unbuffered;
+
+/// Where the disk does not take the bytes, the old ones are put back.
+bool WriteInPlace(QFile& file, Bytes bytes, FileTail tail) {
+    const qint64 oldSize = file.size();
+    const auto newSize = static_cast<qint64>(bytes.size());
+    if (!file.seek(0)) {
+        return false;
+    }
+    const QByteArray oldHead = file.read(newSize);
+    if (file.seek(0) && WriteBytes(file, bytes) && SyncFile(file)) {
+        return tail == FileTail::Keep || oldSize <= newSize || file.resize(newSize);
+    }
+    [[maybe_unused]] const bool isRestored =
+        file.seek(0) && file.write(oldHead) == oldHead.size() && file.flush() && file.resize(oldSize);
+    return false;
+}
+
+} // namespace
+
+std::optional<std::vector<std::uint8_t>> QtFileStore::Read(const std::string& path, std::size_t atMost) {
+    QFile file;
+    if (!OpenRegularFile(file, PathOf(path), QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+        return std::nullopt;
+    }
+    std::vector<std::uint8_t> bytes(atMost);
+    std::size_t count = 0;
+    while (count < atMost) {
+        const qint64 length =
+            file.read(reinterpret_cast<char*>(bytes.data() + count), static_cast<qint64>(atMost - count));
+        if (length < 0) {
+            return std::nullopt;
+        }
+        if (length == 0) {
+            break;
+        }
+        count += static_cast<std::size_t>(length);
+    }
+    bytes.resize(count);
+    return bytes;
+}
+
+bool QtFileStore::Write(const std::string& path, std::span<const std::uint8_t> bytes, FileTail tail) {
+    const std::optional<fs::path> target = FollowLinks(PathOf(path));
+    if (!target || !target->has_filename()) {
+        return false;
+    }
+    std::error_code error;
+    const fs::file_status status = fs::status(*target, error);
+    const bool exists = status.type() != fs::file_type::not_found;
+    QFile old;
+    // The bits are looked at as well, since an administrator can open a read-only file.
+    if (exists && (IsReadOnly(status.permissions()) || !OpenRegularFile(old, *target, ForUpdate))) {
+        return false;
+    }
+    SweepLeftovers(target->parent_path());
+    if (exists && HasOtherNames(old)) {
+        return WriteInPlace(old, bytes, tail);
+    }
+    switch (ReplaceFile(*target, old, bytes, tail)) {
+    case Replacement::Done:
+        return true;
+    case Replacement::Failed:
+        return false;
+    case Replacement::NotPossible:
+        return exists && (old.isOpen() || OpenRegularFile(old, *target, ForUpdate)) && WriteInPlace(old, bytes, tail);
+    }
+    return false;
+}
+
+} // namespace zelvor

@@ -1,0 +1,98 @@
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+#include "platform/QtFileStore.h"
+#include "platform/fakes/FakeFileStore.h"
+#include "support/TestDirectory.h"
+
+namespace zelvor {
+namespace {
+
+using testing::FileContent;
+using testing::PutFile;
+using testing::TestDirectory;
+using testing::Utf8;
+
+using Bytes = std::vector<std::uint8_t>;
+
+struct FakeMachine {
+    FakeFileStore store;
+
+    [[nodiscard]] static std::string Path(const char* name) { return "/folder/" + std::string(name); }
+    void Put(const char* name, const std::string& content) { store.Put(Path(name), content); }
+    [[nodiscard]] std::string Content(const char* name) const { return store.Content(Path(name)); }
+    [[nodiscard]] std::string RefusedPath() {
+        store.Refuse("/nowhere/a.dat");
+        return "/nowhere/a.dat";
+    }
+};
+
+struct RealMachine {
+    TestDirectory directory;
+    QtFileStore store;
+
+    [[nodiscard]] std::string Path(const char* name) const {
+        return Utf8(directory /
+                    std::filesystem::path(std::u8string(name, name + std::char_traits<char>::length(name))));
+    }
+    void Put(const char* name, const std::string& content) const { PutFile(Path(name), content); }
+    [[nodiscard]] std::string Content(const char* name) const { return FileContent(Path(name)); }
+    [[nodiscard]] std::string RefusedPath() const { return Path("no folder/a.dat"); }
+};
+
+template<class Machine>
+class FileStoreContract : public ::testing::Test {
+protected:
+    Machine machine_;
+};
+
+using Machines = ::testing::Types<FakeMachine, RealMachine>;
+TYPED_TEST_SUITE(FileStoreContract, Machines);
+
+TYPED_TEST(FileStoreContract, ReadsNoMoreThanItIsAskedFor) {
+    this->machine_.Put("a.dat", "abcdef");
+    EXPECT_EQ(this->machine_.store.Read(this->machine_.Path("a.dat"), 100), (Bytes{'a', 'b', 'c', 'd', 'e', 'f'}));
+    EXPECT_EQ(this->machine_.store.Read(this->machine_.Path("a.dat"), 6), (Bytes{'a', 'b', 'c', 'd', 'e', 'f'}));
+    EXPECT_EQ(this->machine_.store.Read(this->machine_.Path("a.dat"), 2), (Bytes{'a', 'b'}));
+    EXPECT_EQ(this->machine_.store.Read(this->machine_.Path("a.dat"), 0), Bytes());
+}
+
+TYPED_TEST(FileStoreContract, TellsAnEmptyFileFromNone) {
+    this->machine_.Put("empty.dat", "");
+    EXPECT_EQ(this->machine_.store.Read(this->machine_.Path("empty.dat"), 100), Bytes());
+    EXPECT_EQ(this->machine_.store.Read(this->machine_.Path("none.dat"), 100), std::nullopt);
+}
+
+TYPED_TEST(FileStoreContract, MakesAFileUnderANameInAnyScript) {
+    ASSERT_TRUE(this->machine_.store.Write(this->machine_.Path("对讲机 1.dat"), Bytes{'x', 'y'}, FileTail::Drop));
+    EXPECT_EQ(this->machine_.Content("对讲机 1.dat"), "xy");
+    EXPECT_EQ(this->machine_.store.Read(this->machine_.Path("对讲机 1.dat"), 9), (Bytes{'x', 'y'}));
+}
+
+TYPED_TEST(FileStoreContract, ReplacesAShorterFile) {
+    for (const FileTail tail : {FileTail::Drop, FileTail::Keep}) {
+        this->machine_.Put("a.dat", "a");
+        ASSERT_TRUE(this->machine_.store.Write(this->machine_.Path("a.dat"), Bytes{'x', 'y'}, tail));
+        EXPECT_EQ(this->machine_.Content("a.dat"), "xy");
+    }
+}
+
+TYPED_TEST(FileStoreContract, KeepsOrDropsTheTailOfALongerFile) {
+    this->machine_.Put("a.dat", "abcdef");
+    ASSERT_TRUE(this->machine_.store.Write(this->machine_.Path("a.dat"), Bytes{'x', 'y'}, FileTail::Keep));
+    EXPECT_EQ(this->machine_.Content("a.dat"), "xycdef");
+    ASSERT_TRUE(this->machine_.store.Write(this->machine_.Path("a.dat"), Bytes{'z'}, FileTail::Drop));
+    EXPECT_EQ(this->machine_.Content("a.dat"), "z");
+}
+
+TYPED_TEST(FileStoreContract, SaysWhereNothingCanBeReadOrWritten) {
+    const std::string path = this->machine_.RefusedPath();
+    EXPECT_EQ(this->machine_.store.Read(path, 100), std::nullopt);
+    EXPECT_FALSE(this->machine_.store.Write(path, Bytes{'x'}, FileTail::Drop));
+    EXPECT_FALSE(this->machine_.store.Write("", Bytes{'x'}, FileTail::Drop));
+}
+
+} // namespace
+} // namespace zelvor

@@ -1,0 +1,132 @@
+#include <QDialog>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QTabWidget>
+#include <functional>
+
+#include "../support/InView.h"
+#include "data/TuneItems.h"
+#include "link/ComForm.h"
+#include "link/ConnectForm.h"
+#include "print/frmPrintList.h"
+#include "service/DJJInfoForm.h"
+#include "service/TestForm.h"
+#include "service/TuningForm.h"
+#include "shell/AboutForm.h"
+#include "shell/LanguageForm.h"
+#include "shell/ModelTypeForm.h"
+#include "shell/ShellTest.h"
+
+namespace zelvor {
+namespace {
+
+using MakeDialog = std::function<QDialog*(Session&, Services&, QWidget*)>;
+
+QDialog* MakeTuning(int item, bool narrow, Session& session, Services& services, QWidget* parent) {
+    session.Service.TuneItem = item;
+    session.Service.NarrowMode = narrow;
+    return MakeTuningForm(session, services, parent);
+}
+
+/// A dialog, and how many controls the tab key comes to at least.
+std::vector<std::pair<MakeDialog, int>> Dialogs() {
+    std::vector<std::pair<MakeDialog, int>> dialogs{
+        {[](Session& session, Services&, QWidget* parent) { return new AboutForm(session, parent); }, 1},
+        {[](Session& session, Services& services, QWidget* parent) {
+             return new ModelTypeForm(session, services, parent);
+         },
+         4},
+        {[](Session& session, Services& services, QWidget* parent) {
+             return new LanguageForm(session, services, parent);
+         },
+         4},
+        {[](Session& session, Services& services, QWidget* parent) { return new ComForm(session, services, parent); },
+         3},
+        {[](Session& session, Services& services, QWidget* parent) {
+             return new ConnectForm(session, services, TransferDirection::Read, parent);
+         },
+         3},
+        {[](Session& session, Services& services, QWidget* parent) {
+             return new frmPrintList(session, services, parent);
+         },
+         12},
+        {[](Session& session, Services& services, QWidget* parent) {
+             return new DJJInfoForm(session, services, parent);
+         },
+         2},
+        {[](Session& session, Services& services, QWidget* parent) { return new TestForm(session, services, parent); },
+         6},
+    };
+    for (int item = 1; item <= TuneItemCount; ++item) {
+        for (const bool narrow : {false, true}) {
+            dialogs.emplace_back(
+                [item, narrow](Session& session, Services& services, QWidget* parent) {
+                    return MakeTuning(item, narrow, session, services, parent);
+                },
+                3);
+        }
+    }
+    return dialogs;
+}
+
+/// A main window on the smallest screen: 1280 x 800 at 300 %.
+class SmallScreenTest : public ShellTest, public ::testing::WithParamInterface<bool> {
+protected:
+    void SetUp() override {
+        const QList<QScreen*> screens = QGuiApplication::screens();
+        ASSERT_EQ(screens.size(), 2);
+        screen = screens.last();
+        ASSERT_EQ(screen->size(), QSize(427, 267));
+        if (GetParam()) {
+            OpenMainWindowInChinese();
+        } else {
+            OpenMainWindow();
+        }
+        window->setGeometry(QRect(screen->geometry().topLeft() + QPoint(0, 20), QSize(427, 240)));
+        QCoreApplication::processEvents();
+        ASSERT_EQ(window->screen(), screen);
+    }
+
+    void LookAt(QDialog& dialog, int leastControls) const {
+        const std::string name = dialog.objectName().toStdString();
+        EXPECT_EQ(dialog.screen(), screen) << name;
+        EXPECT_LE(dialog.width(), 427) << name;
+        EXPECT_LE(dialog.height(), 267 - 20) << name; // a title bar's height less
+        auto* area = dialog.findChild<QScrollArea*>();
+        ASSERT_NE(area, nullptr) << name;
+        const ScrolledView view{area->widget(), area->horizontalScrollBar(), area->verticalScrollBar(),
+                                area->viewport()->size()};
+        int controls = 0;
+        auto* tabs = dialog.findChild<QTabWidget*>();
+        for (int page = 0; page < (tabs == nullptr ? 1 : tabs->count()); ++page) {
+            if (tabs != nullptr) {
+                tabs->setCurrentIndex(page);
+            }
+            controls += ExpectTabKeyShowsControls(view, name);
+            ExpectBarsReachEverything(view, name);
+        }
+        EXPECT_GE(controls, leastControls) << name;
+    }
+
+    QScreen* screen = nullptr;
+};
+
+TEST_P(SmallScreenTest, EveryControlOfEveryDialogCanBeBroughtIntoView) {
+    for (const auto& [make, leastControls] : Dialogs()) {
+        const std::unique_ptr<QDialog> dialog(make(session, fakes.Get(), window.get()));
+        dialog->show();
+        // The dialog before may have handed the keyboard to the main window meanwhile.
+        QCoreApplication::processEvents();
+        dialog->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(dialog.get())) << dialog->objectName().toStdString();
+        if (QApplication::focusWidget() == nullptr || !dialog->isAncestorOf(QApplication::focusWidget())) {
+            dialog->findChild<QPushButton*>()->setFocus();
+        }
+        LookAt(*dialog, leastControls);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, SmallScreenTest, ::testing::Bool());
+
+} // namespace
+} // namespace zelvor
