@@ -10,15 +10,15 @@ namespace zelvor {
 
 namespace {
 
-bool IsWord(std::string_view text, int word) {
+bool IsWord(std::string_view text, Text word) {
     return text == TableText(Language::English, word) || text == TableText(Language::Chinese, word);
 }
 
-std::string Word(int word, Language language) {
+std::string Word(Text word, Language language) {
     return std::string(TableText(language, word));
 }
 
-std::string EitherWord(std::string_view text, int word, int otherwise, Language language) {
+std::string EitherWord(std::string_view text, Text word, Text otherwise, Language language) {
     return Word(IsWord(text, word) ? word : otherwise, language);
 }
 
@@ -26,10 +26,10 @@ std::string EitherWord(std::string_view text, int word, int otherwise, Language 
 std::string CorvanePttId(std::string_view text, int choice, Language language) {
     constexpr int noWord = 15;
     if (choice == 0) {
-        return Word(words::Off, language);
+        return Word(Text::Off, language);
     }
     if (choice == 1) {
-        return Word(words::Own, language);
+        return Word(Text::Own, language);
     }
     if (choice <= 1 + record::FleetListCount) {
         return FleetListText(language, choice - 1);
@@ -40,7 +40,7 @@ std::string CorvanePttId(std::string_view text, int choice, Language language) {
 std::string PttId(std::string_view text, const DataImage& image, int k, Language language) {
     switch (image.At(address::PttIdType)) {
     case record::TypeDtmf:
-        return EitherWord(text, words::On, words::Off, language);
+        return EitherWord(text, Text::On, Text::Off, language);
     case record::TypeCorvane:
         return CorvanePttId(text, image.At(address::Channel(k) + record::PttId) & 0x0F, language);
     default:
@@ -55,13 +55,13 @@ std::string TranslateCell(int column, std::string_view text, const DataImage& im
     case column::Decode:
     case column::Encode:
     case column::OptSignal:
-        return IsWord(text, words::None) ? Word(words::None, language) : std::string(text);
+        return IsWord(text, Text::None) ? Word(Text::None, language) : std::string(text);
     case column::Power:
-        return EitherWord(text, words::High, words::Low, language);
+        return EitherWord(text, Text::High, Text::Low, language);
     case column::Width:
-        return EitherWord(text, words::Wide, words::Narrow, language);
+        return EitherWord(text, Text::Wide, Text::Narrow, language);
     case column::ScanAdd:
-        return EitherWord(text, words::Yes, words::No, language);
+        return EitherWord(text, Text::Yes, Text::No, language);
     case column::PttId:
         return PttId(text, image, k, language);
     default:

@@ -9,10 +9,10 @@ namespace zelvor {
 
 namespace {
 
-std::vector<std::string> Words(Language language, std::initializer_list<int> numbers) {
+std::vector<std::string> Words(Language language, std::initializer_list<Text> names) {
     std::vector<std::string> texts;
-    for (const int number : numbers) {
-        texts.emplace_back(TableText(language, number));
+    for (const Text name : names) {
+        texts.emplace_back(TableText(language, name));
     }
     return texts;
 }
@@ -22,13 +22,13 @@ std::vector<std::string> Words(Language language, std::initializer_list<int> num
 std::vector<std::string> CellChoices(int column, const DataImage& image, Language language) {
     switch (column) {
     case column::Power:
-        return Words(language, {words::High, words::Low});
+        return Words(language, {Text::High, Text::Low});
     case column::Width:
-        return Words(language, {words::Narrow, words::Wide});
+        return Words(language, {Text::Narrow, Text::Wide});
     case column::ScanAdd:
-        return Words(language, {words::Yes, words::No});
+        return Words(language, {Text::Yes, Text::No});
     case column::OptSignal:
-        return Words(language, {words::None, words::Dtmf, words::Corvane});
+        return Words(language, {Text::None, Text::Dtmf, Text::Corvane});
     case column::PttId:
         return PttIdTexts(image, language);
     default:

@@ -252,7 +252,7 @@ void ChannelCellEditor::CommitTransmit(const QString& text) {
     ChannelTexts& texts = session_.Channels.Texts;
     if (text.isEmpty()) {
         texts.TxText.clear();
-        texts.EncText = session_.LoadText(words::None);
+        texts.EncText = session_.LoadText(Text::None);
     } else {
         texts.TxText = EnterFrequency(session_, services_, FromQString(text), FrequencyCaution).text;
     }
@@ -287,7 +287,7 @@ void ChannelCellEditor::OnSelected(const std::string& text) {
     const std::string chosen = CycleActive ? CycledText : text;
     ChannelTexts& texts = session_.Channels.Texts;
     const bool deadEncode = session_.CurrentCol == column::Encode && texts.TxText.empty();
-    const std::string value = deadEncode ? std::string(session_.LoadText(words::None)) : chosen;
+    const std::string value = deadEncode ? std::string(session_.LoadText(Text::None)) : chosen;
     texts.*GridTexts[static_cast<std::size_t>(session_.CurrentCol) - 1] = value;
     comInputStep_->PutText(ToQString(value));
     TellChoice();

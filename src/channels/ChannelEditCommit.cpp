@@ -103,7 +103,7 @@ void ChannelEditForm::CompleteNewChannel() {
 void ChannelEditForm::OnTransmitText(const QString& text) {
     EnableEncode(!text.isEmpty() && HasReceive());
     if (text.isEmpty() && HasReceive()) {
-        PutTone(*comEncode_, std::string(session_.LoadText(words::None)));
+        PutTone(*comEncode_, std::string(session_.LoadText(Text::None)));
         OnToneSelected(*comEncode_);
     }
 }
@@ -155,7 +155,7 @@ void ChannelEditForm::CommitDialog() {
         chkScanAdd_->setChecked(false);
     }
     const bool added = chkScanAdd_->isChecked();
-    Texts().ScanAddText = HasReceive() ? std::string(session_.LoadText(added ? words::Yes : words::No)) : std::string();
+    Texts().ScanAddText = HasReceive() ? std::string(session_.LoadText(added ? Text::Yes : Text::No)) : std::string();
     SetScanAdd(session_.Image, channel_, added);
     windows_.grid->EncodeChannelRow(channel_);
     session_.Channels.RefreshChannelBytes(session_.Image);

@@ -121,7 +121,7 @@ void ChannelEditForm::StoreScanAdd() {
     if (!IsLive() || !isProgrammed()) {
         return;
     }
-    Texts().ScanAddText = session_.LoadText(chkScanAdd_->isChecked() ? words::Yes : words::No);
+    Texts().ScanAddText = session_.LoadText(chkScanAdd_->isChecked() ? Text::Yes : Text::No);
     SetScanAdd(session_.Image, channel_, chkScanAdd_->isChecked());
     windows_.grid->SetCellText(channel_, column::ScanAdd, ToQString(Texts().ScanAddText));
 }

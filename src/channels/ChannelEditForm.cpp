@@ -16,6 +16,7 @@
 #include "controls/PendingEdit.h"
 #include "controls/SpinText.h"
 #include "data/MemoryMap.h"
+#include "data/OptionalFields.h"
 #include "data/ToneCodec.h"
 #include "platform/HelpTopic.h"
 #include "platform/HelpViewer.h"
@@ -105,9 +106,9 @@ void ChannelEditForm::BuildFrame() {
     fields_->setColumnStretch(0, 1);
 }
 
-void ChannelEditForm::PlaceField(const char* labelName, QLabel*& label, QWidget* field, int caption) {
+void ChannelEditForm::PlaceField(const char* labelName, QLabel*& label, QWidget* field, const FieldWord& caption) {
     const int row = fields_->rowCount();
-    label = new QLabel(caption == 0 ? QStringLiteral("PTT ID") : ToQString(session_.LoadText(caption)), frame1_);
+    label = new QLabel(ToQString(caption.In(session_.LanguageFlag)), frame1_);
     label->setObjectName(labelName);
     label->setBuddy(field);
     field->setFixedSize(FieldWidth, FieldHeight);
@@ -134,17 +135,20 @@ void ChannelEditForm::BuildFields() {
     };
     const Language language = session_.LanguageFlag;
     const auto choices = [&](int column) { return ToQStrings(CellChoices(column, session_.Image, language)); };
-    PlaceField("LabRxFreq", labRxFreq_, txtRxFreq_ = frequency("txtRxFreq"), 61);
-    PlaceField("LabTxFreq", labTxFreq_, txtTxFreq_ = frequency("txtTxFreq"), 62);
-    PlaceField("LabQTdec", labQTdec_, comDecode_ = list("ComDecode", {}), 63);
-    PlaceField("LabQTenc", labQTenc_, comEncode_ = list("ComEncode", {}), 64);
-    PlaceField("LabOptional", labOptional_, comSelSignal_ = list("ComSelSignal", choices(column::OptSignal)), 65);
-    PlaceField("LabSPmute", labSPmute_, comSPMute_ = list("ComSPMute", {}), 66);
-    PlaceField("LabTxPower", labTxPower_, comTxPower_ = list("ComTxPower", choices(column::Power)), 67);
-    PlaceField("LabWN", labWN_, comWideNarrow_ = list("ComWideNarrow", choices(column::Width)), 68);
-    PlaceField("LabBusyLock", labBusyLock_, comBusyLock_ = list("ComBusyLock", {}), 69);
-    PlaceField("LabPTTID", labPTTID_, comPTTID_ = list("ComPTTID", choices(column::PttId)), 0);
-    PlaceField("LabAutoDial", labAutoDial_, comAutoDial_ = list("ComAutoDial", NumbersTo(8)), 70);
+    PlaceField("LabRxFreq", labRxFreq_, txtRxFreq_ = frequency("txtRxFreq"), Text::ReceiveFrequency);
+    PlaceField("LabTxFreq", labTxFreq_, txtTxFreq_ = frequency("txtTxFreq"), Text::TransmitFrequency);
+    PlaceField("LabQTdec", labQTdec_, comDecode_ = list("ComDecode", {}), Text::QtDqtDecode);
+    PlaceField("LabQTenc", labQTenc_, comEncode_ = list("ComEncode", {}), Text::QtDqtEncode);
+    PlaceField("LabOptional", labOptional_, comSelSignal_ = list("ComSelSignal", choices(column::OptSignal)),
+               Text::OptionSignallingLabel);
+    PlaceField("LabSPmute", labSPmute_, comSPMute_ = list("ComSPMute", {}), Text::SpUnmute);
+    PlaceField("LabTxPower", labTxPower_, comTxPower_ = list("ComTxPower", choices(column::Power)), Text::TxPower);
+    PlaceField("LabWN", labWN_, comWideNarrow_ = list("ComWideNarrow", choices(column::Width)), Text::WideNarrow);
+    PlaceField("LabBusyLock", labBusyLock_, comBusyLock_ = list("ComBusyLock", {}), Text::BusyChannelLockout);
+    PlaceField("LabPTTID", labPTTID_, comPTTID_ = list("ComPTTID", choices(column::PttId)),
+               optional_features::PttId.label);
+    PlaceField("LabAutoDial", labAutoDial_, comAutoDial_ = list("ComAutoDial", NumbersTo(8)),
+               Text::AutodialMemoryOfChannel);
     const DependentLists plain = DependentListsOf(false, false, language);
     comSPMute_->SetEntries(ToQStrings(plain.spMute));
     comBusyLock_->SetEntries(ToQStrings(plain.busyLock));
@@ -166,17 +170,17 @@ void ChannelEditForm::BuildChecks() {
     auto* checks = new QGridLayout;
     checks->setVerticalSpacing(0);
     fields_->addLayout(checks, fields_->rowCount(), 0, 1, 2);
-    const auto check = [this, checks](const char* name, int caption, int row, int column) {
+    const auto check = [this, checks](const char* name, Text caption, int row, int column) {
         auto* box = new QCheckBox(ToQString(session_.LoadText(caption)), frame1_);
         box->setObjectName(name);
         box->setFixedHeight(22);
         checks->addWidget(box, row, column);
         return box;
     };
-    chkShift_ = check("ChkShift", 71, 0, 0);
-    chkScanAdd_ = check("ChkScanAdd", 72, 0, 1);
-    chkPriorityChannel_ = check("ChkPriorityChannel", 73, 1, 0);
-    chkYaKuo_ = check("ChkYaKuo", 74, 1, 1);
+    chkShift_ = check("ChkShift", Text::BeatShift, 0, 0);
+    chkScanAdd_ = check("ChkScanAdd", Text::ScanAdd, 0, 1);
+    chkPriorityChannel_ = check("ChkPriorityChannel", Text::IsPriorityChannel, 1, 0);
+    chkYaKuo_ = check("ChkYaKuo", Text::Compander, 1, 1);
 }
 
 void ChannelEditForm::BuildButtons() {
@@ -195,12 +199,12 @@ void ChannelEditForm::BuildButtons() {
 }
 
 void ChannelEditForm::SetTexts() {
-    const auto text = [this](int n) { return ToQString(session_.LoadText(n)); };
-    SetCaption(text(48));
-    labChannel_->setText(text(60));
-    channelSpin_->SetAccessibleName(text(60));
-    cmdOK_->setText(text(75));
-    cmdHelp_->setText(text(76));
+    const auto text = [this](Text name) { return ToQString(session_.LoadText(name)); };
+    SetCaption(text(Text::ChannelEditTitle));
+    labChannel_->setText(text(Text::Channel));
+    channelSpin_->SetAccessibleName(text(Text::Channel));
+    cmdOK_->setText(text(Text::CloseButton));
+    cmdHelp_->setText(text(Text::HelpButton));
 }
 
 void ChannelEditForm::ConnectFields() {

@@ -4,6 +4,7 @@
 
 #include "channels/ChannelWindows.h"
 #include "controls/ChildForm.h"
+#include "data/Fields.h"
 
 class QCheckBox;
 class QGridLayout;
@@ -87,7 +88,7 @@ private:
     void BuildToneLists();
     void BuildChecks();
     void BuildButtons();
-    void PlaceField(const char* labelName, QLabel*& label, QWidget* field, int caption);
+    void PlaceField(const char* labelName, QLabel*& label, QWidget* field, const FieldWord& caption);
     void SetTexts();
     void ConnectFields();
     void ConnectLists();

@@ -9,9 +9,6 @@ namespace {
 
 using namespace record;
 
-constexpr int QtDqtAndOptSig = 82;
-constexpr int QtDqtOrOptSig = 83;
-
 constexpr int BusyLockShift = 3;
 constexpr int SpMuteShift = 5;
 constexpr int SpMuteEntries = 3;
@@ -21,11 +18,11 @@ constexpr std::uint8_t NothingStored = 0xFF;
 constexpr int PttIdChoiceMask = 0x0F;
 constexpr int LastPttIdEntry = 1 + FleetListCount;
 
-std::vector<std::string> Words(Language language, const std::vector<int>& numbers) {
+std::vector<std::string> Words(Language language, const std::vector<Text>& names) {
     std::vector<std::string> texts;
-    texts.reserve(numbers.size());
-    for (const int number : numbers) {
-        texts.emplace_back(TableText(language, number));
+    texts.reserve(names.size());
+    for (const Text name : names) {
+        texts.emplace_back(TableText(language, name));
     }
     return texts;
 }
@@ -37,15 +34,15 @@ std::uint8_t WithBits(std::uint8_t byte, std::uint8_t mask, int value) {
 } // namespace
 
 DependentLists DependentListsOf(bool hasTone, bool hasSignalling, Language language) {
-    std::vector<int> spMute{hasTone ? words::QtDqt : words::Carrier};
-    std::vector<int> busyLock{words::Off, words::Carrier};
+    std::vector<Text> spMute{hasTone ? Text::QtDqt : Text::Carrier};
+    std::vector<Text> busyLock{Text::Off, Text::Carrier};
     if (hasTone) {
-        busyLock.push_back(words::QtDqt);
+        busyLock.push_back(Text::QtDqt);
     }
     if (hasSignalling) {
-        spMute.push_back(hasTone ? QtDqtAndOptSig : words::CarrierAndOptSig);
-        spMute.push_back(hasTone ? QtDqtOrOptSig : words::CarrierOrOptSig);
-        busyLock.push_back(words::OptionSignalling);
+        spMute.push_back(hasTone ? Text::QtDqtAndOptSig : Text::CarrierAndOptSig);
+        spMute.push_back(hasTone ? Text::QtDqtOrOptSig : Text::CarrierOrOptSig);
+        busyLock.push_back(Text::OptionSignalling);
     }
     return {Words(language, spMute), Words(language, busyLock)};
 }

@@ -76,9 +76,9 @@ void ChannelEditForm::ShowProgrammedChannel() {
     PutTone(*comDecode_, texts.DecText);
     PutTone(*comEncode_, texts.EncText);
     EnableEncode(!texts.TxText.empty());
-    comTxPower_->ShowEntry(texts.PowerText == session_.LoadText(words::High) ? 0 : 1);
-    comWideNarrow_->ShowEntry(texts.WidthText == session_.LoadText(words::Narrow) ? 0 : 1);
-    chkScanAdd_->setChecked(texts.ScanAddText == session_.LoadText(words::Yes));
+    comTxPower_->ShowEntry(texts.PowerText == session_.LoadText(Text::High) ? 0 : 1);
+    comWideNarrow_->ShowEntry(texts.WidthText == session_.LoadText(Text::Narrow) ? 0 : 1);
+    chkScanAdd_->setChecked(texts.ScanAddText == session_.LoadText(Text::Yes));
     ShowOptSignal();
     ShowPttId();
     EnablePriorityMark();
@@ -110,7 +110,7 @@ void ChannelEditForm::EnableChannelControls() {
     if (!session_.IsOpen(ChildWindow::ChannelEdit)) {
         return;
     }
-    const std::string none(session_.LoadText(words::None));
+    const std::string none(session_.LoadText(Text::None));
     for (QWidget* control :
          std::initializer_list<QWidget*>{txtTxFreq_, comDecode_, comSelSignal_, comSPMute_, comTxPower_, comWideNarrow_,
                                          comBusyLock_, comPTTID_, comAutoDial_, chkShift_, chkScanAdd_, chkYaKuo_}) {
@@ -159,11 +159,11 @@ void ChannelEditForm::PutTone(FieldList& list, const std::string& tone) {
 // --- The two lists that depend on others -----------------------------------------------------------------------------
 
 bool ChannelEditForm::HasTone() const {
-    return FromQString(comDecode_->currentText()) != session_.LoadText(words::None);
+    return FromQString(comDecode_->currentText()) != session_.LoadText(Text::None);
 }
 
 bool ChannelEditForm::HasSignalling() const {
-    return FromQString(comSelSignal_->currentText()) != session_.LoadText(words::None);
+    return FromQString(comSelSignal_->currentText()) != session_.LoadText(Text::None);
 }
 
 bool ChannelEditForm::AreDependentListsRight() const {
@@ -230,10 +230,10 @@ void ChannelEditForm::ShowReceiveCommit(bool hasSignal, bool asTyped) {
     const QScopedValueRollback<bool> showing(showing_, true);
     ChannelTexts& texts = Texts();
     if (!hasSignal) {
-        texts.OptSignalText = asTyped ? std::string() : std::string(session_.LoadText(words::None));
+        texts.OptSignalText = asTyped ? std::string() : std::string(session_.LoadText(Text::None));
     }
     ShowProgrammedChannel();
-    chkScanAdd_->setChecked(texts.ScanAddText != session_.LoadText(words::No));
+    chkScanAdd_->setChecked(texts.ScanAddText != session_.LoadText(Text::No));
 }
 
 void ChannelEditForm::ShowTransmitCommit() {
@@ -254,13 +254,13 @@ void ChannelEditForm::ShowCellChoice(int column) {
         PutTone(*comEncode_, texts.EncText);
         break;
     case column::Power:
-        comTxPower_->ShowEntry(texts.PowerText == session_.LoadText(words::High) ? 0 : 1);
+        comTxPower_->ShowEntry(texts.PowerText == session_.LoadText(Text::High) ? 0 : 1);
         break;
     case column::Width:
-        comWideNarrow_->ShowEntry(texts.WidthText == session_.LoadText(words::Narrow) ? 0 : 1);
+        comWideNarrow_->ShowEntry(texts.WidthText == session_.LoadText(Text::Narrow) ? 0 : 1);
         break;
     case column::ScanAdd:
-        chkScanAdd_->setChecked(texts.ScanAddText == session_.LoadText(words::Yes));
+        chkScanAdd_->setChecked(texts.ScanAddText == session_.LoadText(Text::Yes));
         break;
     case column::OptSignal:
         ShowOptSignal();

@@ -56,7 +56,7 @@ ChannelForm::ChannelForm(Session& session, Services& services, ChannelWindows& w
     session_.EditChannel = 1;
     BuildGrid();
     BuildControls();
-    SetCaption(" " + ToQString(session_.LoadText(40)));
+    SetCaption(" " + ToQString(session_.LoadText(Text::ChannelInformationOfChannel1)));
     SetTexts();
     setFocusProxy(channelGrid_);
 }
@@ -114,16 +114,16 @@ void ChannelForm::BuildToneLists() {
 }
 
 void ChannelForm::SetTexts() {
-    const auto text = [this](int n) { return ToQString(session_.LoadText(n)); };
-    cmdChannelEdit_->setText(text(59));
-    cmdClose_->setText(text(75));
-    cmdHelp_->setText(text(76));
-    labFreeArea_->setText(text(78));
+    const auto text = [this](Text name) { return ToQString(session_.LoadText(name)); };
+    cmdChannelEdit_->setText(text(Text::ChannelEditButton));
+    cmdClose_->setText(text(Text::CloseButton));
+    cmdHelp_->setText(text(Text::HelpButton));
+    labFreeArea_->setText(text(Text::FreeAreaBytes));
     labHint_->setText(ToQString(HintText.In(session_.LanguageFlag)));
     channelGrid_->SetFormat(ToQString(GridFormat.In(session_.LanguageFlag)));
     channelGrid_->FitCells(ColumnWidths(GridPlace.width()));
-    channelGrid_->setAccessibleName(text(195).trimmed());
-    labBlankChannel_->setAccessibleName(text(78));
+    channelGrid_->setAccessibleName(text(Text::ChannelInformationTitle).trimmed());
+    labBlankChannel_->setAccessibleName(text(Text::FreeAreaBytes));
 }
 
 void ChannelForm::SwitchLanguage() {

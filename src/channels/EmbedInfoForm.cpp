@@ -14,7 +14,6 @@ namespace {
 
 constexpr QSize WindowSize{5100, 2820}; // twips
 constexpr int BoxWidth = 4500;          // twips
-constexpr int CaptionNumber = 47;
 
 /// Typing ends here, although a field holds 32 characters: a longer line comes from a radio, a file or the clipboard.
 constexpr int TypingLimit = 16;
@@ -56,8 +55,8 @@ QString CharacterAt(const QString& text, qsizetype place) {
 } // namespace
 
 EmbedInfoForm::EmbedInfoForm(Session& session, Services& services, ChannelWindows& /*windows*/, QWidget* parent)
-    : FieldForm(ChildWindow::EmbeddedMessage, "EmbedInfoForm", WindowSize, "picEmbeddedMsg", CaptionNumber, session,
-                services, parent) {
+    : FieldForm(ChildWindow::EmbeddedMessage, "EmbedInfoForm", WindowSize, "picEmbeddedMsg", Text::EmbeddedMessageTitle,
+                session, services, parent) {
     BuildLines();
     LoadFields();
     Load();

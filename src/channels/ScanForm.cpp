@@ -20,7 +20,6 @@ namespace {
 
 constexpr QSize WindowSize{5175, 5895}; // twips
 
-constexpr int CaptionNumber = 142;
 constexpr int PriorityChannelDigits = 2;
 
 constexpr TextPair ErrorText{"Channel must be selected\nfrom the programmed Channel's",
@@ -42,7 +41,8 @@ int Number(const QString& text) {
 
 // The window list names this window by another text, which begins with a blank.
 ScanForm::ScanForm(Session& session, Services& services, ChannelWindows& windows, QWidget* parent)
-    : FieldForm(ChildWindow::Scan, "ScanForm", WindowSize, "picScanInfo", CaptionNumber, session, services, parent),
+    : FieldForm(ChildWindow::Scan, "ScanForm", WindowSize, "picScanInfo", Text::ScanInformation, session, services,
+                parent),
       windows_(windows) {
     windows_.scan = this;
     BuildControls();
@@ -112,7 +112,7 @@ void ScanForm::LayOut() {
 
 void ScanForm::Load() {
     QStringList modes;
-    for (const int word : scan::PriorityMode.words) {
+    for (const Text word : scan::PriorityMode.words) {
         modes.append(LoadText(word));
     }
     cboPriority_->SetEntries(modes);

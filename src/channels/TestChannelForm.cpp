@@ -20,8 +20,6 @@ namespace {
 constexpr QSize WindowSize{7440, 6480};
 constexpr QRect GridPlace{120, 120, 7200, 5640};
 
-constexpr int CaptionNumber = 46;
-
 constexpr int ReceiveColumn = 1;
 constexpr int TransmitColumn = 2;
 constexpr int FrequencyLength = 9; // "000.00000"
@@ -43,8 +41,8 @@ QRect PixelRect(const QRect& twips) {
 } // namespace
 
 TestChannelForm::TestChannelForm(Session& session, Services& services, ChannelWindows& /*windows*/, QWidget* parent)
-    : FieldForm(ChildWindow::TestFrequency, "TestChannelForm", WindowSize, {}, CaptionNumber, session, services,
-                parent),
+    : FieldForm(ChildWindow::TestFrequency, "TestChannelForm", WindowSize, {}, Text::TestFrequencyTitle, session,
+                services, parent),
       SavedBlock(TestFrequencyBlock(session.Image)) {
     Content()->setObjectName("picTestFreq");
     Panel()->resize(Panel()->width(), PixelsOfTwips(GridPlace.y() + GridPlace.height()));
@@ -80,7 +78,7 @@ void TestChannelForm::SetTexts() {
     msgTestFreq_->SetFormat(ToQString(GridFormat.In(TheSession().LanguageFlag)));
     const int eighth = PixelsOfTwips(GridPlace.width()) / 8;
     msgTestFreq_->FitCells({eighth, 3 * eighth, 3 * eighth});
-    msgTestFreq_->setAccessibleName(LoadText(185));
+    msgTestFreq_->setAccessibleName(LoadText(Text::TestFrequency));
 }
 
 void TestChannelForm::ShowTestChannel(int row) {

@@ -9,7 +9,7 @@ BoundList::BoundList(const QString& name, const ListField& field, DataImage& ima
     setObjectName(name);
     QStringList entries;
     for (const FieldWord& word : field.words) {
-        entries.append(ToQString(WordText(word, language)));
+        entries.append(ToQString(word.In(language)));
     }
     SetEntries(entries);
     connect(this, &FieldList::FocusLeft, this, &BoundList::Commit);

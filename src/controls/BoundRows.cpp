@@ -21,7 +21,7 @@ BoundSpin* BoundRows::AddSpin(const QString& name, const NumberField& field, Spi
 
 BoundList* BoundRows::AddList(const QString& name, const ListField& field, const QString& labelName) {
     auto* made = new BoundList("cbo" + name, field, session_.Image, session_.LanguageFlag, &container_);
-    Add(labelName.isEmpty() ? "lbl" + name : labelName, ToQString(LabelText(field, session_.LanguageFlag)), made);
+    Add(labelName.isEmpty() ? "lbl" + name : labelName, field.label, made);
     return made;
 }
 

@@ -22,13 +22,11 @@ namespace {
 
 constexpr int Margin = 12;
 constexpr QSize ButtonSize(100, 30);
-constexpr int CloseText = 75;
-constexpr int HelpText = 76;
 
 } // namespace
 
 FieldForm::FieldForm(ChildWindow window, std::string_view objectName, QSize contentTwips, std::string_view panelName,
-                     int caption, Session& session, Services& services, QWidget* parent)
+                     Text caption, Session& session, Services& services, QWidget* parent)
     : ChildForm(window, objectName, contentTwips, parent), session_(session), services_(services),
       panel_(new QFrame(Content())) {
     panel_->setObjectName(ToQString(panelName));
@@ -40,8 +38,8 @@ FieldForm::~FieldForm() {
     DropPendingEdit(*this);
 }
 
-QString FieldForm::LoadText(int n) const {
-    return ToQString(session_.LoadText(n));
+QString FieldForm::LoadText(Text name) const {
+    return ToQString(session_.LoadText(name));
 }
 
 void FieldForm::LoadFields() {
@@ -81,8 +79,8 @@ void FieldForm::focusInEvent(QFocusEvent* event) {
 }
 
 void FieldForm::BuildButtons() {
-    const auto button = [this](const char* name, int fromRight, int textNumber) {
-        auto* made = new QPushButton(LoadText(textNumber), Content());
+    const auto button = [this](const char* name, int fromRight, Text caption) {
+        auto* made = new QPushButton(LoadText(caption), Content());
         made->setObjectName(name);
         made->setGeometry({{Content()->width() - fromRight * (ButtonSize.width() + Margin),
                             Content()->height() - ButtonSize.height() - Margin},
@@ -90,8 +88,8 @@ void FieldForm::BuildButtons() {
         made->setAutoDefault(true);
         return made;
     };
-    const auto* cmdClose = button("cmdClose", 2, CloseText);
-    const auto* cmdHelp = button("cmdHelp", 1, HelpText);
+    const auto* cmdClose = button("cmdClose", 2, Text::CloseButton);
+    const auto* cmdHelp = button("cmdHelp", 1, Text::HelpButton);
     connect(cmdClose, &QPushButton::clicked, this, &FieldForm::CloseFromButton);
     connect(cmdHelp, &QPushButton::clicked, this,
             [this] { services_.help.ShowTopic(HelpTopicPath(session_.LanguageFlag, HelpPage())); });
@@ -115,8 +113,8 @@ FieldRows::FieldRows(QWidget& container, Language language, int margin, int spac
     layout_->setColumnStretch(1, 1);
 }
 
-QLabel* FieldRows::Add(const QString& labelName, int label, QWidget* control) {
-    return Add(labelName, ToQString(TableText(language_, label)), control);
+QLabel* FieldRows::Add(const QString& labelName, const FieldWord& label, QWidget* control) {
+    return Add(labelName, ToQString(label.In(language_)), control);
 }
 
 QLabel* FieldRows::Add(const QString& labelName, const QString& label, QWidget* control) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/ChildForm.h"
+#include "data/Fields.h"
 
 class QGridLayout;
 class QLabel;
@@ -22,15 +23,14 @@ public:
     [[nodiscard]] bool OpensAtOrigin() const override { return true; }
 
 protected:
-    /// caption: number of the title in the string table.
     FieldForm(ChildWindow window, std::string_view objectName, QSize contentTwips, std::string_view panelName,
-              int caption, Session& session, Services& services, QWidget* parent);
+              Text caption, Session& session, Services& services, QWidget* parent);
 
     /// The panel, and what lies on it, fill the window above the buttons. It has no layout of its own.
     [[nodiscard]] QWidget* Panel() const { return panel_; }
     [[nodiscard]] Session& TheSession() const { return session_; }
     [[nodiscard]] Services& TheServices() const { return services_; }
-    [[nodiscard]] QString LoadText(int n) const;
+    [[nodiscard]] QString LoadText(Text name) const;
 
     /// Ends the building of the window: adds the buttons, which the tab key reaches after the fields, and lets every
     /// bound control of the panel show the image: spin texts first, then lists and then check boxes, each kind in the
@@ -62,8 +62,8 @@ public:
     FieldRows(QWidget& container, Language language, int margin = 12, int spacing = 6);
 
     /// Returns the label, named and captioned, with the control as its buddy.
-    QLabel* Add(const QString& labelName, int label, QWidget* control);
-    /// The same with a text that is not in the string table.
+    QLabel* Add(const QString& labelName, const FieldWord& label, QWidget* control);
+    /// The same with a text that is made for the occasion.
     QLabel* Add(const QString& labelName, const QString& label, QWidget* control);
     /// A control without a label, over the whole width: a check box, a frame.
     void Add(QWidget* control);

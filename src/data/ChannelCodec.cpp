@@ -112,11 +112,11 @@ void ChannelCodec::DecodeChannel(const DataImage& image, Language language, int 
     workingByte13_ = ByteOf(bytes, Transmitter);
     workingByte14_ = ByteOf(bytes, PttId);
     Texts.OptSignalText = OptSignalWord(workingByte12_, language);
-    Texts.PowerText = TableText(language, (workingByte13_ & HighPowerBit) != 0 ? words::High : words::Low);
-    Texts.WidthText = TableText(language, (workingByte13_ & WideBit) != 0 ? words::Wide : words::Narrow);
+    Texts.PowerText = TableText(language, (workingByte13_ & HighPowerBit) != 0 ? Text::High : Text::Low);
+    Texts.WidthText = TableText(language, (workingByte13_ & WideBit) != 0 ? Text::Wide : Text::Narrow);
     Texts.PttIdText = PttIdWord(image.At(address::PttIdType), workingByte14_, language);
     const bool scanAdd = (image.At(ScanAddAddress(k)) & ScanAddBit(k)) != 0;
-    Texts.ScanAddText = TableText(language, scanAdd ? words::Yes : words::No);
+    Texts.ScanAddText = TableText(language, scanAdd ? Text::Yes : Text::No);
     LoadHiddenFields(image, language, k);
 }
 
@@ -145,19 +145,19 @@ void ChannelCodec::EncodeChannel(DataImage& image, Language language, int k, boo
     image.Set(at + AutoDial, Texts.AutoDialText.empty()
                                  ? AutoDialFirst
                                  : static_cast<std::uint8_t>(ValueOf(Texts.AutoDialText) + AutoDialBase));
-    if (Texts.ScanAddText == TableText(language, words::Yes)) {
+    if (Texts.ScanAddText == TableText(language, Text::Yes)) {
         SetScanAdd(image, k, true);
-    } else if (Texts.ScanAddText == TableText(language, words::No)) {
+    } else if (Texts.ScanAddText == TableText(language, Text::No)) {
         SetScanAdd(image, k, false);
     }
 }
 
 void ChannelCodec::EncodeSignalling(const DataImage& image, Language language, int k) {
-    if (Texts.OptSignalText == TableText(language, words::None)) {
+    if (Texts.OptSignalText == TableText(language, Text::None)) {
         SetBits(workingByte12_, OptSignalMask, 0);
-    } else if (Texts.OptSignalText == TableText(language, words::Dtmf)) {
+    } else if (Texts.OptSignalText == TableText(language, Text::Dtmf)) {
         SetBits(workingByte12_, OptSignalMask, OptSignalDtmf);
-    } else if (Texts.OptSignalText == TableText(language, words::Corvane)) {
+    } else if (Texts.OptSignalText == TableText(language, Text::Corvane)) {
         SetBits(workingByte12_, OptSignalMask, OptSignalCorvane);
     }
     SetBits(workingByte12_, CompanderBit, Texts.CompanderFlag ? CompanderBit : 0);
@@ -172,14 +172,14 @@ void ChannelCodec::EncodeSignalling(const DataImage& image, Language language, i
 }
 
 void ChannelCodec::EncodeTransmitter(Language language) {
-    if (Texts.PowerText == TableText(language, words::High)) {
+    if (Texts.PowerText == TableText(language, Text::High)) {
         SetBits(workingByte13_, HighPowerBit, HighPowerBit);
-    } else if (Texts.PowerText == TableText(language, words::Low)) {
+    } else if (Texts.PowerText == TableText(language, Text::Low)) {
         SetBits(workingByte13_, HighPowerBit, 0);
     }
-    if (Texts.WidthText == TableText(language, words::Wide)) {
+    if (Texts.WidthText == TableText(language, Text::Wide)) {
         SetBits(workingByte13_, WideBit, WideBit);
-    } else if (Texts.WidthText == TableText(language, words::Narrow)) {
+    } else if (Texts.WidthText == TableText(language, Text::Narrow)) {
         SetBits(workingByte13_, WideBit, 0);
     }
     SetBits(workingByte13_, BeatShiftBit, Texts.BeatShiftFlag ? BeatShiftBit : 0);
@@ -188,21 +188,21 @@ void ChannelCodec::EncodeTransmitter(Language language) {
 
 void ChannelCodec::EncodePttId(std::uint8_t pttIdType, Language language, bool& txCodeError) {
     const std::string& text = Texts.PttIdText;
-    const bool isOff = text == TableText(language, words::Off);
+    const bool isOff = text == TableText(language, Text::Off);
     if (pttIdType != TypeDtmf && pttIdType != TypeCorvane) {
         return;
     }
     if (isOff) {
         workingByte14_ = PttIdOff;
     } else if (pttIdType == TypeDtmf) {
-        if (text != TableText(language, words::On)) {
+        if (text != TableText(language, Text::On)) {
             return;
         }
         workingByte14_ = PttIdOn;
         txCodeError = true;
-    } else if (text == TableText(language, words::Own)) {
+    } else if (text == TableText(language, Text::Own)) {
         workingByte14_ = PttIdOwn;
-    } else if (text.find(TableText(language, words::FleetList)) != std::string::npos) {
+    } else if (text.find(TableText(language, Text::FleetList)) != std::string::npos) {
         const int number = ValueOf(std::string_view(text).substr(text.size() - 1));
         workingByte14_ = static_cast<std::uint8_t>(PttIdFleetBase + number);
     }
@@ -213,20 +213,20 @@ void ChannelCodec::CompleteChannelDefaults(DataImage& image, Language language, 
     if (Texts.TxText.empty()) {
         Texts.EncText.clear();
     }
-    CompleteWith(Texts.DecText, TableText(language, words::None));
-    CompleteWith(Texts.EncText, TableText(language, words::None));
-    CompleteWith(Texts.PowerText, TableText(language, words::High));
-    CompleteWith(Texts.WidthText, TableText(language, words::Wide));
-    CompleteWith(Texts.ScanAddText, TableText(language, words::Yes));
-    CompleteWith(Texts.OptSignalText, TableText(language, words::None));
+    CompleteWith(Texts.DecText, TableText(language, Text::None));
+    CompleteWith(Texts.EncText, TableText(language, Text::None));
+    CompleteWith(Texts.PowerText, TableText(language, Text::High));
+    CompleteWith(Texts.WidthText, TableText(language, Text::Wide));
+    CompleteWith(Texts.ScanAddText, TableText(language, Text::Yes));
+    CompleteWith(Texts.OptSignalText, TableText(language, Text::None));
     const std::uint8_t pttIdType = image.At(address::PttIdType);
     if (pttIdType == TypeDtmf || pttIdType == TypeCorvane) {
-        CompleteWith(Texts.PttIdText, TableText(language, words::Off));
+        CompleteWith(Texts.PttIdText, TableText(language, Text::Off));
     } else {
         Texts.PttIdText.clear();
     }
-    CompleteWith(Texts.SpMuteText, TableText(language, words::Carrier));
-    CompleteWith(Texts.BusyLockText, TableText(language, words::Off));
+    CompleteWith(Texts.SpMuteText, TableText(language, Text::Carrier));
+    CompleteWith(Texts.BusyLockText, TableText(language, Text::Off));
 
     const int at = address::Channel(k);
     image.SetBits(at + Signalling, CompanderBit, 0);

@@ -11,11 +11,11 @@ using namespace record;
 std::string_view OptSignalWord(std::uint8_t byte12, Language language) {
     switch (byte12 & OptSignalMask) {
     case 0:
-        return TableText(language, words::None);
+        return TableText(language, Text::None);
     case OptSignalDtmf:
-        return TableText(language, words::Dtmf);
+        return TableText(language, Text::Dtmf);
     case OptSignalCorvane:
-        return TableText(language, words::Corvane);
+        return TableText(language, Text::Corvane);
     default:
         return {};
     }
@@ -24,24 +24,24 @@ std::string_view OptSignalWord(std::uint8_t byte12, Language language) {
 std::string_view BusyLockWord(std::uint8_t byte12, Language language) {
     switch (byte12 & BusyLockMask) {
     case 0:
-        return TableText(language, words::Off);
+        return TableText(language, Text::Off);
     case BusyLockCarrier:
-        return TableText(language, words::Carrier);
+        return TableText(language, Text::Carrier);
     case BusyLockQtDqt:
-        return TableText(language, words::QtDqt);
+        return TableText(language, Text::QtDqt);
     default: // BusyLockOptSignal
-        return TableText(language, words::OptionSignalling);
+        return TableText(language, Text::OptionSignalling);
     }
 }
 
 std::string_view SpMuteWord(std::uint8_t byte12, Language language) {
     switch (byte12 & SpMuteMask) {
     case 0:
-        return TableText(language, words::Carrier);
+        return TableText(language, Text::Carrier);
     case SpMuteCarrierAndOptSig:
-        return TableText(language, words::CarrierAndOptSig);
+        return TableText(language, Text::CarrierAndOptSig);
     case SpMuteCarrierOrOptSig:
-        return TableText(language, words::CarrierOrOptSig);
+        return TableText(language, Text::CarrierOrOptSig);
     default:
         return {};
     }
@@ -49,19 +49,19 @@ std::string_view SpMuteWord(std::uint8_t byte12, Language language) {
 
 std::string PttIdWord(std::uint8_t type, std::uint8_t byte14, Language language) {
     if (type == TypeDtmf) {
-        return std::string(TableText(language, (byte14 & PttIdOn) == PttIdOn ? words::On : words::Off));
+        return std::string(TableText(language, (byte14 & PttIdOn) == PttIdOn ? Text::On : Text::Off));
     }
     if (type != TypeCorvane) {
         return {};
     }
     const int choice = byte14 & 0x0F;
     if (choice == 1) {
-        return std::string(TableText(language, words::Own));
+        return std::string(TableText(language, Text::Own));
     }
     if (choice >= 2 && choice <= 1 + FleetListCount) {
         return FleetListText(language, choice - 1);
     }
-    return std::string(TableText(language, words::Off));
+    return std::string(TableText(language, Text::Off));
 }
 
 std::string AutoDialWord(std::uint8_t byte15) {
@@ -69,7 +69,7 @@ std::string AutoDialWord(std::uint8_t byte15) {
 }
 
 std::string FleetListText(Language language, int n) {
-    return std::string(TableText(language, words::FleetList)) + ' ' + std::to_string(n);
+    return std::string(TableText(language, Text::FleetList)) + ' ' + std::to_string(n);
 }
 
 std::vector<std::string> PttIdTexts(const DataImage& image, Language language) {
@@ -78,12 +78,12 @@ std::vector<std::string> PttIdTexts(const DataImage& image, Language language) {
     if (type != TypeDtmf && type != TypeCorvane) {
         return texts;
     }
-    texts.emplace_back(TableText(language, words::Off));
+    texts.emplace_back(TableText(language, Text::Off));
     if (type == TypeDtmf) {
-        texts.emplace_back(TableText(language, words::On));
+        texts.emplace_back(TableText(language, Text::On));
         return texts;
     }
-    texts.emplace_back(TableText(language, words::Own));
+    texts.emplace_back(TableText(language, Text::Own));
     for (int n = 1; n <= FleetListCount; ++n) {
         texts.push_back(FleetListText(language, n));
     }

@@ -8,7 +8,6 @@ namespace zelvor::corvane {
 
 namespace {
 
-constexpr int AllText = 184;
 constexpr int ErasedNumber[] = {0xFF, 0xFFFF}; // of one byte and of two
 
 /// A number as a step from 1; 0 for an empty text.
@@ -44,7 +43,7 @@ int ReadTimer(std::string_view text) {
 }
 
 std::string ShowListNumber(int number, Language language) {
-    return number == AllNumbers ? std::string(TableText(language, AllText)) : std::to_string(number);
+    return number == AllNumbers ? std::string(TableText(language, Text::All)) : std::to_string(number);
 }
 
 std::string LoadListNumber(const DataImage& image, int n, const ListNumber& field, Language language) {

@@ -19,11 +19,11 @@ namespace zelvor::corvane {
 [[nodiscard]] int ReadDelay(std::string_view text);
 [[nodiscard]] int ReadTimer(std::string_view text);
 
-inline constexpr std::array BaudRates{FieldWord{0, "1200"}, FieldWord{0, "2400"}};
+inline constexpr std::array BaudRates{FieldWord{"1200"}, FieldWord{"2400"}};
 
 /// The radio's own number: fleets 100 to 349 and IDs 1000 to 4999 as steps from 1, and 0 for none. Both are none
 /// together.
-inline constexpr NumberField OwnFleet{.label = 178,
+inline constexpr NumberField OwnFleet{.label = Text::OwnFleet,
                                       .address = 0x170,
                                       .bytes = 1,
                                       .first = 0,
@@ -35,7 +35,7 @@ inline constexpr NumberField OwnFleet{.label = 178,
                                       .show = ShowFleet,
                                       .read = ReadFleet,
                                       .zeroByte = BlankByte};
-inline constexpr NumberField OwnId{.label = 179,
+inline constexpr NumberField OwnId{.label = Text::OwnId,
                                    .address = 0x171,
                                    .bytes = 2,
                                    .first = 0,
@@ -46,9 +46,10 @@ inline constexpr NumberField OwnId{.label = 179,
                                    .showsBlank = false,
                                    .show = ShowId,
                                    .read = ReadId};
-inline constexpr ListField BaudRate{.label = 180, .address = 0x175, .words = BaudRates, .none = BlankByte};
+inline constexpr ListField BaudRate{
+    .label = Text::CorvaneBaudRate, .address = 0x175, .words = BaudRates, .none = BlankByte};
 /// Milliseconds.
-inline constexpr NumberField DelayTime{.label = 181,
+inline constexpr NumberField DelayTime{.label = Text::DataTxModulationDelayTimer,
                                        .address = 0x173,
                                        .bytes = 2,
                                        .first = 0,
@@ -60,7 +61,7 @@ inline constexpr NumberField DelayTime{.label = 181,
                                        .show = ShowNumber,
                                        .read = ReadDelay};
 /// Seconds.
-inline constexpr NumberField MessageModeTimer{.label = 182,
+inline constexpr NumberField MessageModeTimer{.label = Text::MessageModeTimer,
                                               .address = 0x176,
                                               .bytes = 2,
                                               .first = 0,
@@ -71,10 +72,9 @@ inline constexpr NumberField MessageModeTimer{.label = 182,
                                               .showsBlank = true,
                                               .show = ShowNumberOrOff,
                                               .read = ReadTimer};
-inline constexpr CheckField SideTone{.label = 183, .address = 0x178, .blankIsOff = true};
+inline constexpr CheckField SideTone{.label = Text::PttIdSideTone, .address = 0x178, .blankIsOff = true};
 
 /// The fleet list: pairs of a fleet and an ID that a channel's PTT ID can point to.
-inline constexpr int FleetListLabel = 177;
 inline constexpr int FleetListSize = 8;
 inline constexpr int EntrySize = 3; // bytes
 

@@ -10,7 +10,6 @@ namespace zelvor::dtmf {
 
 namespace {
 
-constexpr int DCodeWord = 175;
 constexpr std::uint8_t Padding = ' ';
 
 constexpr std::array<int, 4> Speeds{6, 8, 10, 15};
@@ -84,7 +83,7 @@ int ReadDelay(std::string_view text) {
 
 std::string ShowDCode(int seconds, Language language) {
     if (seconds == 0) {
-        return std::string(TableText(language, DCodeWord));
+        return std::string(TableText(language, Text::DCode));
     }
     return seconds <= DCodeAssignment.last ? std::to_string(seconds) + 's' : std::string();
 }

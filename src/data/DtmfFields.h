@@ -12,11 +12,6 @@
 /// The DTMF settings of the image: how the radio sends and decodes digits, its two codes and its autodial memories.
 namespace zelvor::dtmf {
 
-inline constexpr int Caption = 123;
-inline constexpr int EncodeCaption = 155;
-inline constexpr int DecodeCaption = 156;
-inline constexpr int AutodialCaption = 157;
-
 [[nodiscard]] std::string ShowSpeed(int index, Language language);
 [[nodiscard]] int ReadSpeed(std::string_view text);
 [[nodiscard]] std::string ShowTime(int index, Language language);
@@ -28,50 +23,53 @@ inline constexpr int AutodialCaption = 157;
 [[nodiscard]] int ReadResetTime(std::string_view text);
 
 // Stored as a place among four texts; any other byte has no text.
-inline constexpr NumberField Speed{158, 0x110, 1, 0, 3, 1, 2, 0, true, ShowSpeed, ReadSpeed};        // digits a second
-inline constexpr NumberField FirstDigitTime{159, 0x111, 1, 0, 3, 1, 4, 0, true, ShowTime, ReadTime}; // ms
-inline constexpr NumberField Tone{161, 0x113, 1, 0, 3, 1, 4, 0, true, ShowTime, ReadTime};           // ms
+inline constexpr NumberField Speed{Text::DtmfSpeed, 0x110,    1, 0, 3, 1, 2, 0, true,
+                                   ShowSpeed,       ReadSpeed}; // digits a second
+inline constexpr NumberField FirstDigitTime{
+    Text::FirstDigitTime, 0x111, 1, 0, 3, 1, 4, 0, true, ShowTime, ReadTime};                                // ms
+inline constexpr NumberField Tone{Text::StarAndHashTone, 0x113, 1, 0, 3, 1, 4, 0, true, ShowTime, ReadTime}; // ms
 
-inline constexpr NumberField FirstDigitDelay{160, 0x112, 1,    10,        100,      5,
-                                             4,   10,    true, ShowDelay, ReadDelay};                    // tens of ms
-inline constexpr NumberField DCodeAssignment{162, 0x114, 1, 0, 16, 1, 2, 0, true, ShowDCode, ReadDCode}; // s
-inline constexpr NumberField AutoResetTimer{166, 0x117, 1, 0, 15, 1, 2, 10, true, ShowNumberOrOff, ReadResetTime}; // s
+inline constexpr NumberField FirstDigitDelay{
+    Text::FirstDigitDelay, 0x112, 1, 10, 100, 5, 4, 10, true, ShowDelay, ReadDelay}; // tens of ms
+inline constexpr NumberField DCodeAssignment{
+    Text::DCodeAssignment, 0x114, 1, 0, 16, 1, 2, 0, true, ShowDCode, ReadDCode}; // s
+inline constexpr NumberField AutoResetTimer{Text::AutoResetTimer, 0x117,        1, 0, 15, 1, 2, 10, true,
+                                            ShowNumberOrOff,      ReadResetTime}; // s
 
 /// The next of the texts that a field shows from its first to its last value, round in a circle; nothing where the text
 /// is none of them.
 [[nodiscard]] std::optional<int> NextText(const NumberField& field, std::string_view text, bool up);
 
-inline constexpr CheckField SideTone{163, 0x115};
-inline constexpr CheckField ClearToTranspond{169, 0x11A, true};
+inline constexpr CheckField SideTone{Text::DtmfSideTone, 0x115};
+inline constexpr CheckField ClearToTranspond{Text::ClearToTranspond, 0x11A, true};
 
-inline constexpr std::array<FieldWord, 7> GroupCodeWords{
-    {{words::Off}, {0, "A"}, {0, "B"}, {0, "C"}, {0, "D"}, {0, "#"}, {0, "*"}}};
+inline constexpr std::array<FieldWord, 7> GroupCodeWords{{{Text::Off}, {"A"}, {"B"}, {"C"}, {"D"}, {"#"}, {"*"}}};
 inline constexpr std::array<std::uint8_t, 7> GroupCodeBytes{0, 'A', 'B', 'C', 'D', '#', '*'};
-inline constexpr ListField GroupCode{165, 0x116, GroupCodeWords, GroupCodeBytes};
+inline constexpr ListField GroupCode{Text::GroupCode, 0x116, GroupCodeWords, GroupCodeBytes};
 
-inline constexpr std::array<FieldWord, 3> CallAlertWords{{{words::Off}, {120}, {173}}};
+inline constexpr std::array<FieldWord, 3> CallAlertWords{{{Text::Off}, {Text::Normal}, {Text::Continuous}}};
 inline constexpr std::array<std::uint8_t, 3> CallAlertBytes{2, 0, 1};
-inline constexpr ListField CallAlert{167, 0x118, CallAlertWords, CallAlertBytes};
+inline constexpr ListField CallAlert{Text::CallAlert, 0x118, CallAlertWords, CallAlertBytes};
 
-inline constexpr std::array<FieldWord, 3> TranspondWords{{{words::Off}, {174}, {164}}};
-inline constexpr ListField Transpond{168, 0x119, TranspondWords, {}, {}, ListField::NoEntry, BlankByte};
+inline constexpr std::array<FieldWord, 3> TranspondWords{{{Text::Off}, {Text::Alert}, {Text::IdCode}}};
+inline constexpr ListField Transpond{Text::Transpond, 0x119, TranspondWords, {}, {}, ListField::NoEntry, BlankByte};
 
-inline constexpr std::array<FieldWord, 2> StunTypeWords{{{0, "TX Inhibit"}, {0, "TX/RX Inhibit"}}};
+inline constexpr std::array<FieldWord, 2> StunTypeWords{{{"TX Inhibit"}, {"TX/RX Inhibit"}}};
 inline constexpr std::array<ListField::Exception, 1> StunTypeExceptions{{{BlankByte, 0}}};
-inline constexpr ListField StunType{171, 0x1FA, StunTypeWords, {}, StunTypeExceptions};
+inline constexpr ListField StunType{Text::StunType, 0x1FA, StunTypeWords, {}, StunTypeExceptions};
 
 /// A code: a character a byte, and 0xFF behind the last one.
 struct CodeField {
     static constexpr int Size = 10;
     static constexpr int LeastDigits = 3;
 
-    int label;
+    Text label;
     int address;
     bool decimal;    // ends before the first byte that is none of 0-9, not only before a 0xFF
     bool mayBeEmpty; // besides having LeastDigits or more
 };
-inline constexpr CodeField IdCode{164, 0x120, true, false};
-inline constexpr CodeField StunCode{170, 0x1F0, false, true};
+inline constexpr CodeField IdCode{Text::IdCode, 0x120, true, false};
+inline constexpr CodeField StunCode{Text::StunCode, 0x1F0, false, true};
 
 /// The code as it stands, legal or not.
 [[nodiscard]] std::u16string LoadCode(const DataImage& image, const CodeField& field);

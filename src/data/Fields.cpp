@@ -7,12 +7,8 @@
 
 namespace zelvor {
 
-std::string_view WordText(const FieldWord& word, Language language) {
-    return word.number == 0 ? word.text : TableText(language, word.number);
-}
-
-std::string_view LabelText(const ListField& field, Language language) {
-    return WordText({field.label, field.labelText}, language);
+std::string_view FieldWord::In(Language language) const {
+    return name_ ? TableText(language, *name_) : text_;
 }
 
 int EntryOf(const ListField& field, std::uint8_t byte) {
@@ -67,7 +63,7 @@ std::string ShowNumber(int value, Language /*language*/) {
 }
 
 std::string ShowNumberOrOff(int value, Language language) {
-    return value == 0 ? std::string(TableText(language, words::Off)) : std::to_string(value);
+    return value == 0 ? std::string(TableText(language, Text::Off)) : std::to_string(value);
 }
 
 char DtmfDigit(char32_t character) {

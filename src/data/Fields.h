@@ -8,21 +8,28 @@
 
 #include "data/DataImage.h"
 #include "text/Language.h"
+#include "text/Text.h"
 
 /// How a field of the image is described: once, for the windows that edit it, the report that prints it and the tests.
-/// Labels are numbers of the string table. The tables are in OptionalFields.h, KeyFields.h, DtmfFields.h and
+/// The tables are in OptionalFields.h, KeyFields.h, DtmfFields.h and
 /// CorvaneFields.h.
 namespace zelvor {
 
 /// What 0xFF stands for in most fields: nothing was ever stored.
 inline constexpr std::uint8_t BlankByte = 0xFF;
 
-/// A word of a list: an entry of the string table or, where number is 0, a text that is the same in both languages.
-struct FieldWord {
-    int number = 0;
-    std::string_view text = {};
+/// A label, or a word of a list: an entry of the string table, or a text that is the same in both languages.
+class FieldWord {
+public:
+    constexpr FieldWord(Text name) : name_(name) {}
+    constexpr FieldWord(const char* text) : text_(text) {}
+
+    [[nodiscard]] std::string_view In(Language language) const;
+
+private:
+    std::optional<Text> name_;
+    std::string_view text_;
 };
-[[nodiscard]] std::string_view WordText(const FieldWord& word, Language language);
 
 /// A byte that is one of a list of words.
 struct ListField {
@@ -34,17 +41,14 @@ struct ListField {
         int entry;
     };
 
-    int label;
+    FieldWord label;
     int address;
     std::span<const FieldWord> words;         // in list order
     std::span<const std::uint8_t> codes = {}; // the byte of each word; empty: its place in the list
     std::span<const Exception> exceptions = {};
     int otherwise = NoEntry;               // the entry that any other byte shows
     std::optional<std::uint8_t> none = {}; // stored while no entry is selected; nothing: the byte stays
-    std::string_view labelText = {};       // the label, where label is 0: the same in both languages
 };
-
-[[nodiscard]] std::string_view LabelText(const ListField& field, Language language);
 
 /// The entry that a byte shows, or NoEntry.
 [[nodiscard]] int EntryOf(const ListField& field, std::uint8_t byte);
@@ -53,7 +57,7 @@ struct ListField {
 
 /// A byte that is 0 for off and stored as 0 or 1; any other byte reads as on.
 struct CheckField {
-    int label;
+    Text label;
     int address;
     bool blankIsOff = false; // 0xFF reads as off
 };
@@ -61,7 +65,7 @@ struct CheckField {
 
 /// A number in one byte or in two, low byte first, that is shown as a text.
 struct NumberField {
-    int label;
+    Text label;
     int address;
     int bytes; // 1 or 2
     int first; // legal values

@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cstdint>
-#include <string_view>
 
 #include "data/Fields.h"
 
@@ -10,18 +9,18 @@
 namespace zelvor::key_assignment {
 
 inline constexpr std::array FunctionWords{
-    FieldWord{77},  // None
-    FieldWord{130}, // Autodial
-    FieldWord{131}, // Key Lock
-    FieldWord{132}, // Key Lock with Backup
-    FieldWord{133}, // Monitor
-    FieldWord{134}, // Monitor Momentary
-    FieldWord{135}, // Scan
-    FieldWord{136}, // Scan+Temporary Delete
-    FieldWord{137}, // Scrambler
-    FieldWord{138}, // Squelch Off
-    FieldWord{139}, // Squelch Off Momentary
-    FieldWord{140}, // Temporary Delete
+    FieldWord{Text::None},
+    FieldWord{Text::Autodial},
+    FieldWord{Text::KeyLock},
+    FieldWord{Text::KeyLockWithBackup},
+    FieldWord{Text::Monitor},
+    FieldWord{Text::MonitorMomentary},
+    FieldWord{Text::Scan},
+    FieldWord{Text::ScanAndTemporaryDelete},
+    FieldWord{Text::Scrambler},
+    FieldWord{Text::SquelchOff},
+    FieldWord{Text::SquelchOffMomentary},
+    FieldWord{Text::TemporaryDelete},
 };
 inline constexpr std::array<std::uint8_t, FunctionWords.size()> FunctionCodes{BlankByte, 0, 2, 3, 4,  5,
                                                                               6,         7, 8, 9, 10, 11};
@@ -29,14 +28,13 @@ inline constexpr std::array<std::uint8_t, FunctionWords.size()> FunctionCodes{Bl
 inline constexpr std::array FunctionExceptions{ListField::Exception{1, 1}};
 
 /// The function of a key, which has the same name in both languages. A byte beyond the list reads as None.
-[[nodiscard]] constexpr ListField FunctionOf(std::string_view key, int address) {
-    return {.label = 0,
+[[nodiscard]] constexpr ListField FunctionOf(const char* key, int address) {
+    return {.label = key,
             .address = address,
             .words = FunctionWords,
             .codes = FunctionCodes,
             .exceptions = FunctionExceptions,
-            .otherwise = 0,
-            .labelText = key};
+            .otherwise = 0};
 }
 
 inline constexpr std::array Keys{FunctionOf("PF1", 0x11D), FunctionOf("PF2", 0x11E)};

@@ -12,38 +12,36 @@
 /// store them.
 namespace zelvor::optional_features {
 
-inline constexpr CheckField ScramblerActivation{106, 0x12C};
-inline constexpr CheckField ScramblerBackup{107, 0x12D};
-inline constexpr CheckField BatterySave{104, 0x135};
-inline constexpr CheckField Beep{105, 0x136};
-inline constexpr CheckField CancelOperation{115, 0x137};
-inline constexpr CheckField VoxInhibit{117, 0x138};
-inline constexpr CheckField VoxFunction{112, 0x139};
-inline constexpr CheckField VoxProceedTone{116, 0x13C};
-inline constexpr CheckField CloneMode{119, 0x13E};
+inline constexpr CheckField ScramblerActivation{Text::ScramblerActivation, 0x12C};
+inline constexpr CheckField ScramblerBackup{Text::ScramblerBackup, 0x12D};
+inline constexpr CheckField BatterySave{Text::BatterySave, 0x135};
+inline constexpr CheckField Beep{Text::Beep, 0x136};
+inline constexpr CheckField CancelOperation{Text::CancelOperation, 0x137};
+inline constexpr CheckField VoxInhibit{Text::VoxInhibitOnReceive, 0x138};
+inline constexpr CheckField VoxFunction{Text::VoxFunction, 0x139};
+inline constexpr CheckField VoxProceedTone{Text::VoxProceedTone, 0x13C};
+inline constexpr CheckField CloneMode{Text::CloneMode, 0x13E};
 
-inline constexpr std::array<FieldWord, 3> VoiceWords{{{85}, {121}, {122}}};   // Off, English, Chinese
-inline constexpr std::array<std::uint8_t, 3> VoiceCodes{0, 2, 1};             // not in the order of the list
-inline constexpr std::array<FieldWord, 3> PttIdWords{{{126}, {127}, {125}}};  // BOT, EOT, Both
-inline constexpr std::array<FieldWord, 2> PttIdTypeWords{{{123}, {124}}};     // DTMF, Corvane
-inline constexpr std::array<FieldWord, 2> MicSensitivityWords{{{120}, {90}}}; // Normal, High
-inline constexpr std::array<FieldWord, 6> VoxDelayWords{
-    {{0, "0.3"}, {0, "0.5"}, {0, "1"}, {0, "1.5"}, {0, "2"}, {0, "3"}}};
+inline constexpr std::array<FieldWord, 3> VoiceWords{{{Text::Off}, {Text::English}, {Text::Chinese}}};
+inline constexpr std::array<std::uint8_t, 3> VoiceCodes{0, 2, 1}; // not in the order of the list
+inline constexpr std::array<FieldWord, 3> PttIdWords{{{Text::Bot}, {Text::Eot}, {Text::Both}}};
+inline constexpr std::array<FieldWord, 2> PttIdTypeWords{{{Text::DtmfExplained}, {Text::CorvaneExplained}}};
+inline constexpr std::array<FieldWord, 2> MicSensitivityWords{{{Text::Normal}, {Text::High}}};
+inline constexpr std::array<FieldWord, 6> VoxDelayWords{{{"0.3"}, {"0.5"}, {"1"}, {"1.5"}, {"2"}, {"3"}}};
 inline constexpr std::array<ListField::Exception, 1> BlankShowsNoEntry{{{BlankByte, ListField::NoEntry}}};
 
-inline constexpr ListField VoiceAnnunciation{103, 0x12F, VoiceWords, VoiceCodes};
-inline constexpr ListField PttId{
-    .label = 0, .address = 0x132, .words = PttIdWords, .none = BlankByte, .labelText = "PTT ID"};
+inline constexpr ListField VoiceAnnunciation{Text::VoiceAnnunciation, 0x12F, VoiceWords, VoiceCodes};
+inline constexpr ListField PttId{.label = "PTT ID", .address = 0x132, .words = PttIdWords, .none = BlankByte};
 inline constexpr ListField PttIdType{
-    .label = 108, .address = address::PttIdType, .words = PttIdTypeWords, .none = BlankByte};
-inline constexpr ListField VoxDelayTime{.label = 114,
+    .label = Text::PttIdType, .address = address::PttIdType, .words = PttIdTypeWords, .none = BlankByte};
+inline constexpr ListField VoxDelayTime{.label = Text::VoxDelayTime,
                                         .address = 0x13B,
                                         .words = VoxDelayWords,
                                         .exceptions = BlankShowsNoEntry,
                                         .otherwise = 0,
                                         .none = BlankByte};
 inline constexpr ListField MicSensitivity{
-    .label = 102, .address = 0x13D, .words = MicSensitivityWords, .none = BlankByte};
+    .label = Text::MicSensitivity, .address = 0x13D, .words = MicSensitivityWords, .none = BlankByte};
 
 /// Seconds of a time-out step; a stored number of steps, also an illegal one, shows as this many times its value.
 inline constexpr int TimeOutStep = 15;
@@ -55,7 +53,7 @@ inline constexpr int TimeOutStep = 15;
 /// The number as it is, since a level beyond 9 is not corrected; 9 where it is none that fits into the byte.
 [[nodiscard]] int ReadSquelchLevel(std::string_view text);
 
-inline constexpr NumberField TimeOutTimer{.label = 99,
+inline constexpr NumberField TimeOutTimer{.label = Text::TimeOutTimer,
                                           .address = 0x130,
                                           .bytes = 1,
                                           .first = 1,
@@ -66,7 +64,7 @@ inline constexpr NumberField TimeOutTimer{.label = 99,
                                           .showsBlank = true,
                                           .show = ShowTimeOut,
                                           .read = ReadTimeOut};
-inline constexpr NumberField TimeOutPreAlert{.label = 100,
+inline constexpr NumberField TimeOutPreAlert{.label = Text::TimeOutPreAlert,
                                              .address = 0x131,
                                              .bytes = 1,
                                              .first = 0,
@@ -77,7 +75,7 @@ inline constexpr NumberField TimeOutPreAlert{.label = 100,
                                              .showsBlank = false,
                                              .show = ShowNumberOrOff,
                                              .read = ReadUpToTen};
-inline constexpr NumberField SquelchLevel{.label = 101,
+inline constexpr NumberField SquelchLevel{.label = Text::SquelchLevel,
                                           .address = 0x134,
                                           .bytes = 1,
                                           .first = 0,
@@ -88,7 +86,7 @@ inline constexpr NumberField SquelchLevel{.label = 101,
                                           .showsBlank = true,
                                           .show = ShowNumber,
                                           .read = ReadSquelchLevel};
-inline constexpr NumberField VoxGainLevel{.label = 113,
+inline constexpr NumberField VoxGainLevel{.label = Text::VoxGainLevel,
                                           .address = 0x13A,
                                           .bytes = 1,
                                           .first = 0,
@@ -103,11 +101,11 @@ inline constexpr NumberField VoxGainLevel{.label = 113,
 /// The code that a transmission begins or ends with: up to 16 characters, one to a byte in code page Windows-1252; 0xFF
 /// is no character.
 struct PttCode {
-    int label;
+    Text label;
     int address;
 };
 inline constexpr int PttCodeLength = 16;
-inline constexpr std::array<PttCode, 2> PttCodes{{{109, 0x140}, {110, 0x150}}}; // Begin of TX, End of TX
+inline constexpr std::array<PttCode, 2> PttCodes{{{Text::BeginOfTx, 0x140}, {Text::EndOfTx, 0x150}}};
 
 /// All characters of the code's bytes; 0xFF between them is passed over.
 [[nodiscard]] std::u16string LoadCode(const DataImage& image, const PttCode& code);

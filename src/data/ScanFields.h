@@ -8,9 +8,9 @@
 #include <string_view>
 
 #include "data/DataImage.h"
+#include "text/Text.h"
 
-/// The scan block of the image: nine bytes, described once for all that show or store them. Labels and words are
-/// numbers of the string table.
+/// The scan block of the image: nine bytes, described once for all that show or store them.
 namespace zelvor::scan {
 
 /// The legal values of the priority mode's byte.
@@ -18,17 +18,17 @@ enum class Mode : std::uint8_t { None, Fixed, Selected };
 
 /// A byte that is a number of a list of words.
 struct ListField {
-    int label;
+    Text label;
     int address;
-    std::span<const int> words;
+    std::span<const Text> words;
     std::optional<std::uint8_t> blank = {}; // the number that 0xFF reads as; nothing: it is no legal one
 };
 
-inline constexpr std::array ModeWords{77, 151, 150}; // None, Fixed, Selected
-inline constexpr std::array RevertWords{150, 154, 152,
-                                        153}; // Selected, the same + Talk Back, Priority, the same + Talk Back
-inline constexpr ListField PriorityMode{143, 0x160, ModeWords, 0};
-inline constexpr ListField RevertChannel{147, 0x164, RevertWords};
+inline constexpr std::array ModeWords{Text::None, Text::Fixed, Text::Selected};
+inline constexpr std::array RevertWords{Text::Selected, Text::SelectedAndTalkBack, Text::Priority,
+                                        Text::PriorityAndTalkBack};
+inline constexpr ListField PriorityMode{Text::PriorityLabel, 0x160, ModeWords, 0};
+inline constexpr ListField RevertChannel{Text::RevertChannel, 0x164, RevertWords};
 
 /// The place of a byte's word among those of the field; nothing for an illegal byte.
 [[nodiscard]] std::optional<std::uint8_t> EntryOf(const ListField& field, std::uint8_t byte);
@@ -50,15 +50,15 @@ inline constexpr std::array<std::uint8_t, 2> RevertToPriority{2, 3};
 
 /// The priority channel: 1 to 16, and NoChannel.
 struct ChannelField {
-    int label;
+    Text label;
     int address;
 };
-inline constexpr ChannelField PriorityChannel{144, 0x161};
+inline constexpr ChannelField PriorityChannel{Text::PriorityChannel, 0x161};
 inline constexpr std::uint8_t NoChannel = 0xFF;
 
 /// A time, stored as a number of steps and shown in seconds.
 struct TimeField {
-    int label;
+    Text label;
     int address;
     int bytes;       // 1, or 2 with the low byte first
     int first;       // legal values
@@ -68,10 +68,10 @@ struct TimeField {
     int decimals;    // of the shown text
     int lengthLimit; // characters that can be typed
 };
-inline constexpr TimeField LookBackTimeA{145, 0x162, 1, 1, 91, 5, 45, 2, 4};
-inline constexpr TimeField LookBackTimeB{146, 0x163, 1, 1, 91, 5, 45, 2, 4};
-inline constexpr TimeField DropoutDelayTime{148, 0x165, 2, 0, 300, 1, 0, 0, 3};
-inline constexpr TimeField TxDwellTime{149, 0x167, 2, 0, 300, 1, 0, 0, 3};
+inline constexpr TimeField LookBackTimeA{Text::LookBackTimeA, 0x162, 1, 1, 91, 5, 45, 2, 4};
+inline constexpr TimeField LookBackTimeB{Text::LookBackTimeB, 0x163, 1, 1, 91, 5, 45, 2, 4};
+inline constexpr TimeField DropoutDelayTime{Text::DropoutDelayTime, 0x165, 2, 0, 300, 1, 0, 0, 3};
+inline constexpr TimeField TxDwellTime{Text::TxDwellTime, 0x167, 2, 0, 300, 1, 0, 0, 3};
 
 /// The stored value, legal or not; nothing where the image holds none: 0 or 0xFF in a field of one byte, a high byte of
 /// 0xFF in one of two.

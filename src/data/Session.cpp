@@ -30,8 +30,8 @@ bool Session::IsAnyChildOpen() const {
     return std::any_of(ChildOpen.begin(), ChildOpen.end(), [](bool open) { return open; });
 }
 
-std::string_view Session::LoadText(int n) const {
-    return TableText(LanguageFlag, n);
+std::string_view Session::LoadText(Text name) const {
+    return TableText(LanguageFlag, name);
 }
 
 bool Session::IsDocumentChanged() {

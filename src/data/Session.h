@@ -12,6 +12,7 @@
 #include "data/TestFrequencies.h"
 #include "data/TuneItems.h"
 #include "text/Language.h"
+#include "text/Text.h"
 
 namespace zelvor {
 
@@ -95,7 +96,7 @@ public:
     void SetOpen(ChildWindow window, bool open) { ChildOpen[static_cast<std::size_t>(window)] = open; }
     [[nodiscard]] bool IsAnyChildOpen() const;
 
-    [[nodiscard]] std::string_view LoadText(int n) const;
+    [[nodiscard]] std::string_view LoadText(Text name) const;
 
     void TakeSnapshot() { SavedImage = Image; }
 

@@ -91,7 +91,7 @@ std::string NormaliseQt(std::string_view text) {
 
 std::optional<std::string> ToneText(ToneWord word, Language language) {
     if (word.hi == 0x00 || word.hi == 0xFF) {
-        return std::string(TableText(language, words::None));
+        return std::string(TableText(language, Text::None));
     }
     if ((word.hi & DqtBit) != 0) {
         return DqtText(word);
@@ -104,7 +104,7 @@ std::optional<std::string> ToneText(ToneWord word, Language language) {
 }
 
 ToneWord ToneEncoder::Encode(std::string_view text, Language language) {
-    if (text == TableText(language, words::None)) {
+    if (text == TableText(language, Text::None)) {
         return {};
     }
     const bool isDqt = Holds(text, 'd');
@@ -129,7 +129,7 @@ ToneWord ToneEncoder::Encode(std::string_view text, Language language) {
 std::vector<std::string> BuildToneList(Language language) {
     std::vector<std::string> list;
     list.reserve(ToneListSize);
-    list.emplace_back(TableText(language, words::None));
+    list.emplace_back(TableText(language, Text::None));
     list.insert(list.end(), QtTones.begin(), QtTones.end());
     for (const char polarity : {'N', 'I'}) {
         for (const std::string_view code : DqtCodes) {
@@ -140,7 +140,7 @@ std::vector<std::string> BuildToneList(Language language) {
 }
 
 std::string NormaliseTone(std::string_view text, Language language) {
-    const std::string_view none = TableText(language, words::None);
+    const std::string_view none = TableText(language, Text::None);
     if (text.empty() || text == none) {
         return std::string(none);
     }

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "data/DataImage.h"
+#include "text/Text.h"
 
 /// What can be tuned, where its values lie, and the codes by which the radio knows them: one table for the tuning
 /// dialogs, the tuning report and the simulated radio. Tuning values are bytes.
@@ -44,7 +45,7 @@ struct TuneCell {
 inline constexpr int NoPlace = -1;
 
 struct TuneItemRow {
-    int name;                            // number of the string table
+    Text name;
     std::uint8_t code;                   // first byte of the item's commands
     std::int16_t TuneValues::*testPoint; // where the Test value is kept; null where that is in the image
     std::array<TuneCell, TunePointCount> cells;

@@ -23,11 +23,6 @@ namespace zelvor {
 
 namespace {
 
-// Numbers of the string table.
-constexpr int CaptionText = 196;
-constexpr int OkText = 96;
-constexpr int CancelText = 97;
-
 constexpr TextPair AddressName{"Address", "地址"};
 constexpr TextPair AddressCaption{"Address:", "地址："};
 constexpr TextPair ChangedByte{"Changed, was %1", "已更改，原值 %1"};
@@ -83,7 +78,7 @@ CPUForm::CPUForm(Session& session, Services& services, QWidget* parent)
     setModal(true);
     setSizeGripEnabled(true);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
-    setWindowTitle(ToQString(session_.LoadText(CaptionText)));
+    setWindowTitle(ToQString(session_.LoadText(Text::MemoryMap)));
     BuildGrid();
     BuildEditor();
     ShowImage();
@@ -136,13 +131,13 @@ void CPUForm::BuildEditor() {
 }
 
 void CPUForm::LayOut() {
-    const auto button = [this](const char* name, int text) {
+    const auto button = [this](const char* name, Text text) {
         auto* made = new QPushButton(ToQString(session_.LoadText(text)), this);
         made->setObjectName(name);
         return made;
     };
-    auto* cmdOK = button("cmdOK", OkText);
-    auto* cmdCancel = button("cmdCancel", CancelText);
+    auto* cmdOK = button("cmdOK", Text::OkButton);
+    auto* cmdCancel = button("cmdCancel", Text::CancelButton);
     connect(cmdOK, &QPushButton::clicked, this, &CPUForm::accept);
     connect(cmdCancel, &QPushButton::clicked, this, [this] { QDialog::reject(); });
     lblAddr_ = new QLabel(this);

@@ -28,11 +28,6 @@ constexpr TextPair HintText{
     "Enter or a click edits, A stands for All. To change a number, select a digit with Shift+arrow and type over it.",
     "按回车键或单击可编辑单元格，A 表示全部。更改号码时，用 Shift 加方向键选中一位数字，再键入新数字。"};
 
-// Numbers of the string table.
-constexpr int CaptionNumber = 45;
-constexpr int FieldsTab = 176;
-constexpr int NumberHeading = 172;
-
 constexpr int FirstStep = 1;
 constexpr int NoStep = 0;
 
@@ -56,12 +51,12 @@ SpinTextRules SteppedBy(std::function<std::optional<int>(const QString& text, bo
 } // namespace
 
 CorvaneForm::CorvaneForm(Session& session, Services& services, QWidget* parent)
-    : FieldForm(ChildWindow::Corvane, "CorvaneForm", WindowSize, "picCorvane", CaptionNumber, session, services,
+    : FieldForm(ChildWindow::Corvane, "CorvaneForm", WindowSize, "picCorvane", Text::CorvaneTitle, session, services,
                 parent) {
     auto* tabs = new FieldTabs("SSTab1", Panel());
     tabs->setGeometry(Panel()->rect().adjusted(raster::Margin, raster::TabsTop, -raster::Margin, 0));
-    BuildFields(*tabs->AddPage(LoadText(FieldsTab)));
-    BuildFleetList(*tabs->AddPage(LoadText(corvane::FleetListLabel)));
+    BuildFields(*tabs->AddPage(LoadText(Text::CorvanePage)));
+    BuildFleetList(*tabs->AddPage(LoadText(Text::FleetList)));
     LoadFields();
     ShowFleetList();
     StartAt(*fleet_);
@@ -141,11 +136,11 @@ void CorvaneForm::BuildFleetList(QWidget& page) {
 
 void CorvaneForm::SetGridTexts() {
     const Language language = TheSession().LanguageFlag;
-    msgFleetList_->SetCaptions({LoadText(NumberHeading), ToQString(corvane::ListFleet.heading.In(language)),
+    msgFleetList_->SetCaptions({LoadText(Text::NumberHeading), ToQString(corvane::ListFleet.heading.In(language)),
                                 ToQString(corvane::ListId.heading.In(language))});
     const int eighth = GridSize.width() / 8;
     msgFleetList_->FitCells({2 * eighth, 3 * eighth, 3 * eighth});
-    msgFleetList_->setAccessibleName(LoadText(corvane::FleetListLabel));
+    msgFleetList_->setAccessibleName(LoadText(Text::FleetList));
 }
 
 void CorvaneForm::ShowFleetList() {

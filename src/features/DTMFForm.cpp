@@ -28,7 +28,6 @@ namespace {
 constexpr QSize WindowSize{6285, 5070}; // twips
 constexpr QSize GridSize{386, 218};     // pixels
 
-constexpr int NumberHeading = 172;
 constexpr int DigitsColumn = 1;
 
 constexpr const char* StunFrame = "Stun"; // in both languages
@@ -65,12 +64,12 @@ QChar DigitOfKey(const QKeyEvent& event) {
 } // namespace
 
 DTMFForm::DTMFForm(Session& session, Services& services, QWidget* parent)
-    : FieldForm(ChildWindow::Dtmf, "DTMFForm", WindowSize, "picDTMF", dtmf::Caption, session, services, parent) {
+    : FieldForm(ChildWindow::Dtmf, "DTMFForm", WindowSize, "picDTMF", Text::DtmfExplained, session, services, parent) {
     auto* tabs = new FieldTabs("SSTab1", Panel());
     tabs->setGeometry(Panel()->rect().adjusted(raster::Margin, raster::TabsTop, -raster::Margin, 0));
-    BuildEncodePage(*tabs->AddPage(LoadText(dtmf::EncodeCaption)));
-    BuildDecodePage(*tabs->AddPage(LoadText(dtmf::DecodeCaption)));
-    BuildAutodialPage(*tabs->AddPage(LoadText(dtmf::AutodialCaption)));
+    BuildEncodePage(*tabs->AddPage(LoadText(Text::Encode)));
+    BuildDecodePage(*tabs->AddPage(LoadText(Text::Decode)));
+    BuildAutodialPage(*tabs->AddPage(LoadText(Text::AutodialMemory)));
     Load();
 }
 
@@ -129,10 +128,10 @@ void DTMFForm::BuildAutodialPage(QWidget& page) {
 }
 
 void DTMFForm::SetGridTexts() {
-    msgAutodial_->SetCaptions({LoadText(NumberHeading), LoadText(dtmf::AutodialCaption)});
+    msgAutodial_->SetCaptions({LoadText(Text::NumberHeading), LoadText(Text::AutodialMemory)});
     const int inner = GridSize.width() - 2 * msgAutodial_->frameWidth();
     msgAutodial_->FitCells({inner / 4, inner - inner / 4});
-    msgAutodial_->setAccessibleName(LoadText(dtmf::AutodialCaption));
+    msgAutodial_->setAccessibleName(LoadText(Text::AutodialMemory));
 }
 
 void DTMFForm::Load() {

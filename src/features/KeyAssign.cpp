@@ -12,13 +12,12 @@ namespace zelvor {
 namespace {
 
 constexpr QSize WindowSize{4905, 6600}; // twips
-constexpr int CaptionNumber = 141;
 
 } // namespace
 
 KeyAssign::KeyAssign(Session& session, Services& services, QWidget* parent)
-    : FieldForm(ChildWindow::KeyAssignment, "KeyAssign", WindowSize, "picKeyAssign", CaptionNumber, session, services,
-                parent),
+    : FieldForm(ChildWindow::KeyAssignment, "KeyAssign", WindowSize, "picKeyAssign", Text::KeyAssignment, session,
+                services, parent),
       Pickey_(new RadioPicture(session.LanguageFlag, Panel())) {
     BoundRows rows(*Panel(), session);
     pf1_ = rows.AddList("Key(0)", key_assignment::Keys[0]);

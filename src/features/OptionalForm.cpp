@@ -28,9 +28,6 @@ using namespace optional_features;
 namespace {
 
 constexpr QSize WindowSize{6150, 9000}; // twips
-constexpr int CaptionNumber = 98;
-constexpr int VoxFrameText = 111;
-constexpr int ModeFrameText = 118;
 
 QGroupBox* MakeFrame(const char* name, const QString& title, QWidget* parent) {
     auto* frame = new QGroupBox(title, parent);
@@ -51,18 +48,18 @@ bool IsClick(const QEvent& event) {
 } // namespace
 
 OptionalForm::OptionalForm(Session& session, Services& services, ChannelWindows& windows, QWidget* parent)
-    : FieldForm(ChildWindow::OptionalFeatures, "OptionalForm", WindowSize, "picOpt", CaptionNumber, session, services,
-                parent),
+    : FieldForm(ChildWindow::OptionalFeatures, "OptionalForm", WindowSize, "picOpt", Text::OptionalFeatures, session,
+                services, parent),
       windows_(windows) {
     BoundRows rows(*Panel(), session, raster::Margin, raster::RowSpacing);
     BuildGeneral(rows);
-    auto* fraPTTID = MakeFrame("fraPTTID", ToQString(LabelText(PttId, session.LanguageFlag)), Panel());
+    auto* fraPTTID = MakeFrame("fraPTTID", ToQString(PttId.label.In(session.LanguageFlag)), Panel());
     rows.Add(fraPTTID);
     BuildPttId(*fraPTTID);
-    fraVOX_ = MakeFrame("fraVOX", LoadText(VoxFrameText), Panel());
+    fraVOX_ = MakeFrame("fraVOX", LoadText(Text::Vox), Panel());
     rows.Add(fraVOX_);
     BuildVox(*fraVOX_);
-    auto* fraMode = MakeFrame("fraMode", LoadText(ModeFrameText), Panel());
+    auto* fraMode = MakeFrame("fraMode", LoadText(Text::Mode), Panel());
     rows.Add(fraMode);
     BoundRows(*fraMode, session, raster::FrameMargin, raster::RowSpacing).AddCheck("CloneMode", CloneMode);
     rows.End();

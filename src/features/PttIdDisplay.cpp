@@ -32,8 +32,8 @@ int ChoiceOf(const Session& session, int k) {
     return session.Image.At(address::Channel(k) + record::PttId) & ChoiceMask;
 }
 
-QString Word(const Session& session, int number) {
-    return ToQString(session.LoadText(number));
+QString Word(const Session& session, Text name) {
+    return ToQString(session.LoadText(name));
 }
 
 bool IsProgrammed(const ChannelForm& grid, int k) {
@@ -41,12 +41,12 @@ bool IsProgrammed(const ChannelForm& grid, int k) {
 }
 
 /// The words that are not "Off".
-int WordOfType(const Session& session) {
-    return session.Image.At(address::PttIdType) == record::TypeDtmf ? words::On : words::Own;
+Text WordOfType(const Session& session) {
+    return session.Image.At(address::PttIdType) == record::TypeDtmf ? Text::On : Text::Own;
 }
 
 QStringList EntriesOfType(const Session& session) {
-    QStringList entries{Word(session, words::Off), Word(session, WordOfType(session))};
+    QStringList entries{Word(session, Text::Off), Word(session, WordOfType(session))};
     if (session.Image.At(address::PttIdType) == record::TypeCorvane) {
         for (int n = 1; n <= record::FleetListCount; ++n) {
             entries.append(QString::number(n));
@@ -62,7 +62,7 @@ std::optional<QString> RefreshedText(const Session& session, int choice) {
         return std::nullopt;
     }
     if (choice == 0) {
-        return Word(session, words::Off);
+        return Word(session, Text::Off);
     }
     if (type == record::TypeDtmf || choice == 1) {
         return Word(session, WordOfType(session));
@@ -84,7 +84,7 @@ void ShowPttIdsOfType(Session& session, const ChannelWindows& windows) {
         if (IsProgrammed(*grid, k)) {
             const int choice = ChoiceOf(session, k);
             isOn = choice >= 1 && choice <= LastChoice;
-            grid->SetCellText(k, column::PttId, Word(session, *isOn ? WordOfType(session) : words::Off));
+            grid->SetCellText(k, column::PttId, Word(session, *isOn ? WordOfType(session) : Text::Off));
         }
     }
     if (ChannelEditForm* dialog = OpenDialog(session, windows); dialog != nullptr && isOn) {

@@ -18,10 +18,6 @@ namespace zelvor {
 
 namespace {
 
-// Numbers of the string table.
-constexpr int CaptionText = 188;
-constexpr int PortText = 189;
-
 constexpr TextPair NoDevice{"No device", "无设备"};
 
 constexpr int PortRows = 5; // of the grid of option buttons, filled column by column
@@ -51,7 +47,7 @@ ComForm::ComForm(Session& session, Services& services, QWidget* parent)
     services_.ports.NumberAnew();
     setObjectName("ComForm");
     setModal(true);
-    setWindowTitle(ToQString(session_.LoadText(CaptionText)));
+    setWindowTitle(ToQString(session_.LoadText(Text::CommunicationPort)));
     BuildControls();
     ProbePorts();
 }
@@ -92,7 +88,7 @@ void ComForm::ProbePorts() {
     const WaitCursor cursor;
     for (int number = 1; number <= PortCount; ++number) {
         QRadioButton& option = *optPort_[static_cast<std::size_t>(number - 1)];
-        option.setText(ToQString(session_.LoadText(PortText)) + QString::number(number));
+        option.setText(ToQString(session_.LoadText(Text::Com)) + QString::number(number));
         option.setToolTip(DeviceText(services_.ports.Describe(number), session_.LanguageFlag));
         option.setAccessibleDescription(option.toolTip());
         option.setEnabled(ProbePort(*port_, services_.clock, number));

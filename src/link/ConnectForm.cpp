@@ -18,10 +18,6 @@ namespace zelvor {
 
 namespace {
 
-// Numbers of the string table.
-constexpr int ReadCaption = 186;
-constexpr int WriteCaption = 187;
-
 /// Painting waits until the next command is on the wire, where the radio's answer takes longer than the painting.
 constexpr int ProgressDelay = 5; // milliseconds
 
@@ -40,7 +36,7 @@ ConnectForm::ConnectForm(Session& session, Services& services, TransferDirection
     setModal(true);
     const bool reading = direction_ == TransferDirection::Read;
     session_.Link.TransferMode = reading ? transfer::Reading : transfer::Writing;
-    setWindowTitle(ToQString(session_.LoadText(reading ? ReadCaption : WriteCaption)));
+    setWindowTitle(ToQString(session_.LoadText(reading ? Text::ReadDataFromRadio : Text::WriteDataToRadio)));
     BuildControls();
 
     progressTimer_->SetInterval(ProgressDelay);

@@ -12,11 +12,6 @@ namespace zelvor {
 
 namespace {
 
-// Numbers of the string table.
-constexpr int OkText = 96;
-constexpr int CancelText = 97;
-constexpr int HelpText = 76;
-
 QPushButton* MakeButton(QDialog& dialog, const char* name, std::string_view text) {
     auto* button = new QPushButton(ToQString(text), &dialog);
     button->setObjectName(name);
@@ -27,9 +22,9 @@ QPushButton* MakeButton(QDialog& dialog, const char* name, std::string_view text
 } // namespace
 
 DialogButtons MakeDialogButtons(QDialog& dialog, const Session& session) {
-    DialogButtons buttons{MakeButton(dialog, "cmdOK", session.LoadText(OkText)),
-                          MakeButton(dialog, "cmdCancel", session.LoadText(CancelText)),
-                          MakeButton(dialog, "cmdHelp", session.LoadText(HelpText)), new QHBoxLayout};
+    DialogButtons buttons{MakeButton(dialog, "cmdOK", session.LoadText(Text::OkButton)),
+                          MakeButton(dialog, "cmdCancel", session.LoadText(Text::CancelButton)),
+                          MakeButton(dialog, "cmdHelp", session.LoadText(Text::HelpButton)), new QHBoxLayout};
     buttons.cmdOK->setDefault(true);
     buttons.row->addStretch();
     for (QPushButton* button : {buttons.cmdOK, buttons.cmdCancel, buttons.cmdHelp}) {

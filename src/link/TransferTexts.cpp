@@ -28,8 +28,6 @@ constexpr TextPair NotInGroup{
 constexpr TextPair Unusable{"{port} ({device}) cannot be opened. Check the cable, or choose another port.",
                             "无法打开 {port} ({device})。请检查编程线，或选择其他端口。"};
 
-constexpr int PortText = 189; // of the string table
-
 struct Filling {
     std::string_view place;
     std::string text;
@@ -46,7 +44,7 @@ std::string Filled(const TextPair& pair, Language language, std::initializer_lis
 }
 
 std::string PortName(int number, Language language) {
-    return std::string(TableText(language, PortText)) + std::to_string(number);
+    return std::string(TableText(language, Text::Com)) + std::to_string(number);
 }
 
 const TextPair& TextOf(const PortFailure& failure) {

@@ -21,26 +21,6 @@ constexpr double LeftValueColumn = 35;
 constexpr double RightLabelColumn = 70;
 constexpr double RightValueColumn = 105;
 
-/// Labels, as numbers of the string table.
-namespace label {
-constexpr int Channel = 60;
-constexpr int RxFrequency = 251;
-constexpr int TxFrequency = 252;
-constexpr int Decode = 63;
-constexpr int Encode = 64;
-constexpr int OptionSignalling = 65;
-constexpr int SpUnmute = 66;
-constexpr int TxPower = 67;
-constexpr int WideNarrow = 68;
-constexpr int BusyChannelLockout = 69;
-constexpr int PttId = 108;
-constexpr int AutodialMemory = 70;
-constexpr int BeatShift = 71;
-constexpr int ScanAdd = 72;
-constexpr int PriorityChannel = 73;
-constexpr int Compander = 74;
-} // namespace label
-
 std::vector<int> ChannelsInUse(const DataImage& image) {
     std::vector<int> channels;
     for (int channel = 1; channel <= address::ChannelCount; ++channel) {
@@ -53,27 +33,27 @@ std::vector<int> ChannelsInUse(const DataImage& image) {
 
 /// Adds the block of a channel, which begins in that row, to a page.
 void AddChannelBlock(SectionPage& page, int channel, const ChannelTexts& texts, double row) {
-    page.Add(0, row, NumberedWord(label::Channel, channel, page.TextLanguage()));
+    page.Add(0, row, NumberedWord(Text::Channel, channel, page.TextLanguage()));
 
     PageRows left(page, pagecells::LabelColumn, LeftValueColumn, row + 1);
-    left.Add(label::RxFrequency, texts.RxText);
-    left.Add(label::TxFrequency, texts.TxText);
-    left.Add(label::Decode, texts.DecText);
-    left.Add(label::Encode, texts.EncText);
-    left.Add(label::OptionSignalling, texts.OptSignalText);
-    left.Add(label::SpUnmute, texts.SpMuteText);
-    left.Add(label::TxPower, texts.PowerText);
-    left.Add(label::WideNarrow, texts.WidthText);
+    left.Add(Text::RxFrequency, texts.RxText);
+    left.Add(Text::TxFrequency, texts.TxText);
+    left.Add(Text::QtDqtDecode, texts.DecText);
+    left.Add(Text::QtDqtEncode, texts.EncText);
+    left.Add(Text::OptionSignallingLabel, texts.OptSignalText);
+    left.Add(Text::SpUnmute, texts.SpMuteText);
+    left.Add(Text::TxPower, texts.PowerText);
+    left.Add(Text::WideNarrow, texts.WidthText);
 
     const bool isPriority = page.Image().At(scan::PriorityChannel.address) == channel;
     PageRows right(page, RightLabelColumn, RightValueColumn, row + 1);
-    right.Add(label::BusyChannelLockout, texts.BusyLockText);
-    right.Add(label::PttId, texts.PttIdText);
-    right.Add(label::AutodialMemory, texts.AutoDialText);
-    right.Add(label::BeatShift, page.EnabledWord(texts.BeatShiftFlag));
-    right.Add(label::ScanAdd, texts.ScanAddText);
-    right.Add(label::PriorityChannel, page.EnabledWord(isPriority));
-    right.Add(label::Compander, page.EnabledWord(texts.CompanderFlag));
+    right.Add(Text::BusyChannelLockout, texts.BusyLockText);
+    right.Add(Text::PttIdType, texts.PttIdText);
+    right.Add(Text::AutodialMemoryOfChannel, texts.AutoDialText);
+    right.Add(Text::BeatShift, page.EnabledWord(texts.BeatShiftFlag));
+    right.Add(Text::ScanAdd, texts.ScanAddText);
+    right.Add(Text::IsPriorityChannel, page.EnabledWord(isPriority));
+    right.Add(Text::Compander, page.EnabledWord(texts.CompanderFlag));
 }
 
 } // namespace

@@ -29,7 +29,7 @@ void AddOwn(SectionPage& page) {
 }
 
 void AddFleetList(SectionPage& page) {
-    page.AddWord(pagecells::LabelColumn, ListTitleRow, FleetListLabel);
+    page.AddWord(pagecells::LabelColumn, ListTitleRow, Text::FleetList);
     page.Add(FleetColumn, ListHeadRow, ListFleet.heading.In(page.TextLanguage()));
     page.Add(IdColumn, ListHeadRow, ListId.heading.In(page.TextLanguage()));
     for (int n = 1; n <= FleetListSize; ++n) {

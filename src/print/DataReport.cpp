@@ -26,10 +26,10 @@ constexpr std::array Pages{OptionalFeaturesPage, KeyAssignmentPage, ScanInformat
 
 std::vector<CellText> BuildHead(const DataImage& image, std::string_view fileName, Language language) {
     const ModelVariant& variant = ReportVariantOf(image);
-    const std::array<std::pair<int, std::string>, 3> rows{
-        {{94, std::string(variant.reportModel) + ' ' + std::string(variant.reportMarket)},
-         {95, std::string(variant.reportRange)},
-         {247, std::string(fileName)}}};
+    const std::array<std::pair<Text, std::string>, 3> rows{
+        {{Text::ModelType, std::string(variant.reportModel) + ' ' + std::string(variant.reportMarket)},
+         {Text::Frequency, std::string(variant.reportRange)},
+         {Text::FileName, std::string(fileName)}}};
     std::vector<CellText> head;
     double row = HeadRow;
     for (const auto& [label, text] : rows) {

@@ -21,7 +21,7 @@ constexpr double DigitsColumn = 8;
 constexpr std::string_view PrintedDCode = "D 码";
 
 void AddEncode(SectionPage& page) {
-    page.AddWord(pagecells::LabelColumn, pagecells::FirstRow, EncodeCaption);
+    page.AddWord(pagecells::LabelColumn, pagecells::FirstRow, Text::Encode);
     PageRows rows(page, pagecells::LabelColumn, pagecells::ValueColumn, FieldsRow);
     rows.Add(Speed);
     rows.Add(FirstDigitTime);
@@ -33,7 +33,7 @@ void AddEncode(SectionPage& page) {
 }
 
 void AddDecode(SectionPage& page) {
-    page.AddWord(DecodeColumn, pagecells::FirstRow, DecodeCaption);
+    page.AddWord(DecodeColumn, pagecells::FirstRow, Text::Decode);
     PageRows rows(page, DecodeColumn, DecodeValueColumn, FieldsRow);
     rows.Add(IdCode.label, Utf8Of(LoadCode(page.Image(), IdCode)));
     rows.Add(GroupCode.label, page.ValueOrOff(GroupCode));
@@ -46,7 +46,7 @@ void AddDecode(SectionPage& page) {
 }
 
 void AddAutodial(SectionPage& page) {
-    page.AddWord(pagecells::LabelColumn, AutodialRow, AutodialCaption);
+    page.AddWord(pagecells::LabelColumn, AutodialRow, Text::AutodialMemory);
     for (int n = 1; n <= AutodialCount; ++n) {
         page.Add(pagecells::LabelColumn, AutodialRow + n, std::to_string(n));
         page.Add(DigitsColumn, AutodialRow + n, LoadAutodial(page.Image(), n));

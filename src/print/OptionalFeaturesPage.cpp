@@ -11,18 +11,17 @@ namespace {
 
 using namespace optional_features;
 
-constexpr int LanguageSetupTitle = 128;
 constexpr std::string_view NoCode = "------";
 
 /// Intended: the report of a radio that sends both codes names the language setup.
 std::string PttIdValue(const SectionPage& page) {
     const bool sendsBoth = page.Image().At(PttId.address) == static_cast<std::uint8_t>(PttIdChoice::Both);
-    return sendsBoth ? std::string(TableText(page.TextLanguage(), LanguageSetupTitle)) : page.ValueOf(PttId);
+    return sendsBoth ? std::string(TableText(page.TextLanguage(), Text::LanguageFileSetup)) : page.ValueOf(PttId);
 }
 
 void AddPttId(PageRows& rows, const SectionPage& page) {
     rows.Add(PttIdType);
-    rows.Add(LabelText(PttId, page.TextLanguage()), PttIdValue(page));
+    rows.Add(PttId.label, PttIdValue(page));
     for (const PttCode& code : PttCodes) {
         rows.Add(code.label, OrElse(Utf8Of(LoadCode(page.Image(), code)), NoCode));
     }

@@ -8,8 +8,11 @@
 namespace zelvor {
 
 std::string_view SectionTitle(ReportSection section, Language language) {
-    constexpr std::array<int, ReportSectionCount> numbers{41, 42, 43, 44, 45, 46, 47, 195};
-    return TableText(language, numbers[static_cast<std::size_t>(section)]);
+    constexpr std::array<Text, ReportSectionCount> titles{Text::OptionalFeaturesTitle, Text::KeyAssignmentTitle,
+                                                          Text::ScanInformationTitle,  Text::DtmfTitle,
+                                                          Text::CorvaneTitle,          Text::TestFrequencyTitle,
+                                                          Text::EmbeddedMessageTitle,  Text::ChannelInformationTitle};
+    return TableText(language, titles[static_cast<std::size_t>(section)]);
 }
 
 } // namespace zelvor

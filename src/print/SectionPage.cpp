@@ -8,13 +8,6 @@
 
 namespace zelvor {
 
-namespace {
-
-constexpr int DisabledWord = 249;
-constexpr int EnabledWordNumber = 250;
-
-} // namespace
-
 SectionPage::SectionPage(const DataImage& image, Language language, ReportSection section)
     : image_(image), language_(language) {
     Add(0, pagecells::TitleRow, SectionTitle(section, language));
@@ -30,14 +23,14 @@ void SectionPage::Add(double column, double row, std::u16string_view text) {
     Add(column, row, Utf8Of(text));
 }
 
-void SectionPage::AddWord(double column, double row, int number) {
-    Add(column, row, TableText(language_, number));
+void SectionPage::AddWord(double column, double row, Text name) {
+    Add(column, row, TableText(language_, name));
 }
 
 std::string SectionPage::ValueOf(const ListField& field) const {
     const int entry = EntryOf(field, image_.At(field.address));
     return entry == ListField::NoEntry ? std::string()
-                                       : std::string(WordText(field.words[static_cast<std::size_t>(entry)], language_));
+                                       : std::string(field.words[static_cast<std::size_t>(entry)].In(language_));
 }
 
 std::string SectionPage::ValueOf(const NumberField& field) const {
@@ -45,7 +38,7 @@ std::string SectionPage::ValueOf(const NumberField& field) const {
 }
 
 std::string_view SectionPage::EnabledWord(bool enabled) const {
-    return TableText(language_, enabled ? EnabledWordNumber : DisabledWord);
+    return TableText(language_, enabled ? Text::Enabled : Text::Disabled);
 }
 
 std::string SectionPage::ValueOrOff(const ListField& field) const {
@@ -67,15 +60,15 @@ void PageRows::Add(std::string_view label, std::string_view value) {
     ++row_;
 }
 
-void PageRows::Add(int label, std::string_view value) {
-    Add(TableText(page_.TextLanguage(), label), value);
+void PageRows::Add(const FieldWord& label, std::string_view value) {
+    Add(label.In(page_.TextLanguage()), value);
 }
 
 void PageRows::Add(const ListField& field) {
-    Add(LabelText(field, page_.TextLanguage()), page_.ValueOf(field));
+    Add(field.label, page_.ValueOf(field));
 }
 
-std::string NumberedWord(int word, int number, Language language) {
+std::string NumberedWord(Text word, int number, Language language) {
     return std::string(TableText(language, word)) + ' ' + std::to_string(number);
 }
 

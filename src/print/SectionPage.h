@@ -33,8 +33,7 @@ public:
     /// An empty text leaves its cell out.
     void Add(double column, double row, std::string_view text);
     void Add(double column, double row, std::u16string_view text);
-    /// An entry of the string table.
-    void AddWord(double column, double row, int number);
+    void AddWord(double column, double row, Text name);
 
     /// What the windows show for a field; empty where they show nothing.
     [[nodiscard]] std::string ValueOf(const ListField& field) const;
@@ -66,8 +65,7 @@ public:
         : page_(page), labelColumn_(labelColumn), valueColumn_(valueColumn), row_(firstRow) {}
 
     void Add(std::string_view label, std::string_view value);
-    /// With a label of the string table.
-    void Add(int label, std::string_view value);
+    void Add(const FieldWord& label, std::string_view value);
     void Add(const ListField& field);
     void Add(const CheckField& field) { Add(field.label, page_.ValueOf(field)); }
     void Add(const NumberField& field) { Add(field.label, page_.ValueOf(field)); }
@@ -79,8 +77,8 @@ private:
     double row_;
 };
 
-/// A word of the string table with a number: "Channel 1".
-[[nodiscard]] std::string NumberedWord(int word, int number, Language language);
+/// A text with a number: "Channel 1".
+[[nodiscard]] std::string NumberedWord(Text word, int number, Language language);
 
 /// The text of characters that the radio keeps as bytes.
 [[nodiscard]] std::string Utf8Of(std::u16string_view text);

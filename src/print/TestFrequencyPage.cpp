@@ -8,11 +8,6 @@ namespace zelvor {
 
 namespace {
 
-// Numbers of the string table.
-constexpr int ChannelWord = 60;
-constexpr int ReceiveHeading = 251;
-constexpr int TransmitHeading = 252;
-
 constexpr double ReceiveColumn = 35;
 constexpr double TransmitColumn = 65;
 
@@ -20,12 +15,12 @@ constexpr double TransmitColumn = 65;
 
 std::vector<CellText> TestFrequencyPage(const DataImage& image, Language language) {
     SectionPage page(image, language, ReportSection::TestFrequency);
-    page.AddWord(ReceiveColumn, pagecells::FirstRow, ReceiveHeading);
-    page.AddWord(TransmitColumn, pagecells::FirstRow, TransmitHeading);
+    page.AddWord(ReceiveColumn, pagecells::FirstRow, Text::RxFrequency);
+    page.AddWord(TransmitColumn, pagecells::FirstRow, Text::TxFrequency);
     for (int channel = 1; channel <= TestChannelCount; ++channel) {
         const double row = pagecells::FirstRow + channel;
         const TestFrequencyTexts texts = ReadTestChannel(image, channel);
-        page.Add(pagecells::LabelColumn, row, NumberedWord(ChannelWord, channel, language));
+        page.Add(pagecells::LabelColumn, row, NumberedWord(Text::Channel, channel, language));
         page.Add(ReceiveColumn, row, texts.receive);
         page.Add(TransmitColumn, row, texts.transmit);
     }

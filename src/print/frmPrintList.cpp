@@ -24,9 +24,7 @@ namespace zelvor {
 
 namespace {
 
-constexpr int CaptionText = 245;
-
-// Unlike the entries of the string table, the Chinese ones have access keys.
+// Unlike those of the string table, the Chinese ones have access keys.
 constexpr TextPair SelectAll{"Select &All", "全部选定(&A)"};
 constexpr TextPair ClearAll{"C&lear All", "全部清除(&L)"};
 constexpr TextPair PrintSetup{"P&rint setup", "打印设置(&R)"};
@@ -45,7 +43,7 @@ frmPrintList::frmPrintList(Session& session, Services& services, QWidget* parent
     : QDialog(parent), session_(session), services_(services) {
     setObjectName("frmPrintList");
     setModal(true);
-    setWindowTitle(ToQString(session_.LoadText(CaptionText)));
+    setWindowTitle(ToQString(session_.LoadText(Text::PrintOutList)));
 
     auto* choice = new QHBoxLayout;
     choice->addWidget(MakeItems(), 1);

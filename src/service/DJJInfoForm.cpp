@@ -23,15 +23,6 @@ namespace zelvor {
 
 namespace {
 
-// Numbers of the string table.
-constexpr int CaptionText = 190;
-constexpr int ModelTypeText = 94;
-constexpr int FrequencyText = 191;
-constexpr int SerialNumberText = 192;
-constexpr int VersionText = 193;
-constexpr int CloseText = 75;
-constexpr int HelpText = 76;
-
 /// Nothing that the radio tells reaches this text.
 constexpr const char* FixedVersion = "V1.0";
 
@@ -64,27 +55,27 @@ ModelTexts TextsOf(const DataImage& image) {
 DJJInfoForm::DJJInfoForm(Session& session, Services& services, QWidget* parent)
     : QDialog(parent), session_(session), services_(services) {
     setObjectName("DJJInfoForm");
-    setWindowTitle(ToQString(session_.LoadText(CaptionText)));
+    setWindowTitle(ToQString(session_.LoadText(Text::RadioInformation)));
 
     auto* fields = new QGridLayout;
     fields->setHorizontalSpacing(16);
     fields->setVerticalSpacing(10);
     const ModelTexts model = TextsOf(session_.Image);
-    AddField(*fields, "lblModelType", ModelTypeText, "LabModel", ToQString(model.model));
-    AddField(*fields, "lblFrequency", FrequencyText, "LabFreq", ToQString(model.range));
-    AddField(*fields, "lblSerialNum", SerialNumberText, "LabSN", SerialNumber());
-    AddField(*fields, "lblVersion", VersionText, "LabVersion", FixedVersion);
+    AddField(*fields, "lblModelType", Text::ModelType, "LabModel", ToQString(model.model));
+    AddField(*fields, "lblFrequency", Text::FrequencyOfRadio, "LabFreq", ToQString(model.range));
+    AddField(*fields, "lblSerialNum", Text::SerialNumber, "LabSN", SerialNumber());
+    AddField(*fields, "lblVersion", Text::Version, "LabVersion", FixedVersion);
 
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
-    const auto button = [&](const char* name, int text) {
+    const auto button = [&](const char* name, Text text) {
         auto* made = new QPushButton(ToQString(session_.LoadText(text)), this);
         made->setObjectName(name);
         buttons->addWidget(made);
         return made;
     };
-    auto* cmdClose = button("cmdClose", CloseText);
-    auto* cmdHelp = button("cmdHelp", HelpText);
+    auto* cmdClose = button("cmdClose", Text::CloseButton);
+    auto* cmdHelp = button("cmdHelp", Text::HelpButton);
     cmdClose->setDefault(true);
     cmdHelp->setAutoDefault(true);
     connect(cmdClose, &QPushButton::clicked, this, &QWidget::close);
@@ -100,7 +91,7 @@ DJJInfoForm::DJJInfoForm(Session& session, Services& services, QWidget* parent)
     cmdClose->setFocus(); // the fields take the focus too, for copying
 }
 
-void DJJInfoForm::AddField(QGridLayout& layout, const char* labelName, int label, const char* name,
+void DJJInfoForm::AddField(QGridLayout& layout, const char* labelName, Text label, const char* name,
                            const QString& text) {
     auto* caption = new QLabel(ToQString(session_.LoadText(label)), this);
     caption->setObjectName(labelName);

@@ -26,7 +26,7 @@ protected:
     void reject() override { close(); }
 
 private:
-    void AddField(QGridLayout& layout, const char* labelName, int label, const char* name, const QString& text);
+    void AddField(QGridLayout& layout, const char* labelName, Text label, const char* name, const QString& text);
     [[nodiscard]] QString SerialNumber() const;
     void ShowHelp();
 

@@ -27,37 +27,20 @@ namespace zelvor {
 
 namespace {
 
-// Numbers of the string table.
-constexpr int CaptionText = 197;
-constexpr int TestChannelText = 198;
-constexpr int TestSignallingText = 199;
-constexpr int ChannelNoText = 200;
-constexpr int SignallingText = 201;
-constexpr int RxText = 202;
-constexpr int TxText = 203;
-constexpr int WideText = 204;
-constexpr int NarrowText = 205;
-constexpr int TuningModeText = 206;
-constexpr int PrintText = 207;
-constexpr int CloseText = 75;
-constexpr int NoneText = 77;
-constexpr int OnText = 89;
-constexpr int OffText = 85;
-
-/// What a test signalling sends and expects, as numbers of the string table.
+/// What a test signalling sends and expects.
 struct Signalling {
-    int receive;
-    int transmit;
+    Text receive;
+    Text transmit;
 };
-constexpr std::array<Signalling, 9> Signallings{{{NoneText, NoneText},
-                                                 {NoneText, 1906},
-                                                 {1907, 1907},
-                                                 {1908, 1908},
-                                                 {1909, 1909},
-                                                 {1910, 1910},
-                                                 {1911, 1911},
-                                                 {1912, 1913},
-                                                 {NoneText, 220}}};
+constexpr std::array<Signalling, 9> Signallings{{{Text::None, Text::None},
+                                                 {Text::None, Text::Tone100Hz},
+                                                 {Text::Qt67Hz, Text::Qt67Hz},
+                                                 {Text::Qt151Hz, Text::Qt151Hz},
+                                                 {Text::Qt250Hz, Text::Qt250Hz},
+                                                 {Text::DqtD023N, Text::DqtD023N},
+                                                 {Text::DqtD754I, Text::DqtD754I},
+                                                 {Text::DtmfDecode159D, Text::DtmfEncode159D},
+                                                 {Text::None, Text::DtmfTone9}}};
 
 constexpr const char* NoFrequency = "FFF.FFFFFMHz";
 constexpr const char* PttCaption = "PTT";
@@ -86,7 +69,7 @@ TestForm::TestForm(Session& session, Services& services, QWidget* parent)
     : QDialog(parent), session_(session), services_(services), port_(services.ports.Make("MSComm1")),
       engine_(session, *port_, services.clock, services.messages, *this) {
     setObjectName("TestForm");
-    setWindowTitle(Text(CaptionText));
+    setWindowTitle(LoadText(Text::TestMode));
     BuildFrames();
     BuildItemList();
     auto* left = new QVBoxLayout;
@@ -115,18 +98,19 @@ TestForm::TestForm(Session& session, Services& services, QWidget* parent)
 
 TestForm::~TestForm() = default;
 
-QString TestForm::Text(int n) const {
-    return ToQString(session_.LoadText(n));
+QString TestForm::LoadText(Text name) const {
+    return ToQString(session_.LoadText(name));
 }
 
 void TestForm::BuildFrames() {
-    const auto texts = [this](int title, int list) {
-        return TestFrame::Texts{Text(title), Text(list), Text(RxText), Text(TxText), Text(OnText), Text(OffText)};
+    const auto texts = [this](Text title, Text list) {
+        return TestFrame::Texts{LoadText(title),    LoadText(list),     LoadText(Text::Rx),
+                                LoadText(Text::Tx), LoadText(Text::On), LoadText(Text::Off)};
     };
-    frmTestChannel_ = new TestFrame(ChannelNames, texts(TestChannelText, ChannelNoText), this);
+    frmTestChannel_ = new TestFrame(ChannelNames, texts(Text::TestChannel, Text::ChannelNumber), this);
     connect(&frmTestChannel_->List(), &FieldList::Selected, this, &TestForm::OnChannelChosen);
 
-    frmTestSignal_ = new TestFrame(SignalNames, texts(TestSignallingText, SignallingText), this);
+    frmTestSignal_ = new TestFrame(SignalNames, texts(Text::TestSignalling, Text::Signalling), this);
     QStringList numbers;
     for (std::size_t number = 1; number <= Signallings.size(); ++number) {
         numbers.append(QString::number(number));
@@ -143,13 +127,13 @@ void TestForm::BuildFrames() {
 void TestForm::BuildItemList() {
     LvwTuneSel_ = new QListWidget(this);
     LvwTuneSel_->setObjectName("LvwTuneSel");
-    LvwTuneSel_->setAccessibleName(SpokenName(Text(TuningModeText)));
+    LvwTuneSel_->setAccessibleName(SpokenName(LoadText(Text::TuningModeButton)));
     LvwTuneSel_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     const QFontMetrics metrics = LvwTuneSel_->fontMetrics();
     const int rowHeight = metrics.height() + 2 * RowPadding;
     int width = 0;
     for (int number = 1; number <= TuneItemCount; ++number) {
-        auto* item = new QListWidgetItem(Text(TuneItemOf(number).name), LvwTuneSel_);
+        auto* item = new QListWidgetItem(LoadText(TuneItemOf(number).name), LvwTuneSel_);
         item->setSizeHint({0, rowHeight});
         width = std::max(width, metrics.horizontalAdvance(item->text()));
     }
@@ -175,12 +159,14 @@ QHBoxLayout* TestForm::BuildRadioButtons() {
         row->addWidget(light);
         return AddButton(*row, name, text);
     };
-    const auto width = [this](int text) {
-        return LampWords{SpokenName(Text(text)), Text(OnText), Text(OnText), Text(OffText)};
+    const auto width = [this](Text text) {
+        return LampWords{SpokenName(LoadText(text)), LoadText(Text::On), LoadText(Text::On), LoadText(Text::Off)};
     };
-    auto* cmdWide = button(PicWide_, "PicWide", "cmdWide", Text(WideText), width(WideText));
-    auto* cmdNarrow = button(PicNarrow_, "PicNarrow", "CmdNarrow", Text(NarrowText), width(NarrowText));
-    auto* cmdPtt = button(PicPtt_, "PicPtt", "CmdPTT", PttCaption, {PttCaption, Text(RxText), Text(TxText), {}});
+    auto* cmdWide = button(PicWide_, "PicWide", "cmdWide", LoadText(Text::WideButton), width(Text::WideButton));
+    auto* cmdNarrow =
+        button(PicNarrow_, "PicNarrow", "CmdNarrow", LoadText(Text::NarrowButton), width(Text::NarrowButton));
+    auto* cmdPtt =
+        button(PicPtt_, "PicPtt", "CmdPTT", PttCaption, {PttCaption, LoadText(Text::Rx), LoadText(Text::Tx), {}});
     connect(cmdWide, &QPushButton::clicked, this, [this] { OnWidthPressed(true); });
     connect(cmdNarrow, &QPushButton::clicked, this, [this] { OnWidthPressed(false); });
     connect(cmdPtt, &QPushButton::clicked, this, [this] { engine_.PressPtt(); });
@@ -190,9 +176,9 @@ QHBoxLayout* TestForm::BuildRadioButtons() {
 QHBoxLayout* TestForm::BuildWindowButtons() {
     auto* row = new QHBoxLayout;
     row->addStretch();
-    CmdTune_ = AddButton(*row, "CmdTune", Text(TuningModeText));
-    auto* cmdPrint = AddButton(*row, "CmdPrint", Text(PrintText));
-    auto* cmdClose = AddButton(*row, "cmdClose", Text(CloseText));
+    CmdTune_ = AddButton(*row, "CmdTune", LoadText(Text::TuningModeButton));
+    auto* cmdPrint = AddButton(*row, "CmdPrint", LoadText(Text::PrintButton));
+    auto* cmdClose = AddButton(*row, "cmdClose", LoadText(Text::CloseButton));
     CmdTune_->setEnabled(false);
     connect(CmdTune_, &QPushButton::clicked, this, [this] { engine_.Tune(); });
     connect(cmdPrint, &QPushButton::clicked, this, &TestForm::Print);
@@ -229,7 +215,7 @@ void TestForm::LoadChannels() {
 
 void TestForm::ShowChannel() {
     if (!offersChannels_) {
-        frmTestChannel_->ShowTexts(NoFrequency, Text(NoneText));
+        frmTestChannel_->ShowTexts(NoFrequency, LoadText(Text::None));
         return;
     }
     const TestFrequencyTexts& texts =
@@ -239,7 +225,7 @@ void TestForm::ShowChannel() {
 
 void TestForm::ShowSignalling(int number) {
     const Signalling& signalling = Signallings[static_cast<std::size_t>(number - 1)];
-    frmTestSignal_->ShowTexts(Text(signalling.receive), Text(signalling.transmit));
+    frmTestSignal_->ShowTexts(LoadText(signalling.receive), LoadText(signalling.transmit));
 }
 
 void TestForm::OnChannelChosen(int index) {

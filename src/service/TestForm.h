@@ -47,7 +47,7 @@ private:
     void OnTuningReady() override;
     void OnUnloadRequested() override;
 
-    [[nodiscard]] QString Text(int n) const;
+    [[nodiscard]] QString LoadText(Text name) const;
     void BuildFrames();
     void BuildItemList();
     [[nodiscard]] QHBoxLayout* BuildRadioButtons();

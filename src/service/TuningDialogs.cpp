@@ -24,7 +24,7 @@ constexpr std::string_view FormName(Size size) {
 
 struct DialogOfWidth {
     Size size;
-    int caption;
+    Text caption;
 };
 
 struct Row {
@@ -32,27 +32,27 @@ struct Row {
     DialogOfWidth narrow;
 };
 
-constexpr Row Both(Size size, int caption) {
+constexpr Row Both(Size size, Text caption) {
     return {{size, caption}, {size, caption}};
 }
 
 // By TuneItem.
 constexpr std::array<Row, TuneItemCount> Rows{{
-    Both(Size::SixPages, 208),
-    Both(Size::SixPages, 209),
-    {{Size::FourPages, 221}, {Size::OnePage, 222}},
-    {{Size::FourPages, 223}, {Size::OnePage, 224}},
-    {{Size::FourPages, 225}, {Size::OnePage, 226}},
-    {{Size::FourPages, 227}, {Size::OnePage, 228}},
-    {{Size::OnePage, 229}, {Size::OnePage, 230}},
-    Both(Size::FourPages, 215),
-    {{Size::FourPages, 231}, {Size::OnePage, 232}},
-    {{Size::FourPages, 233}, {Size::OnePage, 234}},
-    {{Size::OnePage, 235}, {Size::OnePage, 236}},
-    Both(Size::Measured, 219),
-    Both(Size::Measured, 1903),
-    Both(Size::Measured, 1904),
-    Both(Size::Measured, 1905),
+    Both(Size::SixPages, Text::RfHighPower),
+    Both(Size::SixPages, Text::RfLowPower),
+    {{Size::FourPages, Text::DqtBalanceWide}, {Size::OnePage, Text::DqtBalanceNarrow}},
+    {{Size::FourPages, Text::MaxDeviationWide}, {Size::OnePage, Text::MaxDeviationNarrow}},
+    {{Size::FourPages, Text::QtFineDeviationWide}, {Size::OnePage, Text::QtFineDeviationNarrow}},
+    {{Size::FourPages, Text::DqtFineDeviationWide}, {Size::OnePage, Text::DqtFineDeviationNarrow}},
+    {{Size::OnePage, Text::DtmfFineDeviationWide}, {Size::OnePage, Text::DtmfFineDeviationNarrow}},
+    Both(Size::FourPages, Text::Sensitivity),
+    {{Size::FourPages, Text::SquelchTightWide}, {Size::OnePage, Text::SquelchTightNarrow}},
+    {{Size::FourPages, Text::SquelchOpenWide}, {Size::OnePage, Text::SquelchOpenNarrow}},
+    {{Size::OnePage, Text::MskFineDeviationWide}, {Size::OnePage, Text::MskFineDeviationNarrow}},
+    Both(Size::Measured, Text::BatteryWarningLevel),
+    Both(Size::Measured, Text::Vox1),
+    Both(Size::Measured, Text::Vox10),
+    Both(Size::Measured, Text::Rssi),
 }};
 
 } // namespace
@@ -90,23 +90,23 @@ TuningPlan PlanOf(const TuningDialog& dialog) {
     return plan;
 }
 
-int PageNameOf(TunePoint point) {
+Text PageNameOf(TunePoint point) {
     switch (point) {
     case TunePoint::Low:
-        return 91;
+        return Text::Low;
     case TunePoint::LowPrime:
-        return 239;
+        return Text::LowPrime;
     case TunePoint::Center:
-        return 241;
+        return Text::Center;
     case TunePoint::HighPrime:
-        return 240;
+        return Text::HighPrime;
     case TunePoint::High:
-        return 90;
+        return Text::High;
     case TunePoint::Test:
     case TunePoint::Narrow:
         break;
     }
-    return 238;
+    return Text::Test;
 }
 
 } // namespace zelvor

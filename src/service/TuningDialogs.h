@@ -11,7 +11,7 @@ namespace zelvor {
 /// What a tuning dialog is, for an item and a width: which of the four sizes, its caption, its pages and the codes.
 struct TuningDialog {
     std::string_view formName; // "TunningForm1" to "TunningForm4"
-    int caption;               // number of the string table
+    Text caption;
     TuningKind kind;
     std::vector<TunePoint> points; // one a page, the value that it shows; a dialog without pages has one all the same
     int tuneItem;
@@ -22,7 +22,6 @@ struct TuningDialog {
 
 [[nodiscard]] TuningPlan PlanOf(const TuningDialog& dialog);
 
-/// Number of the string table of a page's name.
-[[nodiscard]] int PageNameOf(TunePoint point);
+[[nodiscard]] Text PageNameOf(TunePoint point);
 
 } // namespace zelvor

@@ -20,15 +20,6 @@ namespace zelvor {
 
 namespace {
 
-// Numbers of the string table.
-constexpr int RxText = 202;
-constexpr int TxText = 203;
-constexpr int OkText = 96;
-constexpr int CancelText = 97;
-constexpr int StartText = 237;
-constexpr int OnText = 89;
-constexpr int OffText = 85;
-
 constexpr const char* PttCaption = "PTT";
 
 constexpr TextPair SteppedTip{"Change the value with the slider, the arrows, or Up and Down here. It cannot be typed.",
@@ -55,7 +46,7 @@ TuningForm::TuningForm(Session& session, Services& services, const TuningDialog&
       frequencies_(FrequencyPointsOf(session.Image)), port_(services.ports.Make("MSComm1")),
       engine_(session, *port_, services.clock, services.messages, PlanOf(dialog), *this, *this) {
     setObjectName(ToQString(dialog.formName));
-    setWindowTitle(Text(dialog.caption));
+    setWindowTitle(LoadText(dialog.caption));
     (new QVBoxLayout(this))->setSpacing(Spacing);
     LoadValues(dialog);
     if (kind_ == TuningKind::Measured) {
@@ -72,8 +63,8 @@ TuningForm::TuningForm(Session& session, Services& services, const TuningDialog&
 
 TuningForm::~TuningForm() = default;
 
-QString TuningForm::Text(int n) const {
-    return ToQString(session_.LoadText(n));
+QString TuningForm::LoadText(Text name) const {
+    return ToQString(session_.LoadText(name));
 }
 
 /// The first values are those of the tuning record; TestPointCurrent is the item's test value.
@@ -126,10 +117,10 @@ void TuningForm::BuildPages(const TuningDialog& dialog) {
 }
 
 void TuningForm::AddPage(TunePoint point, int index) {
-    const QString name = Text(PageNameOf(point));
-    auto* page =
-        new TuningPage(index, {Text(RxText), Text(TxText), FrequencyText(point, false), FrequencyText(point, true),
-                               windowTitle() + u' ' + name, ToQString(SteppedTip.In(session_.LanguageFlag))});
+    const QString name = LoadText(PageNameOf(point));
+    auto* page = new TuningPage(index, {LoadText(Text::Rx), LoadText(Text::Tx), FrequencyText(point, false),
+                                        FrequencyText(point, true), windowTitle() + u' ' + name,
+                                        ToQString(SteppedTip.In(session_.LanguageFlag))});
     SSTabTune_->addTab(page, name);
     pages_.push_back(page);
     connect(page, &TuningPage::SliderMoved, this, [this, index](int value) { Change(index, value, Source::Slider); });
@@ -165,8 +156,8 @@ QHBoxLayout* TuningForm::BuildButtons() {
         AddPtt(*row);
     }
     row->addStretch();
-    auto* cmdOK = AddButton(*row, "CmdOK", Text(OkText));
-    auto* cmdCancel = AddButton(*row, "CmdCancel", Text(CancelText));
+    auto* cmdOK = AddButton(*row, "CmdOK", LoadText(Text::OkButton));
+    auto* cmdCancel = AddButton(*row, "CmdCancel", LoadText(Text::CancelButton));
     connect(cmdOK, &QPushButton::clicked, this, [this] {
         ending_ = TuningEngine::Ending::Ok;
         values_->SetOldTestValue(values_->Value(0));
@@ -177,16 +168,17 @@ QHBoxLayout* TuningForm::BuildButtons() {
 }
 
 void TuningForm::AddPtt(QHBoxLayout& row) {
-    PicPtt_ = new Lamp("PicPtt", {PttCaption, Text(RxText), Text(TxText), {}}, this);
+    PicPtt_ = new Lamp("PicPtt", {PttCaption, LoadText(Text::Rx), LoadText(Text::Tx), {}}, this);
     PicPtt_->Light(lamp::Idle);
     row.addWidget(PicPtt_);
     connect(AddButton(row, "CmdPTT", PttCaption), &QPushButton::clicked, this, [this] { engine_.PressPtt(); });
 }
 
 void TuningForm::AddStart(QHBoxLayout& row) {
-    PicStart_ = new Lamp("PicStart", {Text(StartText), Text(OnText), Text(OnText), Text(OffText)}, this);
+    PicStart_ = new Lamp("PicStart",
+                         {LoadText(Text::Start), LoadText(Text::On), LoadText(Text::On), LoadText(Text::Off)}, this);
     row.addWidget(PicStart_);
-    connect(AddButton(row, "CmdStart", Text(StartText)), &QPushButton::clicked, this, [this] {
+    connect(AddButton(row, "CmdStart", LoadText(Text::Start)), &QPushButton::clicked, this, [this] {
         engine_.ToggleMeasuring();
         if (engine_.IsMeasuring()) {
             PicStart_->Light(lamp::Running);

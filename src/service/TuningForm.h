@@ -51,7 +51,7 @@ private:
     [[nodiscard]] int Value(int page) const override;
     [[nodiscard]] int OldValue(int page) const override;
 
-    [[nodiscard]] QString Text(int n) const;
+    [[nodiscard]] QString LoadText(Text name) const;
     void BuildPages(const TuningDialog& dialog);
     void AddPage(TunePoint point, int index);
     void BuildMeasure();

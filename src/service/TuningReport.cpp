@@ -33,25 +33,25 @@ constexpr double FirstItemRow = 13;
 
 constexpr std::string_view NoValue = "---";
 
-/// A column of the table, with the number of its head in the string table.
+/// A column of the table.
 struct Column {
     double column;
-    int head;
+    Text head;
     TunePoint point;
 };
-constexpr std::array<Column, TunePointCount> Columns{{{25, 238, TunePoint::Test},
-                                                      {35, 91, TunePoint::Low},
-                                                      {45, 239, TunePoint::LowPrime},
-                                                      {55, 241, TunePoint::Center},
-                                                      {65, 240, TunePoint::HighPrime},
-                                                      {75, 90, TunePoint::High},
-                                                      {95, 87, TunePoint::Narrow}}};
+constexpr std::array<Column, TunePointCount> Columns{{{25, Text::Test, TunePoint::Test},
+                                                      {35, Text::Low, TunePoint::Low},
+                                                      {45, Text::LowPrime, TunePoint::LowPrime},
+                                                      {55, Text::Center, TunePoint::Center},
+                                                      {65, Text::HighPrime, TunePoint::HighPrime},
+                                                      {75, Text::High, TunePoint::High},
+                                                      {95, Text::Narrow, TunePoint::Narrow}}};
 
 void AddHead(std::vector<CellText>& texts, const DataImage& image, std::string_view fileName, Language language) {
     const ModelVariant& variant = ReportVariantOf(image);
     const std::array<std::string_view, 4> values{variant.reportModel, variant.reportMarket, variant.reportRange,
                                                  fileName};
-    constexpr std::array labels{94, 246, 95, 247};
+    constexpr std::array labels{Text::ModelType, Text::RadioType, Text::Frequency, Text::FileName};
     for (std::size_t i = 0; i < labels.size(); ++i) {
         const double row = HeadRow + static_cast<double>(i);
         texts.push_back({HeadLabelColumn, row, std::string(TableText(language, labels[i]))});
@@ -65,7 +65,7 @@ std::vector<CellText> BuildTuningReport(const DataImage& image, const TuneValues
                                         Language language) {
     std::vector<CellText> texts;
     AddHead(texts, image, fileName, language);
-    texts.push_back({0, SectionRow, std::string(TableText(language, 248))});
+    texts.push_back({0, SectionRow, std::string(TableText(language, Text::AllTuningData))});
     for (const Column& column : Columns) {
         texts.push_back({column.column, ColumnHeadRow, std::string(TableText(language, column.head))});
     }

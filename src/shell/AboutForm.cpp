@@ -14,8 +14,6 @@ namespace zelvor {
 
 namespace {
 
-constexpr int CloseText = 75; // of the string table
-
 constexpr TextPair Caption{"About Zelvor", "关于 Zelvor"};
 constexpr TextPair About{"Zelvor RADIO PROGRAMMING SOFTWARE\n"
                          "FOR 4618/4613/4617/5618/5613/5617\n"
@@ -42,7 +40,7 @@ AboutForm::AboutForm(const Session& session, QWidget* parent) : QDialog(parent) 
     picture->setPixmap(MakeIcon(IconShape::Application).pixmap(QSize(PictureSize, PictureSize), devicePixelRatioF()));
     auto* lblAbout = new QLabel(ToQString(About.In(session.LanguageFlag)), this);
     lblAbout->setObjectName("LblAbout");
-    auto* cmdClose = new QPushButton(ToQString(session.LoadText(CloseText)), this);
+    auto* cmdClose = new QPushButton(ToQString(session.LoadText(Text::CloseButton)), this);
     cmdClose->setObjectName("cmdClose");
     cmdClose->setDefault(true);
     connect(cmdClose, &QPushButton::clicked, this, &QDialog::accept);

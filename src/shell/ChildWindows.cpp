@@ -25,8 +25,11 @@ constexpr std::array UnloadOrder{
     ChildWindow::ChannelEdit,
 };
 
-/// Numbers of the window list's captions: 41 to 48 for entries 1 to 8.
-constexpr int FirstCaption = 40;
+/// The window list's captions of entries 1 to 8.
+constexpr std::array Captions{
+    Text::OptionalFeaturesTitle, Text::KeyAssignmentTitle, Text::ScanInformationTitle, Text::DtmfTitle,
+    Text::CorvaneTitle,          Text::TestFrequencyTitle, Text::EmbeddedMessageTitle, Text::ChannelEditTitle,
+};
 
 void SetToNormal(QWidget& frame) {
     if (frame.isMinimized() || frame.isMaximized()) {
@@ -262,7 +265,7 @@ void ChildWindows::Arrange(Arrangement arrangement) {
 std::string ChildWindows::ListCaption(ChildWindow window) const {
     const int entry = WindowListEntry(window).value_or(0);
     return entry == 0 ? ChannelCaption(session_.LanguageFlag, session_.CurrentChannel)
-                      : std::string(session_.LoadText(FirstCaption + entry));
+                      : std::string(session_.LoadText(Captions[static_cast<std::size_t>(entry - 1)]));
 }
 
 void ChildWindows::OnActivated(QMdiSubWindow* frame) {

@@ -18,12 +18,6 @@ namespace zelvor {
 
 namespace {
 
-// Numbers of the string table.
-constexpr int CaptionText = 128;
-constexpr int LanguageText = 129;
-constexpr int EnglishText = 121;
-constexpr int ChineseText = 122;
-
 constexpr int ListWidth = 180;
 
 } // namespace
@@ -31,20 +25,20 @@ constexpr int ListWidth = 180;
 LanguageForm::LanguageForm(Session& session, Services& services, QWidget* parent)
     : QDialog(parent), session_(session), services_(services), oldLanguage_(session.LanguageFlag) {
     setObjectName("LanguageForm");
-    setWindowTitle(ToQString(session_.LoadText(CaptionText)));
+    setWindowTitle(ToQString(session_.LoadText(Text::LanguageFileSetup)));
     setWindowIcon(MakeIcon(IconShape::Application));
     BuildControls();
 }
 
 void LanguageForm::BuildControls() {
-    auto* labLanguage = new QLabel(ToQString(session_.LoadText(LanguageText)), this);
+    auto* labLanguage = new QLabel(ToQString(session_.LoadText(Text::LanguageMode)), this);
     labLanguage->setObjectName("labLanguage");
     comLanguage_ = new QComboBox(this);
     comLanguage_->setObjectName("ComLanguage");
     comLanguage_->setAccessibleName(labLanguage->text());
     comLanguage_->setMinimumWidth(ListWidth);
-    comLanguage_->addItem(ToQString(session_.LoadText(EnglishText)));
-    comLanguage_->addItem(ToQString(session_.LoadText(ChineseText)));
+    comLanguage_->addItem(ToQString(session_.LoadText(Text::English)));
+    comLanguage_->addItem(ToQString(session_.LoadText(Text::Chinese)));
     comLanguage_->setCurrentIndex(session_.LanguageFlag == Language::Chinese ? 1 : 0);
 
     const DialogButtons buttons = MakeDialogButtons(*this, session_);

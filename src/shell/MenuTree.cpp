@@ -10,80 +10,84 @@ constexpr bool Checkable = true;
 constexpr bool Hidden = true;
 
 constexpr std::array FileEntries{
-    MenuEntry{"MnuFileNew", 2},
-    MenuEntry{"MnuFileOpen", 3},
-    MenuEntry{"MnuFileSave", 4},
-    MenuEntry{"MnuFileSaveAs", 5},
+    MenuEntry{"MnuFileNew", Text::MenuNew},
+    MenuEntry{"MnuFileOpen", Text::MenuOpen},
+    MenuEntry{"MnuFileSave", Text::MenuSave},
+    MenuEntry{"MnuFileSaveAs", Text::MenuSaveAs},
     MenuEntry{"MnuFileBlank1"},
-    MenuEntry{"MnuFilePrint", 6},
-    MenuEntry{"MnuFilePreview", 7, !Checkable, Hidden},
+    MenuEntry{"MnuFilePrint", Text::MenuPrint},
+    MenuEntry{"MnuFilePreview", Text::MenuPrintPreview, !Checkable, Hidden},
     MenuEntry{"MnuFileBlank2"},
-    MenuEntry{"MnuFileExit", 8},
+    MenuEntry{"MnuFileExit", Text::MenuExit},
 };
 
 constexpr std::array ModelEntries{
-    MenuEntry{"MnuModelInformation", 10},
+    MenuEntry{"MnuModelInformation", Text::MenuModelInformation},
 };
 
 constexpr std::array EditEntries{
-    MenuEntry{"MnuEditChannelInformation", 12},
+    MenuEntry{"MnuEditChannelInformation", Text::MenuChannelInformation},
     MenuEntry{"MnuEditBlank1"},
-    MenuEntry{"MnuEditOptionalFeatures", 13},
-    MenuEntry{"MnuEditKeyAssignment", 14},
-    MenuEntry{"MnuEditScanInformation", 15},
+    MenuEntry{"MnuEditOptionalFeatures", Text::MenuOptionalFeatures},
+    MenuEntry{"MnuEditKeyAssignment", Text::MenuKeyAssignment},
+    MenuEntry{"MnuEditScanInformation", Text::MenuScanInformation},
     MenuEntry{"MnuEditBlank2"},
-    MenuEntry{"MnuEditDTMF", 16},
-    MenuEntry{"MnuEditCorvane", 17},
+    MenuEntry{"MnuEditDTMF", Text::MenuDtmf},
+    MenuEntry{"MnuEditCorvane", Text::MenuCorvane},
     MenuEntry{"MnuEditBlank3"},
-    MenuEntry{"MnuEditTestFrequency", 18},
-    MenuEntry{"MnuEditEmbeddedMessage", 19},
+    MenuEntry{"MnuEditTestFrequency", Text::MenuTestFrequency},
+    MenuEntry{"MnuEditEmbeddedMessage", Text::MenuEmbeddedMessage},
 };
 
 constexpr std::array ProgramEntries{
-    MenuEntry{"MnuProgramRead", 21},
-    MenuEntry{"MnuProgramWrite", 22},
-    MenuEntry{"MnuProgramTestMode", 23},
-    MenuEntry{"MnuProgramMemoryMap", 24, !Checkable, Hidden},
+    MenuEntry{"MnuProgramRead", Text::MenuReadFromRadio},
+    MenuEntry{"MnuProgramWrite", Text::MenuWriteToRadio},
+    MenuEntry{"MnuProgramTestMode", Text::MenuTestMode},
+    MenuEntry{"MnuProgramMemoryMap", Text::MenuMemoryMap, !Checkable, Hidden},
 };
 
 constexpr std::array ToolEntries{
-    MenuEntry{"MnuToolRadioInformation", 26},
+    MenuEntry{"MnuToolRadioInformation", Text::MenuRadioInformation},
 };
 
 constexpr std::array SetupEntries{
-    MenuEntry{"MnuSetupCommunicationPort", 28},
-    MenuEntry{"MnuSetupLanguageFileSetup", 29},
+    MenuEntry{"MnuSetupCommunicationPort", Text::MenuCommunicationPort},
+    MenuEntry{"MnuSetupLanguageFileSetup", Text::MenuLanguageFileSetup},
 };
 
 constexpr std::array ViewEntries{
-    MenuEntry{"MnuViewTreeView", 31},
+    MenuEntry{"MnuViewTreeView", Text::MenuTreeView},
     MenuEntry{"MnuViewBlank"},
-    MenuEntry{"MnuViewToolbar", 32, Checkable},
-    MenuEntry{"MnuViewStatusBar", 33, Checkable},
+    MenuEntry{"MnuViewToolbar", Text::MenuToolbar, Checkable},
+    MenuEntry{"MnuViewStatusBar", Text::MenuStatusBar, Checkable},
 };
 
 constexpr std::array WindowEntries{
-    MenuEntry{"MnuWindowCascade", 35},     MenuEntry{"MnuWindowHorizontally", 36}, MenuEntry{"MnuWindowVertically", 37},
-    MenuEntry{"MnuWindowArrangeIcon", 38}, MenuEntry{"MnuWindowBlank1"},           MenuEntry{"MnuWindowCloseAll", 39},
+    MenuEntry{"MnuWindowCascade", Text::MenuCascade},
+    MenuEntry{"MnuWindowHorizontally", Text::MenuTileHorizontally},
+    MenuEntry{"MnuWindowVertically", Text::MenuTileVertically},
+    MenuEntry{"MnuWindowArrangeIcon", Text::MenuArrangeIcons},
+    MenuEntry{"MnuWindowBlank1"},
+    MenuEntry{"MnuWindowCloseAll", Text::MenuCloseAllWindows},
     MenuEntry{"MnuWindowBlank2"},
 };
 
 constexpr std::array HelpEntries{
-    MenuEntry{"MnuHelpTopics", 50},
+    MenuEntry{"MnuHelpTopics", Text::MenuHelpTopics},
     MenuEntry{"MnuHelpBlank"},
-    MenuEntry{"MnuHelpAbout", 51},
+    MenuEntry{"MnuHelpAbout", Text::MenuAboutZelvor},
 };
 
 constexpr std::array<MenuDescription, 9> Menus{{
-    {"MnuFile", 1, FileEntries},
-    {"MnuModel", 9, ModelEntries},
-    {"MnuEdit", 11, EditEntries},
-    {"MnuProgram", 20, ProgramEntries},
-    {"MnuTool", 25, ToolEntries},
-    {"MnuSetup", 27, SetupEntries},
-    {"MnuView", 30, ViewEntries},
-    {"MnuWindow", 34, WindowEntries},
-    {"MnuHelp", 49, HelpEntries},
+    {"MnuFile", Text::MenuFile, FileEntries},
+    {"MnuModel", Text::MenuModel, ModelEntries},
+    {"MnuEdit", Text::MenuEdit, EditEntries},
+    {"MnuProgram", Text::MenuProgram, ProgramEntries},
+    {"MnuTool", Text::MenuTools, ToolEntries},
+    {"MnuSetup", Text::MenuSetup, SetupEntries},
+    {"MnuView", Text::MenuView, ViewEntries},
+    {"MnuWindow", Text::MenuWindow, WindowEntries},
+    {"MnuHelp", Text::MenuHelp, HelpEntries},
 }};
 
 } // namespace

@@ -1,24 +1,25 @@
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string_view>
 
+#include "text/Text.h"
+
 namespace zelvor {
 
-/// An entry of a menu: its control name, the number of its text in the string table, and whether it bears a check mark.
+/// An entry of a menu: its control name, its text, and whether it bears a check mark.
 /// A separator has no text.
 struct MenuEntry {
-    static constexpr int Separator = 0;
-
     std::string_view name;
-    int text = Separator;
+    std::optional<Text> text = {};
     bool checkable = false;
     bool hidden = false; // from the start; nothing shows it again
 };
 
 struct MenuDescription {
     std::string_view name;
-    int text;
+    Text text;
     std::span<const MenuEntry> entries;
 };
 

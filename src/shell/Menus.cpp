@@ -16,7 +16,7 @@ namespace {
 void AddEntry(QMenu& menu, const MenuEntry& entry) {
     auto* action = new QAction(&menu);
     action->setObjectName(ToQString(entry.name));
-    action->setSeparator(entry.text == MenuEntry::Separator);
+    action->setSeparator(!entry.text);
     action->setCheckable(entry.checkable);
     action->setChecked(entry.checkable);
     action->setVisible(!entry.hidden);
@@ -42,8 +42,8 @@ void Menus::ApplyCaptions(const Session& session) {
     for (const MenuDescription& description : MenuTree()) {
         Menu(description.name).setTitle(ToQString(session.LoadText(description.text)));
         for (const MenuEntry& entry : description.entries) {
-            if (entry.text != MenuEntry::Separator) {
-                Entry(entry.name).setText(ToQString(session.LoadText(entry.text)));
+            if (entry.text) {
+                Entry(entry.name).setText(ToQString(session.LoadText(*entry.text)));
             }
         }
     }

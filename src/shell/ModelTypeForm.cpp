@@ -23,11 +23,6 @@ namespace zelvor {
 
 namespace {
 
-// Numbers of the string table.
-constexpr int CaptionText = 93;
-constexpr int ModelText = 94;
-constexpr int FrequencyText = 95;
-
 constexpr TextPair ClearedText{"Frequency will be cleared.", "频率数据将被清除。"};
 
 constexpr int ListWidth = 180;
@@ -52,15 +47,15 @@ QLabel* MakeLabel(QDialog& dialog, const char* name, const QString& text) {
 ModelTypeForm::ModelTypeForm(Session& session, Services& services, QWidget* parent)
     : QDialog(parent), session_(session), services_(services) {
     setObjectName("ModelTypeForm");
-    setWindowTitle(ToQString(session.LoadText(CaptionText)));
+    setWindowTitle(ToQString(session.LoadText(Text::ModelInformation)));
     setWindowIcon(MakeIcon(IconShape::Application));
     BuildControls();
     SelectVariantOfImage();
 }
 
 void ModelTypeForm::BuildControls() {
-    const QString model = ToQString(session_.LoadText(ModelText));
-    const QString frequency = ToQString(session_.LoadText(FrequencyText));
+    const QString model = ToQString(session_.LoadText(Text::ModelType));
+    const QString frequency = ToQString(session_.LoadText(Text::Frequency));
     cboModelType_ = MakeList(*this, "cboModelType", model);
     cboFreq_ = MakeList(*this, "cboFreq", frequency);
     for (const std::string_view entry : ModelEntries()) {

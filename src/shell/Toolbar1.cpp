@@ -20,17 +20,17 @@ namespace {
 
 struct Button {
     int index;
-    int toolTip; // number of the string table
+    Text toolTip;
     IconShape icon;
 };
 constexpr std::array<Button, 7> Buttons{{
-    {1, 52, IconShape::New},
-    {2, 53, IconShape::Open},
-    {3, 54, IconShape::Save},
-    {5, 55, IconShape::Print},
-    {7, 56, IconShape::Read},
-    {9, 57, IconShape::Write},
-    {11, 58, IconShape::About},
+    {1, Text::NewTip, IconShape::New},
+    {2, Text::OpenTip, IconShape::Open},
+    {3, Text::SaveTip, IconShape::Save},
+    {5, Text::PrintTip, IconShape::Print},
+    {7, Text::ReadTip, IconShape::Read},
+    {9, Text::WriteTip, IconShape::Write},
+    {11, Text::AboutTip, IconShape::About},
 }};
 
 constexpr int IconSize = 24;

@@ -18,26 +18,21 @@ namespace zelvor {
 
 namespace {
 
-// Numbers of the string table.
-constexpr int CaptionText = 194;
-constexpr int CloseText = 75;
-constexpr int HelpText = 76;
-
 struct Node {
     const char* key;
-    int text;
+    Text text;
     ChildWindow window;
 };
 constexpr const char* RootKey = "R";
 constexpr std::array<Node, 8> Nodes{{
-    {"C1", 195, ChildWindow::Channels},
-    {"C2", 41, ChildWindow::OptionalFeatures},
-    {"C3", 42, ChildWindow::KeyAssignment},
-    {"C4", 43, ChildWindow::Scan},
-    {"C5", 44, ChildWindow::Dtmf},
-    {"C6", 45, ChildWindow::Corvane},
-    {"C7", 46, ChildWindow::TestFrequency},
-    {"C8", 47, ChildWindow::EmbeddedMessage},
+    {"C1", Text::ChannelInformationTitle, ChildWindow::Channels},
+    {"C2", Text::OptionalFeaturesTitle, ChildWindow::OptionalFeatures},
+    {"C3", Text::KeyAssignmentTitle, ChildWindow::KeyAssignment},
+    {"C4", Text::ScanInformationTitle, ChildWindow::Scan},
+    {"C5", Text::DtmfTitle, ChildWindow::Dtmf},
+    {"C6", Text::CorvaneTitle, ChildWindow::Corvane},
+    {"C7", Text::TestFrequencyTitle, ChildWindow::TestFrequency},
+    {"C8", Text::EmbeddedMessageTitle, ChildWindow::EmbeddedMessage},
 }};
 constexpr int KeyRole = Qt::UserRole;
 
@@ -55,7 +50,7 @@ constexpr int TreeWidth = PixelsOfTwips(FormTwips.width()) - 2 * Margin;
 
 TreeViewForm::TreeViewForm(const Session& session, Services& services, QWidget* parent)
     : ChildForm(ChildWindow::Navigator, "TreeViewForm", FormTwips, parent), session_(session), services_(services) {
-    SetCaption(ToQString(session.LoadText(CaptionText)));
+    SetCaption(ToQString(session.LoadText(Text::TreeView)));
     BuildControls();
     BuildTree();
     NodeClickTick = services_.clock.TickCount();
@@ -72,14 +67,14 @@ void TreeViewForm::BuildControls() {
     connect(treView_, &QTreeWidget::itemClicked, this, &TreeViewForm::OnNodeClick);
     setFocusProxy(treView_);
 
-    QPushButton* cmdClose = MakeButton("cmdClose", CloseText, Margin);
-    QPushButton* cmdHelp = MakeButton("cmdHelp", HelpText, Margin + TreeWidth - ButtonWidth);
+    QPushButton* cmdClose = MakeButton("cmdClose", Text::CloseButton, Margin);
+    QPushButton* cmdHelp = MakeButton("cmdHelp", Text::HelpButton, Margin + TreeWidth - ButtonWidth);
     connect(cmdClose, &QPushButton::clicked, this, &TreeViewForm::UnloadRequested);
     connect(cmdHelp, &QPushButton::clicked, this,
             [this] { services_.help.ShowTopic(HelpTopicPath(session_.LanguageFlag, HelpPage())); });
 }
 
-QPushButton* TreeViewForm::MakeButton(const char* name, int text, int left) {
+QPushButton* TreeViewForm::MakeButton(const char* name, Text text, int left) {
     auto* button = new QPushButton(ToQString(session_.LoadText(text)), Content());
     button->setObjectName(name);
     button->setGeometry(left, ButtonTop, ButtonWidth, ButtonHeight);

@@ -31,7 +31,7 @@ protected:
 private:
     void BuildControls();
     void BuildTree();
-    QPushButton* MakeButton(const char* name, int text, int left);
+    QPushButton* MakeButton(const char* name, Text text, int left);
     void OnNodeClick();
     void OnDoubleClick(const QPoint& position);
     void ActivateSelectedNode();

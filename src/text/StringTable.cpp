@@ -6,298 +6,320 @@
 namespace zelvor {
 namespace {
 
-constexpr int EntryCount = 253;
-constexpr int FirstCommonEntry = 1900;
-constexpr int CommonEntryCount = 14;
-
-/// Entry n stands at place n - 1. Its numbers are 1000 + n for the Chinese and 2000 + n for the English text.
-/// Leading blanks belong to window titles, "&" marks the access key, and 239 and 240 end in an apostrophe in English.
-constexpr std::array<TextPair, EntryCount> Entries{{
-    {"&File", "文件(&F)"},                                                  // 1
-    {"&New", "新建(&N)"},                                                   // 2
-    {"&Open", "打开(&O)"},                                                  // 3
-    {"&Save", "保存(&S)"},                                                  // 4
-    {"Save &As", "另存为(&A)"},                                             // 5
-    {"&Print", "打印(&P)"},                                                 // 6
-    {"Print Pre&view", "打印预览(&V)"},                                     // 7
-    {"E&xit", "退出(&X)"},                                                  // 8
-    {"&Model", "机型(&M)"},                                                 // 9
-    {"&Model Information", "机型信息(&M)"},                                 // 10
-    {"&Edit", "编辑(&E)"},                                                  // 11
-    {"&Channel Information", "信道信息(&C)"},                               // 12
-    {"&Optional Features", "可选功能(&O)"},                                 // 13
-    {"&Key Assignment", "键设定(&K)"},                                      // 14
-    {"&Scan Information", "扫描信息(&S)"},                                  // 15
-    {"&DTMF", "DTMF(双音多频)(&D)"},                                        // 16
-    {"&Corvane", "Corvane(科瓦讯)(&F)"},                                    // 17
-    {"&Test Frequency", "测试频率(&T)"},                                    // 18
-    {"Embedded &Message", "嵌入信息(&M)"},                                  // 19
-    {"&Program", "编程(&P)"},                                               // 20
-    {"&Read from Radio", "从对讲机读取数据(&R)"},                           // 21
-    {"&Write to Radio", "向对讲机写入数据(&W)"},                            // 22
-    {"&Test Mode", "测试模式(&T)"},                                         // 23
-    {"&Memory Map", "内存指针图(&M)"},                                      // 24
-    {"&Tools", "工具(&T)"},                                                 // 25
-    {"&Radio Information", "对讲机信息(&R)"},                               // 26
-    {"&Setup", "设置(&S)"},                                                 // 27
-    {"&Communication Port", "通信端口(&C)"},                                // 28
-    {"&Language File Setup", "语言文件设置(&L)"},                           // 29
-    {"&View", "视图(&V)"},                                                  // 30
-    {"Tree &View", "树视图(&V)"},                                           // 31
-    {"&Toolbar", "工具栏(&T)"},                                             // 32
-    {"&Status bar", "状态栏(&S)"},                                          // 33
-    {"&Window", "窗口(&W)"},                                                // 34
-    {"&Cascade", "层叠(&C)"},                                               // 35
-    {"Tile Windows &Horizontally", "横向平铺窗口(&H)"},                     // 36
-    {"Tile Windows &Vertically", "纵向平铺窗口(&V)"},                       // 37
-    {"&Arrange Icons", "排列图标(&A)"},                                     // 38
-    {"Close All &Windows", "关闭所有窗口(&W)"},                             // 39
-    {"Channel Information [ Channel - 1 ]", "信道信息 [信道-1]"},           // 40
-    {" Optional Features", " 可选功能"},                                    // 41
-    {" Key Assignment", " 键设定"},                                         // 42
-    {" Scan Information", " 扫描信息"},                                     // 43
-    {" DTMF", " DTMF(双音多频)"},                                           // 44
-    {" Corvane", " Corvane(科瓦讯)"},                                       // 45
-    {" Test Frequency", " 测试频率"},                                       // 46
-    {" Embedded Message", " 嵌入信息"},                                     // 47
-    {" Channel Edit", " 信道编辑"},                                         // 48
-    {"&Help", "帮助(&H)"},                                                  // 49
-    {"&Help Topics", "帮助主题(&H)"},                                       // 50
-    {"&About Zelvor", "关于 Zelvor(&A)"},                                   // 51
-    {"New", "新建"},                                                        // 52
-    {"Open", "打开"},                                                       // 53
-    {"Save", "保存"},                                                       // 54
-    {"Print", "打印"},                                                      // 55
-    {"Read", "读取"},                                                       // 56
-    {"Write", "写入"},                                                      // 57
-    {"About", "关于"},                                                      // 58
-    {"Channel &Edit", "信道编辑(&E)"},                                      // 59
-    {"Channel", "信道"},                                                    // 60
-    {"Receive Frequency", "接收频率"},                                      // 61
-    {"Transmit Frequency", "发射频率"},                                     // 62
-    {"QT/DQT Decode", "QT/DQT解码"},                                        // 63
-    {"QT/DQT Encode", "QT/DQT编码"},                                        // 64
-    {"Option Signalling", "可选信令"},                                      // 65
-    {"SP Unmute", "SP不发音"},                                              // 66
-    {"TX Power", "发射功率"},                                               // 67
-    {"Wide/Narrow", "宽带/窄带"},                                           // 68
-    {"Busy Channel Lockout", "繁忙信道锁定"},                               // 69
-    {"Autodial Memory", "自动拨号存储器"},                                  // 70
-    {"Beat Shift", "拍频偏移"},                                             // 71
-    {"Scan Add", "扫描添加"},                                               // 72
-    {"Priority Channel", "优先信道"},                                       // 73
-    {"Compander", "压扩器"},                                                // 74
-    {"&Close", "关闭(&C)"},                                                 // 75
-    {"&Help", "帮助(&H)"},                                                  // 76
-    {"None", "无"},                                                         // 77
-    {"Free Area(Bytes):", "空位(Bytes):"},                                  // 78
-    {"Carrier", "载波"},                                                    // 79
-    {"Carrier + Opt.Sig.", "载波+可选信令"},                                // 80
-    {"Carrier or Opt.Sig.", "载波或可选信令"},                              // 81
-    {"QT/DQT + Opt.Sig.", "QT/DQT+可选信令"},                               // 82
-    {"QT/DQT or Opt.Sig.", "QT/DQT或可选信令"},                             // 83
-    {"Option Signalling", "可选信令"},                                      // 84
-    {"Off", "关"},                                                          // 85
-    {"Wide", "宽带"},                                                       // 86
-    {"Narrow", "窄带"},                                                     // 87
-    {"Yes", "有"},                                                          // 88
-    {"On", "开"},                                                           // 89
-    {"High", "高"},                                                         // 90
-    {"Low", "低"},                                                          // 91
-    {"No", "无"},                                                           // 92
-    {"Model Information", "机型信息"},                                      // 93
-    {"Model Type", "机型类型"},                                             // 94
-    {"Frequency", "频率"},                                                  // 95
-    {"&OK", "确定(&O)"},                                                    // 96
-    {"&Cancel", "取消(&C)"},                                                // 97
-    {"Optional Features", "可选功能"},                                      // 98
-    {"Time Out Timer(TOT)[s]", "超时定时器(TOT)[秒]"},                      // 99
-    {"TOT Pre-Alert[s]", "超时定时器预警[秒]"},                             // 100
-    {"Squelch Level", "静噪电平"},                                          // 101
-    {"Mic Sensitivity", "麦克风灵敏度"},                                    // 102
-    {"Voice Annunciation", "语音通知"},                                     // 103
-    {"Battery Save", "电池省电"},                                           // 104
-    {"Beep", "哔音"},                                                       // 105
-    {"Scrambler Activation", "扰频器激活"},                                 // 106
-    {"Scrambler Backup", "扰频器备份"},                                     // 107
-    {"PTT ID Type", "PTT ID类型"},                                          // 108
-    {"Begin of TX", "发射开始"},                                            // 109
-    {"End of TX", "发射结束"},                                              // 110
-    {"VOX", "VOX(声控发射)"},                                               // 111
-    {"VOX Function", "VOX功能"},                                            // 112
-    {"VOX Gain Level", "VOX增益电平"},                                      // 113
-    {"VOX Delay Time[s]", "VOX延迟时间[秒]"},                               // 114
-    {"Cancel Operation", "取消操作"},                                       // 115
-    {"VOX Proceed Tone", "VOX可进行音调"},                                  // 116
-    {"VOX inhibit on Receive", "接收时禁止VOX"},                            // 117
-    {"Mode", "模式"},                                                       // 118
-    {"Clone Mode", "复制模式"},                                             // 119
-    {"Normal", "常规"},                                                     // 120
-    {"English", "英文"},                                                    // 121
-    {"Chinese", "中文"},                                                    // 122
-    {"DTMF", "DTMF(双音多频)"},                                             // 123
-    {"Corvane", "Corvane(科瓦讯)"},                                         // 124
-    {"Both", "两者"},                                                       // 125
-    {"BOT", "发射开始"},                                                    // 126
-    {"EOT", "发射结束"},                                                    // 127
-    {"Language File Setup", "语言文件设置"},                                // 128
-    {"Language Mode", "语言模式"},                                          // 129
-    {"Autodial", "自动拨号"},                                               // 130
-    {"Key Lock", "按键锁定"},                                               // 131
-    {"Key Lock with Backup", "按键锁定及备份"},                             // 132
-    {"Monitor", "监听"},                                                    // 133
-    {"Monitor Momentary", "监听瞬时"},                                      // 134
-    {"Scan", "扫描"},                                                       // 135
-    {"Scan+Temporary Delete", "扫描+暂时删除"},                             // 136
-    {"Scrambler", "扰频器"},                                                // 137
-    {"Squelch Off", "取消静噪"},                                            // 138
-    {"Squelch Off Momentary", "瞬时取消静噪"},                              // 139
-    {"Temporary Delete", "暂时删除"},                                       // 140
-    {"Key Assignment", "键设定"},                                           // 141
-    {"Scan Information", "扫描信息"},                                       // 142
-    {"Priority", "优先"},                                                   // 143
-    {"Priority Channel", "优先信道"},                                       // 144
-    {"Look Back Time A [s]", "回扫时间 A [s]"},                             // 145
-    {"Look Back Time B [s]", "回扫时间 B [s]"},                             // 146
-    {"Revert Channel", "返回信道"},                                         // 147
-    {"Dropout Delay Time [s]", "扫描接收恢复延迟时间[s]"},                  // 148
-    {"Tx Dwell Time [s]", "扫描发射恢复延迟时间[s]"},                       // 149
-    {"Selected", "选定"},                                                   // 150
-    {"Fixed", "固定"},                                                      // 151
-    {"Priority", "优先"},                                                   // 152
-    {"Priority + Talk Back ", "优先＋当前通话"},                            // 153
-    {"Selected + Talk Back", "选定＋当前通话"},                             // 154
-    {"Encode", "编码"},                                                     // 155
-    {"Decode", "解码"},                                                     // 156
-    {"Autodial Memory", "自动拨号存储器"},                                  // 157
-    {"DTMF Speed [digit/s]", "DTMF速率[数字/秒]"},                          // 158
-    {"First Digit Time [ms]", "首位数码时间[毫秒]"},                        // 159
-    {"First Digit Delay [ms]", "首位数码延迟[毫秒]"},                       // 160
-    {"* and # Tone [ms]", "*和#音[毫秒]"},                                  // 161
-    {"D Code Assignment", "D键设定"},                                       // 162
-    {"DTMF Side Tone", "DTMF侧音"},                                         // 163
-    {"ID Code", "ID码"},                                                    // 164
-    {"Group Code", "组呼码"},                                               // 165
-    {"Auto Reset Timer [s]", "自动复位定时器[秒]"},                         // 166
-    {"Call Alert", "呼叫告警"},                                             // 167
-    {"Transpond", "自动应答"},                                              // 168
-    {"Clear to Transpond", "清除自动应答"},                                 // 169
-    {"Stun Code", "遥毙码"},                                                // 170
-    {"Stun Type", "遥毙类型"},                                              // 171
-    {"No.", "编号"},                                                        // 172
-    {"Continuous", "连续"},                                                 // 173
-    {"Alert", "告警"},                                                      // 174
-    {"D Code", "D 码"},                                                     // 175
-    {"Corvane", "科瓦讯"},                                                  // 176
-    {"Fleet List", "队列表"},                                               // 177
-    {"Fleet(own)", "队列(自身)"},                                           // 178
-    {"ID(own)", "ID(自身)"},                                                // 179
-    {"Corvane Baud Rate [bps]", "科瓦讯波特率[bps]"},                       // 180
-    {"Data TX Modulation Delay Timer [ms]", "2数据发射调制延迟时间[毫秒]"}, // 181
-    {"Message Mode Timer [s]", "信息模式定时器[秒]"},                       // 182
-    {"PTT ID Side Tone", "PTT ID 侧音"},                                    // 183
-    {"All", "全部"},                                                        // 184
-    {"Test Frequency", "测试频率"},                                         // 185
-    {"Read data from radio", "从对讲机读取数据"},                           // 186
-    {"Write data to radio", "向对讲机写入数据"},                            // 187
-    {"Communication Port", "通信端口"},                                     // 188
-    {"COM", "通信口"},                                                      // 189
-    {"Radio Information", "对讲机信息"},                                    // 190
-    {"Frequency", "频率"},                                                  // 191
-    {"Serial Number", "序号"},                                              // 192
-    {"Version", "版本"},                                                    // 193
-    {"Tree View", "树视图"},                                                // 194
-    {" Channel Information", " 信道信息"},                                  // 195
-    {"Memory Map", "内存指针图"},                                           // 196
-    {"Test Mode", "测试模式"},                                              // 197
-    {"Test Channel", "测试信道"},                                           // 198
-    {"Test Signalling", "测试信令"},                                        // 199
-    {"Channel No.", "信道编号"},                                            // 200
-    {"Signalling", "信令"},                                                 // 201
-    {"RX", "接收"},                                                         // 202
-    {"TX", "发射"},                                                         // 203
-    {"&Wide", "宽带(W)"},                                                   // 204
-    {"&Narrow", "窄带(N)"},                                                 // 205
-    {"&Tuning Mode", "调谐模式(T)"},                                        // 206
-    {"&Print", "打印(P)"},                                                  // 207
-    {"RF High Power", "RF高功率"},                                          // 208
-    {"RF Low Power", "RF低功率"},                                           // 209
-    {"DQT Balance", "DQT平衡"},                                             // 210
-    {"Max Deviation", "最大偏差"},                                          // 211
-    {"QT Fine Deviation", "QT细偏差"},                                      // 212
-    {"DQT Fine Deviation", "DQT细偏差"},                                    // 213
-    {"DTMF Fine Deviation", "DTMF细偏差"},                                  // 214
-    {"Sensitivity", "灵敏度"},                                              // 215
-    {"Squelch(Tight)", "最紧静噪"},                                         // 216
-    {"Squelch(Open)", "静噪打开"},                                          // 217
-    {"MSK Fine Deviation", "MSK频偏差"},                                    // 218
-    {"Battery Warning Level", "电池告警电平"},                              // 219
-    {"DTMF Tone 9", "DTMF 音调 9"},                                         // 220
-    {"DQT Balance(Wide)", "DQT平衡(宽带)"},                                 // 221
-    {"DQT Balance(Narrow)", "DQT平衡(窄带)"},                               // 222
-    {"Max Deviation(Wide)", "最大频差(宽带)"},                              // 223
-    {"Max Deviation(Narrow)", "最大频差(窄带)"},                            // 224
-    {"QT Fine Deviation(Wide)", "QT细频差(宽带)"},                          // 225
-    {"QT Fine Deviation(Narrow)", "QT细频差(窄带)"},                        // 226
-    {"DQT Fine Deviation(Wide)", "DQT细频差(宽带)"},                        // 227
-    {"DQT Fine Deviation(Narrow)", "DQT细频差(窄带)"},                      // 228
-    {"DTMF Fine Deviation(Wide)", "DTMF细频差(宽带)"},                      // 229
-    {"DTMF Fine Deviation(Narrow)", "DTMF细频差(窄带)"},                    // 230
-    {"Squelch(Tight)(Wide)", "最紧静噪(宽带)"},                             // 231
-    {"Squelch(Tight)(Narrow)", "最紧静噪(窄带)"},                           // 232
-    {"Squelch(Open)(Wide)", "静噪打开(宽带)"},                              // 233
-    {"Squelch(Open)(Narrow)", "静噪打开(窄带)"},                            // 234
-    {"MSK Fine Deviation(Wide)", "MSK频偏差(宽带)"},                        // 235
-    {"MSK Fine Deviation(Narrow)", "MSK频偏差(窄带)"},                      // 236
-    {"Start", "开始"},                                                      // 237
-    {"Test", "测试"},                                                       // 238
-    {"Low'", "较低"},                                                       // 239
-    {"High'", "较高"},                                                      // 240
-    {"Center", "中心"},                                                     // 241
-    {"P&rint setup", "打印设置"},                                           // 242
-    {"C&lear All", "全部清除"},                                             // 243
-    {"Select &All", "全部选定"},                                            // 244
-    {"Print Out List", "打印列表"},                                         // 245
-    {"Radio Type", "对讲机类型"},                                           // 246
-    {"File Name", "文件名"},                                                // 247
-    {"All Tuning Data", "所有调谐数据"},                                    // 248
-    {"Disabled", "已关闭"},                                                 // 249
-    {"Enabled", "已开启"},                                                  // 250
-    {"RX Frequency[MHz]", "接收频率[MHz]"},                                 // 251
-    {"TX Frequency[MHz]", "发射频率[MHz]"},                                 // 252
-    {"Own", "自身"},                                                        // 253
-}};
-
-/// Entries of one language, from number 1900.
-constexpr std::array<std::string_view, CommonEntryCount> CommonEntries{
-    "QT/DQT",         // 1900
-    "DTMF",           // 1901
-    "Corvane",        // 1902
-    "VOX1",           // 1903
-    "VOX10",          // 1904
-    "RSSI",           // 1905
-    "100Hz SW",       // 1906
-    "QT 67.0Hz",      // 1907
-    "QT 151.4Hz",     // 1908
-    "QT 250.3Hz",     // 1909
-    "DQT D023N",      // 1910
-    "DQT D754I",      // 1911
-    "DTMF DEC(159D)", // 1912
-    "DTMF ENC(159D)", // 1913
+struct Entry {
+    Text name;
+    std::string_view english;
+    std::string_view chinese;
 };
 
-static_assert(!Entries.back().english.empty() && !CommonEntries.back().empty());
+struct CommonEntry {
+    Text name;
+    std::string_view text;
+};
+
+constexpr int FirstEntry = 1;
+constexpr int FirstCommonEntry = 1900;
+
+/// In the order of their numbers. Leading blanks belong to window titles, "&" marks the access key, and LowPrime and
+/// HighPrime end in an apostrophe in English.
+constexpr std::array Entries = std::to_array<Entry>({
+    {Text::MenuFile, "&File", "文件(&F)"},
+    {Text::MenuNew, "&New", "新建(&N)"},
+    {Text::MenuOpen, "&Open", "打开(&O)"},
+    {Text::MenuSave, "&Save", "保存(&S)"},
+    {Text::MenuSaveAs, "Save &As", "另存为(&A)"},
+    {Text::MenuPrint, "&Print", "打印(&P)"},
+    {Text::MenuPrintPreview, "Print Pre&view", "打印预览(&V)"},
+    {Text::MenuExit, "E&xit", "退出(&X)"},
+    {Text::MenuModel, "&Model", "机型(&M)"},
+    {Text::MenuModelInformation, "&Model Information", "机型信息(&M)"},
+    {Text::MenuEdit, "&Edit", "编辑(&E)"},
+    {Text::MenuChannelInformation, "&Channel Information", "信道信息(&C)"},
+    {Text::MenuOptionalFeatures, "&Optional Features", "可选功能(&O)"},
+    {Text::MenuKeyAssignment, "&Key Assignment", "键设定(&K)"},
+    {Text::MenuScanInformation, "&Scan Information", "扫描信息(&S)"},
+    {Text::MenuDtmf, "&DTMF", "DTMF(双音多频)(&D)"},
+    {Text::MenuCorvane, "&Corvane", "Corvane(科瓦讯)(&F)"},
+    {Text::MenuTestFrequency, "&Test Frequency", "测试频率(&T)"},
+    {Text::MenuEmbeddedMessage, "Embedded &Message", "嵌入信息(&M)"},
+    {Text::MenuProgram, "&Program", "编程(&P)"},
+    {Text::MenuReadFromRadio, "&Read from Radio", "从对讲机读取数据(&R)"},
+    {Text::MenuWriteToRadio, "&Write to Radio", "向对讲机写入数据(&W)"},
+    {Text::MenuTestMode, "&Test Mode", "测试模式(&T)"},
+    {Text::MenuMemoryMap, "&Memory Map", "内存指针图(&M)"},
+    {Text::MenuTools, "&Tools", "工具(&T)"},
+    {Text::MenuRadioInformation, "&Radio Information", "对讲机信息(&R)"},
+    {Text::MenuSetup, "&Setup", "设置(&S)"},
+    {Text::MenuCommunicationPort, "&Communication Port", "通信端口(&C)"},
+    {Text::MenuLanguageFileSetup, "&Language File Setup", "语言文件设置(&L)"},
+    {Text::MenuView, "&View", "视图(&V)"},
+    {Text::MenuTreeView, "Tree &View", "树视图(&V)"},
+    {Text::MenuToolbar, "&Toolbar", "工具栏(&T)"},
+    {Text::MenuStatusBar, "&Status bar", "状态栏(&S)"},
+    {Text::MenuWindow, "&Window", "窗口(&W)"},
+    {Text::MenuCascade, "&Cascade", "层叠(&C)"},
+    {Text::MenuTileHorizontally, "Tile Windows &Horizontally", "横向平铺窗口(&H)"},
+    {Text::MenuTileVertically, "Tile Windows &Vertically", "纵向平铺窗口(&V)"},
+    {Text::MenuArrangeIcons, "&Arrange Icons", "排列图标(&A)"},
+    {Text::MenuCloseAllWindows, "Close All &Windows", "关闭所有窗口(&W)"},
+    {Text::ChannelInformationOfChannel1, "Channel Information [ Channel - 1 ]", "信道信息 [信道-1]"},
+    {Text::OptionalFeaturesTitle, " Optional Features", " 可选功能"},
+    {Text::KeyAssignmentTitle, " Key Assignment", " 键设定"},
+    {Text::ScanInformationTitle, " Scan Information", " 扫描信息"},
+    {Text::DtmfTitle, " DTMF", " DTMF(双音多频)"},
+    {Text::CorvaneTitle, " Corvane", " Corvane(科瓦讯)"},
+    {Text::TestFrequencyTitle, " Test Frequency", " 测试频率"},
+    {Text::EmbeddedMessageTitle, " Embedded Message", " 嵌入信息"},
+    {Text::ChannelEditTitle, " Channel Edit", " 信道编辑"},
+    {Text::MenuHelp, "&Help", "帮助(&H)"},
+    {Text::MenuHelpTopics, "&Help Topics", "帮助主题(&H)"},
+    {Text::MenuAboutZelvor, "&About Zelvor", "关于 Zelvor(&A)"},
+    {Text::NewTip, "New", "新建"},
+    {Text::OpenTip, "Open", "打开"},
+    {Text::SaveTip, "Save", "保存"},
+    {Text::PrintTip, "Print", "打印"},
+    {Text::ReadTip, "Read", "读取"},
+    {Text::WriteTip, "Write", "写入"},
+    {Text::AboutTip, "About", "关于"},
+    {Text::ChannelEditButton, "Channel &Edit", "信道编辑(&E)"},
+    {Text::Channel, "Channel", "信道"},
+    {Text::ReceiveFrequency, "Receive Frequency", "接收频率"},
+    {Text::TransmitFrequency, "Transmit Frequency", "发射频率"},
+    {Text::QtDqtDecode, "QT/DQT Decode", "QT/DQT解码"},
+    {Text::QtDqtEncode, "QT/DQT Encode", "QT/DQT编码"},
+    {Text::OptionSignallingLabel, "Option Signalling", "可选信令"},
+    {Text::SpUnmute, "SP Unmute", "SP不发音"},
+    {Text::TxPower, "TX Power", "发射功率"},
+    {Text::WideNarrow, "Wide/Narrow", "宽带/窄带"},
+    {Text::BusyChannelLockout, "Busy Channel Lockout", "繁忙信道锁定"},
+    {Text::AutodialMemoryOfChannel, "Autodial Memory", "自动拨号存储器"},
+    {Text::BeatShift, "Beat Shift", "拍频偏移"},
+    {Text::ScanAdd, "Scan Add", "扫描添加"},
+    {Text::IsPriorityChannel, "Priority Channel", "优先信道"},
+    {Text::Compander, "Compander", "压扩器"},
+    {Text::CloseButton, "&Close", "关闭(&C)"},
+    {Text::HelpButton, "&Help", "帮助(&H)"},
+    {Text::None, "None", "无"},
+    {Text::FreeAreaBytes, "Free Area(Bytes):", "空位(Bytes):"},
+    {Text::Carrier, "Carrier", "载波"},
+    {Text::CarrierAndOptSig, "Carrier + Opt.Sig.", "载波+可选信令"},
+    {Text::CarrierOrOptSig, "Carrier or Opt.Sig.", "载波或可选信令"},
+    {Text::QtDqtAndOptSig, "QT/DQT + Opt.Sig.", "QT/DQT+可选信令"},
+    {Text::QtDqtOrOptSig, "QT/DQT or Opt.Sig.", "QT/DQT或可选信令"},
+    {Text::OptionSignalling, "Option Signalling", "可选信令"},
+    {Text::Off, "Off", "关"},
+    {Text::Wide, "Wide", "宽带"},
+    {Text::Narrow, "Narrow", "窄带"},
+    {Text::Yes, "Yes", "有"},
+    {Text::On, "On", "开"},
+    {Text::High, "High", "高"},
+    {Text::Low, "Low", "低"},
+    {Text::No, "No", "无"},
+    {Text::ModelInformation, "Model Information", "机型信息"},
+    {Text::ModelType, "Model Type", "机型类型"},
+    {Text::Frequency, "Frequency", "频率"},
+    {Text::OkButton, "&OK", "确定(&O)"},
+    {Text::CancelButton, "&Cancel", "取消(&C)"},
+    {Text::OptionalFeatures, "Optional Features", "可选功能"},
+    {Text::TimeOutTimer, "Time Out Timer(TOT)[s]", "超时定时器(TOT)[秒]"},
+    {Text::TimeOutPreAlert, "TOT Pre-Alert[s]", "超时定时器预警[秒]"},
+    {Text::SquelchLevel, "Squelch Level", "静噪电平"},
+    {Text::MicSensitivity, "Mic Sensitivity", "麦克风灵敏度"},
+    {Text::VoiceAnnunciation, "Voice Annunciation", "语音通知"},
+    {Text::BatterySave, "Battery Save", "电池省电"},
+    {Text::Beep, "Beep", "哔音"},
+    {Text::ScramblerActivation, "Scrambler Activation", "扰频器激活"},
+    {Text::ScramblerBackup, "Scrambler Backup", "扰频器备份"},
+    {Text::PttIdType, "PTT ID Type", "PTT ID类型"},
+    {Text::BeginOfTx, "Begin of TX", "发射开始"},
+    {Text::EndOfTx, "End of TX", "发射结束"},
+    {Text::Vox, "VOX", "VOX(声控发射)"},
+    {Text::VoxFunction, "VOX Function", "VOX功能"},
+    {Text::VoxGainLevel, "VOX Gain Level", "VOX增益电平"},
+    {Text::VoxDelayTime, "VOX Delay Time[s]", "VOX延迟时间[秒]"},
+    {Text::CancelOperation, "Cancel Operation", "取消操作"},
+    {Text::VoxProceedTone, "VOX Proceed Tone", "VOX可进行音调"},
+    {Text::VoxInhibitOnReceive, "VOX inhibit on Receive", "接收时禁止VOX"},
+    {Text::Mode, "Mode", "模式"},
+    {Text::CloneMode, "Clone Mode", "复制模式"},
+    {Text::Normal, "Normal", "常规"},
+    {Text::English, "English", "英文"},
+    {Text::Chinese, "Chinese", "中文"},
+    {Text::DtmfExplained, "DTMF", "DTMF(双音多频)"},
+    {Text::CorvaneExplained, "Corvane", "Corvane(科瓦讯)"},
+    {Text::Both, "Both", "两者"},
+    {Text::Bot, "BOT", "发射开始"},
+    {Text::Eot, "EOT", "发射结束"},
+    {Text::LanguageFileSetup, "Language File Setup", "语言文件设置"},
+    {Text::LanguageMode, "Language Mode", "语言模式"},
+    {Text::Autodial, "Autodial", "自动拨号"},
+    {Text::KeyLock, "Key Lock", "按键锁定"},
+    {Text::KeyLockWithBackup, "Key Lock with Backup", "按键锁定及备份"},
+    {Text::Monitor, "Monitor", "监听"},
+    {Text::MonitorMomentary, "Monitor Momentary", "监听瞬时"},
+    {Text::Scan, "Scan", "扫描"},
+    {Text::ScanAndTemporaryDelete, "Scan+Temporary Delete", "扫描+暂时删除"},
+    {Text::Scrambler, "Scrambler", "扰频器"},
+    {Text::SquelchOff, "Squelch Off", "取消静噪"},
+    {Text::SquelchOffMomentary, "Squelch Off Momentary", "瞬时取消静噪"},
+    {Text::TemporaryDelete, "Temporary Delete", "暂时删除"},
+    {Text::KeyAssignment, "Key Assignment", "键设定"},
+    {Text::ScanInformation, "Scan Information", "扫描信息"},
+    {Text::PriorityLabel, "Priority", "优先"},
+    {Text::PriorityChannel, "Priority Channel", "优先信道"},
+    {Text::LookBackTimeA, "Look Back Time A [s]", "回扫时间 A [s]"},
+    {Text::LookBackTimeB, "Look Back Time B [s]", "回扫时间 B [s]"},
+    {Text::RevertChannel, "Revert Channel", "返回信道"},
+    {Text::DropoutDelayTime, "Dropout Delay Time [s]", "扫描接收恢复延迟时间[s]"},
+    {Text::TxDwellTime, "Tx Dwell Time [s]", "扫描发射恢复延迟时间[s]"},
+    {Text::Selected, "Selected", "选定"},
+    {Text::Fixed, "Fixed", "固定"},
+    {Text::Priority, "Priority", "优先"},
+    {Text::PriorityAndTalkBack, "Priority + Talk Back ", "优先＋当前通话"},
+    {Text::SelectedAndTalkBack, "Selected + Talk Back", "选定＋当前通话"},
+    {Text::Encode, "Encode", "编码"},
+    {Text::Decode, "Decode", "解码"},
+    {Text::AutodialMemory, "Autodial Memory", "自动拨号存储器"},
+    {Text::DtmfSpeed, "DTMF Speed [digit/s]", "DTMF速率[数字/秒]"},
+    {Text::FirstDigitTime, "First Digit Time [ms]", "首位数码时间[毫秒]"},
+    {Text::FirstDigitDelay, "First Digit Delay [ms]", "首位数码延迟[毫秒]"},
+    {Text::StarAndHashTone, "* and # Tone [ms]", "*和#音[毫秒]"},
+    {Text::DCodeAssignment, "D Code Assignment", "D键设定"},
+    {Text::DtmfSideTone, "DTMF Side Tone", "DTMF侧音"},
+    {Text::IdCode, "ID Code", "ID码"},
+    {Text::GroupCode, "Group Code", "组呼码"},
+    {Text::AutoResetTimer, "Auto Reset Timer [s]", "自动复位定时器[秒]"},
+    {Text::CallAlert, "Call Alert", "呼叫告警"},
+    {Text::Transpond, "Transpond", "自动应答"},
+    {Text::ClearToTranspond, "Clear to Transpond", "清除自动应答"},
+    {Text::StunCode, "Stun Code", "遥毙码"},
+    {Text::StunType, "Stun Type", "遥毙类型"},
+    {Text::NumberHeading, "No.", "编号"},
+    {Text::Continuous, "Continuous", "连续"},
+    {Text::Alert, "Alert", "告警"},
+    {Text::DCode, "D Code", "D 码"},
+    {Text::CorvanePage, "Corvane", "科瓦讯"},
+    {Text::FleetList, "Fleet List", "队列表"},
+    {Text::OwnFleet, "Fleet(own)", "队列(自身)"},
+    {Text::OwnId, "ID(own)", "ID(自身)"},
+    {Text::CorvaneBaudRate, "Corvane Baud Rate [bps]", "科瓦讯波特率[bps]"},
+    {Text::DataTxModulationDelayTimer, "Data TX Modulation Delay Timer [ms]", "2数据发射调制延迟时间[毫秒]"},
+    {Text::MessageModeTimer, "Message Mode Timer [s]", "信息模式定时器[秒]"},
+    {Text::PttIdSideTone, "PTT ID Side Tone", "PTT ID 侧音"},
+    {Text::All, "All", "全部"},
+    {Text::TestFrequency, "Test Frequency", "测试频率"},
+    {Text::ReadDataFromRadio, "Read data from radio", "从对讲机读取数据"},
+    {Text::WriteDataToRadio, "Write data to radio", "向对讲机写入数据"},
+    {Text::CommunicationPort, "Communication Port", "通信端口"},
+    {Text::Com, "COM", "通信口"},
+    {Text::RadioInformation, "Radio Information", "对讲机信息"},
+    {Text::FrequencyOfRadio, "Frequency", "频率"},
+    {Text::SerialNumber, "Serial Number", "序号"},
+    {Text::Version, "Version", "版本"},
+    {Text::TreeView, "Tree View", "树视图"},
+    {Text::ChannelInformationTitle, " Channel Information", " 信道信息"},
+    {Text::MemoryMap, "Memory Map", "内存指针图"},
+    {Text::TestMode, "Test Mode", "测试模式"},
+    {Text::TestChannel, "Test Channel", "测试信道"},
+    {Text::TestSignalling, "Test Signalling", "测试信令"},
+    {Text::ChannelNumber, "Channel No.", "信道编号"},
+    {Text::Signalling, "Signalling", "信令"},
+    {Text::Rx, "RX", "接收"},
+    {Text::Tx, "TX", "发射"},
+    {Text::WideButton, "&Wide", "宽带(W)"},
+    {Text::NarrowButton, "&Narrow", "窄带(N)"},
+    {Text::TuningModeButton, "&Tuning Mode", "调谐模式(T)"},
+    {Text::PrintButton, "&Print", "打印(P)"},
+    {Text::RfHighPower, "RF High Power", "RF高功率"},
+    {Text::RfLowPower, "RF Low Power", "RF低功率"},
+    {Text::DqtBalance, "DQT Balance", "DQT平衡"},
+    {Text::MaxDeviation, "Max Deviation", "最大偏差"},
+    {Text::QtFineDeviation, "QT Fine Deviation", "QT细偏差"},
+    {Text::DqtFineDeviation, "DQT Fine Deviation", "DQT细偏差"},
+    {Text::DtmfFineDeviation, "DTMF Fine Deviation", "DTMF细偏差"},
+    {Text::Sensitivity, "Sensitivity", "灵敏度"},
+    {Text::SquelchTight, "Squelch(Tight)", "最紧静噪"},
+    {Text::SquelchOpen, "Squelch(Open)", "静噪打开"},
+    {Text::MskFineDeviation, "MSK Fine Deviation", "MSK频偏差"},
+    {Text::BatteryWarningLevel, "Battery Warning Level", "电池告警电平"},
+    {Text::DtmfTone9, "DTMF Tone 9", "DTMF 音调 9"},
+    {Text::DqtBalanceWide, "DQT Balance(Wide)", "DQT平衡(宽带)"},
+    {Text::DqtBalanceNarrow, "DQT Balance(Narrow)", "DQT平衡(窄带)"},
+    {Text::MaxDeviationWide, "Max Deviation(Wide)", "最大频差(宽带)"},
+    {Text::MaxDeviationNarrow, "Max Deviation(Narrow)", "最大频差(窄带)"},
+    {Text::QtFineDeviationWide, "QT Fine Deviation(Wide)", "QT细频差(宽带)"},
+    {Text::QtFineDeviationNarrow, "QT Fine Deviation(Narrow)", "QT细频差(窄带)"},
+    {Text::DqtFineDeviationWide, "DQT Fine Deviation(Wide)", "DQT细频差(宽带)"},
+    {Text::DqtFineDeviationNarrow, "DQT Fine Deviation(Narrow)", "DQT细频差(窄带)"},
+    {Text::DtmfFineDeviationWide, "DTMF Fine Deviation(Wide)", "DTMF细频差(宽带)"},
+    {Text::DtmfFineDeviationNarrow, "DTMF Fine Deviation(Narrow)", "DTMF细频差(窄带)"},
+    {Text::SquelchTightWide, "Squelch(Tight)(Wide)", "最紧静噪(宽带)"},
+    {Text::SquelchTightNarrow, "Squelch(Tight)(Narrow)", "最紧静噪(窄带)"},
+    {Text::SquelchOpenWide, "Squelch(Open)(Wide)", "静噪打开(宽带)"},
+    {Text::SquelchOpenNarrow, "Squelch(Open)(Narrow)", "静噪打开(窄带)"},
+    {Text::MskFineDeviationWide, "MSK Fine Deviation(Wide)", "MSK频偏差(宽带)"},
+    {Text::MskFineDeviationNarrow, "MSK Fine Deviation(Narrow)", "MSK频偏差(窄带)"},
+    {Text::Start, "Start", "开始"},
+    {Text::Test, "Test", "测试"},
+    {Text::LowPrime, "Low'", "较低"},
+    {Text::HighPrime, "High'", "较高"},
+    {Text::Center, "Center", "中心"},
+    {Text::PrintSetupButton, "P&rint setup", "打印设置"},
+    {Text::ClearAllButton, "C&lear All", "全部清除"},
+    {Text::SelectAllButton, "Select &All", "全部选定"},
+    {Text::PrintOutList, "Print Out List", "打印列表"},
+    {Text::RadioType, "Radio Type", "对讲机类型"},
+    {Text::FileName, "File Name", "文件名"},
+    {Text::AllTuningData, "All Tuning Data", "所有调谐数据"},
+    {Text::Disabled, "Disabled", "已关闭"},
+    {Text::Enabled, "Enabled", "已开启"},
+    {Text::RxFrequency, "RX Frequency[MHz]", "接收频率[MHz]"},
+    {Text::TxFrequency, "TX Frequency[MHz]", "发射频率[MHz]"},
+    {Text::Own, "Own", "自身"},
+});
+
+constexpr std::array CommonEntries = std::to_array<CommonEntry>({
+    {Text::QtDqt, "QT/DQT"},
+    {Text::Dtmf, "DTMF"},
+    {Text::Corvane, "Corvane"},
+    {Text::Vox1, "VOX1"},
+    {Text::Vox10, "VOX10"},
+    {Text::Rssi, "RSSI"},
+    {Text::Tone100Hz, "100Hz SW"},
+    {Text::Qt67Hz, "QT 67.0Hz"},
+    {Text::Qt151Hz, "QT 151.4Hz"},
+    {Text::Qt250Hz, "QT 250.3Hz"},
+    {Text::DqtD023N, "DQT D023N"},
+    {Text::DqtD754I, "DQT D754I"},
+    {Text::DtmfDecode159D, "DTMF DEC(159D)"},
+    {Text::DtmfEncode159D, "DTMF ENC(159D)"},
+});
+
+template<typename Row, std::size_t Size>
+constexpr bool AreNumberedFrom(const std::array<Row, Size>& rows, int first) {
+    for (const Row& row : rows) {
+        if (static_cast<int>(row.name) != first++) {
+            return false;
+        }
+    }
+    return true;
+}
+static_assert(AreNumberedFrom(Entries, FirstEntry) && AreNumberedFrom(CommonEntries, FirstCommonEntry));
 
 } // namespace
 
-std::string_view TableText(Language language, int n) {
-    if (n >= 1 && n <= EntryCount) {
-        return Entries[static_cast<std::size_t>(n - 1)].In(language);
+std::string_view TableText(Language language, Text name) {
+    const int number = static_cast<int>(name);
+    if (const int place = number - FirstCommonEntry; place >= 0) {
+        return place < static_cast<int>(CommonEntries.size()) ? CommonEntries[static_cast<std::size_t>(place)].text
+                                                              : std::string_view();
     }
-    if (n >= FirstCommonEntry && n < FirstCommonEntry + CommonEntryCount) {
-        return CommonEntries[static_cast<std::size_t>(n - FirstCommonEntry)];
+    const int place = number - FirstEntry;
+    if (place < 0 || place >= static_cast<int>(Entries.size())) {
+        return {};
     }
-    return {};
+    const Entry& entry = Entries[static_cast<std::size_t>(place)];
+    return language == Language::Chinese ? entry.chinese : entry.english;
 }
 
 } // namespace zelvor

@@ -7,8 +7,8 @@
 namespace zelvor {
 namespace {
 
-constexpr CheckField Plain{105, 0x100}; // Beep
-constexpr CheckField BlankIsOff{.label = 105, .address = 0x101, .blankIsOff = true};
+constexpr CheckField Plain{Text::Beep, 0x100};
+constexpr CheckField BlankIsOff{.label = Text::Beep, .address = 0x101, .blankIsOff = true};
 
 class BoundCheckTest : public BoundControlTest<BoundCheck> {
 protected:

@@ -5,10 +5,10 @@
 namespace zelvor {
 namespace {
 
-constexpr FieldWord Words[] = {{85}, {0, "7"}, {89}}; // Off, 7, On
+constexpr FieldWord Words[] = {{Text::Off}, {"7"}, {Text::On}};
 constexpr std::uint8_t Codes[] = {0, 30, 20};
-constexpr ListField InOrder{.label = 65, .address = 0x100, .words = Words, .none = 0xFF};
-constexpr ListField WithCodes{65, 0x101, Words, Codes};
+constexpr ListField InOrder{.label = Text::OptionSignallingLabel, .address = 0x100, .words = Words, .none = 0xFF};
+constexpr ListField WithCodes{Text::OptionSignallingLabel, 0x101, Words, Codes};
 
 class BoundListTest : public BoundControlTest<BoundList> {
 protected:

@@ -14,7 +14,7 @@ int ReadAny(std::string_view text) {
     return LeadingNumber(text);
 }
 
-constexpr NumberField Level{.label = 101,
+constexpr NumberField Level{.label = Text::SquelchLevel,
                             .address = 0x100,
                             .bytes = 1,
                             .first = 1,
@@ -25,7 +25,7 @@ constexpr NumberField Level{.label = 101,
                             .showsBlank = true,
                             .show = ShowNumber,
                             .read = ReadUpToNine};
-constexpr NumberField Time{.label = 99,
+constexpr NumberField Time{.label = Text::TimeOutTimer,
                            .address = 0x102,
                            .bytes = 2,
                            .first = 0,

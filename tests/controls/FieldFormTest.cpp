@@ -23,7 +23,7 @@ int ReadAny(std::string_view text) {
     return LeadingNumber(text);
 }
 
-constexpr NumberField Number{.label = 101, // Squelch Level
+constexpr NumberField Number{.label = Text::SquelchLevel,
                              .address = 0x100,
                              .bytes = 1,
                              .first = 0,
@@ -34,16 +34,17 @@ constexpr NumberField Number{.label = 101, // Squelch Level
                              .showsBlank = true,
                              .show = ShowNumber,
                              .read = ReadAny};
-constexpr FieldWord Words[] = {{85}, {89}}; // Off, On
-constexpr ListField List{.label = 102, .address = 0x101, .words = Words};
-constexpr ListField OwnLabel{.label = 0, .address = 0x102, .words = Words, .labelText = "PTT ID"};
-constexpr CheckField Check{105, 0x103}; // Beep
-constexpr CheckField OtherCheck{104, 0x104};
+constexpr FieldWord Words[] = {{Text::Off}, {Text::On}};
+constexpr ListField List{.label = Text::MicSensitivity, .address = 0x101, .words = Words};
+constexpr ListField OwnLabel{.label = "PTT ID", .address = 0x102, .words = Words};
+constexpr CheckField Check{Text::Beep, 0x103};
+constexpr CheckField OtherCheck{Text::BatterySave, 0x104};
 
 class TestForm : public FieldForm {
 public:
     TestForm(Session& session, Services& services)
-        : FieldForm(ChildWindow::Scan, "TestForm", {4500, 4500}, "picTest", 98, session, services, nullptr) {
+        : FieldForm(ChildWindow::Scan, "TestForm", {4500, 4500}, "picTest", Text::OptionalFeatures, session, services,
+                    nullptr) {
         BoundRows rows(*Panel(), session, 8, 4);
         rows.AddSpin("Number", Number);
         rows.AddList("List", List, "lblOther");

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "text/StringTable.h"
+
 namespace zelvor {
 namespace {
 
@@ -20,30 +22,30 @@ NumberOnShow LoadedFrom(const NumberField& field, std::initializer_list<int> byt
     return LoadNumber(With(field.address, bytes), field, language);
 }
 
-void ExpectNumber(const NumberField& field, int label, int address, int bytes, int last, int digits) {
+void ExpectNumber(const NumberField& field, Text label, int address, int bytes, int last, int digits) {
     EXPECT_EQ(field.label, label);
     EXPECT_EQ(field.address, address);
-    EXPECT_EQ(field.bytes, bytes) << label;
-    EXPECT_EQ(field.first, 0) << label;
-    EXPECT_EQ(field.last, last) << label;
-    EXPECT_EQ(field.increment, 1) << label;
-    EXPECT_EQ(field.lengthLimit, digits) << label;
+    EXPECT_EQ(field.bytes, bytes) << TableText(Language::English, label);
+    EXPECT_EQ(field.first, 0) << TableText(Language::English, label);
+    EXPECT_EQ(field.last, last) << TableText(Language::English, label);
+    EXPECT_EQ(field.increment, 1) << TableText(Language::English, label);
+    EXPECT_EQ(field.lengthLimit, digits) << TableText(Language::English, label);
 }
 
 TEST(CorvaneFieldsTest, NumbersHaveTheirLabelsAddressesAndRanges) {
-    ExpectNumber(OwnFleet, 178, 0x170, 1, 250, 3);
-    ExpectNumber(OwnId, 179, 0x171, 2, 4000, 4);
-    ExpectNumber(DelayTime, 181, 0x173, 2, 6000, 4);
-    ExpectNumber(MessageModeTimer, 182, 0x176, 2, 300, 3);
+    ExpectNumber(OwnFleet, Text::OwnFleet, 0x170, 1, 250, 3);
+    ExpectNumber(OwnId, Text::OwnId, 0x171, 2, 4000, 4);
+    ExpectNumber(DelayTime, Text::DataTxModulationDelayTimer, 0x173, 2, 6000, 4);
+    ExpectNumber(MessageModeTimer, Text::MessageModeTimer, 0x176, 2, 300, 3);
 }
 
 TEST(CorvaneFieldsTest, BaudRateIsAListOfTwoAndNoneIsStoredAsErased) {
-    EXPECT_EQ(BaudRate.label, 180);
+    EXPECT_EQ(BaudRate.label.In(Language::English), "Corvane Baud Rate [bps]");
     EXPECT_EQ(BaudRate.address, 0x175);
     ASSERT_EQ(BaudRate.words.size(), 2U);
     for (const Language language : {Language::English, Language::Chinese}) {
-        EXPECT_EQ(WordText(BaudRate.words[0], language), "1200");
-        EXPECT_EQ(WordText(BaudRate.words[1], language), "2400");
+        EXPECT_EQ(BaudRate.words[0].In(language), "1200");
+        EXPECT_EQ(BaudRate.words[1].In(language), "2400");
     }
     EXPECT_EQ(EntryOf(BaudRate, 0), 0);
     EXPECT_EQ(EntryOf(BaudRate, 1), 1);
@@ -56,7 +58,7 @@ TEST(CorvaneFieldsTest, BaudRateIsAListOfTwoAndNoneIsStoredAsErased) {
 }
 
 TEST(CorvaneFieldsTest, SideToneIsOnForAllBytesBetweenZeroAndErased) {
-    EXPECT_EQ(SideTone.label, 183);
+    EXPECT_EQ(SideTone.label, Text::PttIdSideTone);
     EXPECT_EQ(SideTone.address, 0x178);
     EXPECT_FALSE(IsOn(SideTone, 0));
     EXPECT_FALSE(IsOn(SideTone, 0xFF));
@@ -179,7 +181,8 @@ TEST(CorvaneFieldsTest, FleetListEntriesLieInTwoBlocksOfFour) {
 }
 
 TEST(CorvaneFieldsTest, TheFleetListHasItsWords) {
-    EXPECT_EQ(FleetListLabel, 177);
+    EXPECT_EQ(TableText(Language::English, Text::FleetList), "Fleet List");
+    EXPECT_EQ(TableText(Language::Chinese, Text::FleetList), "队列表");
     EXPECT_EQ(ListFleet.heading.In(Language::English), "Fleet");
     EXPECT_EQ(ListFleet.heading.In(Language::Chinese), "队列");
     EXPECT_EQ(ListId.heading.In(Language::English), "ID");

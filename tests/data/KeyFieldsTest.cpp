@@ -29,11 +29,11 @@ constexpr Function Functions[] = {
 
 TEST(KeyFieldsTest, TwoKeysLieBehindEachOther) {
     ASSERT_EQ(Keys.size(), 2U);
-    EXPECT_EQ(LabelText(Keys[0], Language::English), "PF1");
-    EXPECT_EQ(LabelText(Keys[0], Language::Chinese), "PF1");
+    EXPECT_EQ(Keys[0].label.In(Language::English), "PF1");
+    EXPECT_EQ(Keys[0].label.In(Language::Chinese), "PF1");
     EXPECT_EQ(Keys[0].address, 0x11D);
-    EXPECT_EQ(LabelText(Keys[1], Language::English), "PF2");
-    EXPECT_EQ(LabelText(Keys[1], Language::Chinese), "PF2");
+    EXPECT_EQ(Keys[1].label.In(Language::English), "PF2");
+    EXPECT_EQ(Keys[1].label.In(Language::Chinese), "PF2");
     EXPECT_EQ(Keys[1].address, 0x11E);
 }
 
@@ -41,8 +41,8 @@ TEST(KeyFieldsTest, BothHaveTheSameTwelveFunctions) {
     for (const ListField& key : Keys) {
         ASSERT_EQ(key.words.size(), 12U);
         for (int i = 0; i < 12; ++i) {
-            EXPECT_EQ(WordText(key.words[static_cast<std::size_t>(i)], Language::English), Functions[i].english);
-            EXPECT_EQ(WordText(key.words[static_cast<std::size_t>(i)], Language::Chinese), Functions[i].chinese);
+            EXPECT_EQ(key.words[static_cast<std::size_t>(i)].In(Language::English), Functions[i].english);
+            EXPECT_EQ(key.words[static_cast<std::size_t>(i)].In(Language::Chinese), Functions[i].chinese);
             EXPECT_EQ(ByteOf(key, i), Functions[i].byte) << Functions[i].english;
             EXPECT_EQ(EntryOf(key, static_cast<std::uint8_t>(Functions[i].byte)), i) << Functions[i].english;
         }

@@ -12,14 +12,14 @@ using namespace optional_features;
 
 using Texts = std::vector<std::string>;
 
-std::string Label(int number, Language language) {
-    return std::string(TableText(language, number));
+std::string Label(Text label, Language language) {
+    return std::string(TableText(language, label));
 }
 
 Texts Words(const ListField& field, Language language) {
     Texts texts;
     for (const FieldWord& word : field.words) {
-        texts.emplace_back(WordText(word, language));
+        texts.emplace_back(word.In(language));
     }
     return texts;
 }
@@ -79,8 +79,8 @@ TEST(OptionalFields, ListsHaveTheirWordsInBothLanguages) {
     };
     for (const auto& row : rows) {
         EXPECT_EQ(row.field.address, row.address);
-        EXPECT_EQ(LabelText(row.field, Language::English), row.english);
-        EXPECT_EQ(LabelText(row.field, Language::Chinese), row.chinese);
+        EXPECT_EQ(row.field.label.In(Language::English), row.english);
+        EXPECT_EQ(row.field.label.In(Language::Chinese), row.chinese);
         EXPECT_EQ(Words(row.field, Language::English), row.englishWords);
         EXPECT_EQ(Words(row.field, Language::Chinese), row.chineseWords);
     }

@@ -71,12 +71,12 @@ TEST(Session, HasAFileWhereItsNameHoldsADirectory) {
 
 TEST(Session, LoadsTextsInItsLanguage) {
     Session session;
-    EXPECT_EQ(session.LoadText(1), "&File");
-    EXPECT_EQ(session.LoadText(1902), "Corvane");
+    EXPECT_EQ(session.LoadText(Text::MenuFile), "&File");
+    EXPECT_EQ(session.LoadText(Text::Corvane), "Corvane");
     session.LanguageFlag = Language::Chinese;
-    EXPECT_EQ(session.LoadText(1), "文件(&F)");
-    EXPECT_EQ(session.LoadText(1902), "Corvane");
-    EXPECT_EQ(session.LoadText(254), "");
+    EXPECT_EQ(session.LoadText(Text::MenuFile), "文件(&F)");
+    EXPECT_EQ(session.LoadText(Text::Corvane), "Corvane");
+    EXPECT_EQ(session.LoadText(static_cast<Text>(254)), "");
 }
 
 TEST(Session, KnowsWhetherAnyOfItsTenChildWindowsIsOpen) {

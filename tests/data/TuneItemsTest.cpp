@@ -80,7 +80,7 @@ TEST(BuildTuningRecord, PutsEveryStoredByteBackInItsPlace) {
 
 struct CodeRow {
     int item;
-    int name;
+    Text name;
     int code;
     std::vector<int> wide; // Test, then the points in rising order
     int narrow;            // of the item's narrow value; 0: it has none
@@ -104,16 +104,21 @@ TEST_P(TuneItemCodes, AreThoseOfTheRadio) {
     EXPECT_EQ(item.Cell(TunePoint::Narrow).code, row.narrow);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    AllItems, TuneItemCodes,
-    ::testing::Values(CodeRow{1, 208, 18, {18, 48, 51, 49, 52, 50}, 0},
-                      CodeRow{2, 209, 20, {20, 96, 99, 97, 100, 98}, 0}, CodeRow{3, 210, 24, {24, 101, 102, 103}, 24},
-                      CodeRow{4, 211, 23, {23, 36, 37, 38}, 23}, CodeRow{5, 212, 25, {25, 106, 107, 108}, 25},
-                      CodeRow{6, 213, 26, {26, 111, 112, 113}, 26}, CodeRow{7, 214, 29, {29}, 29},
-                      CodeRow{8, 215, 31, {31, 53, 54, 55}, 0}, CodeRow{9, 216, 13, {13, 117, 118, 119}, 13},
-                      CodeRow{10, 217, 12, {12, 114, 115, 116}, 12}, CodeRow{11, 218, 27, {27}, 27},
-                      CodeRow{12, 219, 28, {28}, 0}, CodeRow{13, 1903, 33, {33}, 0}, CodeRow{14, 1904, 35, {35}, 0},
-                      CodeRow{15, 1905, 34, {34}, 0}));
+INSTANTIATE_TEST_SUITE_P(AllItems, TuneItemCodes,
+                         ::testing::Values(CodeRow{1, Text::RfHighPower, 18, {18, 48, 51, 49, 52, 50}, 0},
+                                           CodeRow{2, Text::RfLowPower, 20, {20, 96, 99, 97, 100, 98}, 0},
+                                           CodeRow{3, Text::DqtBalance, 24, {24, 101, 102, 103}, 24},
+                                           CodeRow{4, Text::MaxDeviation, 23, {23, 36, 37, 38}, 23},
+                                           CodeRow{5, Text::QtFineDeviation, 25, {25, 106, 107, 108}, 25},
+                                           CodeRow{6, Text::DqtFineDeviation, 26, {26, 111, 112, 113}, 26},
+                                           CodeRow{7, Text::DtmfFineDeviation, 29, {29}, 29},
+                                           CodeRow{8, Text::Sensitivity, 31, {31, 53, 54, 55}, 0},
+                                           CodeRow{9, Text::SquelchTight, 13, {13, 117, 118, 119}, 13},
+                                           CodeRow{10, Text::SquelchOpen, 12, {12, 114, 115, 116}, 12},
+                                           CodeRow{11, Text::MskFineDeviation, 27, {27}, 27},
+                                           CodeRow{12, Text::BatteryWarningLevel, 28, {28}, 0},
+                                           CodeRow{13, Text::Vox1, 33, {33}, 0}, CodeRow{14, Text::Vox10, 35, {35}, 0},
+                                           CodeRow{15, Text::Rssi, 34, {34}, 0}));
 
 struct CellRow {
     int item;

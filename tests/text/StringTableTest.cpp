@@ -21,58 +21,60 @@ constexpr ExpectedText ExpectedTexts[] = {
 TEST(StringTable, HoldsEveryEntryInBothLanguages) {
     ASSERT_EQ(std::size(ExpectedTexts), 267u);
     for (const ExpectedText& expected : ExpectedTexts) {
-        EXPECT_EQ(TableText(Language::English, expected.number), expected.english) << "entry " << expected.number;
-        EXPECT_EQ(TableText(Language::Chinese, expected.number), expected.chinese) << "entry " << expected.number;
+        EXPECT_EQ(TableText(Language::English, static_cast<Text>(expected.number)), expected.english)
+            << "entry " << expected.number;
+        EXPECT_EQ(TableText(Language::Chinese, static_cast<Text>(expected.number)), expected.chinese)
+            << "entry " << expected.number;
     }
 }
 
 TEST(StringTable, KeepsLeadingBlanksAndOddEndings) {
-    EXPECT_EQ(TableText(Language::English, 41), " Optional Features");
-    EXPECT_EQ(TableText(Language::Chinese, 48), " 信道编辑");
-    EXPECT_EQ(TableText(Language::English, 195), " Channel Information");
-    EXPECT_EQ(TableText(Language::English, 239), "Low'");
-    EXPECT_EQ(TableText(Language::English, 240), "High'");
-    EXPECT_EQ(TableText(Language::Chinese, 240), "较高");
+    EXPECT_EQ(TableText(Language::English, static_cast<Text>(41)), " Optional Features");
+    EXPECT_EQ(TableText(Language::Chinese, static_cast<Text>(48)), " 信道编辑");
+    EXPECT_EQ(TableText(Language::English, static_cast<Text>(195)), " Channel Information");
+    EXPECT_EQ(TableText(Language::English, static_cast<Text>(239)), "Low'");
+    EXPECT_EQ(TableText(Language::English, static_cast<Text>(240)), "High'");
+    EXPECT_EQ(TableText(Language::Chinese, static_cast<Text>(240)), "较高");
 }
 
 TEST(StringTable, NoneAndNoAreTheSameWordInChineseOnly) {
-    EXPECT_EQ(TableText(Language::Chinese, 77), TableText(Language::Chinese, 92));
-    EXPECT_NE(TableText(Language::English, 77), TableText(Language::English, 92));
+    EXPECT_EQ(TableText(Language::Chinese, static_cast<Text>(77)), TableText(Language::Chinese, static_cast<Text>(92)));
+    EXPECT_NE(TableText(Language::English, static_cast<Text>(77)), TableText(Language::English, static_cast<Text>(92)));
 }
 
 TEST(StringTable, GivesAnEmptyTextForANumberThatItLacks) {
     for (const int number : {-1, 0, 254, 1000, 1001, 1899, 1914, 2001, 100000}) {
-        EXPECT_EQ(TableText(Language::English, number), "") << number;
-        EXPECT_EQ(TableText(Language::Chinese, number), "") << number;
+        EXPECT_EQ(TableText(Language::English, static_cast<Text>(number)), "") << number;
+        EXPECT_EQ(TableText(Language::Chinese, static_cast<Text>(number)), "") << number;
     }
 }
 
-TEST(StringTable, NamesTheNumbersOfTheChannelWords) {
+TEST(StringTable, NamesTheChannelWords) {
     const struct {
-        int number;
+        Text name;
         std::string_view english;
         std::string_view chinese;
-    } named[] = {{words::None, "None", "无"},
-                 {words::Carrier, "Carrier", "载波"},
-                 {words::CarrierAndOptSig, "Carrier + Opt.Sig.", "载波+可选信令"},
-                 {words::CarrierOrOptSig, "Carrier or Opt.Sig.", "载波或可选信令"},
-                 {words::OptionSignalling, "Option Signalling", "可选信令"},
-                 {words::Off, "Off", "关"},
-                 {words::Wide, "Wide", "宽带"},
-                 {words::Narrow, "Narrow", "窄带"},
-                 {words::Yes, "Yes", "有"},
-                 {words::On, "On", "开"},
-                 {words::High, "High", "高"},
-                 {words::Low, "Low", "低"},
-                 {words::No, "No", "无"},
-                 {words::FleetList, "Fleet List", "队列表"},
-                 {words::Own, "Own", "自身"},
-                 {words::QtDqt, "QT/DQT", "QT/DQT"},
-                 {words::Dtmf, "DTMF", "DTMF"},
-                 {words::Corvane, "Corvane", "Corvane"}};
+    } named[] = {{Text::None, "None", "无"},
+                 {Text::Carrier, "Carrier", "载波"},
+                 {Text::CarrierAndOptSig, "Carrier + Opt.Sig.", "载波+可选信令"},
+                 {Text::CarrierOrOptSig, "Carrier or Opt.Sig.", "载波或可选信令"},
+                 {Text::OptionSignalling, "Option Signalling", "可选信令"},
+                 {Text::Off, "Off", "关"},
+                 {Text::Wide, "Wide", "宽带"},
+                 {Text::Narrow, "Narrow", "窄带"},
+                 {Text::Yes, "Yes", "有"},
+                 {Text::On, "On", "开"},
+                 {Text::High, "High", "高"},
+                 {Text::Low, "Low", "低"},
+                 {Text::No, "No", "无"},
+                 {Text::FleetList, "Fleet List", "队列表"},
+                 {Text::Own, "Own", "自身"},
+                 {Text::QtDqt, "QT/DQT", "QT/DQT"},
+                 {Text::Dtmf, "DTMF", "DTMF"},
+                 {Text::Corvane, "Corvane", "Corvane"}};
     for (const auto& word : named) {
-        EXPECT_EQ(TableText(Language::English, word.number), word.english);
-        EXPECT_EQ(TableText(Language::Chinese, word.number), word.chinese);
+        EXPECT_EQ(TableText(Language::English, word.name), word.english);
+        EXPECT_EQ(TableText(Language::Chinese, word.name), word.chinese);
     }
 }
 
