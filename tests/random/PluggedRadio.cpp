@@ -3,8 +3,10 @@
 #include <QDir>
 #include <QFile>
 #include <QStandardPaths>
+#include <array>
 #include <utility>
 
+#include "simulator/FaultPlan.h"
 #include "tour/Failure.h"
 
 namespace zelvor::random {
@@ -62,7 +64,10 @@ QString PluggedRadio::SomeFault() {
     constexpr std::array kinds{"drop@%1",       "corrupt@%1", "cut:1@%1", "delay:150@%1",
                                "delay:2500@%1", "hang@%1",    "unplug@%1"};
     const std::uint32_t kind = draws_.Below(kinds.size());
-    return QString(kinds.at(kind)).arg(1 + draws_.Below(MostReplies));
+    const int reply = 1 + static_cast<int>(draws_.Below(MostReplies));
+    const QString fault = QString(kinds.at(kind)).arg(reply);
+    // Of a reply of one byte nothing can be cut.
+    return fault.startsWith("cut") && LongestReply(reply) == 1 ? QString("drop@%1").arg(reply) : fault;
 }
 
 } // namespace zelvor::random

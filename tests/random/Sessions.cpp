@@ -84,10 +84,11 @@ QProcessEnvironment EnvironmentOf(const Kind& kind, const tour::PrivateHome& hom
     environment.insert("QT_QPA_PLATFORM",
                        isOffscreen ? "offscreen:configfile=" + home.File("screen.json") : QString(kind.platform));
     environment.insert("CUPS_SERVER", home.File("no-printers")); // nothing comes out of anybody's printer
-    for (const char* name : {"QT_QPA_PLATFORMTHEME", "DBUS_SESSION_BUS_ADDRESS", "SESSION_MANAGER"}) {
+    for (const char* name : {"QT_QPA_PLATFORMTHEME", "SESSION_MANAGER"}) {
         environment.remove(name);
     }
-    environment.insert("MALLOC_PERTURB_", "165"); // memory that is used after its end looks it
+    environment.insert("DBUS_SESSION_BUS_ADDRESS", "disabled:"); // none is started either
+    environment.insert("MALLOC_PERTURB_", "165");                // memory that is used after its end looks it
     environment.insert("LSAN_OPTIONS", "suppressions=" LEAKS_FILE ":print_suppressions=0");
     return environment;
 }
