@@ -20,6 +20,7 @@
 #include "data/ToneCodec.h"
 #include "platform/HelpTopic.h"
 #include "platform/HelpViewer.h"
+#include "platform/LayoutUnits.h"
 #include "platform/Services.h"
 #include "platform/Toolkit.h"
 
@@ -31,7 +32,7 @@ constexpr QSize WindowSize{5640, 6570}; // twips
 constexpr int FrequencyLength = 9;      // "000.00000"
 constexpr int ChannelDigits = 2;
 constexpr int FieldHeight = 24;
-constexpr int FieldWidth = 178;
+constexpr QSize FieldSize(178, FieldHeight);
 
 bool TakesFocus(const QEvent& event) {
     return event.type() == QEvent::FocusIn && static_cast<const QFocusEvent&>(event).reason() != Qt::PopupFocusReason;
@@ -81,7 +82,7 @@ ChannelEditForm::~ChannelEditForm() {
 void ChannelEditForm::BuildChannel() {
     labChannel_ = new QLabel(Content());
     labChannel_->setObjectName("LabChannel");
-    labChannel_->setGeometry(20, 8, 140, FieldHeight);
+    labChannel_->setGeometry(LaidOut(QRect(20, 8, 140, FieldHeight)));
     SpinTextRules rules;
     rules.first = 1;
     rules.last = address::ChannelCount;
@@ -89,7 +90,7 @@ void ChannelEditForm::BuildChannel() {
     rules.show = [](int n) { return QString::number(n); };
     rules.read = [](const QString& text) { return std::optional(text.toInt()); };
     channelSpin_ = new SpinText("txtChannel", "UpDown1", std::move(rules), Content());
-    channelSpin_->setGeometry(178, 8, 72, FieldHeight);
+    channelSpin_->setGeometry(LaidOut(QRect(178, 8, 72, FieldHeight)));
     channelSpin_->Box().SetEnterLetter(u'l');
     labChannel_->setBuddy(channelSpin_);
 }
@@ -98,7 +99,7 @@ void ChannelEditForm::BuildFrame() {
     auto* frame = new QFrame(Content());
     frame->setObjectName("Frame1");
     frame->setFrameShape(QFrame::StyledPanel);
-    frame->setGeometry(8, 38, 360, 358);
+    frame->setGeometry(LaidOut(QRect(8, 38, 360, 358)));
     frame1_ = frame;
     fields_ = new QGridLayout(frame);
     fields_->setContentsMargins(11, 6, 11, 6);
@@ -111,7 +112,7 @@ void ChannelEditForm::PlaceField(const char* labelName, QLabel*& label, QWidget*
     label = new QLabel(ToQString(caption.In(session_.LanguageFlag)), frame1_);
     label->setObjectName(labelName);
     label->setBuddy(field);
-    field->setFixedSize(FieldWidth, FieldHeight);
+    field->setFixedSize(LaidOut(FieldSize));
     field->setAccessibleName(label->text());
     fields_->addWidget(label, row, 0);
     fields_->addWidget(field, row, 1);
@@ -173,7 +174,7 @@ void ChannelEditForm::BuildChecks() {
     const auto check = [this, checks](const char* name, Text caption, int row, int column) {
         auto* box = new QCheckBox(ToQString(session_.LoadText(caption)), frame1_);
         box->setObjectName(name);
-        box->setFixedHeight(22);
+        box->setFixedHeight(LaidOut(22));
         checks->addWidget(box, row, column);
         return box;
     };
@@ -187,7 +188,7 @@ void ChannelEditForm::BuildButtons() {
     const auto button = [this](const char* name, int x) {
         auto* made = new QPushButton(Content());
         made->setObjectName(name);
-        made->setGeometry(x, 401, 100, 30);
+        made->setGeometry(LaidOut(QRect(x, 401, 100, 30)));
         made->setAutoDefault(true);
         return made;
     };

@@ -13,6 +13,7 @@
 #include "data/MemoryMap.h"
 #include "platform/HelpTopic.h"
 #include "platform/HelpViewer.h"
+#include "platform/LayoutUnits.h"
 #include "platform/Services.h"
 #include "platform/Toolkit.h"
 #include "text/Decimal.h"
@@ -41,7 +42,7 @@ std::vector<int> ColumnWidths(int gridWidth) {
     constexpr double percents[] = {10, 11, 11, 11, 11, 8, 7, 8, 10, 11 + 100.0 / 110};
     std::vector<int> widths;
     for (const double percent : percents) {
-        widths.push_back(static_cast<int>(std::lround(gridWidth * percent / 100 / TwipsPerPixel)));
+        widths.push_back(static_cast<int>(std::lround(gridWidth * percent / 100)));
     }
     return widths;
 }
@@ -84,13 +85,13 @@ void ChannelForm::BuildControls() {
     const auto label = [this](const char* name, const QRect& place) {
         auto* made = new QLabel(Content());
         made->setObjectName(name);
-        made->setGeometry(place);
+        made->setGeometry(LaidOut(place));
         return made;
     };
     const auto button = [this](const char* name, int x, int width) {
         auto* made = new QPushButton(Content());
         made->setObjectName(name);
-        made->setGeometry(x, 352, width, 30);
+        made->setGeometry(LaidOut(QRect(x, 352, width, 30)));
         made->setAutoDefault(true);
         return made;
     };
@@ -121,7 +122,7 @@ void ChannelForm::SetTexts() {
     labFreeArea_->setText(text(Text::FreeAreaBytes));
     labHint_->setText(ToQString(HintText.In(session_.LanguageFlag)));
     channelGrid_->SetFormat(ToQString(GridFormat.In(session_.LanguageFlag)));
-    channelGrid_->FitCells(ColumnWidths(GridPlace.width()));
+    channelGrid_->FitCells(ColumnWidths(PixelsOfTwips(GridPlace.width())));
     channelGrid_->setAccessibleName(text(Text::ChannelInformationTitle).trimmed());
     labBlankChannel_->setAccessibleName(text(Text::FreeAreaBytes));
 }

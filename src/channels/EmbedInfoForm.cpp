@@ -6,6 +6,7 @@
 
 #include "controls/EnterAsTab.h"
 #include "controls/FilteredLineEdit.h"
+#include "platform/LayoutUnits.h"
 #include "platform/Toolkit.h"
 
 namespace zelvor {
@@ -65,7 +66,7 @@ EmbedInfoForm::EmbedInfoForm(Session& session, Services& services, ChannelWindow
 
 void EmbedInfoForm::BuildLines() {
     auto* layout = new QGridLayout(Panel());
-    layout->setContentsMargins(SideMargin, TopMargin, SideMargin, 0);
+    layout->setContentsMargins(LaidOut(SideMargin), LaidOut(TopMargin), LaidOut(SideMargin), 0);
     layout->setVerticalSpacing(CaptionSpacing);
     layout->setColumnStretch(1, 1);
     for (int line = 0; line < embedded_message::LineCount; ++line) {
@@ -80,7 +81,7 @@ void EmbedInfoForm::BuildLine(int line, QGridLayout& layout) {
     box->setObjectName(QStringLiteral("txtMsg(%1)").arg(line));
     box->setAccessibleName(name);
     box->setFont(MessageFont(box->font()));
-    box->setFixedSize(PixelsOfTwips(BoxWidth), BoxHeight);
+    box->setFixedSize(PixelsOfTwips(BoxWidth), LaidOut(BoxHeight));
     box->SetLengthLimit(TypingLimit, false);
     box->SelectAllOnFocus();
     EnterMovesOn(*box);
@@ -95,8 +96,8 @@ void EmbedInfoForm::BuildLine(int line, QGridLayout& layout) {
     txtMsg_[static_cast<std::size_t>(line)] = box;
     lblMsgHint_[static_cast<std::size_t>(line)] = hint;
     const int row = layout.rowCount();
-    layout.setRowMinimumHeight(row, line == 0 ? 0 : LineSpacing);
-    layout.setRowMinimumHeight(row + 1, CaptionHeight);
+    layout.setRowMinimumHeight(row, line == 0 ? 0 : LaidOut(LineSpacing));
+    layout.setRowMinimumHeight(row + 1, LaidOut(CaptionHeight));
     layout.addWidget(caption, row + 1, 0);
     layout.addWidget(hint, row + 1, 1);
     layout.addWidget(box, row + 2, 0, 1, 2);

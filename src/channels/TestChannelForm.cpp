@@ -7,6 +7,7 @@
 #include "controls/EditGrid.h"
 #include "controls/PendingEdit.h"
 #include "controls/TextCellEdit.h"
+#include "platform/LayoutUnits.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Services.h"
 #include "platform/Toolkit.h"

@@ -6,13 +6,14 @@
 
 #include "controls/AccessKeys.h"
 #include "controls/FocusFollower.h"
+#include "platform/LayoutUnits.h"
 #include "platform/Toolkit.h"
 
 namespace zelvor {
 
 namespace {
 
-constexpr int ScrollBarTwips = 250;
+constexpr int ScrollBarThickness = 250 / TwipsPerPixel;
 
 } // namespace
 
@@ -70,7 +71,7 @@ int ChildForm::FrameAcross() const {
 }
 
 QSize ChildForm::SizeWithin(QSize room, QSize frame) const {
-    const int thickness = PixelsOfTwips(ScrollBarTwips);
+    constexpr int thickness = ScrollBarThickness;
     const QSize inner = room - frame;
     const bool isLow = inner.height() < contentSize_.height();
     const bool needsHorizontal = room.width() < contentSize_.width() + (isLow ? thickness : 0);
@@ -80,7 +81,7 @@ QSize ChildForm::SizeWithin(QSize room, QSize frame) const {
 }
 
 void ChildForm::LayOutScrollBars() {
-    const int thickness = PixelsOfTwips(ScrollBarTwips);
+    constexpr int thickness = ScrollBarThickness;
     // A frame's borders may take their width from the content: its margins are wider.
     const int outerWidth = width() + FrameAcross();
     const bool isLow = height() < contentSize_.height();

@@ -12,6 +12,7 @@
 #include "controls/PendingEdit.h"
 #include "platform/HelpTopic.h"
 #include "platform/HelpViewer.h"
+#include "platform/LayoutUnits.h"
 #include "platform/Services.h"
 #include "platform/Toolkit.h"
 #include "text/StringTable.h"
@@ -30,7 +31,7 @@ FieldForm::FieldForm(ChildWindow window, std::string_view objectName, QSize cont
     : ChildForm(window, objectName, contentTwips, parent), session_(session), services_(services),
       panel_(new QFrame(Content())) {
     panel_->setObjectName(ToQString(panelName));
-    panel_->setGeometry(0, 0, Content()->width(), Content()->height() - ButtonSize.height() - 2 * Margin);
+    panel_->setGeometry(0, 0, Content()->width(), Content()->height() - LaidOut(ButtonSize.height() + 2 * Margin));
     SetCaption(LoadText(caption));
 }
 
@@ -82,9 +83,8 @@ void FieldForm::BuildButtons() {
     const auto button = [this](const char* name, int fromRight, Text caption) {
         auto* made = new QPushButton(LoadText(caption), Content());
         made->setObjectName(name);
-        made->setGeometry({{Content()->width() - fromRight * (ButtonSize.width() + Margin),
-                            Content()->height() - ButtonSize.height() - Margin},
-                           ButtonSize});
+        const QPoint corner(LaidOut(fromRight * (ButtonSize.width() + Margin)), LaidOut(ButtonSize.height() + Margin));
+        made->setGeometry({Content()->rect().bottomRight() + QPoint(1, 1) - corner, LaidOut(ButtonSize)});
         made->setAutoDefault(true);
         return made;
     };

@@ -13,6 +13,7 @@
 #include "controls/FieldTabs.h"
 #include "controls/TextCellEdit.h"
 #include "features/Raster.h"
+#include "platform/LayoutUnits.h"
 #include "platform/Toolkit.h"
 
 namespace zelvor {
@@ -21,8 +22,8 @@ namespace {
 
 constexpr QSize WindowSize{6285, 5070}; // twips
 // Pixels.
-constexpr QSize GridSize{386, 202};
-constexpr QRect HintPlace{raster::Margin, 212, GridSize.width(), 36};
+constexpr QRect GridPlace{raster::Margin, raster::Margin, 386, 202};
+constexpr QRect HintPlace{raster::Margin, 212, GridPlace.width(), 36};
 
 constexpr TextPair HintText{
     "Enter or a click edits, A stands for All. To change a number, select a digit with Shift+arrow and type over it.",
@@ -116,14 +117,14 @@ void CorvaneForm::OnOwnCommitted(int step, BoundSpin& other) {
 void CorvaneForm::BuildFleetList(QWidget& page) {
     msgFleetList_ = new EditGrid(corvane::FleetListSize, IdColumn, &page);
     msgFleetList_->setObjectName("msgFleetList");
-    msgFleetList_->setGeometry({QPoint(raster::Margin, raster::Margin), GridSize});
+    msgFleetList_->setGeometry(LaidOut(GridPlace));
     txtFleetList_ = new CellTextEditor(&page);
     txtFleetList_->setObjectName("txtFleetList");
     txtFleetList_->SetFilter([this](QChar entered) { return AcceptInList(entered); });
     edit_ = new TextCellEdit(*msgFleetList_, *txtFleetList_);
     auto* labHint = new QLabel(ToQString(HintText.In(TheSession().LanguageFlag)), &page);
     labHint->setObjectName("LabHint");
-    labHint->setGeometry(HintPlace);
+    labHint->setGeometry(LaidOut(HintPlace));
     labHint->setWordWrap(true);
     labHint->setForegroundRole(QPalette::PlaceholderText);
     SetGridTexts();
@@ -138,7 +139,7 @@ void CorvaneForm::SetGridTexts() {
     const Language language = TheSession().LanguageFlag;
     msgFleetList_->SetCaptions({LoadText(Text::NumberHeading), ToQString(corvane::ListFleet.heading.In(language)),
                                 ToQString(corvane::ListId.heading.In(language))});
-    const int eighth = GridSize.width() / 8;
+    const int eighth = msgFleetList_->width() / 8;
     msgFleetList_->FitCells({2 * eighth, 3 * eighth, 3 * eighth});
     msgFleetList_->setAccessibleName(LoadText(Text::FleetList));
 }

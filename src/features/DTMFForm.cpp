@@ -16,6 +16,7 @@
 #include "controls/TextCellEdit.h"
 #include "features/DtmfCodeBox.h"
 #include "features/Raster.h"
+#include "platform/LayoutUnits.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Services.h"
 #include "platform/Toolkit.h"
@@ -25,8 +26,8 @@ namespace zelvor {
 
 namespace {
 
-constexpr QSize WindowSize{6285, 5070}; // twips
-constexpr QSize GridSize{386, 218};     // pixels
+constexpr QSize WindowSize{6285, 5070};                              // twips
+constexpr QRect GridPlace{raster::Margin, raster::Margin, 386, 218}; // pixels
 
 constexpr int DigitsColumn = 1;
 
@@ -112,7 +113,7 @@ QWidget* DTMFForm::BuildStunFrame() {
 void DTMFForm::BuildAutodialPage(QWidget& page) {
     msgAutodial_ = new EditGrid(dtmf::AutodialCount, DigitsColumn, &page);
     msgAutodial_->setObjectName("msgAutodial");
-    msgAutodial_->setGeometry({QPoint(raster::Margin, raster::Margin), GridSize});
+    msgAutodial_->setGeometry(LaidOut(GridPlace));
     page.setFocusProxy(msgAutodial_);
     SetGridTexts();
     auto* txtAutodial = new CellTextEditor(&page);
@@ -129,7 +130,7 @@ void DTMFForm::BuildAutodialPage(QWidget& page) {
 
 void DTMFForm::SetGridTexts() {
     msgAutodial_->SetCaptions({LoadText(Text::NumberHeading), LoadText(Text::AutodialMemory)});
-    const int inner = GridSize.width() - 2 * msgAutodial_->frameWidth();
+    const int inner = msgAutodial_->width() - 2 * msgAutodial_->frameWidth();
     msgAutodial_->FitCells({inner / 4, inner - inner / 4});
     msgAutodial_->setAccessibleName(LoadText(Text::AutodialMemory));
 }

@@ -12,6 +12,7 @@
 #include "link/TransferTexts.h"
 #include "platform/HelpTopic.h"
 #include "platform/HelpViewer.h"
+#include "platform/LayoutUnits.h"
 #include "platform/Toolkit.h"
 
 namespace zelvor {

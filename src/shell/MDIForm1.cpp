@@ -24,6 +24,7 @@
 #include "platform/Clock.h"
 #include "platform/HelpTopic.h"
 #include "platform/HelpViewer.h"
+#include "platform/LayoutUnits.h"
 #include "platform/ScreenRoom.h"
 #include "platform/Services.h"
 #include "print/frmPrintList.h"
@@ -93,7 +94,7 @@ MDIForm1::~MDIForm1() {
 void MDIForm1::SetUpWindow() {
     setObjectName("MDIForm1");
     setWindowIcon(MakeIcon(IconShape::Application));
-    resize(FirstSize.boundedTo(ScreenRoom(*this)));
+    resize(LaidOut(FirstSize).boundedTo(ScreenRoom(*this)));
     // The toolkit's own menu of toolbars knows nothing of the check marks in the View menu.
     setContextMenuPolicy(Qt::NoContextMenu);
 

@@ -10,6 +10,7 @@
 #include <optional>
 
 #include "data/Session.h"
+#include "platform/LayoutUnits.h"
 #include "platform/Toolkit.h"
 #include "shell/Icons.h"
 #include "shell/ToolbarGrip.h"

@@ -11,6 +11,7 @@
 #include "platform/Clock.h"
 #include "platform/HelpTopic.h"
 #include "platform/HelpViewer.h"
+#include "platform/LayoutUnits.h"
 #include "platform/Services.h"
 #include "platform/Toolkit.h"
 
@@ -43,8 +44,8 @@ constexpr QSize FormTwips(3600, 4800);
 constexpr int Margin = 8;
 constexpr int ButtonHeight = 26;
 constexpr int ButtonWidth = 108;
-constexpr int ButtonTop = PixelsOfTwips(FormTwips.height()) - Margin - ButtonHeight;
-constexpr int TreeWidth = PixelsOfTwips(FormTwips.width()) - 2 * Margin;
+constexpr int ButtonTop = FormTwips.height() / TwipsPerPixel - Margin - ButtonHeight;
+constexpr int TreeWidth = FormTwips.width() / TwipsPerPixel - 2 * Margin;
 
 } // namespace
 
@@ -61,7 +62,7 @@ void TreeViewForm::BuildControls() {
     treView_->setObjectName("treView");
     treView_->setAccessibleName(windowTitle());
     treView_->setHeaderHidden(true);
-    treView_->setGeometry(Margin, Margin, TreeWidth, ButtonTop - 2 * Margin);
+    treView_->setGeometry(LaidOut(QRect(Margin, Margin, TreeWidth, ButtonTop - 2 * Margin)));
     treView_->installEventFilter(this);
     treView_->viewport()->installEventFilter(this);
     connect(treView_, &QTreeWidget::itemClicked, this, &TreeViewForm::OnNodeClick);
@@ -77,7 +78,7 @@ void TreeViewForm::BuildControls() {
 QPushButton* TreeViewForm::MakeButton(const char* name, Text text, int left) {
     auto* button = new QPushButton(ToQString(session_.LoadText(text)), Content());
     button->setObjectName(name);
-    button->setGeometry(left, ButtonTop, ButtonWidth, ButtonHeight);
+    button->setGeometry(LaidOut(QRect(left, ButtonTop, ButtonWidth, ButtonHeight)));
     return button;
 }
 
