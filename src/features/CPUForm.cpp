@@ -15,6 +15,7 @@
 #include "controls/PendingEdit.h"
 #include "controls/TextCellEdit.h"
 #include "data/Session.h"
+#include "platform/LayoutUnits.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Services.h"
 #include "platform/Toolkit.h"
@@ -97,8 +98,9 @@ void CPUForm::BuildGrid() {
     msgMemory_ = new EditGrid(ByteRows, ByteColumns, this);
     msgMemory_->setObjectName("msgMemory");
     msgMemory_->setAccessibleName(windowTitle());
-    // Whole rows: a cell that is half in view would be scrolled away from under its editor.
+    // Whole cells: one that is half in view would be scrolled away from under its editor.
     msgMemory_->setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+    msgMemory_->setHorizontalScrollMode(QAbstractItemView::ScrollPerItem);
     QStringList captions{QString()};
     for (int column = 1; column <= ByteColumns; ++column) {
         captions.append(ColumnCaption(column));
@@ -108,9 +110,6 @@ void CPUForm::BuildGrid() {
         rowCaptions.append(RowCaption(row));
     }
     msgMemory_->SetCaptions(captions, rowCaptions);
-    const int frame = 2 * msgMemory_->frameWidth();
-    const int narrowest = std::min(fontMetrics().horizontalAdvance("DD") + CellPadding, ColumnWidth);
-    msgMemory_->setMinimumSize(GridColumns * narrowest, LeastRows * RowHeight + frame);
     msgMemory_->installEventFilter(this);
     msgMemory_->viewport()->installEventFilter(this);
     connect(msgMemory_, &EditGrid::CursorMoved, this, &CPUForm::ShowAddress);
@@ -124,8 +123,9 @@ void CPUForm::BuildEditor() {
     txtMemory_->SetFilter(HexDigit);
     txtMemory_->SetLengthLimit(ByteDigits);
     edit_ = new TextCellEdit(*msgMemory_, *txtMemory_);
-    // A click on the scroll bar would give the focus to the grid, and so store the text that scrolling is to drop.
+    // A click on a scroll bar would give the focus to the grid, and so store the text that scrolling is to drop.
     msgMemory_->verticalScrollBar()->setFocusProxy(txtMemory_);
+    msgMemory_->horizontalScrollBar()->setFocusProxy(txtMemory_);
     connect(edit_, &TextCellEdit::Entered, this, &CPUForm::OnEntered);
     connect(edit_, &TextCellEdit::Left, this, &CPUForm::StoreText);
 }
@@ -161,17 +161,28 @@ void CPUForm::LayOut() {
 /// Room for a quarter of the memory, as far as the screen has it.
 void CPUForm::TakeFirstSize() {
     const int frame = 2 * msgMemory_->frameWidth();
-    const QSize wanted(GridColumns * ColumnWidth, FirstRows * RowHeight + frame);
+    const QSize wanted(GridColumns * LaidOut(ColumnWidth), FirstRows * LaidOut(RowHeight) + frame);
     const QSize screenRoom = screen()->availableSize() - QSize(0, FrameHeight);
+    const QMargins margins = layout()->contentsMargins();
+    msgMemory_->setMinimumSize(
+        std::min(GridColumns * NarrowestColumn(), screenRoom.width() - margins.left() - margins.right()),
+        LeastRows * LaidOut(RowHeight) + frame);
     resize((minimumSizeHint() + wanted - msgMemory_->minimumSize()).boundedTo(screenRoom));
     layout()->activate();
     FitGrid();
 }
 
 void CPUForm::FitGrid() {
-    std::vector<int> widths(ByteColumns + 1, msgMemory_->width() / GridColumns);
-    widths.front() = msgMemory_->width() * AddressColumns / GridColumns;
-    msgMemory_->FitCells(widths, RowHeight);
+    const int width = std::max(msgMemory_->width(), GridColumns * NarrowestColumn());
+    std::vector<int> widths(ByteColumns + 1, width / GridColumns);
+    widths.front() = width * AddressColumns / GridColumns;
+    msgMemory_->FitCells(widths, LaidOut(RowHeight));
+    msgMemory_->setHorizontalScrollBarPolicy(width > msgMemory_->width() ? Qt::ScrollBarAlwaysOn
+                                                                         : Qt::ScrollBarAlwaysOff);
+}
+
+int CPUForm::NarrowestColumn() const {
+    return std::min(fontMetrics().horizontalAdvance("DD") + CellPadding, LaidOut(ColumnWidth));
 }
 
 void CPUForm::PlaceEditor() {

@@ -39,6 +39,8 @@ private:
     void LayOut();
     void TakeFirstSize();
     void FitGrid();
+    /// In which a byte can be read.
+    [[nodiscard]] int NarrowestColumn() const;
     void PlaceEditor();
     void ShowImage();
     [[nodiscard]] QString StoredText(int row, int column) const;

@@ -5,7 +5,9 @@
 #include <functional>
 
 #include "../support/InView.h"
+#include "controls/EditGrid.h"
 #include "data/TuneItems.h"
+#include "features/CPUForm.h"
 #include "link/ComForm.h"
 #include "link/ConnectForm.h"
 #include "print/frmPrintList.h"
@@ -123,6 +125,28 @@ TEST_P(SmallScreenTest, EveryControlOfEveryDialogCanBeBroughtIntoView) {
             dialog->findChild<QPushButton*>()->setFocus();
         }
         LookAt(*dialog, leastControls);
+    }
+}
+
+TEST_P(SmallScreenTest, TheMemoryMapScrollsToEveryByteBesideItsButtons) {
+    CPUForm dialog(session, fakes.Get(), window.get());
+    dialog.show();
+    dialog.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    EXPECT_LE(dialog.width(), 427);
+    EXPECT_LE(dialog.height(), 267 - 20);
+    auto& grid = *dialog.findChild<EditGrid*>();
+    for (const int column : {1, 9, 16, 8, 1}) {
+        for (const int row : {1, 64}) {
+            grid.MoveTo(row, column);
+            const QRect cell = grid.visualItemRect(grid.currentItem());
+            EXPECT_TRUE(IsAllSeen(*grid.viewport(), cell)) << row << ' ' << column;
+            EXPECT_GT(cell.width(), grid.fontMetrics().horizontalAdvance("DD"));
+        }
+    }
+    for (const char* name : {"cmdOK", "cmdCancel"}) {
+        const auto* button = dialog.findChild<QPushButton*>(name);
+        EXPECT_TRUE(dialog.rect().contains(button->geometry())) << name;
     }
 }
 
