@@ -14,6 +14,7 @@
 
 #include "platform/NativePrinter.h"
 #include "platform/ScreenRoom.h"
+#include "platform/ScrolledDialog.h"
 #include "platform/Toolkit.h"
 
 namespace zelvor {
@@ -82,6 +83,14 @@ bool PrintSetupDialog::eventFilter(QObject* watched, QEvent* event) {
     return QPrintDialog::eventFilter(watched, event);
 }
 
+// It grows by its options. Not before its lists are filled: they keep the least width that they were first asked for.
+bool PrintSetupDialog::event(QEvent* event) {
+    if (event->type() == QEvent::Polish) {
+        ScrollOnScreen(*this);
+    }
+    return QPrintDialog::event(event);
+}
+
 // The dialog of the properties is made when it is asked for.
 void PrintSetupDialog::childEvent(QChildEvent* event) {
     QPrintDialog::childEvent(event);
@@ -92,6 +101,8 @@ void PrintSetupDialog::childEvent(QChildEvent* event) {
 }
 
 void PrintSetupDialog::PrepareProperties(QDialog& properties) {
+    ScrollOnScreen(properties);
+    KeepOnScreen(properties);
     if (IsFileChosen()) {
         LeaveOnlyThePage(properties);
     } else if (IsFirstPrinterChosen()) {

@@ -32,6 +32,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
+    bool event(QEvent* event) override;
     void childEvent(QChildEvent* event) override;
     void showEvent(QShowEvent* event) override;
 

@@ -11,6 +11,7 @@
 #include <QPrintDialog>
 #include <QPrinterInfo>
 #include <QPushButton>
+#include <QScreen>
 #include <QStandardPaths>
 #include <QTabWidget>
 #include <QTemporaryDir>
@@ -20,6 +21,7 @@
 #include <gtest/gtest.h>
 #include <memory>
 
+#include "../support/InView.h"
 #include "platform/ModalDriver.h"
 #include "platform/PrintPropertiesDriver.h"
 
@@ -186,6 +188,38 @@ TEST_F(PrintSetup, OpensAgainWithTheChosenPaper) {
         dialog.printer()->setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF()));
     });
     ExpectLike(choice_.File()->layout, layout);
+}
+
+TEST_F(PrintSetup, ScrollsWithAllItsOptionsOnTheSmallestScreen) {
+    const QScreen* small = QGuiApplication::screens().last();
+    ASSERT_EQ(small->size(), QSize(427, 267));
+    QWidget owner;
+    owner.setGeometry(small->availableGeometry().adjusted(0, 20, 0, -20));
+    owner.show();
+    owner.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&owner));
+    Look(Path("radio.dat"), [small](QPrintDialog& dialog) {
+        const auto* buttons = dialog.findChild<QDialogButtonBox*>();
+        auto* cancel = buttons->button(QDialogButtonBox::Cancel);
+        auto* tabs = dialog.findChild<QWidget*>("tabs");
+        const auto* names = dialog.findChild<QComboBox*>("printers");
+        EXPECT_GT(names->width(), names->fontMetrics().horizontalAdvance(names->currentText()));
+        for (const bool withOptions : {true, false}) {
+            for (QPushButton* button : dialog.findChildren<QPushButton*>()) {
+                if (button->text().contains("Options")) {
+                    button->click();
+                }
+            }
+            QTest::qWait(50); // the toolkit lays out in several steps
+            EXPECT_EQ(tabs->isVisible(), withOptions);
+            EXPECT_TRUE(small->geometry().contains(dialog.frameGeometry()));
+            for (int key = 0; key < 40 && !cancel->hasFocus(); ++key) {
+                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            }
+            ASSERT_TRUE(cancel->hasFocus());
+            EXPECT_TRUE(IsAllSeen(*cancel, cancel->rect().adjusted(2, 2, -2, -2)));
+        }
+    });
 }
 
 TEST_F(PrintSetup, OffersForAPdfFileNoCopiesNoRangeAndNoOrder) {
