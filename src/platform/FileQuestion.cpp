@@ -37,6 +37,7 @@ bool ConfirmAddedSuffix(QFileDialog& dialog, const QString& file) {
 std::optional<QString> FileQuestion::Ask(const std::function<void(QFileDialog& dialog)>& setUp) {
     settings_.Review();
     const QPointer<QFileDialog> dialog = new QFileDialog(DialogParent());
+    dialog->setIconProvider(&icons_);
     setUp(*dialog);
     KeepOnScreen(*dialog);
     QString file;

@@ -4,6 +4,7 @@
 #include <functional>
 #include <optional>
 
+#include "platform/FileIcons.h"
 #include "platform/ToolkitSettings.h"
 
 class QFileDialog;
@@ -11,7 +12,8 @@ class QFileDialog;
 namespace zelvor {
 
 /// Asks for one file with the toolkit's file dialog, which may be one of the system's. Where the dialog is for saving,
-/// the user has agreed to the replacing of the file that is returned. No left-over lock of the toolkit's is waited for.
+/// the user has agreed to the replacing of the file that is returned. Neither a left-over lock of the toolkit's nor a
+/// listed file that gives no bytes is waited for.
 class FileQuestion {
 public:
     /// Nothing where the dialog was cancelled, or went with its parent.
@@ -19,6 +21,7 @@ public:
 
 private:
     ToolkitSettings settings_;
+    FileIcons icons_;
 };
 
 } // namespace zelvor

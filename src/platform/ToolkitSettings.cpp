@@ -17,13 +17,18 @@ namespace {
 
 constexpr int LockPatience = 250; // milliseconds
 
-/// A lock that cannot be had for another reason than somebody's holding it is not waited for.
+bool IsSomethingElse(const QString& file) {
+    const QFileInfo info(file);
+    return info.exists() && !info.isFile();
+}
+
+/// A lock that cannot be had for another reason than somebody's holding it is not waited for, nor a pipe's other end.
 bool IsUsable(const QString& file) {
-    const QFileInfo settings(file);
-    if (settings.exists() && !settings.isFile()) {
+    const QString lockFile = file + QStringLiteral(".lock");
+    if (IsSomethingElse(file) || IsSomethingElse(lockFile)) {
         return false;
     }
-    QLockFile lock(file + QStringLiteral(".lock"));
+    QLockFile lock(lockFile);
     return lock.tryLock(LockPatience) || lock.error() != QLockFile::LockFailedError;
 }
 

@@ -5,14 +5,20 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
+#include <array>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+#ifdef Q_OS_LINUX
+#include <sys/inotify.h>
+#endif
 
 #include "ModalDriver.h"
 #include "platform/QtFileDialogs.h"
@@ -251,6 +257,55 @@ TEST(StartDirectory, IsTheProgramsOwnWithinTheHomeOfTheUser) {
     qputenv("HOME", home);
 }
 
+#ifdef Q_OS_LINUX
+
+/// The files of a folder that anybody opens.
+class OpenedFiles {
+public:
+    explicit OpenedFiles(const QString& folder) : watch_(inotify_init1(IN_NONBLOCK | IN_CLOEXEC)) {
+        EXPECT_GE(inotify_add_watch(watch_, QFile::encodeName(folder).constData(), IN_OPEN), 0);
+    }
+    ~OpenedFiles() { close(watch_); }
+    OpenedFiles(const OpenedFiles&) = delete;
+    OpenedFiles& operator=(const OpenedFiles&) = delete;
+
+    [[nodiscard]] QStringList Take() const {
+        alignas(inotify_event) std::array<char, 4096> events{};
+        QStringList names;
+        for (ssize_t length = 0; (length = read(watch_, events.data(), events.size())) > 0;) {
+            for (ssize_t at = 0; at < length;) {
+                const auto* event = reinterpret_cast<const inotify_event*>(events.data() + at);
+                if ((event->mask & IN_ISDIR) == 0) {
+                    names.append(QFile::decodeName(event->name));
+                }
+                at += static_cast<ssize_t>(sizeof(inotify_event) + event->len);
+            }
+        }
+        return names;
+    }
+
+private:
+    int watch_;
+};
+
+// One that never gives a byte would hold the window up for ever.
+TEST_F(QtFileDialogsInUse, LookIntoNoneOfTheFilesThatTheyList) {
+    MakeFile("other.dat");
+    const OpenedFiles opened(folder_.path());
+    ASSERT_TRUE(QFile(folder_.filePath("old.dat")).open(QIODevice::ReadOnly));
+    ASSERT_EQ(opened.Take(), QStringList("old.dat"));
+    WillLook([](QFileDialog& dialog) {
+        const QAbstractItemModel* list = dialog.findChild<QListView*>("listView")->model();
+        const auto rows = [&] { return list->rowCount(dialog.findChild<QListView*>("listView")->rootIndex()); };
+        EXPECT_TRUE(QTest::qWaitFor([&] { return rows() == 2; }, 5000));
+        QTest::qWait(100); // names come first, and what they are follows
+    });
+    EXPECT_EQ(dialogs_.Open(Request()), std::nullopt);
+    EXPECT_EQ(opened.Take(), QStringList());
+}
+
+#endif
+
 #if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
 
 /// The toolkit's own settings, with something in the way.
@@ -305,6 +360,11 @@ TEST_F(ToolkitSettingsInTheWay, AFolderWithTheLocksNameIsNotWaitedFor) {
 
 TEST_F(ToolkitSettingsInTheWay, APipeIsNotReadFrom) {
     ASSERT_EQ(mkfifo(QFile::encodeName(Config() + "/QtProject.conf").constData(), 0666), 0);
+    ExpectQuick();
+}
+
+TEST_F(ToolkitSettingsInTheWay, APipeWithTheLocksNameIsNotWaitedFor) {
+    ASSERT_EQ(mkfifo(QFile::encodeName(Config() + "/QtProject.conf.lock").constData(), 0666), 0);
     ExpectQuick();
 }
 
