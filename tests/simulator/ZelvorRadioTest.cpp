@@ -326,6 +326,23 @@ TEST_F(ZelvorRadioTest, TellsAtItsStartThatItCannotSave) {
     EXPECT_FALSE(fs::exists(Link()));
 }
 
+TEST_F(ZelvorRadioTest, TellsAtItsStartThatAPlaceToSaveInIsNoFile) {
+    std::string complaint;
+    EXPECT_EQ(ExitCodeOf({"--save", "/dev/null"}, complaint), 2);
+    EXPECT_EQ(complaint, "zelvor-radio: cannot write /dev/null\n");
+}
+
+TEST_F(ZelvorRadioTest, SavesWhereALinkToNoFileYetLeads) {
+    fs::create_symlink("real.dat", directory / "link.dat");
+    RadioProcess radio(directory, {"--save", (directory / "link.dat").string()});
+    ASSERT_TRUE(radio.WaitForOut("ready: "));
+    EXPECT_FALSE(fs::exists(directory / "real.dat"));
+    radio.Signal(SIGTERM);
+    EXPECT_EQ(radio.ExitCode(), 0);
+    EXPECT_EQ(fs::read_symlink(directory / "link.dat"), "real.dat");
+    EXPECT_EQ(FileBytes(directory / "real.dat").size(), 1040U);
+}
+
 TEST_F(ZelvorRadioTest, LeavesTheFileToSaveAsItIsUntilItSaves) {
     const fs::path fresh = directory / "fresh.dat";
     const fs::path old = MakeDataFile("old.dat", 'x');

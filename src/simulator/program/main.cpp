@@ -1,9 +1,6 @@
 #include <csignal>
-#include <filesystem>
 #include <iostream>
-#include <system_error>
 
-#include <fcntl.h>
 #include <sys/prctl.h>
 #include <unistd.h>
 
@@ -41,24 +38,9 @@ sigset_t CatchStopSignals() {
     return waitMask;
 }
 
-/// Tried out, and nothing left behind: what the permissions say does not hold everywhere.
-bool CanBeWritten(const std::filesystem::path& file) {
-    std::error_code error;
-    const bool isNew = !std::filesystem::exists(file, error);
-    const int descriptor = ::open(file.c_str(), O_WRONLY | O_CREAT | O_NONBLOCK | O_CLOEXEC, 0666);
-    if (descriptor < 0) {
-        return false;
-    }
-    ::close(descriptor);
-    if (isNew) {
-        std::filesystem::remove(file, error);
-    }
-    return true;
-}
-
 /// What stands against the options on this machine, with the complaint told; false where something does.
 bool CanServe(const zelvor::Options& options) {
-    if (options.save && !CanBeWritten(*options.save)) {
+    if (options.save && !zelvor::CanWriteMemoryFile(*options.save)) {
         std::cerr << "zelvor-radio: cannot write " << options.save->string() << '\n';
         return false;
     }
