@@ -6,6 +6,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <cmath>
 
 #include "controls/FitToScreen.h"
 #include "data/Session.h"
@@ -106,7 +107,8 @@ QLabel* frmPrintList::MakeOutputLine() {
     lblOutput_->setTextFormat(Qt::PlainText);
     lblOutput_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // a long name does not widen the dialog
     const std::string longest = OutputText({PageTarget::Kind::NoAnswer, {}}, session_.LanguageFlag);
-    lblOutput_->setMinimumWidth(lblOutput_->fontMetrics().horizontalAdvance(ToQString(longest)));
+    const double width = QFontMetricsF(lblOutput_->font()).horizontalAdvance(ToQString(longest));
+    lblOutput_->setMinimumWidth(static_cast<int>(std::ceil(width))); // a rounded one may cost letters
     return lblOutput_;
 }
 

@@ -242,8 +242,10 @@ TEST_F(frmPrintListTest, SaysWhereTheReportGoes) {
         fakes.pages.SetTarget(targets[i]);
         Load();
         EXPECT_EQ(FromQString(Find<QLabel>(*form, "lblOutput").accessibleName()), english[i]);
+        EXPECT_EQ(FromQString(Find<QLabel>(*form, "lblOutput").text()), english[i]);
         Load(Language::Chinese);
         EXPECT_EQ(FromQString(Find<QLabel>(*form, "lblOutput").accessibleName()), chinese[i]);
+        EXPECT_EQ(FromQString(Find<QLabel>(*form, "lblOutput").text()), chinese[i]);
     }
 }
 
