@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QDialogButtonBox>
+#include <QFileInfo>
 #include <QLineEdit>
 #include <QPageSize>
 #include <QPushButton>
@@ -28,13 +29,22 @@ constexpr const char* OptionTabs = "tabs";
 constexpr int PageTab = 0;
 constexpr const char* PaperList = "pageSizeCombo";
 
+QPushButton* ButtonOk(const QPrintDialog& dialog) {
+    const auto* buttons = dialog.findChild<QDialogButtonBox*>();
+    return buttons != nullptr ? buttons->button(QDialogButtonBox::Ok) : nullptr;
+}
+
 // The dialog only chooses: its button must not promise to print.
 void NameButtonOk(const QPrintDialog& dialog) {
-    if (const auto* buttons = dialog.findChild<QDialogButtonBox*>()) {
-        if (QPushButton* ok = buttons->button(QDialogButtonBox::Ok)) {
-            ok->setText(QCoreApplication::translate("QPlatformTheme", "OK"));
-        }
+    if (QPushButton* ok = ButtonOk(dialog)) {
+        ok->setText(QCoreApplication::translate("QPlatformTheme", "OK"));
     }
+}
+
+/// A pipe, a device or the like, also behind a link. The toolkit has words of its own for a folder.
+bool IsSpecialFile(const QString& file) {
+    const QFileInfo info(file);
+    return info.exists() && !info.isFile() && !info.isDir();
 }
 
 void LeaveOnlyThePage(const QDialog& properties) {
@@ -67,6 +77,7 @@ PrintSetupDialog::PrintSetupDialog(QPrinter& printer, std::vector<InstalledPrint
     KeepOnScreen(*this);
     if (fileName_ != nullptr) {
         fileName_->installEventFilter(this);
+        connect(fileName_, &QLineEdit::textChanged, this, &PrintSetupDialog::OfferWhatWorks);
     }
 }
 
@@ -144,9 +155,13 @@ void PrintSetupDialog::OnPrinterChosen() {
     }
 }
 
+// The toolkit opens the file at OK to see whether it can be written, and would wait for a pipe's other end.
 void PrintSetupDialog::OfferWhatWorks() {
     if (auto* tabs = findChild<QTabWidget*>(QLatin1String(OptionTabs))) {
         tabs->setEnabled(!IsFileChosen());
+    }
+    if (QPushButton* ok = ButtonOk(*this)) {
+        ok->setEnabled(!IsFileChosen() || !IsSpecialFile(fileName_->text()));
     }
 }
 

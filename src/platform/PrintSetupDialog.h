@@ -15,8 +15,8 @@ namespace zelvor {
 
 /// The toolkit's print dialog, in which a printer or a PDF file is chosen for later documents. Its objectName is
 /// "dlgPrint". For a PDF file it offers paper, orientation and margins; the rest is the printing system's to do, and
-/// cannot be chosen there. A printer that is chosen in it comes with its own paper; the one that the dialog starts with
-/// keeps the paper that it has.
+/// cannot be chosen there, and nothing but a file is taken. A printer that is chosen in it comes with its own paper;
+/// the one that the dialog starts with keeps the paper that it has.
 ///
 /// On a system that has a dialog of its own, that one is shown as it is.
 class PrintSetupDialog : public QPrintDialog {

@@ -20,6 +20,9 @@
 #include <future>
 #include <gtest/gtest.h>
 #include <memory>
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
 
 #include "../support/InView.h"
 #include "platform/ModalDriver.h"
@@ -265,6 +268,26 @@ TEST_F(PrintSetup, AsksBeforeItTakesAFileThatIsThere) {
     EXPECT_TRUE(asked);
     EXPECT_TRUE(TargetOf(choice_).replacesFile);
 }
+
+#ifdef Q_OS_UNIX
+TEST_F(PrintSetup, TakesNothingButAFileAndDoesNotWaitForAPipe) {
+    ASSERT_EQ(mkfifo(QFile::encodeName(Path("pipe.pdf")).constData(), 0666), 0);
+    ASSERT_TRUE(QFile::link("/dev/null", Path("device.pdf")));
+    Look(Path("radio.dat"), [this](QPrintDialog& dialog) {
+        auto* name = dialog.findChild<QLineEdit*>("filename");
+        const auto* ok = dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+        for (const char* file : {"pipe.pdf", "device.pdf"}) {
+            name->setText(Path(file));
+            EXPECT_FALSE(ok->isEnabled()) << file;
+            QTest::keyClick(name, Qt::Key_Return);
+            EXPECT_TRUE(dialog.isVisible()) << file;
+            name->setText(Path("fresh.pdf"));
+            EXPECT_TRUE(ok->isEnabled());
+        }
+    });
+    EXPECT_EQ(TargetOf(choice_).kind, Kind::None);
+}
+#endif
 
 class PrintSetupWithoutAnswer : public testing::Test {
 protected:
