@@ -9,6 +9,7 @@
 #include "AnsweringMessageBoxes.h"
 #include "RadioProcess.h"
 #include "data/Session.h"
+#include "help/QtHelpViewer.h"
 #include "link/CloneEngine.h"
 #include "link/CloneFrames.h"
 #include "platform/QtServices.h"
@@ -23,10 +24,12 @@ constexpr int BeforePress = 300; // milliseconds in which the dialog gets on the
 
 /// The machine's services, but for the messages, which answer themselves.
 struct Bed {
-    QtServices machine;
+    QtHelpViewer help;
+    QtServices machine{help};
     AnsweringMessageBoxes messages;
-    Services services{machine.Get().ports, machine.Get().settings, messages,           machine.Get().files,
-                      machine.Get().clock, machine.Get().help,     machine.Get().pages};
+    Services services{machine.Get().ports, machine.Get().settings, messages,
+                      machine.Get().files, machine.Get().clock,    machine.Get().help,
+                      machine.Get().pages, machine.Get().store};
     Session session;
     RadioProcess radio;
 

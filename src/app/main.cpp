@@ -2,6 +2,7 @@
 #include <cstdio>
 
 #include "data/Session.h"
+#include "help/QtHelpViewer.h"
 #include "platform/FontCheck.h"
 #include "platform/QtServices.h"
 #include "shell/Icons.h"
@@ -31,7 +32,8 @@ int main(int argc, char** argv) {
     QApplication::setWindowIcon(zelvor::MakeIcon(zelvor::IconShape::Application));
     zelvor::TellWhereThereIsNoFont();
 
-    zelvor::QtServices services;
+    zelvor::QtHelpViewer help;
+    zelvor::QtServices services(help);
     zelvor::Session session;
     zelvor::MDIForm1 mainWindow(session, services.Get());
     // At once: child windows are not asked.

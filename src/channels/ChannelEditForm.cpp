@@ -18,8 +18,7 @@
 #include "data/MemoryMap.h"
 #include "data/OptionalFields.h"
 #include "data/ToneCodec.h"
-#include "platform/HelpTopic.h"
-#include "platform/HelpViewer.h"
+#include "help/HelpViewer.h"
 #include "platform/LayoutUnits.h"
 #include "platform/Services.h"
 #include "platform/Toolkit.h"
@@ -195,8 +194,9 @@ void ChannelEditForm::BuildButtons() {
     cmdOK_ = button("cmdOK", 156);
     cmdHelp_ = button("cmdHelp", 268);
     connect(cmdOK_, &QPushButton::clicked, this, &ChannelEditForm::OnClose);
-    connect(cmdHelp_, &QPushButton::clicked, this,
-            [this] { services_.help.ShowTopic(HelpTopicPath(session_.LanguageFlag, HelpPage())); });
+    connect(cmdHelp_, &QPushButton::clicked, this, [this] {
+        services_.help.Show({session_.LanguageFlag, HelpPage()});
+    });
 }
 
 void ChannelEditForm::SetTexts() {

@@ -11,8 +11,7 @@
 #include "controls/EditGrid.h"
 #include "controls/PendingEdit.h"
 #include "data/MemoryMap.h"
-#include "platform/HelpTopic.h"
-#include "platform/HelpViewer.h"
+#include "help/HelpViewer.h"
 #include "platform/LayoutUnits.h"
 #include "platform/Services.h"
 #include "platform/Toolkit.h"
@@ -105,8 +104,9 @@ void ChannelForm::BuildControls() {
     cmdHelp_ = button("cmdHelp", 618, 100);
     connect(cmdChannelEdit_, &QPushButton::clicked, this, &ChannelForm::OnChannelEdit);
     connect(cmdClose_, &QPushButton::clicked, this, &ChannelForm::OnClose);
-    connect(cmdHelp_, &QPushButton::clicked, this,
-            [this] { services_.help.ShowTopic(HelpTopicPath(session_.LanguageFlag, HelpPage())); });
+    connect(cmdHelp_, &QPushButton::clicked, this, [this] {
+        services_.help.Show({session_.LanguageFlag, HelpPage()});
+    });
 }
 
 void ChannelForm::BuildToneLists() {

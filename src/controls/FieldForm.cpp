@@ -10,8 +10,7 @@
 #include "controls/BoundList.h"
 #include "controls/BoundSpin.h"
 #include "controls/PendingEdit.h"
-#include "platform/HelpTopic.h"
-#include "platform/HelpViewer.h"
+#include "help/HelpViewer.h"
 #include "platform/LayoutUnits.h"
 #include "platform/Services.h"
 #include "platform/Toolkit.h"
@@ -91,8 +90,7 @@ void FieldForm::BuildButtons() {
     const auto* cmdClose = button("cmdClose", 2, Text::CloseButton);
     const auto* cmdHelp = button("cmdHelp", 1, Text::HelpButton);
     connect(cmdClose, &QPushButton::clicked, this, &FieldForm::CloseFromButton);
-    connect(cmdHelp, &QPushButton::clicked, this,
-            [this] { services_.help.ShowTopic(HelpTopicPath(session_.LanguageFlag, HelpPage())); });
+    connect(cmdHelp, &QPushButton::clicked, this, [this] { services_.help.Show({session_.LanguageFlag, HelpPage()}); });
 }
 
 void FieldForm::CloseFromFrame() {

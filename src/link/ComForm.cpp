@@ -7,11 +7,10 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include "controls/DialogButtons.h"
 #include "controls/FitToScreen.h"
-#include "link/DialogButtons.h"
+#include "help/HelpViewer.h"
 #include "platform/Clock.h"
-#include "platform/HelpTopic.h"
-#include "platform/HelpViewer.h"
 #include "platform/Toolkit.h"
 
 namespace zelvor {
@@ -111,7 +110,7 @@ void ComForm::TakeChoice() {
 }
 
 void ComForm::ShowHelp() {
-    services_.help.ShowTopic(HelpTopicPath(session_.LanguageFlag, "commport.htm"));
+    services_.help.Show({session_.LanguageFlag, "commport.htm"});
 }
 
 } // namespace zelvor

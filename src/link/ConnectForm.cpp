@@ -8,10 +8,9 @@
 #include <algorithm>
 
 #include "controls/FitToScreen.h"
+#include "help/HelpViewer.h"
 #include "link/CloneFrames.h"
 #include "link/TransferTexts.h"
-#include "platform/HelpTopic.h"
-#include "platform/HelpViewer.h"
 #include "platform/LayoutUnits.h"
 #include "platform/Toolkit.h"
 
@@ -165,7 +164,7 @@ QString ConnectForm::StatusText() const {
 
 void ConnectForm::ShowHelp() {
     const bool reading = direction_ == TransferDirection::Read;
-    services_.help.ShowTopic(HelpTopicPath(session_.LanguageFlag, reading ? "readradio.htm" : "writeradio.htm"));
+    services_.help.Show({session_.LanguageFlag, reading ? "readradio.htm" : "writeradio.htm"});
 }
 
 void ConnectForm::Unload() {

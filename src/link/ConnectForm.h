@@ -3,8 +3,8 @@
 #include <QDialog>
 #include <memory>
 
+#include "controls/DialogButtons.h"
 #include "link/CloneEngine.h"
-#include "link/DialogButtons.h"
 #include "platform/Services.h"
 
 class QLabel;

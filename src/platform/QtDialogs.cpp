@@ -1,20 +1,22 @@
 #include "platform/QtDialogs.h"
 
 #include <QApplication>
+#include <QVariant>
+#include <QWidget>
 #include <QWindow>
-
-#include "platform/HelpWindow.h"
 
 namespace zelvor {
 
 namespace {
 
-/// The help window stands beside the work and stays usable beside every dialog by being the dialog's: the other way
-/// round too, the two would belong to each other.
+constexpr auto BesideWork = "BesideWork"; // a property of the window
+
+/// A window beside the work stays usable beside every dialog by being the dialog's: the other way round too, the two
+/// would belong to each other.
 bool IsForWork(const QWidget& window) {
     const Qt::WindowType type = window.windowType();
     return window.isVisible() && window.isEnabled() && (type == Qt::Window || type == Qt::Dialog) &&
-           qobject_cast<const HelpWindow*>(&window) == nullptr;
+           !window.property(BesideWork).toBool();
 }
 
 bool BelongsTo(const QWidget& window, const QWidget& owner) {
@@ -46,6 +48,10 @@ QWidget* DialogParent() {
         }
     }
     return innermost;
+}
+
+void StandBesideWork(QWidget& window) {
+    window.setProperty(BesideWork, true);
 }
 
 void SetOwner(QWindow& window, QWindow& owner) {

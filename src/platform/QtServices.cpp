@@ -5,6 +5,6 @@
 namespace zelvor {
 
 // The application object owns the timers, where they are found by their names.
-QtServices::QtServices() : clock_(QCoreApplication::instance()) {}
+QtServices::QtServices(HelpViewer& help) : clock_(QCoreApplication::instance()), help_(help) {}
 
 } // namespace zelvor

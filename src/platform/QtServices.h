@@ -3,7 +3,6 @@
 #include "platform/QtClock.h"
 #include "platform/QtFileDialogs.h"
 #include "platform/QtFileStore.h"
-#include "platform/QtHelpViewer.h"
 #include "platform/QtMessageBoxes.h"
 #include "platform/QtPageDevice.h"
 #include "platform/QtSerialPorts.h"
@@ -12,10 +11,11 @@
 
 namespace zelvor {
 
-/// The machine's services, one of each. Made after the QApplication, and gone before it but after all windows.
+/// The machine's services, one of each, and the help, which stands on them. Made after the QApplication, and gone
+/// before it but after all windows.
 class QtServices {
 public:
-    QtServices();
+    explicit QtServices(HelpViewer& help);
     QtServices(const QtServices&) = delete;
     QtServices& operator=(const QtServices&) = delete;
 
@@ -27,7 +27,7 @@ private:
     QtMessageBoxes messages_;
     QtFileDialogs files_;
     QtClock clock_;
-    QtHelpViewer help_;
+    HelpViewer& help_;
     QtPageDevice pages_;
     QtFileStore store_;
     Services services_{ports_, settings_, messages_, files_, clock_, help_, pages_, store_};

@@ -8,12 +8,11 @@
 #include <QVBoxLayout>
 #include <cmath>
 
+#include "controls/DialogButtons.h"
 #include "controls/FitToScreen.h"
 #include "data/Session.h"
-#include "link/DialogButtons.h"
+#include "help/HelpViewer.h"
 #include "platform/Clock.h"
-#include "platform/HelpTopic.h"
-#include "platform/HelpViewer.h"
 #include "platform/MessageBoxes.h"
 #include "platform/PageDevice.h"
 #include "platform/Services.h"
@@ -54,8 +53,9 @@ frmPrintList::frmPrintList(Session& session, Services& services, QWidget* parent
     cmdOK_ = buttons.cmdOK;
     connect(buttons.cmdOK, &QPushButton::clicked, this, &frmPrintList::AskBeforePrint);
     connect(buttons.cmdCancel, &QPushButton::clicked, this, &frmPrintList::reject);
-    connect(buttons.cmdHelp, &QPushButton::clicked, this,
-            [this] { services_.help.ShowTopic(HelpTopicPath(session_.LanguageFlag, "print.htm")); });
+    connect(buttons.cmdHelp, &QPushButton::clicked, this, [this] {
+        services_.help.Show({session_.LanguageFlag, "print.htm"});
+    });
 
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(choice);

@@ -13,8 +13,7 @@
 #include "data/MemoryMap.h"
 #include "data/ModelCatalogue.h"
 #include "data/Windows1252.h"
-#include "platform/HelpTopic.h"
-#include "platform/HelpViewer.h"
+#include "help/HelpViewer.h"
 #include "platform/Services.h"
 #include "platform/Toolkit.h"
 #include "service/ServiceControls.h"
@@ -115,7 +114,7 @@ QString DJJInfoForm::SerialNumber() const {
 }
 
 void DJJInfoForm::ShowHelp() {
-    services_.help.ShowTopic(HelpTopicPath(session_.LanguageFlag, "radioinfo.htm"));
+    services_.help.Show({session_.LanguageFlag, "radioinfo.htm"});
 }
 
 void DJJInfoForm::closeEvent(QCloseEvent* event) {

@@ -5,11 +5,11 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "controls/DialogButtons.h"
 #include "controls/FitToScreen.h"
 #include "data/Session.h"
-#include "link/DialogButtons.h"
-#include "platform/HelpTopic.h"
-#include "platform/HelpViewer.h"
+#include "help/HelpTopic.h"
+#include "help/HelpViewer.h"
 #include "platform/Services.h"
 #include "platform/Toolkit.h"
 #include "shell/Icons.h"
@@ -47,8 +47,9 @@ void LanguageForm::BuildControls() {
     buttons.cmdHelp->setObjectName("CmdHelp");
     connect(buttons.cmdOK, &QPushButton::clicked, this, &LanguageForm::accept);
     connect(buttons.cmdCancel, &QPushButton::clicked, this, &LanguageForm::reject);
-    connect(buttons.cmdHelp, &QPushButton::clicked, this,
-            [this] { services_.help.ShowTopic(HelpTopicPath(session_.LanguageFlag, "language.htm")); });
+    connect(buttons.cmdHelp, &QPushButton::clicked, this, [this] {
+        services_.help.Show({session_.LanguageFlag, "language.htm"});
+    });
 
     auto* layout = new QFormLayout(this);
     layout->addRow(labLanguage, comLanguage_);

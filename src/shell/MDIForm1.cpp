@@ -20,10 +20,10 @@
 #include "features/DTMFForm.h"
 #include "features/KeyAssign.h"
 #include "features/OptionalForm.h"
+#include "help/HelpTopic.h"
+#include "help/HelpViewer.h"
 #include "link/ComForm.h"
 #include "platform/Clock.h"
-#include "platform/HelpTopic.h"
-#include "platform/HelpViewer.h"
 #include "platform/LayoutUnits.h"
 #include "platform/ScreenRoom.h"
 #include "platform/Services.h"
@@ -310,7 +310,7 @@ void MDIForm1::ShowAbout() {
 }
 
 void MDIForm1::ShowHelpPage(std::string_view page) {
-    services_.help.ShowTopic(HelpTopicPath(session_.LanguageFlag, page));
+    services_.help.Show({session_.LanguageFlag, page});
 }
 
 void MDIForm1::ShowHelpOfActiveWindow() {

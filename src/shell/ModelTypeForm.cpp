@@ -6,13 +6,12 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "controls/DialogButtons.h"
 #include "controls/FitToScreen.h"
 #include "data/MemoryMap.h"
 #include "data/ModelCatalogue.h"
 #include "data/Session.h"
-#include "link/DialogButtons.h"
-#include "platform/HelpTopic.h"
-#include "platform/HelpViewer.h"
+#include "help/HelpViewer.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Services.h"
 #include "platform/Toolkit.h"
@@ -69,8 +68,9 @@ void ModelTypeForm::BuildControls() {
     const DialogButtons buttons = MakeDialogButtons(*this, session_);
     connect(buttons.cmdOK, &QPushButton::clicked, this, &ModelTypeForm::TakeChoice);
     connect(buttons.cmdCancel, &QPushButton::clicked, this, &ModelTypeForm::reject);
-    connect(buttons.cmdHelp, &QPushButton::clicked, this,
-            [this] { services_.help.ShowTopic(HelpTopicPath(session_.LanguageFlag, "modelinfo.htm")); });
+    connect(buttons.cmdHelp, &QPushButton::clicked, this, [this] {
+        services_.help.Show({session_.LanguageFlag, "modelinfo.htm"});
+    });
 
     auto* layout = new QFormLayout(this);
     layout->addRow(MakeLabel(*this, "lblModelType", model), cboModelType_);

@@ -8,9 +8,8 @@
 
 #include "data/MemoryMap.h"
 #include "data/ModelCatalogue.h"
+#include "help/HelpViewer.h"
 #include "platform/Clock.h"
-#include "platform/HelpTopic.h"
-#include "platform/HelpViewer.h"
 #include "platform/LayoutUnits.h"
 #include "platform/Services.h"
 #include "platform/Toolkit.h"
@@ -71,8 +70,7 @@ void TreeViewForm::BuildControls() {
     QPushButton* cmdClose = MakeButton("cmdClose", Text::CloseButton, Margin);
     QPushButton* cmdHelp = MakeButton("cmdHelp", Text::HelpButton, Margin + TreeWidth - ButtonWidth);
     connect(cmdClose, &QPushButton::clicked, this, &TreeViewForm::UnloadRequested);
-    connect(cmdHelp, &QPushButton::clicked, this,
-            [this] { services_.help.ShowTopic(HelpTopicPath(session_.LanguageFlag, HelpPage())); });
+    connect(cmdHelp, &QPushButton::clicked, this, [this] { services_.help.Show({session_.LanguageFlag, HelpPage()}); });
 }
 
 QPushButton* TreeViewForm::MakeButton(const char* name, Text text, int left) {

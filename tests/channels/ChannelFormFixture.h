@@ -16,8 +16,8 @@
 #include "controls/EditGrid.h"
 #include "data/BlankImage.h"
 #include "data/Session.h"
+#include "fakes/FakeServices.h"
 #include "platform/Toolkit.h"
-#include "platform/fakes/FakeServices.h"
 
 namespace zelvor {
 

@@ -17,8 +17,8 @@
 #include "channels/ChannelWindows.h"
 #include "controls/ChildForm.h"
 #include "data/Session.h"
+#include "fakes/FakeServices.h"
 #include "platform/Toolkit.h"
-#include "platform/fakes/FakeServices.h"
 #include "support/QtPrinting.h"
 
 namespace zelvor {

@@ -15,8 +15,8 @@
 #include "channels/TestChannelForm.h"
 #include "controls/EditGrid.h"
 #include "data/Session.h"
+#include "fakes/FakeServices.h"
 #include "platform/Toolkit.h"
-#include "platform/fakes/FakeServices.h"
 
 namespace zelvor {
 

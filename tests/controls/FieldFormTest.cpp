@@ -13,7 +13,7 @@
 #include "controls/BoundList.h"
 #include "controls/BoundRows.h"
 #include "controls/BoundSpin.h"
-#include "platform/fakes/FakeServices.h"
+#include "fakes/FakeServices.h"
 #include "support/QtPrinting.h"
 
 namespace zelvor {

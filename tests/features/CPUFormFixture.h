@@ -12,8 +12,8 @@
 #include "controls/CellTextEditor.h"
 #include "controls/EditGrid.h"
 #include "data/Session.h"
+#include "fakes/FakeServices.h"
 #include "features/CPUForm.h"
-#include "platform/fakes/FakeServices.h"
 #include "support/QtPrinting.h"
 
 namespace zelvor {

@@ -4,11 +4,11 @@
 #include <string>
 #include <vector>
 
+#include "fakes/FakeClock.h"
+#include "fakes/FakeMessageBoxes.h"
+#include "fakes/FakeSerialPort.h"
 #include "link/CloneEngine.h"
 #include "link/ScriptedRadio.h"
-#include "platform/fakes/FakeClock.h"
-#include "platform/fakes/FakeMessageBoxes.h"
-#include "platform/fakes/FakeSerialPort.h"
 
 namespace zelvor {
 

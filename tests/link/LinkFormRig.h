@@ -6,8 +6,8 @@
 #include <QWidget>
 #include <gtest/gtest.h>
 
+#include "fakes/FakeServices.h"
 #include "platform/Toolkit.h"
-#include "platform/fakes/FakeServices.h"
 
 namespace zelvor {
 

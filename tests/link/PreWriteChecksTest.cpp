@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/fakes/FakeMessageBoxes.h"
+#include "fakes/FakeMessageBoxes.h"
 
 namespace zelvor {
 namespace {

@@ -4,9 +4,9 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/fakes/FakeClock.h"
-#include "platform/fakes/FakeMessageBoxes.h"
-#include "platform/fakes/FakeSerialPort.h"
+#include "fakes/FakeClock.h"
+#include "fakes/FakeMessageBoxes.h"
+#include "fakes/FakeSerialPort.h"
 #include "support/RadioTesting.h"
 
 namespace zelvor {

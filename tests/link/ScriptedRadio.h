@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/fakes/FakeClock.h"
-#include "platform/fakes/FakeSerialPort.h"
+#include "fakes/FakeClock.h"
+#include "fakes/FakeSerialPort.h"
 #include "support/RadioTesting.h"
 
 namespace zelvor {

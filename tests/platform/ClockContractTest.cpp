@@ -5,8 +5,8 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 
+#include "fakes/FakeClock.h"
 #include "platform/QtClock.h"
-#include "platform/fakes/FakeClock.h"
 
 namespace zelvor {
 namespace {

@@ -2,7 +2,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/fakes/FakeClock.h"
+#include "fakes/FakeClock.h"
 
 namespace zelvor {
 namespace {

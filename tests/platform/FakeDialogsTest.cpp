@@ -2,7 +2,7 @@
 #include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 
-#include "platform/fakes/FakeServices.h"
+#include "fakes/FakeServices.h"
 
 namespace zelvor {
 namespace {
@@ -201,12 +201,6 @@ TEST(FakePageDevice, FailsOnASetUpDialogThatWasNeverShown) {
             device.ExpectSetup(false);
         },
         "never shown");
-}
-
-TEST(FakeHelpViewer, KeepsTheTopics) {
-    FakeServices fakes;
-    fakes.Get().help.ShowTopic("/opt/Zelvor_e.chm::/html/chinfo.htm");
-    EXPECT_EQ(fakes.help.Topics(), std::vector<std::string>{"/opt/Zelvor_e.chm::/html/chinfo.htm"});
 }
 
 TEST(FakeSettingsStore, TellsWritesFromWhatWasThere) {

@@ -1,7 +1,7 @@
 #include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 
-#include "platform/fakes/FakeSerialPort.h"
+#include "fakes/FakeSerialPort.h"
 
 namespace zelvor {
 namespace {

@@ -6,8 +6,8 @@
 #include <gtest/gtest.h>
 
 #include "ModalDriver.h"
+#include "fakes/FakeFileDialogs.h"
 #include "platform/QtFileDialogs.h"
-#include "platform/fakes/FakeFileDialogs.h"
 #include "support/QtPrinting.h"
 
 namespace zelvor {

@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
+#include "fakes/FakeFileStore.h"
 #include "platform/QtFileStore.h"
-#include "platform/fakes/FakeFileStore.h"
 #include "support/TestDirectory.h"
 
 namespace zelvor {

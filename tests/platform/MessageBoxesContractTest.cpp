@@ -4,8 +4,8 @@
 #include <gtest/gtest.h>
 
 #include "ModalDriver.h"
+#include "fakes/FakeMessageBoxes.h"
 #include "platform/QtMessageBoxes.h"
-#include "platform/fakes/FakeMessageBoxes.h"
 
 namespace zelvor {
 namespace {

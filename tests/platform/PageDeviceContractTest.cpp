@@ -10,8 +10,8 @@
 #include <sys/stat.h>
 #include <vector>
 
+#include "fakes/FakePageDevice.h"
 #include "platform/QtPageDevice.h"
-#include "platform/fakes/FakePageDevice.h"
 
 namespace zelvor {
 namespace {

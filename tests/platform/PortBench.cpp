@@ -6,8 +6,8 @@
 
 #include "PseudoTerminal.h"
 #include "UserPorts.h"
+#include "fakes/FakeSerialPort.h"
 #include "platform/QtSerialPorts.h"
-#include "platform/fakes/FakeSerialPort.h"
 
 namespace zelvor {
 

@@ -8,9 +8,9 @@
 #include <gtest/gtest.h>
 
 #include "ModalDriver.h"
-#include "platform/QtHelpViewer.h"
+#include "fakes/FakeMessageBoxes.h"
+#include "help/QtHelpViewer.h"
 #include "platform/QtMessageBoxes.h"
-#include "platform/fakes/FakeMessageBoxes.h"
 #include "support/QtPrinting.h"
 
 namespace zelvor {
@@ -160,7 +160,7 @@ TEST(QtMessageBoxes, BelongToTheInnermostWindowThatIsEnabledWhoeverHasTheKeys) {
     over.show();
     main.setEnabled(false);
     over.setEnabled(true);
-    help.ShowTopic("/opt\\Zelvor_e.chm::/html/general.htm");
+    help.Show({Language::English, "general.htm"});
     ASSERT_TRUE(QTest::qWaitFor(
         [] { return QApplication::activeWindow() && QApplication::activeWindow()->objectName() == "HelpWindow"; }));
     LookAt({"", "x"}, [&](QMessageBox& box) { EXPECT_EQ(box.parentWidget(), &over); });

@@ -9,8 +9,8 @@
 #include <sys/stat.h>
 #endif
 
+#include "fakes/FakeSettingsStore.h"
 #include "platform/QtSettingsStore.h"
-#include "platform/fakes/FakeSettingsStore.h"
 
 namespace zelvor {
 namespace {

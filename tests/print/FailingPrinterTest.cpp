@@ -2,7 +2,7 @@
 #include <random>
 
 #include "data/TestImages.h"
-#include "platform/fakes/FakePageDevice.h"
+#include "fakes/FakePageDevice.h"
 #include "print/DataReport.h"
 #include "print/ReportImage.h"
 

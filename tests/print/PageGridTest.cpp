@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/fakes/FakePageDevice.h"
+#include "fakes/FakePageDevice.h"
 
 namespace zelvor {
 namespace {

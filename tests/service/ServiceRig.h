@@ -8,15 +8,15 @@
 #include <vector>
 
 #include "data/Session.h"
+#include "fakes/FakeClock.h"
+#include "fakes/FakeFileDialogs.h"
+#include "fakes/FakeFileStore.h"
+#include "fakes/FakeHelpViewer.h"
+#include "fakes/FakeMessageBoxes.h"
+#include "fakes/FakePageDevice.h"
+#include "fakes/FakeSerialPort.h"
+#include "fakes/FakeSettingsStore.h"
 #include "platform/Services.h"
-#include "platform/fakes/FakeClock.h"
-#include "platform/fakes/FakeFileDialogs.h"
-#include "platform/fakes/FakeFileStore.h"
-#include "platform/fakes/FakeHelpViewer.h"
-#include "platform/fakes/FakeMessageBoxes.h"
-#include "platform/fakes/FakePageDevice.h"
-#include "platform/fakes/FakeSerialPort.h"
-#include "platform/fakes/FakeSettingsStore.h"
 #include "support/RadioTesting.h"
 
 namespace zelvor {

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "data/Session.h"
-#include "platform/fakes/FakeServices.h"
+#include "fakes/FakeServices.h"
 #include "support/PrintedPages.h"
 
 namespace zelvor {

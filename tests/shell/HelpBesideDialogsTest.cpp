@@ -9,16 +9,14 @@
 #include <QWindow>
 #include <string>
 
+#include "help/QtHelpViewer.h"
 #include "platform/QtFileDialogs.h"
-#include "platform/QtHelpViewer.h"
 #include "platform/QtMessageBoxes.h"
 #include "platform/QtPageDevice.h"
 #include "shell/ShellTest.h"
 
 namespace zelvor {
 namespace {
-
-constexpr auto HelpTopic = "\\Zelvor_e.chm::/html/general.htm";
 
 /// The windows that a window is transient for, from the nearest on. The toolkit follows them without counting.
 std::vector<const QWindow*> OwnersOf(const QWindow& window) {
@@ -41,7 +39,7 @@ protected:
     }
 
     void ShowHelp() {
-        help_.ShowTopic(HelpTopic);
+        help_.Show({Language::English, "general.htm"});
         ASSERT_TRUE(QTest::qWaitForWindowActive(HelpWindow()));
     }
     static QWidget* HelpWindow() {

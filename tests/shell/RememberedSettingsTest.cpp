@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "data/Session.h"
-#include "platform/fakes/FakeSettingsStore.h"
+#include "fakes/FakeSettingsStore.h"
 
 namespace zelvor {
 namespace {

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "data/Session.h"
-#include "platform/fakes/FakeServices.h"
+#include "fakes/FakeServices.h"
 #include "shell/MDIForm1.h"
 
 namespace zelvor {

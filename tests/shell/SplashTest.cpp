@@ -2,7 +2,7 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
-#include "platform/fakes/FakeClock.h"
+#include "fakes/FakeClock.h"
 #include "shell/frmStart.h"
 
 namespace zelvor {

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/fakes/FakePageDevice.h"
+#include "fakes/FakePageDevice.h"
 
 namespace zelvor::testing {
 

@@ -17,6 +17,7 @@
 #include <gtest/gtest.h>
 
 #include "data/Session.h"
+#include "fakes/FakeHelpViewer.h"
 #include "platform/QtServices.h"
 #include "simulator/RadioProcess.h"
 #include "simulator/SampleRadio.h"
@@ -133,7 +134,8 @@ protected:
     [[nodiscard]] std::string Saved() const { return directory.filePath("radio.dat").toStdString(); }
 
     QTemporaryDir directory;
-    QtServices machine;
+    FakeHelpViewer help;
+    QtServices machine{help};
     Session session;
     std::unique_ptr<RadioProcess> radio;
     RetryingUser user{machine.Get().clock};
