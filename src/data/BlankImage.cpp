@@ -29,22 +29,11 @@ void StoreConstants(DataImage& image) {
     Store(image, 0x1FA, {0x00});                                                 // DTMF stun type
 }
 
-std::uint8_t FamilyDigit(std::uint8_t family) {
-    switch (family) {
-    case Family4618:
-        return '8';
-    case Family4613:
-        return '3';
-    case Family4617:
-        return '7';
-    default:
-        return 0xFF;
-    }
-}
-
 void StoreIdentity(DataImage& image, std::uint8_t market, std::uint8_t family) {
-    const std::uint8_t bandDigit = market < 2 ? '4' : '5';
-    Store(image, address::Identity, {'P', bandDigit, '6', '1', FamilyDigit(family), market, family, 0xFF});
+    int address = address::Identity;
+    for (const std::uint8_t byte : MakeIdentity(family, market)) {
+        image.Set(address++, byte);
+    }
 }
 
 } // namespace

@@ -2,64 +2,154 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <iterator>
+#include <set>
+#include <vector>
 
 #include "data/MemoryMap.h"
 
 namespace zelvor {
 namespace {
 
-// Intended: the radio information of model 5617 says "VHF" before UHF ranges, and its printed report says 459. Users
-// compare both with what they have on paper.
-constexpr std::array<ModelVariant, 16> Catalogue{{
-    {Family4618, 1, "4618: VHF: 136-174 MHz(M)] [ ", "4618", "VHF: 136-174 MHz(M)", "4618 (VHF)", "136-174 MHz(M)",
-     "4618(VHF)", "M", "136-174MHz", 2, 0},
-    {Family4618, 33, "5618: UHF: 450-490 MHz(M)] [ ", "5618", "UHF: 450-490 MHz(M)", "5618 (UHF)", "450-490 MHz(M)",
-     "5618(UHF)", "M", "450-490MHz", 5, 0},
-    {Family4618, 51, "5618: UHF: 440-480 MHz(C)] [ ", "5618", "UHF: 440-480 MHz(C)", "5618 (UHF)", "440-480 MHz(C)",
-     "5618(UHF)", "C", "440-480MHz", 5, 1},
-    {Family4618, 67, "5618: UHF: 400-430 MHz(C2)] [ ", "5618", "UHF: 400-430 MHz(C2)", "5618 (UHF)", "400-430 MHz(C2)",
-     "5618(UHF)", "C2", "400-430MHz", 5, 2},
-    {Family4618, 99, "5618: UHF: 370-390 MHz(C5)] [ ", "5618", "UHF: 370-390 MHz(C5)", "5618 (UHF)", "370-390 MHz(C5)",
-     "5618(UHF)", "C5", "370-390MHz", 5, 3},
-    {Family4618, 83, "5618: UHF: 350-370 MHz(C6)] [ ", "5618", "UHF: 350-370 MHz(C6)", "5618 (UHF)", "350-370 MHz(C6)",
-     "5618(UHF)", "C6", "350-370MHz", 5, 4},
-    {Family4618, 115, "5618: UHF: 400-470 MHz(C7)] [ ", "5618", "UHF: 400-470 MHz(C7)", "5618 (UHF)", "400-470 MHz(C7)",
-     "5618(UHF)", "C7", "400-470MHz", 5, 5},
-    {Family4613, 1, "4613: VHF: 136-174 MHz(M)] [ ", "4613", "VHF: 136-174 MHz(M)", "4613 (VHF)", "136-174 MHz(M)",
-     "4613(VHF)", "M", "136-174MHz", 0, 0},
-    {Family4613, 0, "4613: VHF: 136-174 MHz(K)] [ ", "4613", "VHF: 136-174 MHz(K)", "4613 (VHF)", "136-174 MHz(K)",
-     "4613(VHF)", "K", "136-174MHz", 0, 1},
-    {Family4613, 32, "5613: UHF: 450-490 MHz(K)] [ ", "5613", "UHF: 450-490 MHz(K)", "5613 (UHF)", "450-490 MHz(K)",
-     "5613(UHF)", "K", "450-490MHz", 3, 0},
-    {Family4613, 112, "5613: UHF: 470-512 MHz(K2)] [ ", "5613", "UHF: 470-512 MHz(K2)", "5613 (UHF)", "470-512 MHz(K2)",
-     "5613(UHF)", "K2", "470-512MHz", 3, 1},
-    {Family4613, 33, "5613: UHF: 450-490 MHz(M)] [ ", "5613", "UHF: 450-490 MHz(M)", "5613 (UHF)", "450-490 MHz(M)",
-     "5613(UHF)", "M", "450-490MHz", 3, 2},
-    {Family4613, 113, "5613: UHF: 470-512 MHz(M2)] [ ", "5613", "UHF: 470-512 MHz(M2)", "5613 (UHF)", "470-512 MHz(M2)",
-     "5613(UHF)", "M2", "470-512MHz", 3, 3},
-    {Family4617, 1, "4617: VHF: 136-174 MHz(M)] [ ", "4617", "VHF: 136-174 MHz(M)", "4617 (VHF)", "136-174 MHz(M)",
-     "4617(VHF)", "M", "136-174MHz", 1, 0},
-    {Family4617, 33, "5617: UHF: 450-490 MHz(M)] [ ", "5617", "VHF: 450-490 MHz(M)", "5617 (UHF)", "450-490 MHz(M)",
-     "5617(UHF)", "M", "459-490MHz", 4, 0},
-    {Family4617, 65, "5617: UHF: 400-430 MHz(M3)] [ ", "5617", "VHF: 400-430 MHz(M3)", "5617 (UHF)", "400-430 MHz(M3)",
-     "5617(UHF)", "M3", "400-430MHz", 4, 1},
+/// Models of the same family byte: one of each band, whose numbers differ in the first digit.
+struct Family {
+    std::uint8_t byte;
+    char digit; // the last of the models' numbers
+};
+
+constexpr std::array<Family, 3> Families{
+    {{.byte = Family4618, .digit = '8'}, {.byte = Family4613, .digit = '3'}, {.byte = Family4617, .digit = '7'}}};
+
+struct Row {
+    std::uint8_t family;
+    std::uint8_t market;
+    std::string_view marketName;
+    int low; // MHz
+    int high;
+};
+
+/// The variants of a model are in the order of the model dialog's ranges. Reports name the first row for an image of
+/// an unknown variant.
+constexpr std::array<Row, 16> Rows{{
+    {.family = Family4618, .market = 1, .marketName = "M", .low = 136, .high = 174},
+    {.family = Family4618, .market = 33, .marketName = "M", .low = 450, .high = 490},
+    {.family = Family4618, .market = 51, .marketName = "C", .low = 440, .high = 480},
+    {.family = Family4618, .market = 67, .marketName = "C2", .low = 400, .high = 430},
+    {.family = Family4618, .market = 99, .marketName = "C5", .low = 370, .high = 390},
+    {.family = Family4618, .market = 83, .marketName = "C6", .low = 350, .high = 370},
+    {.family = Family4618, .market = 115, .marketName = "C7", .low = 400, .high = 470},
+    {.family = Family4613, .market = 1, .marketName = "M", .low = 136, .high = 174},
+    {.family = Family4613, .market = 0, .marketName = "K", .low = 136, .high = 174},
+    {.family = Family4613, .market = 32, .marketName = "K", .low = 450, .high = 490},
+    {.family = Family4613, .market = 112, .marketName = "K2", .low = 470, .high = 512},
+    {.family = Family4613, .market = 33, .marketName = "M", .low = 450, .high = 490},
+    {.family = Family4613, .market = 113, .marketName = "M2", .low = 470, .high = 512},
+    {.family = Family4617, .market = 1, .marketName = "M", .low = 136, .high = 174},
+    {.family = Family4617, .market = 33, .marketName = "M", .low = 450, .high = 490},
+    {.family = Family4617, .market = 65, .marketName = "M3", .low = 400, .high = 430},
 }};
 
-constexpr std::array<std::string_view, 6> Models{"4613 (VHF)", "4617 (VHF)", "4618 (VHF)",
-                                                 "5613 (UHF)", "5617 (UHF)", "5618 (UHF)"};
+// The exceptions. All are intended: users compare the texts with what they have on paper.
 
-constexpr std::array<RangeEntry, 2> Ranges4613{{{"136-174 MHz(M)", 1}, {"136-174 MHz(K)", 0}}};
-constexpr std::array<RangeEntry, 1> Ranges4617And4618{{{"136-174 MHz(M)", 1}}};
-constexpr std::array<RangeEntry, 4> Ranges5613{
-    {{"450-490 MHz(K)", 32}, {"470-512 MHz(K2)", 112}, {"450-490 MHz(M)", 33}, {"470-512 MHz(M2)", 113}}};
-constexpr std::array<RangeEntry, 2> Ranges5617{{{"450-490 MHz(M)", 33}, {"400-430 MHz(M3)", 65}}};
-constexpr std::array<RangeEntry, 5> Ranges5618{{{"450-490 MHz(M)", 33},
-                                                {"440-480 MHz(C)", 51},
-                                                {"400-430 MHz(C2)", 67},
-                                                {"370-390 MHz(C5)", 99},
-                                                {"350-370 MHz(C6)", 83}}};
+/// The model dialog does not offer market C7.
+bool IsOffered(const ModelVariant& variant) {
+    return variant.market != 115;
+}
 
-constexpr std::string_view TitleOfUnknownFamily = "4613: VHF: 136-174 MHz(K)] [ ";
+/// The radio information of model 5617 says "VHF" before its UHF ranges.
+bool SaysVhfInInfo(const Row& row) {
+    return row.family == Family4617;
+}
+
+/// The printed reports of model 5617, market M, say "459-490MHz".
+int LowInReports(const Row& row) {
+    return row.family == Family4617 && row.market == 33 ? 459 : row.low;
+}
+
+constexpr std::int32_t UnitsPerMHz = 100'000;
+constexpr Band BandOfUnknownMarket{440 * UnitsPerMHz, 480 * UnitsPerMHz};
+
+/// By market byte, so that it holds for unknown pairs too.
+constexpr bool IsVhf(std::uint8_t market) {
+    return market < 2;
+}
+
+const Family* FindFamily(std::uint8_t byte) {
+    const auto* found =
+        std::find_if(Families.begin(), Families.end(), [&](const Family& family) { return family.byte == byte; });
+    return found == Families.end() ? nullptr : found;
+}
+
+/// "4618".
+std::string ModelNumber(const Family& family, bool isVhf) {
+    return std::string(isVhf ? "4" : "5") + "61" + family.digit;
+}
+
+/// "4618 (VHF)".
+std::string ModelEntry(const Family& family, bool isVhf) {
+    return ModelNumber(family, isVhf) + (isVhf ? " (VHF)" : " (UHF)");
+}
+
+/// "136-174".
+std::string RangeText(int low, int high) {
+    return std::to_string(low) + '-' + std::to_string(high);
+}
+
+/// All of a variant but its places in the model dialog.
+ModelVariant VariantOf(const Row& row) {
+    const Family& family = *FindFamily(row.family);
+    const bool isVhf = IsVhf(row.market);
+    const std::string model = ModelNumber(family, isVhf);
+    const std::string band = isVhf ? "VHF" : "UHF";
+    const std::string market(row.marketName);
+    const std::string range = RangeText(row.low, row.high) + " MHz(" + market + ')';
+    return {.family = row.family,
+            .market = row.market,
+            .band = {row.low * UnitsPerMHz, row.high * UnitsPerMHz},
+            .titleText = model + ": " + band + ": " + range + "] [ ",
+            .infoModel = model,
+            .infoBand = (SaysVhfInInfo(row) ? "VHF" : band) + ": " + range,
+            .dialogModel = ModelEntry(family, isVhf),
+            .dialogRange = range,
+            .reportModel = model + '(' + band + ')',
+            .reportMarket = market,
+            .reportRange = RangeText(LowInReports(row), row.high) + "MHz",
+            .modelIndex = 0,
+            .rangeIndex = 0};
+}
+
+/// What the rows come to.
+struct Catalogue {
+    std::vector<ModelVariant> variants;
+    std::vector<std::string> models;             // of the model dialog, by number
+    std::vector<std::vector<RangeEntry>> ranges; // of each model
+};
+
+Catalogue MakeCatalogue() {
+    Catalogue catalogue;
+    std::set<std::string> models;
+    for (const Row& row : Rows) {
+        models.insert(catalogue.variants.emplace_back(VariantOf(row)).dialogModel);
+    }
+    catalogue.models.assign(models.begin(), models.end());
+    catalogue.ranges.resize(models.size());
+    for (ModelVariant& variant : catalogue.variants) {
+        const auto model = static_cast<std::size_t>(std::distance(models.begin(), models.find(variant.dialogModel)));
+        std::vector<RangeEntry>& ranges = catalogue.ranges[model];
+        variant.modelIndex = static_cast<int>(model);
+        variant.rangeIndex = static_cast<int>(ranges.size());
+        if (IsOffered(variant)) {
+            ranges.push_back({variant.dialogRange, variant.market});
+        }
+    }
+    return catalogue;
+}
+
+const Catalogue& TheCatalogue() {
+    static const Catalogue catalogue = MakeCatalogue();
+    return catalogue;
+}
+
 constexpr TextPair FileNameLabel{"File Name:", "文件名:"};
 
 constexpr std::string_view HexDigits = "0123456789ABCDEF";
@@ -76,85 +166,51 @@ std::optional<std::uint8_t> HexPair(std::string_view text) {
 } // namespace
 
 std::span<const ModelVariant> ModelCatalogue() {
-    return Catalogue;
+    return TheCatalogue().variants;
 }
 
 const ModelVariant* FindVariant(std::uint8_t family, std::uint8_t market) {
-    const auto found = std::find_if(Catalogue.begin(), Catalogue.end(), [&](const ModelVariant& variant) {
+    const std::vector<ModelVariant>& variants = TheCatalogue().variants;
+    const auto found = std::find_if(variants.begin(), variants.end(), [&](const ModelVariant& variant) {
         return variant.family == family && variant.market == market;
     });
-    return found == Catalogue.end() ? nullptr : &*found;
+    return found == variants.end() ? nullptr : &*found;
+}
+
+const ModelVariant& VariantOfUnknownFamily() {
+    return *FindVariant(Family4613, 0);
 }
 
 bool IsFamilyByte(std::uint8_t family) {
-    return family == Family4618 || family == Family4613 || family == Family4617;
+    return FindFamily(family) != nullptr;
 }
 
-std::span<const std::string_view> ModelEntries() {
-    return Models;
+std::span<const std::string> ModelEntries() {
+    return TheCatalogue().models;
 }
 
 std::span<const RangeEntry> RangeEntries(int modelIndex) {
-    switch (modelIndex) {
-    case 0:
-        return Ranges4613;
-    case 1:
-    case 2:
-        return Ranges4617And4618;
-    case 3:
-        return Ranges5613;
-    case 4:
-        return Ranges5617;
-    case 5:
-        return Ranges5618;
-    default:
-        return {};
-    }
+    const auto& ranges = TheCatalogue().ranges;
+    const auto index = static_cast<std::size_t>(modelIndex);
+    return index < ranges.size() ? std::span<const RangeEntry>(ranges[index]) : std::span<const RangeEntry>();
 }
 
-std::string_view NavigatorModelText(std::uint8_t family, std::uint8_t market) {
-    const bool isVhf = market < 2;
-    switch (family) {
-    case Family4618:
-        return isVhf ? "4618 (VHF)" : "5618 (UHF)";
-    case Family4613:
-        return isVhf ? "4613 (VHF)" : "5613 (UHF)";
-    case Family4617:
-        return isVhf ? "4617 (VHF)" : "5617 (UHF)";
-    default:
-        return {};
-    }
+std::string NavigatorModelText(std::uint8_t family, std::uint8_t market) {
+    const Family* known = FindFamily(family);
+    return known != nullptr ? ModelEntry(*known, IsVhf(market)) : std::string();
 }
 
 std::optional<Band> BandOfMarket(std::uint8_t market) {
-    switch (market) {
-    case 0:
-    case 1:
-        return Band{13'600'000, 17'400'000};
-    case 32:
-    case 33:
-        return Band{45'000'000, 49'000'000};
-    case 51:
-        return Band{44'000'000, 48'000'000};
-    case 65:
-    case 67:
-        return Band{40'000'000, 43'000'000};
-    case 83:
-        return Band{35'000'000, 37'000'000};
-    case 99:
-        return Band{37'000'000, 39'000'000};
-    case 112:
-    case 113:
-        return Band{47'000'000, 51'200'000};
-    case 115:
-        return Band{40'000'000, 47'000'000};
-    default:
-        return std::nullopt;
+    for (const ModelVariant& variant : TheCatalogue().variants) {
+        if (variant.market == market) {
+            return variant.band;
+        }
     }
+    return std::nullopt;
 }
 
 Band TestFrequencyBand(std::uint8_t market) {
-    return BandOfMarket(market).value_or(Band{44'000'000, 48'000'000});
+    return BandOfMarket(market).value_or(BandOfUnknownMarket);
 }
 
 BandLimits SetBandLimits(const DataImage& image) {
@@ -171,12 +227,19 @@ std::string BuildMainTitle(const DataImage& image, std::string_view baseName, La
     std::string title = "Zelvor [";
     // A known family with a market that it does not have shows neither variant nor label.
     if (variant != nullptr || !IsFamilyByte(family)) {
-        title += variant != nullptr ? variant->titleText : TitleOfUnknownFamily;
+        title += (variant != nullptr ? *variant : VariantOfUnknownFamily()).titleText;
         title += FileNameLabel.In(language);
     }
     title += baseName;
     title += ']';
     return title;
+}
+
+ModelIdentity MakeIdentity(std::uint8_t family, std::uint8_t market) {
+    const Family* known = FindFamily(family);
+    const std::uint8_t band = IsVhf(market) ? '4' : '5';
+    const std::uint8_t digit = known != nullptr ? static_cast<std::uint8_t>(known->digit) : 0xFF;
+    return {'P', band, '6', '1', digit, market, family, 0xFF};
 }
 
 ModelIdentity IdentityOf(const DataImage& image) {

@@ -23,21 +23,28 @@ inline constexpr std::uint8_t Family4618 = 0xF8; // and 5618
 inline constexpr std::uint8_t Family4613 = 0xF9; // and 5613
 inline constexpr std::uint8_t Family4617 = 0xFC; // and 5617
 
-/// One market variant of one model, with the four families of text that name it. The families are separate literals on
-/// purpose: the printed and the radio information texts of model 5617 differ from the others, and stay so.
+/// A band in units of 10 Hz.
+struct Band {
+    std::int32_t low;
+    std::int32_t high;
+};
+
+/// One market variant of one model, with the four families of text that name it. All is made from the rows of
+/// ModelCatalogue.cpp; what the texts of a model have of their own is named there.
 struct ModelVariant {
-    std::uint8_t family;           // identity byte 7
-    std::uint8_t market;           // identity byte 6
-    std::string_view titleText;    // "4618: VHF: 136-174 MHz(M)] [ "
-    std::string_view infoModel;    // "4618"
-    std::string_view infoBand;     // "VHF: 136-174 MHz(M)"
-    std::string_view dialogModel;  // "4618 (VHF)"
-    std::string_view dialogRange;  // "136-174 MHz(M)"
-    std::string_view reportModel;  // "4618(VHF)"
-    std::string_view reportMarket; // "M"
-    std::string_view reportRange;  // "136-174MHz"
-    int modelIndex;                // entry of ModelTypeForm's cboModelType
-    int rangeIndex;                // entry of ModelTypeForm's cboFreq; market C7 names one that the list lacks
+    std::uint8_t family; // identity byte 7
+    std::uint8_t market; // identity byte 6
+    Band band;
+    std::string titleText;    // "4618: VHF: 136-174 MHz(M)] [ "
+    std::string infoModel;    // "4618"
+    std::string infoBand;     // "VHF: 136-174 MHz(M)"
+    std::string dialogModel;  // "4618 (VHF)"
+    std::string dialogRange;  // "136-174 MHz(M)"
+    std::string reportModel;  // "4618(VHF)"
+    std::string reportMarket; // "M"
+    std::string reportRange;  // "136-174MHz"
+    int modelIndex;           // entry of ModelTypeForm's cboModelType
+    int rangeIndex;           // entry of ModelTypeForm's cboFreq; market C7 names one that the list lacks
 };
 
 /// All sixteen variants.
@@ -46,25 +53,22 @@ struct ModelVariant {
 /// The variant of an identity's family and market bytes, or null where the catalogue has no such pair.
 [[nodiscard]] const ModelVariant* FindVariant(std::uint8_t family, std::uint8_t market);
 
+/// The variant that titles and radio information name where the family byte is unknown: 4613, market K.
+[[nodiscard]] const ModelVariant& VariantOfUnknownFamily();
+
 [[nodiscard]] bool IsFamilyByte(std::uint8_t family);
 
 /// ModelTypeForm's first list, and its second for an entry of the first: the text and the market byte that it stands
 /// for.
 struct RangeEntry {
-    std::string_view text;
+    std::string text;
     std::uint8_t market;
 };
-[[nodiscard]] std::span<const std::string_view> ModelEntries();
+[[nodiscard]] std::span<const std::string> ModelEntries();
 [[nodiscard]] std::span<const RangeEntry> RangeEntries(int modelIndex); // empty for an index outside 0 to 5
 
 /// Navigator root: the model by family byte and band ("4618 (VHF)"); empty for an unknown family byte.
-[[nodiscard]] std::string_view NavigatorModelText(std::uint8_t family, std::uint8_t market);
-
-/// A band in units of 10 Hz.
-struct Band {
-    std::int32_t low;
-    std::int32_t high;
-};
+[[nodiscard]] std::string NavigatorModelText(std::uint8_t family, std::uint8_t market);
 
 /// The band of a market byte; nothing where no variant has such a market.
 [[nodiscard]] std::optional<Band> BandOfMarket(std::uint8_t market);
@@ -82,6 +86,9 @@ struct BandLimits {
 
 /// The main window's caption. `baseName` is the file name without its directory.
 [[nodiscard]] std::string BuildMainTitle(const DataImage& image, std::string_view baseName, Language language);
+
+/// The identity of a market and family byte, known or not.
+[[nodiscard]] ModelIdentity MakeIdentity(std::uint8_t family, std::uint8_t market);
 
 [[nodiscard]] ModelIdentity IdentityOf(const DataImage& image);
 

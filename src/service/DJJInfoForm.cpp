@@ -40,13 +40,12 @@ struct ModelTexts {
 /// A known family with a market that it does not have shows neither text.
 ModelTexts TextsOf(const DataImage& image) {
     const std::uint8_t family = image.At(address::Family);
-    if (const ModelVariant* variant = FindVariant(family, image.At(address::Market))) {
-        return {variant->infoModel, variant->infoBand};
-    }
-    if (IsFamilyByte(family)) {
+    const ModelVariant* variant = FindVariant(family, image.At(address::Market));
+    if (variant == nullptr && IsFamilyByte(family)) {
         return {};
     }
-    return {"4613", "VHF: 136-174 MHz(K)"};
+    const ModelVariant& shown = variant != nullptr ? *variant : VariantOfUnknownFamily();
+    return {shown.infoModel, shown.infoBand};
 }
 
 } // namespace

@@ -37,12 +37,8 @@ std::optional<FrequencyPoints> FrequencyPointsOf(const DataImage& image) {
     if (variant == nullptr) {
         return std::nullopt;
     }
-    const std::optional<Band> band = BandOfMarket(variant->market);
-    if (!band) {
-        return std::nullopt;
-    }
-    const std::int64_t low = band->low;
-    const std::int64_t high = band->high;
+    const std::int64_t low = variant->band.low;
+    const std::int64_t high = variant->band.high;
     // Every band is a multiple of four units wide, so both divisions are exact.
     const std::int64_t center = (low + high) / 2 + Step;
     const std::int64_t quarter = (high - low) / 4;

@@ -168,6 +168,15 @@ TEST(TestFrequencyBand, FollowsTheMarketByteAlone) {
     }
 }
 
+TEST(BandOfMarket, IsThatOfEveryVariantOfTheMarket) {
+    for (const ModelVariant& variant : ModelCatalogue()) {
+        const std::optional<Band> band = BandOfMarket(variant.market);
+        ASSERT_TRUE(band) << variant.titleText;
+        EXPECT_EQ(band->low, variant.band.low) << variant.titleText;
+        EXPECT_EQ(band->high, variant.band.high) << variant.titleText;
+    }
+}
+
 TEST(SetBandLimits, Are136To174OnlyForAnImageThatNeverSawAnIdentity) {
     for (int family = 0; family < 256; ++family) {
         for (const int market : {0, 1, 33, 51, 115, 255}) {
