@@ -7,7 +7,6 @@
 
 #include "channels/ChannelForm.h"
 #include "channels/ChannelWindows.h"
-#include "controls/PendingEdit.h"
 #include "shell/ChildWindows.h"
 #include "shell/DocumentView.h"
 #include "shell/LanguageForm.h"
@@ -18,7 +17,6 @@ LanguageCommand::LanguageCommand(Session& session, Services& services, Windows w
     : session_(session), services_(services), windows_(std::move(windows)) {}
 
 void LanguageCommand::Choose() {
-    CommitPendingEdit();
     // No control keeps the focus that would commit by losing it in another language than it was filled in. The main
     // window takes it: where nothing has it, the toolkit hands it to the grid after the dialog, which raises the grid.
     const QPointer<QWidget> focus = QApplication::focusWidget();

@@ -197,8 +197,9 @@ ChildForm* MDIForm1::MakeNavigator() {
 void MDIForm1::ConnectFileMenu() {
     menus_->On("MnuFileNew", QKeySequence::New, [this] { ReplaceDocument(&SessionCommands::New); });
     menus_->On("MnuFileOpen", QKeySequence::Open, [this] { ReplaceDocument(&SessionCommands::Open); });
-    menus_->On("MnuFileSave", QKeySequence::Save, [this] { commands_->Save(); });
-    menus_->On("MnuFileSaveAs", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), [this] { commands_->SaveAs(); });
+    menus_->On("MnuFileSave", QKeySequence::Save, [this] { Do(&SessionCommands::Save); });
+    menus_->On("MnuFileSaveAs", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
+               [this] { Do(&SessionCommands::SaveAs); });
     menus_->On("MnuFilePrint", QKeySequence::Print, [this] { ShowPrintList(); });
     menus_->On("MnuFileExit", QKeySequence(Qt::CTRL | Qt::Key_Q), [this] { close(); });
     menus_->On("MnuModelInformation", [this] { ReplaceDocument(&SessionCommands::ChangeModel); });
@@ -213,10 +214,10 @@ void MDIForm1::ConnectEditMenu() {
 void MDIForm1::ConnectProgramMenu() {
     menus_->On("MnuProgramRead", [this] { Transfer(&TransferCommands::Read); });
     menus_->On("MnuProgramWrite", [this] { Transfer(&TransferCommands::Write); });
-    menus_->On("MnuProgramTestMode", [this] { service_->EnterTestMode(); });
-    menus_->On("MnuToolRadioInformation", [this] { service_->ShowInformation(); });
+    menus_->On("MnuProgramTestMode", [this] { Ask(&ServiceCommands::EnterTestMode); });
+    menus_->On("MnuToolRadioInformation", [this] { Ask(&ServiceCommands::ShowInformation); });
     menus_->On("MnuSetupCommunicationPort", [this] { ShowCommunicationPort(); });
-    menus_->On("MnuSetupLanguageFileSetup", [this] { language_->Choose(); });
+    menus_->On("MnuSetupLanguageFileSetup", [this] { ChooseLanguage(); });
 }
 
 void MDIForm1::ConnectMemoryMapGesture() {
@@ -249,7 +250,7 @@ void MDIForm1::ConnectHelpMenu() {
 void MDIForm1::ConnectToolbar() {
     toolbar1_->On(1, [this] { ReplaceDocument(&SessionCommands::New); });
     toolbar1_->On(2, [this] { ReplaceDocument(&SessionCommands::Open); });
-    toolbar1_->On(3, [this] { commands_->Save(); });
+    toolbar1_->On(3, [this] { Do(&SessionCommands::Save); });
     toolbar1_->On(5, [this] { ShowPrintList(); });
     toolbar1_->On(7, [this] { Transfer(&TransferCommands::Read); });
     toolbar1_->On(9, [this] { Transfer(&TransferCommands::Write); });
@@ -282,30 +283,46 @@ void MDIForm1::GetDJJInfo(const std::string& record) {
 /// Test mode is entered with the document that the radio was compared with, or not at all.
 void MDIForm1::ReplaceDocument(void (SessionCommands::*command)()) {
     service_->EndForAnother();
+    Do(command);
+}
+
+void MDIForm1::Do(void (SessionCommands::*command)()) {
+    CommitPendingEdit(*this);
     (commands_.get()->*command)();
+}
+
+void MDIForm1::Ask(void (ServiceCommands::*command)()) {
+    CommitPendingEdit(*this);
+    (service_.get()->*command)();
+}
+
+void MDIForm1::ChooseLanguage() {
+    CommitPendingEdit(*this);
+    language_->Choose();
 }
 
 /// The transfer wants the port for itself.
 void MDIForm1::Transfer(void (TransferCommands::*transfer)()) {
     service_->EndForAnother();
+    CommitPendingEdit(*this);
     (transfers_.get()->*transfer)();
 }
 
 void MDIForm1::ShowCommunicationPort() {
     service_->EndForAnother();
-    CommitPendingEdit();
+    CommitPendingEdit(*this);
     ComForm dialog(session_, services_, this);
     connect(&dialog, &ComForm::PortChosen, this, [this] { statusBar1_->ShowPort(session_.CommPortNumber); });
     dialog.exec();
 }
 
 void MDIForm1::ShowPrintList() {
-    CommitPendingEdit();
+    CommitPendingEdit(*this);
     frmPrintList(session_, services_, this).exec();
 }
 
 void MDIForm1::ShowAbout() {
-    CommitPendingEdit();
+    CommitPendingEdit(*this);
     AboutForm(session_, this).exec();
 }
 
@@ -319,7 +336,12 @@ void MDIForm1::ShowHelpOfActiveWindow() {
 }
 
 void MDIForm1::closeEvent(QCloseEvent* event) {
-    if (service_->KeepsProgramOpen() || !commands_->QueryExit()) {
+    if (service_->KeepsProgramOpen()) {
+        event->ignore();
+        return;
+    }
+    CommitPendingEdit(*this);
+    if (!commands_->QueryExit()) {
         event->ignore();
         return;
     }

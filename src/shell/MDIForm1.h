@@ -65,8 +65,11 @@ private:
     void ConnectHelpMenu();
     void ConnectToolbar();
     void ApplyLanguage();
+    void Do(void (SessionCommands::*command)());
     void ReplaceDocument(void (SessionCommands::*command)());
     void Transfer(void (TransferCommands::*transfer)());
+    void Ask(void (ServiceCommands::*command)());
+    void ChooseLanguage();
     void ShowCommunicationPort();
     void ShowPrintList();
     void ShowAbout();

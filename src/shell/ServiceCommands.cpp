@@ -4,7 +4,6 @@
 #include <QWidget>
 #include <utility>
 
-#include "controls/PendingEdit.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Services.h"
 #include "platform/Toolkit.h"
@@ -57,7 +56,6 @@ ServiceCommands::ServiceCommands(Session& session, Services& services, MainWindo
 ServiceCommands::~ServiceCommands() = default;
 
 void ServiceCommands::Start(RadioTask task) {
-    CommitPendingEdit();
     if (task_ == task) {
         return;
     }
