@@ -87,15 +87,14 @@ void MDIForm1::BuildCommands() {
     view_ = std::make_unique<DocumentView>(session_, services_, *children_, *windowList_, *this);
     commands_ = std::make_unique<SessionCommands>(session_, services_, *view_);
     transfers_ = std::make_unique<TransferCommands>(session_, services_, *view_, *this);
-    service_ = std::make_unique<ServiceCommands>(
-        session_, services_,
-        ServiceCommands::MainWindow{*this, [this](const std::string& record) { GetDJJInfo(record); },
-                                    // Test mode has no entry of its own in the window list.
-                                    [this] { windowList_->Mark(ChildWindow::TestFrequency); },
-                                    [this](const QString& text) { statusBar1_->ShowExchange(text); }});
-    language_ = std::make_unique<LanguageCommand>(
-        session_, services_,
-        LanguageCommand::Windows{*children_, *view_, channelWindows_, *this, [this] { ApplyLanguage(); }});
+    service_ = std::make_unique<ServiceCommands>(session_, services_, *this);
+    connect(service_.get(), &ServiceCommands::InformationRead, this, &MDIForm1::GetDJJInfo);
+    // Test mode has no entry of its own in the window list.
+    connect(service_.get(), &ServiceCommands::TestModeActivated, this,
+            [this] { windowList_->Mark(ChildWindow::TestFrequency); });
+    connect(service_.get(), &ServiceCommands::ExchangeTold, statusBar1_, &StatusBar1::ShowExchange);
+    language_ = std::make_unique<LanguageCommand>(session_, services_, *children_, *view_, channelWindows_, *this);
+    connect(language_.get(), &LanguageCommand::Switched, this, &MDIForm1::ApplyLanguage);
     dialogs_ = std::make_unique<DialogCommands>(session_, services_, *children_, *this);
     connect(dialogs_.get(), &DialogCommands::PortChosen, this,
             [this] { statusBar1_->ShowPort(session_.CommPortNumber); });
