@@ -10,7 +10,6 @@
 #include "channels/FrequencyEntry.h"
 #include "controls/FieldList.h"
 #include "controls/FilteredLineEdit.h"
-#include "controls/PendingEdit.h"
 #include "data/ChannelRecord.h"
 #include "data/MemoryMap.h"
 #include "platform/Toolkit.h"
@@ -163,7 +162,6 @@ void ChannelEditForm::CommitDialog() {
 }
 
 void ChannelEditForm::OnClose() {
-    CommitPendingEdit();
     if (!HasReceive()) {
         for (const auto text : GridTexts) {
             (Texts().*text).clear();

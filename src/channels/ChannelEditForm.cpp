@@ -13,7 +13,6 @@
 #include "channels/ToneKeys.h"
 #include "controls/EnterAsTab.h"
 #include "controls/FieldList.h"
-#include "controls/PendingEdit.h"
 #include "controls/SpinText.h"
 #include "data/MemoryMap.h"
 #include "data/OptionalFields.h"
@@ -72,10 +71,6 @@ ChannelEditForm::ChannelEditForm(Session& session, Services& services, ChannelWi
     ConnectLists();
     setFocusProxy(channelSpin_);
     GoToChannel(session_.EditChannel);
-}
-
-ChannelEditForm::~ChannelEditForm() {
-    DropPendingEdit(*this);
 }
 
 void ChannelEditForm::BuildChannel() {
@@ -193,7 +188,7 @@ void ChannelEditForm::BuildButtons() {
     };
     cmdOK_ = button("cmdOK", 156);
     cmdHelp_ = button("cmdHelp", 268);
-    connect(cmdOK_, &QPushButton::clicked, this, &ChannelEditForm::OnClose);
+    On(*cmdOK_, [this] { OnClose(); });
     connect(cmdHelp_, &QPushButton::clicked, this, [this] {
         services_.help.Show({session_.LanguageFlag, HelpPage()});
     });
@@ -260,11 +255,6 @@ bool ChannelEditForm::eventFilter(QObject* watched, QEvent* event) {
         CommitDialog();
     }
     return ChildForm::eventFilter(watched, event);
-}
-
-void ChannelEditForm::CloseFromFrame() {
-    CommitPendingEdit();
-    emit UnloadRequested();
 }
 
 } // namespace zelvor

@@ -29,8 +29,6 @@ class ChannelEditForm : public ChildForm {
 
 public:
     ChannelEditForm(Session& session, Services& services, ChannelWindows& windows, QWidget* parent = nullptr);
-    /// An edit that is still open when the window is unloaded is dropped.
-    ~ChannelEditForm() override;
 
     /// Shows channel Session::EditChannel, with the text of txtChannel selected and the focus on it.
     void OpenOnEditChannel();
@@ -75,7 +73,6 @@ public:
     /// The working texts take the PTT ID from the grid's row of the channel, where that is programmed.
     void TakePttId();
 
-    void CloseFromFrame() override;
     [[nodiscard]] std::string_view HelpPage() const override { return "chedit.htm"; }
 
 protected:

@@ -9,7 +9,6 @@
 #include "channels/ChannelCellEditor.h"
 #include "channels/ChannelEditForm.h"
 #include "controls/EditGrid.h"
-#include "controls/PendingEdit.h"
 #include "data/MemoryMap.h"
 #include "help/HelpViewer.h"
 #include "platform/LayoutUnits.h"
@@ -102,8 +101,8 @@ void ChannelForm::BuildControls() {
     cmdChannelEdit_ = button("cmdChannelEdit", 370, 124);
     cmdClose_ = button("cmdClose", 506, 100);
     cmdHelp_ = button("cmdHelp", 618, 100);
-    connect(cmdChannelEdit_, &QPushButton::clicked, this, &ChannelForm::OnChannelEdit);
-    connect(cmdClose_, &QPushButton::clicked, this, &ChannelForm::OnClose);
+    On(*cmdChannelEdit_, [this] { OnChannelEdit(); });
+    On(*cmdClose_, [this] { OnClose(); });
     connect(cmdHelp_, &QPushButton::clicked, this, [this] {
         services_.help.Show({session_.LanguageFlag, HelpPage()});
     });
@@ -236,7 +235,6 @@ void ChannelForm::UpdateFreeArea() {
 }
 
 void ChannelForm::OnChannelEdit() {
-    CommitPendingEdit();
     emit ChannelEditRequested();
     if (ChannelEditForm* dialog = OpenDialog()) {
         dialog->OpenOnEditChannel();
@@ -244,13 +242,11 @@ void ChannelForm::OnChannelEdit() {
 }
 
 void ChannelForm::OnClose() {
-    CommitPendingEdit();
     emit ChannelEditUnloadRequested();
     emit HideRequested();
 }
 
-void ChannelForm::CloseFromFrame() {
-    CommitPendingEdit();
+void ChannelForm::OnFrameClosed() {
     // A cancelled program exit leaves ExitConfirmed set, and from then on the window really goes.
     if (session_.ExitConfirmed) {
         emit ChannelEditUnloadRequested();

@@ -48,7 +48,6 @@ public:
     /// Hides txtInputBox and comInputStep without committing them.
     void HideEditors();
 
-    void CloseFromFrame() override;
     [[nodiscard]] std::string_view HelpPage() const override { return "chinfo.htm"; }
 
 signals:
@@ -57,6 +56,9 @@ signals:
     /// The channel edit dialog goes with this window.
     void ChannelEditHideRequested();
     void ChannelEditUnloadRequested();
+
+protected:
+    void OnFrameClosed() override;
 
 private:
     void BuildGrid();

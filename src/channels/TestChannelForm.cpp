@@ -5,7 +5,6 @@
 #include "channels/FrequencyEntry.h"
 #include "controls/CellTextEditor.h"
 #include "controls/EditGrid.h"
-#include "controls/PendingEdit.h"
 #include "controls/TextCellEdit.h"
 #include "platform/LayoutUnits.h"
 #include "platform/MessageBoxes.h"
@@ -174,7 +173,6 @@ void TestChannelForm::StorePair(int row, int column) {
 
 /// The warning comes with the button alone, on purpose.
 void TestChannelForm::CloseFromButton() {
-    CommitPendingEdit();
     if (TestFrequencyBlock(TheSession().Image) != SavedBlock) {
         const Language language = TheSession().LanguageFlag;
         TheServices().messages.Show({std::string(commontexts::Warning.In(language)),

@@ -3,8 +3,8 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 
+#include "controls/EditWatch.h"
 #include "controls/EnterAsTab.h"
-#include "controls/PendingEdit.h"
 #include "platform/Toolkit.h"
 #include "text/StringTable.h"
 
@@ -12,9 +12,11 @@ namespace zelvor {
 
 BoundCheck::BoundCheck(const QString& name, const CheckField& field, DataImage& image, Language language,
                        QWidget* parent)
-    : QCheckBox(ToQString(TableText(language, field.label)), parent), field_(field), image_(image) {
+    : QCheckBox(ToQString(TableText(language, field.label)), parent), watch_(new EditWatch(*this)), field_(field),
+      image_(image) {
     setObjectName(name);
     setFocusPolicy(Qt::StrongFocus);
+    connect(watch_, &EditWatch::Left, this, &BoundCheck::FocusLeft);
     connect(this, &BoundCheck::FocusLeft, this, &BoundCheck::Commit);
 }
 
@@ -37,9 +39,7 @@ void BoundCheck::keyPressEvent(QKeyEvent* event) {
 
 void BoundCheck::focusOutEvent(QFocusEvent* event) {
     QCheckBox::focusOutEvent(event);
-    if (event->reason() != Qt::PopupFocusReason && IsLeft(*this, *event, [this] { emit FocusLeft(); })) {
-        emit FocusLeft();
-    }
+    watch_->FocusOut(*event);
 }
 
 } // namespace zelvor

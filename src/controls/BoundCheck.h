@@ -6,6 +6,8 @@
 
 namespace zelvor {
 
+class EditWatch;
+
 /// A check box bound to its byte of the image: stored as 0 or 1 when the box is left. Enter moves on like Tab.
 class BoundCheck : public QCheckBox {
     Q_OBJECT
@@ -29,6 +31,7 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
+    EditWatch* watch_;
     const CheckField& field_;
     DataImage& image_;
 };

@@ -9,7 +9,7 @@
 #include <algorithm>
 
 #include "controls/EditGrid.h"
-#include "controls/PendingEdit.h"
+#include "controls/EditWatch.h"
 
 namespace zelvor {
 
@@ -35,7 +35,8 @@ public:
 
 } // namespace
 
-CellListEditor::CellListEditor(QWidget* parent) : QComboBox(parent), edit_(new FilteredLineEdit) {
+CellListEditor::CellListEditor(QWidget* parent)
+    : QComboBox(parent), edit_(new FilteredLineEdit), watch_(new EditWatch(*this)) {
     setLineEdit(edit_);
     auto* inCell = new InCellStyle;
     inCell->setParent(this);
@@ -45,6 +46,7 @@ CellListEditor::CellListEditor(QWidget* parent) : QComboBox(parent), edit_(new F
     setCompleter(nullptr);
     setContextMenuPolicy(Qt::PreventContextMenu);
     setMaxVisibleItems(12);
+    connect(watch_, &EditWatch::Left, this, &CellListEditor::FocusLeft);
     connect(this, &QComboBox::activated, this, [this](int index) { emit Chosen(itemText(index)); });
     hide();
 }
@@ -123,9 +125,8 @@ void CellListEditor::wheelEvent(QWheelEvent* event) {
 void CellListEditor::focusOutEvent(QFocusEvent* event) {
     QComboBox::focusOutEvent(event);
     // Opening the list gives the focus to the list's own window, in two steps with two reasons.
-    if (event->reason() != Qt::PopupFocusReason && !view()->isVisible() &&
-        IsLeft(*this, *event, [this] { emit FocusLeft(); })) {
-        emit FocusLeft();
+    if (!view()->isVisible()) {
+        watch_->FocusOut(*event);
     }
 }
 

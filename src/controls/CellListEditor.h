@@ -47,6 +47,7 @@ private:
     [[nodiscard]] int ReadableWidth() const;
 
     FilteredLineEdit* edit_;
+    EditWatch* watch_;
     QChar enterLetter_;
 };
 

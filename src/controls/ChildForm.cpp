@@ -1,11 +1,14 @@
 #include "controls/ChildForm.h"
 
 #include <QMdiSubWindow>
+#include <QPushButton>
 #include <QScrollBar>
 #include <algorithm>
+#include <utility>
 
 #include "controls/AccessKeys.h"
 #include "controls/FocusFollower.h"
+#include "controls/PendingEdit.h"
 #include "platform/LayoutUnits.h"
 #include "platform/Toolkit.h"
 
@@ -39,8 +42,28 @@ ChildForm::ChildForm(ChildWindow window, std::string_view objectName, QSize cont
     LayOutScrollBars();
 }
 
+ChildForm::~ChildForm() {
+    DropPendingEdit(*this);
+}
+
 void ChildForm::CloseFromFrame() {
+    CommitEdit();
+    OnFrameClosed();
+}
+
+void ChildForm::OnFrameClosed() {
     emit UnloadRequested();
+}
+
+void ChildForm::On(const QPushButton& button, std::function<void()> command) {
+    connect(&button, &QPushButton::clicked, this, [this, command = std::move(command)] {
+        CommitEdit();
+        command();
+    });
+}
+
+void ChildForm::CommitEdit() {
+    CommitPendingEdit(*this);
 }
 
 QSize ChildForm::sizeHint() const {

@@ -3,11 +3,13 @@
 #include <QSize>
 #include <QString>
 #include <QWidget>
+#include <functional>
 #include <string_view>
 
 #include "controls/FocusPlace.h"
 #include "data/Session.h"
 
+class QPushButton;
 class QScrollBar;
 
 namespace zelvor {
@@ -15,7 +17,7 @@ namespace zelvor {
 /// A child window of the main window, as every editing dialog is one: a content panel of fixed size that scrolls when
 /// the window is smaller and follows the focus and the cursor of a table, and the close rules. The main window hosts it
 /// in a ChildFrame and does what its signals ask: it clears the window's ChildOpen entry, hides its entry of the window
-/// list, and hides or destroys the window.
+/// list, and hides or destroys the window. What is still being edited in a window that is destroyed is dropped.
 class ChildForm : public QWidget {
     Q_OBJECT
 
@@ -23,13 +25,15 @@ public:
     /// objectName is the class's name; contentTwips is the size of the content and so the window's first size.
     ChildForm(ChildWindow window, std::string_view objectName, QSize contentTwips, QWidget* parent = nullptr);
 
+    ~ChildForm() override;
+
     [[nodiscard]] ChildWindow Window() const { return window_; }
 
     /// The panel that holds the window's controls.
     [[nodiscard]] QWidget* Content() const { return picture1_; }
 
-    /// The user closed the window by its frame. Asks to be unloaded, unless a window has a rule of its own.
-    virtual void CloseFromFrame();
+    /// The user closed the window by its frame: what is being edited is committed.
+    void CloseFromFrame();
 
     /// The page of the help that tells about this window, such as "chinfo.htm".
     [[nodiscard]] virtual std::string_view HelpPage() const = 0;
@@ -56,6 +60,12 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     /// Sets the window's title, and the caption of the window list's entry with it.
     void SetCaption(const QString& caption);
+    /// What a button of the window does, after what is being edited is committed: an access key takes no focus.
+    void On(const QPushButton& button, std::function<void()> command);
+    /// Commits what is being edited.
+    virtual void CommitEdit();
+    /// The window is closed by its frame. Asks to be unloaded, unless a window has a rule of its own.
+    virtual void OnFrameClosed();
 
 private:
     void LayOutScrollBars();

@@ -9,7 +9,6 @@
 #include "controls/BoundCheck.h"
 #include "controls/BoundList.h"
 #include "controls/BoundSpin.h"
-#include "controls/PendingEdit.h"
 #include "help/HelpViewer.h"
 #include "platform/LayoutUnits.h"
 #include "platform/Services.h"
@@ -32,10 +31,6 @@ FieldForm::FieldForm(ChildWindow window, std::string_view objectName, QSize cont
     panel_->setObjectName(ToQString(panelName));
     panel_->setGeometry(0, 0, Content()->width(), Content()->height() - LaidOut(ButtonSize.height() + 2 * Margin));
     SetCaption(LoadText(caption));
-}
-
-FieldForm::~FieldForm() {
-    DropPendingEdit(*this);
 }
 
 QString FieldForm::LoadText(Text name) const {
@@ -89,17 +84,8 @@ void FieldForm::BuildButtons() {
     };
     const auto* cmdClose = button("cmdClose", 2, Text::CloseButton);
     const auto* cmdHelp = button("cmdHelp", 1, Text::HelpButton);
-    connect(cmdClose, &QPushButton::clicked, this, &FieldForm::CloseFromButton);
+    On(*cmdClose, [this] { CloseFromButton(); });
     connect(cmdHelp, &QPushButton::clicked, this, [this] { services_.help.Show({session_.LanguageFlag, HelpPage()}); });
-}
-
-void FieldForm::CloseFromFrame() {
-    CommitPendingEdit();
-    emit UnloadRequested();
-}
-
-void FieldForm::CloseFromButton() {
-    CloseFromFrame();
 }
 
 FieldRows::FieldRows(QWidget& container, Language language, int margin, int spacing)

@@ -11,15 +11,11 @@ namespace zelvor {
 struct Services;
 
 /// A child window that edits fields of the image: a panel with the fields, and the buttons Close and Help below it.
-/// Its controls store their own fields when they are left; closing stores the one that is still being edited, and
-/// unloading the window drops it.
+/// Its controls store their own fields when they are left; closing stores the one that is still being edited.
 class FieldForm : public ChildForm {
     Q_OBJECT
 
 public:
-    ~FieldForm() override;
-
-    void CloseFromFrame() override;
     [[nodiscard]] bool OpensAtOrigin() const override { return true; }
 
 protected:
@@ -39,7 +35,7 @@ protected:
     /// Makes a control the one that gets the focus when the window is opened.
     void StartAt(QWidget& first);
     /// The Close button: the same as closing by the frame, unless a control of the window may refuse to be left.
-    virtual void CloseFromButton();
+    virtual void CloseFromButton() { emit UnloadRequested(); }
 
     void showEvent(QShowEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;

@@ -5,15 +5,16 @@
 #include <QKeyEvent>
 #include <QWheelEvent>
 
+#include "controls/EditWatch.h"
 #include "controls/EnterAsTab.h"
 #include "controls/FilteredLineEdit.h"
-#include "controls/PendingEdit.h"
 
 namespace zelvor {
 
-FieldList::FieldList(QWidget* parent) : QComboBox(parent) {
+FieldList::FieldList(QWidget* parent) : QComboBox(parent), watch_(new EditWatch(*this)) {
     setContextMenuPolicy(Qt::PreventContextMenu);
     setFocusPolicy(Qt::StrongFocus);
+    connect(watch_, &EditWatch::Left, this, &FieldList::FocusLeft);
     connect(this, &QComboBox::currentIndexChanged, this, [this](int index) {
         if (!silent_) {
             told_ = true;
@@ -68,9 +69,8 @@ void FieldList::wheelEvent(QWheelEvent* event) {
 void FieldList::focusOutEvent(QFocusEvent* event) {
     QComboBox::focusOutEvent(event);
     // The popup takes the focus with another reason than its own.
-    if (event->reason() != Qt::PopupFocusReason && !view()->isVisible() &&
-        IsLeft(*this, *event, [this] { emit FocusLeft(); })) {
-        emit FocusLeft();
+    if (!view()->isVisible()) {
+        watch_->FocusOut(*event);
     }
 }
 

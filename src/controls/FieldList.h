@@ -5,6 +5,8 @@
 
 namespace zelvor {
 
+class EditWatch;
+
 /// A list to choose a value from. What is chosen is told at once; what is to be stored only on leaving waits for
 /// FocusLeft. Enter moves on like Tab.
 class FieldList : public QComboBox {
@@ -33,6 +35,7 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
+    EditWatch* watch_;
     bool silent_ = false;
     bool told_ = false; // the selection that `activated` is about to tell again
 };

@@ -8,7 +8,7 @@
 #include <QSignalBlocker>
 #include <algorithm>
 
-#include "controls/PendingEdit.h"
+#include "controls/EditWatch.h"
 
 namespace zelvor {
 
@@ -38,9 +38,10 @@ QString FirstLine(const QString& text) {
 
 } // namespace
 
-FilteredLineEdit::FilteredLineEdit(QWidget* parent) : QLineEdit(parent) {
+FilteredLineEdit::FilteredLineEdit(QWidget* parent) : QLineEdit(parent), watch_(new EditWatch(*this)) {
     setContextMenuPolicy(Qt::PreventContextMenu);
     setAcceptDrops(false);
+    connect(watch_, &EditWatch::Left, this, [this] { Leave(); });
 }
 
 void FilteredLineEdit::Insert(const QString& text, bool limited) {
@@ -115,7 +116,7 @@ void FilteredLineEdit::mouseReleaseEvent(QMouseEvent* event) {
 
 void FilteredLineEdit::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);
-    if (!GoesOn(*this) && selectsOnFocus_ && event->reason() != Qt::PopupFocusReason) {
+    if (!watch_->FocusIn() && selectsOnFocus_ && event->reason() != Qt::PopupFocusReason) {
         selectAll();
         gettingFocusByMouse_ = event->reason() == Qt::MouseFocusReason;
     }
@@ -124,9 +125,11 @@ void FilteredLineEdit::focusInEvent(QFocusEvent* event) {
 void FilteredLineEdit::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
     gettingFocusByMouse_ = false;
-    if (event->reason() != Qt::PopupFocusReason && IsLeft(*this, *event, [this] { Leave(); })) {
-        emit FocusLeft();
-    }
+    watch_->FocusOut(*event);
+}
+
+bool FilteredLineEdit::IsDropped() const {
+    return watch_->IsDropped();
 }
 
 QString TypedText(const QKeyEvent& event) {

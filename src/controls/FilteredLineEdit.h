@@ -5,6 +5,8 @@
 
 namespace zelvor {
 
+class EditWatch;
+
 /// A text box that decides on each entered character, however it arrives: typed, pasted, dropped by the mouse's middle
 /// button or composed by an input method. What code sets is taken as it is. No context menu opens on it.
 class FilteredLineEdit : public QLineEdit {
@@ -44,14 +46,17 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
-    /// A command ends the edit while another window is in front.
+    /// The edit has ended: the box was left, or a command has ended it while another window was in front.
     virtual void Leave() { emit FocusLeft(); }
+    /// Whether the window goes, and the edit with it.
+    [[nodiscard]] bool IsDropped() const;
 
 private:
     void Edit(QKeyEvent& event);
     void Insert(const QString& text, bool limited);
     void Paste(const QString& text);
 
+    EditWatch* watch_;
     Filter filter_;
     int lengthLimit_ = 32767; // as a QLineEdit's own
     bool limitsPasted_ = true;

@@ -85,7 +85,7 @@ void HoldingLineEdit::focusOutEvent(QFocusEvent* event) {
         const QSignalBlocker silent(this);
         FilteredLineEdit::focusOutEvent(event);
     }
-    if (!entered || !IsLeft(event->reason())) {
+    if (!entered || IsDropped() || !IsLeft(event->reason())) {
         return;
     }
     Hold();

@@ -1,49 +1,24 @@
 #include "controls/PendingEdit.h"
 
 #include <QApplication>
-#include <QFocusEvent>
-#include <QMenuBar>
 #include <QPointer>
 #include <QWidget>
-#include <utility>
+
+#include "controls/EditWatch.h"
 
 namespace zelvor {
 
 namespace {
 
-/// An edit whose window is behind another one, or whose keyboard is in the menu bar.
-struct WaitingEdit {
-    QPointer<const QWidget> control;
-    std::function<void()> leave;
-    QMetaObject::Connection watch;
-};
-
-WaitingEdit& Waiting() {
-    static WaitingEdit waiting;
-    return waiting;
-}
-
-/// Returns the edit that waited, if any.
-WaitingEdit Forget() {
-    QObject::disconnect(Waiting().watch);
-    return std::exchange(Waiting(), {});
-}
-
-/// Without a window manager, a click may give the keyboard to another control at once when the window is back.
-void OnFocusChanged(const QWidget* now) {
-    const QWidget* control = Waiting().control;
-    if (control == nullptr || now == nullptr || now->window() != control->window() || now == control ||
-        control->isAncestorOf(now) || qobject_cast<const QMenuBar*>(now) != nullptr) {
-        return;
+/// Of those behind another window, or while the menu bar has the keyboard.
+void EndWaitingEdits(const QWidget& window) {
+    const QList<EditWatch*> found = window.findChildren<EditWatch*>();
+    // An end may bring up a message box, behind which windows may go.
+    for (const QPointer<EditWatch>& watch : QList<QPointer<EditWatch>>(found.begin(), found.end())) {
+        if (watch) {
+            watch->End();
+        }
     }
-    Forget().leave();
-}
-
-void Keep(const QWidget& control, std::function<void()> leave) {
-    Forget();
-    Waiting() = {&control, std::move(leave),
-                 QObject::connect(qApp, &QApplication::focusChanged, qApp,
-                                  [](QWidget*, const QWidget* now) { OnFocusChanged(now); })};
 }
 
 bool TakesFocus(const QWidget& widget) {
@@ -62,12 +37,11 @@ QWidget* FocusBehind(QWidget* editor) {
 
 } // namespace
 
-void CommitPendingEdit() {
-    if (const WaitingEdit waiting = Forget(); waiting.control) {
-        waiting.leave();
-    }
+void CommitPendingEdit(const QWidget& widget) {
+    const QPointer<const QWidget> window = widget.window();
+    EndWaitingEdits(*window);
     const QPointer<QWidget> editor = QApplication::focusWidget();
-    if (!editor) {
+    if (!editor || editor->window() != window) {
         return;
     }
     editor->clearFocus();
@@ -79,25 +53,9 @@ void CommitPendingEdit() {
     }
 }
 
-bool IsLeft(QWidget& control, const QFocusEvent& event, std::function<void()> leave) {
-    const QWidget* next = QApplication::focusWidget();
-    const bool toAnotherWindow =
-        next == nullptr ? event.reason() == Qt::ActiveWindowFocusReason : next->window() != control.window();
-    if (!toAnotherWindow && event.reason() != Qt::MenuBarFocusReason) {
-        Forget();
-        return true;
-    }
-    Keep(control, std::move(leave));
-    return false;
-}
-
-bool GoesOn(const QWidget& control) {
-    return Waiting().control == &control && Forget().control != nullptr;
-}
-
 void DropPendingEdit(const QWidget& window) {
-    for (QWidget* control : window.findChildren<QWidget*>()) {
-        control->blockSignals(true);
+    for (EditWatch* watch : window.findChildren<EditWatch*>()) {
+        watch->Drop();
     }
 }
 

@@ -275,7 +275,7 @@ void CPUForm::StoreText() {
 }
 
 void CPUForm::accept() {
-    CommitPendingEdit();
+    CommitPendingEdit(*this);
     for (int row = 1; row <= ByteRows; ++row) {
         for (int column = 1; column <= ByteColumns; ++column) {
             const QString text = msgMemory_->Text(row, column);

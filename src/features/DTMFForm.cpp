@@ -12,7 +12,6 @@
 #include "controls/DtmfFilter.h"
 #include "controls/EditGrid.h"
 #include "controls/FieldTabs.h"
-#include "controls/PendingEdit.h"
 #include "controls/TextCellEdit.h"
 #include "features/DtmfCodeBox.h"
 #include "features/Raster.h"
@@ -164,11 +163,14 @@ void DTMFForm::EnableStunType() {
     cboStunType_->setEnabled(hasCode);
 }
 
-void DTMFForm::CloseFromButton() {
+void DTMFForm::CommitEdit() {
     refused_ = false;
-    CommitPendingEdit();
+    FieldForm::CommitEdit();
+}
+
+void DTMFForm::CloseFromButton() {
     if (!refused_) {
-        emit UnloadRequested();
+        FieldForm::CloseFromButton();
     }
 }
 

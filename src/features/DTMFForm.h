@@ -24,6 +24,7 @@ public:
     [[nodiscard]] std::string_view HelpPage() const override { return "dtmf.htm"; }
 
 protected:
+    void CommitEdit() override;
     /// Not while the code that is being edited is an illegal one.
     void CloseFromButton() override;
 
@@ -49,7 +50,7 @@ private:
     BoundList* cboStunType_ = nullptr;
     EditGrid* msgAutodial_ = nullptr;
     TextCellEdit* edit_ = nullptr;
-    bool refused_ = false; // a code, since it was last cleared
+    bool refused_ = false; // a code, since the last command began
 };
 
 } // namespace zelvor

@@ -2,34 +2,18 @@
 
 #include <QApplication>
 #include <QMdiArea>
+#include <utility>
 
 #include "controls/ChildForm.h"
 #include "controls/ChildFrame.h"
 #include "controls/PendingEdit.h"
+#include "shell/ChildWindowRows.h"
 #include "shell/WindowArrangement.h"
 #include "shell/WindowList.h"
 
 namespace zelvor {
 
 namespace {
-
-constexpr std::array UnloadOrder{
-    ChildWindow::OptionalFeatures,
-    ChildWindow::KeyAssignment,
-    ChildWindow::Scan,
-    ChildWindow::Dtmf,
-    ChildWindow::Corvane,
-    ChildWindow::TestFrequency,
-    ChildWindow::EmbeddedMessage,
-    ChildWindow::Navigator,
-    ChildWindow::ChannelEdit,
-};
-
-/// The window list's captions of entries 1 to 8.
-constexpr std::array Captions{
-    Text::OptionalFeaturesTitle, Text::KeyAssignmentTitle, Text::ScanInformationTitle, Text::DtmfTitle,
-    Text::CorvaneTitle,          Text::TestFrequencyTitle, Text::EmbeddedMessageTitle, Text::ChannelEditTitle,
-};
 
 void SetToNormal(QWidget& frame) {
     if (frame.isMinimized() || frame.isMaximized()) {
@@ -39,65 +23,55 @@ void SetToNormal(QWidget& frame) {
 
 } // namespace
 
-ChildWindows::ChildWindows(Session& session, QMdiArea& area, WindowList& list)
-    : session_(session), area_(area), list_(list) {
+ChildWindows::ChildWindows(Session& session, QMdiArea& area, WindowList& list, Factory make)
+    : session_(session), area_(area), list_(list), make_(std::move(make)) {
     connect(&area, &QMdiArea::subWindowActivated, this, &ChildWindows::OnActivated);
-    connect(&list, &WindowList::Chosen, this, [this](int entry) { GoTo(WindowOfListEntry(entry)); });
+    connect(&list, &WindowList::Chosen, this, &ChildWindows::GoTo);
 }
 
-void ChildWindows::Register(ChildWindow window, Factory factory) {
-    SlotOf(window).factory = std::move(factory);
-}
-
-bool ChildWindows::IsRegistered(ChildWindow window) const {
-    return SlotOf(window).factory != nullptr;
+ChildFrame* ChildWindows::FrameOf(ChildWindow window) const {
+    return frames_[static_cast<std::size_t>(window)];
 }
 
 ChildForm& ChildWindows::Load(ChildWindow window) {
-    Slot& slot = SlotOf(window);
-    if (!slot.frame) {
-        slot.frame = new ChildFrame(slot.factory());
-        area_.addSubWindow(slot.frame);
-        if (slot.frame->Form()->OpensAtOrigin()) {
-            slot.frame->move(0, 0);
+    QPointer<ChildFrame>& frame = frames_[static_cast<std::size_t>(window)];
+    if (!frame) {
+        frame = new ChildFrame(make_(RowOf(window)));
+        area_.addSubWindow(frame);
+        if (frame->Form()->OpensAtOrigin()) {
+            frame->move(0, 0);
         }
-        Connect(*slot.frame->Form());
+        Connect(*frame->Form());
     }
-    return *slot.frame->Form();
+    return *frame->Form();
 }
 
 void ChildWindows::Connect(ChildForm& form) {
     const ChildWindow window = form.Window();
     connect(&form, &ChildForm::UnloadRequested, this, [this, window] { CloseByUnloading(window); });
     connect(&form, &ChildForm::HideRequested, this, [this, window] { CloseByHiding(window); });
-    if (const auto entry = WindowListEntry(window)) {
-        connect(&form, &ChildForm::CaptionChanged, &list_,
-                [this, entry](const QString& caption) { list_.SetCaption(*entry, caption); });
-    }
+    connect(&form, &ChildForm::CaptionChanged, &list_,
+            [this, window](const QString& caption) { list_.SetCaption(window, caption); });
 }
 
 bool ChildWindows::IsVisible(ChildWindow window) const {
-    const Slot& slot = SlotOf(window);
-    return slot.frame && !slot.frame->isHidden();
+    const ChildFrame* frame = FrameOf(window);
+    return frame != nullptr && !frame->isHidden();
 }
 
 ChildForm* ChildWindows::ActiveForm() const {
-    for (const Slot& slot : slots_) {
-        if (slot.frame && slot.frame == area_.activeSubWindow() && !slot.frame->isHidden()) {
-            return slot.frame->Form();
+    for (const QPointer<ChildFrame>& frame : frames_) {
+        if (frame && frame == area_.activeSubWindow() && !frame->isHidden()) {
+            return frame->Form();
         }
     }
     return nullptr;
 }
 
 void ChildWindows::OpenChildWindow(ChildWindow window) {
-    const auto entry = WindowListEntry(window);
-    if (!IsRegistered(window) || !entry) {
-        return;
-    }
     list_.SetMenuShown(true);
     session_.SetOpen(window, true);
-    if (list_.IsShown(*entry)) {
+    if (list_.IsShown(window)) {
         keepMarks_ = true;
         BringToFront(window);
         keepMarks_ = false;
@@ -106,22 +80,20 @@ void ChildWindows::OpenChildWindow(ChildWindow window) {
     if (window == ChildWindow::Channels) {
         session_.CurrentChannel = 1;
     }
-    list_.Show(*entry, ListCaption(window));
-    list_.Mark(*entry);
+    ListAsOpened(RowOf(window));
     BringToFront(window);
 }
 
-void ChildWindows::OpenNavigator() {
-    list_.SetMenuShown(true);
-    session_.SetOpen(ChildWindow::Navigator, true);
-    BringToFront(ChildWindow::Navigator);
+void ChildWindows::ListAsOpened(const ChildWindowRow& row) {
+    if (row.listCaption != nullptr) {
+        list_.Show(row.window, row.listCaption(session_));
+        list_.Mark(row.window);
+    }
 }
 
 void ChildWindows::GoTo(ChildWindow window) {
-    if (const auto entry = WindowListEntry(window); entry && IsRegistered(window)) {
-        list_.Mark(*entry);
-        BringToFront(window);
-    }
+    list_.Mark(window);
+    BringToFront(window);
 }
 
 void ChildWindows::Show(ChildWindow window) {
@@ -132,15 +104,15 @@ void ChildWindows::Show(ChildWindow window) {
 }
 
 void ChildWindows::PlaceAtOrigin(ChildWindow window) {
-    if (const Slot& slot = SlotOf(window); slot.frame) {
-        SetToNormal(*slot.frame);
-        slot.frame->move(0, 0);
+    if (ChildFrame* frame = FrameOf(window)) {
+        SetToNormal(*frame);
+        frame->move(0, 0);
     }
 }
 
 void ChildWindows::BringToFront(ChildWindow window) {
     Load(window);
-    ChildFrame& frame = *SlotOf(window).frame;
+    ChildFrame& frame = *FrameOf(window);
     if (frame.isMinimized()) {
         frame.showNormal();
     }
@@ -150,17 +122,17 @@ void ChildWindows::BringToFront(ChildWindow window) {
 }
 
 void ChildWindows::HideFrame(ChildWindow window) {
-    const Slot& slot = SlotOf(window);
-    if (!slot.frame) {
+    ChildFrame* frame = FrameOf(window);
+    if (frame == nullptr) {
         return;
     }
     // A maximised frame would leave its buttons in the menu bar.
-    SetToNormal(*slot.frame);
-    slot.frame->hide();
-    if (QWidget* focus = QApplication::focusWidget(); focus != nullptr && slot.frame->isAncestorOf(focus)) {
+    SetToNormal(*frame);
+    frame->hide();
+    if (QWidget* focus = QApplication::focusWidget(); focus != nullptr && frame->isAncestorOf(focus)) {
         focus->clearFocus(); // the frame keeps it
     }
-    if (area_.activeSubWindow() == slot.frame || area_.activeSubWindow() == nullptr) {
+    if (area_.activeSubWindow() == frame || area_.activeSubWindow() == nullptr) {
         area_.setActiveSubWindow(TopmostVisible(area_));
     }
 }
@@ -168,8 +140,7 @@ void ChildWindows::HideFrame(ChildWindow window) {
 void ChildWindows::Unload(ChildWindow window) {
     HideFrame(window);
     // Later, because a button of the window may be what asks for it.
-    if (ChildFrame* frame = SlotOf(window).frame) {
-        SlotOf(window).frame = nullptr;
+    if (ChildFrame* frame = std::exchange(frames_[static_cast<std::size_t>(window)], nullptr)) {
         area_.removeSubWindow(frame);
         frame->deleteLater();
     }
@@ -177,9 +148,7 @@ void ChildWindows::Unload(ChildWindow window) {
 
 void ChildWindows::LeaveList(ChildWindow window) {
     session_.SetOpen(window, false);
-    if (const auto entry = WindowListEntry(window)) {
-        list_.Hide(*entry);
-    }
+    list_.Hide(window);
     UpdateWindowMenu();
 }
 
@@ -194,34 +163,35 @@ void ChildWindows::CloseByUnloading(ChildWindow window) {
 }
 
 void ChildWindows::UnloadEditors() {
-    for (const ChildWindow window : UnloadOrder) {
-        if (session_.IsOpen(window)) {
-            CloseByUnloading(window);
+    for (const ChildWindowRow& row : ChildWindowRows()) {
+        if (!row.staysOpen && session_.IsOpen(row.window)) {
+            CloseByUnloading(row.window);
         }
     }
 }
 
 void ChildWindows::DropEditors() {
-    for (const ChildWindow window : UnloadOrder) {
-        if (const ChildFrame* frame = SlotOf(window).frame) {
+    for (const ChildWindowRow& row : ChildWindowRows()) {
+        if (const ChildFrame* frame = FrameOf(row.window); frame != nullptr && !row.staysOpen) {
             DropPendingEdit(*frame->Form());
         }
     }
     UnloadEditors();
-    for (const ChildWindow window : UnloadOrder) {
-        Unload(window);
+    for (const ChildWindowRow& row : ChildWindowRows()) {
+        if (!row.staysOpen) {
+            Unload(row.window);
+        }
     }
 }
 
 void ChildWindows::CloseAll() {
-    for (int entry = 0; entry < WindowListSize; ++entry) {
-        if (const ChildWindow window = WindowOfListEntry(entry); session_.IsOpen(window)) {
-            HideFrame(window);
-            list_.Hide(entry);
+    for (const bool isListed : {true, false}) {
+        for (const ChildWindowRow& row : ChildWindowRows()) {
+            if ((row.listCaption != nullptr) == isListed && session_.IsOpen(row.window)) {
+                HideFrame(row.window);
+                list_.Hide(row.window);
+            }
         }
-    }
-    if (session_.IsOpen(ChildWindow::Navigator)) {
-        HideFrame(ChildWindow::Navigator);
     }
     list_.SetMenuShown(false);
 }
@@ -239,7 +209,7 @@ void ChildWindows::Arrange(Arrangement arrangement) {
     }
     const QPointer<QMdiSubWindow> active = area_.activeSubWindow();
     const QPointer<ChildFrame> navigator =
-        IsVisible(ChildWindow::Navigator) ? SlotOf(ChildWindow::Navigator).frame : nullptr;
+        IsVisible(ChildWindow::Navigator) ? FrameOf(ChildWindow::Navigator) : nullptr;
     if (navigator) {
         navigator->hide();
     }
@@ -262,19 +232,10 @@ void ChildWindows::Arrange(Arrangement arrangement) {
     }
 }
 
-std::string ChildWindows::ListCaption(ChildWindow window) const {
-    const int entry = WindowListEntry(window).value_or(0);
-    return entry == 0 ? ChannelCaption(session_.LanguageFlag, session_.CurrentChannel)
-                      : std::string(session_.LoadText(Captions[static_cast<std::size_t>(entry - 1)]));
-}
-
 void ChildWindows::OnActivated(QMdiSubWindow* frame) {
-    auto* child = qobject_cast<ChildFrame*>(frame);
-    if (child == nullptr || keepMarks_) {
-        return;
-    }
-    if (const auto entry = WindowListEntry(child->Form()->Window())) {
-        list_.Mark(*entry);
+    const auto* child = qobject_cast<const ChildFrame*>(frame);
+    if (child != nullptr && !keepMarks_) {
+        list_.Mark(child->Form()->Window());
     }
 }
 

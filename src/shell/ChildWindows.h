@@ -4,7 +4,6 @@
 #include <QPointer>
 #include <array>
 #include <functional>
-#include <string>
 
 #include "data/Session.h"
 
@@ -16,32 +15,29 @@ namespace zelvor {
 class ChildForm;
 class ChildFrame;
 class WindowList;
+struct ChildWindowRow;
 
 enum class Arrangement { Cascade, TileHorizontally, TileVertically, Icons };
 
-/// The child windows: one instance of each, made by its factory at first use and hosted in a frame of the area. Keeps
-/// ChildOpen, the window list and the visibility of MnuWindow in step with what is opened, hidden, closed and
-/// activated. A window without a factory is not part of the program: every request for it does nothing.
+/// The child windows: one instance of each, made at first use and hosted in a frame of the area. Keeps ChildOpen, the
+/// window list and the visibility of MnuWindow in step with what is opened, hidden, closed and activated.
 class ChildWindows : public QObject {
     Q_OBJECT
 
 public:
-    using Factory = std::function<ChildForm*()>;
+    /// Makes the form of a row's window.
+    using Factory = std::function<ChildForm*(const ChildWindowRow& row)>;
 
-    ChildWindows(Session& session, QMdiArea& area, WindowList& list);
+    ChildWindows(Session& session, QMdiArea& area, WindowList& list, Factory make);
 
-    void Register(ChildWindow window, Factory factory);
-    [[nodiscard]] bool IsRegistered(ChildWindow window) const;
-
-    /// The window's form, made where it does not exist; it must be registered. Not yet shown where it is new.
+    /// The window's form, made where it does not exist. Not yet shown where it is new.
     ChildForm& Load(ChildWindow window);
     [[nodiscard]] bool IsVisible(ChildWindow window) const;
     /// The form of the visible window that is active; null where there is none.
     [[nodiscard]] ChildForm* ActiveForm() const;
 
-    /// What the Edit menu, the navigator's nodes and the channel grid do to open a window.
+    /// What the menus, the navigator's nodes and the channel grid do to open a window.
     void OpenChildWindow(ChildWindow window);
-    void OpenNavigator();
     /// A choice in the window list.
     void GoTo(ChildWindow window);
     /// Makes the window visible and counts it as open, without a change to the window list.
@@ -52,9 +48,9 @@ public:
     /// The window's own ways to close: it is no longer open, and its entry of the window list is hidden.
     void CloseByHiding(ChildWindow window);
     void CloseByUnloading(ChildWindow window);
-    /// Unloads every open window but the grid, in the order told for a new document.
+    /// Unloads every open window that does not outlive its document, as the grid does, in the order of the rows.
     void UnloadEditors();
-    /// Unloads every window but the grid, also those that are only hidden; what is being edited in them is dropped.
+    /// The same for those that are only hidden, too; what is being edited in them is dropped.
     void DropEditors();
     /// Close All: hides what is open, and clears no ChildOpen entry.
     void CloseAll();
@@ -65,14 +61,8 @@ public:
     void Arrange(Arrangement arrangement);
 
 private:
-    struct Slot {
-        Factory factory;
-        QPointer<ChildFrame> frame;
-    };
-
-    [[nodiscard]] Slot& SlotOf(ChildWindow window) { return slots_[static_cast<std::size_t>(window)]; }
-    [[nodiscard]] const Slot& SlotOf(ChildWindow window) const { return slots_[static_cast<std::size_t>(window)]; }
-    [[nodiscard]] std::string ListCaption(ChildWindow window) const;
+    [[nodiscard]] ChildFrame* FrameOf(ChildWindow window) const;
+    void ListAsOpened(const ChildWindowRow& row);
     void Connect(ChildForm& form);
     void BringToFront(ChildWindow window);
     void HideFrame(ChildWindow window);
@@ -83,7 +73,8 @@ private:
     Session& session_;
     QMdiArea& area_;
     WindowList& list_;
-    std::array<Slot, ChildWindowCount> slots_;
+    const Factory make_;
+    std::array<QPointer<ChildFrame>, ChildWindowCount> frames_;
     bool keepMarks_ = false; // while a window that is open is brought forward
 };
 

@@ -13,12 +13,6 @@
 
 namespace zelvor {
 
-namespace {
-
-constexpr int GridEntry = 0;
-
-} // namespace
-
 DocumentView::DocumentView(Session& session, Services& services, ChildWindows& children, WindowList& list,
                            QWidget& mainWindow)
     : session_(session), services_(services), children_(children), list_(list), mainWindow_(mainWindow) {}
@@ -59,15 +53,15 @@ void DocumentView::ListNewDocument() {
     list_.SetMenuShown(true);
     // The cursor first: it writes the other form of the caption.
     Grid().SelectFirstCell();
-    list_.Show(GridEntry, NewDocumentChannelCaption(session_.LanguageFlag));
+    list_.Show(ChildWindow::Channels, NewDocumentChannelCaption(session_.LanguageFlag));
 }
 
 void DocumentView::ListGrid() {
     list_.SetMenuShown(true);
-    if (!list_.IsShown(GridEntry)) {
+    if (!list_.IsShown(ChildWindow::Channels)) {
         session_.CurrentChannel = 1;
-        list_.Show(GridEntry, ChannelCaption(session_.LanguageFlag, session_.CurrentChannel));
-        list_.ClearMark(GridEntry);
+        list_.Show(ChildWindow::Channels, ChannelCaption(session_.LanguageFlag, session_.CurrentChannel));
+        list_.ClearMark(ChildWindow::Channels);
     }
 }
 
@@ -94,7 +88,7 @@ void DocumentView::ResetAfterTransfer() {
 
 void DocumentView::MarkGrid() {
     session_.SetOpen(ChildWindow::Channels, true);
-    list_.Mark(GridEntry);
+    list_.Mark(ChildWindow::Channels);
     ListGrid();
 }
 

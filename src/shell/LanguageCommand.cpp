@@ -3,27 +3,26 @@
 #include <QApplication>
 #include <QPointer>
 #include <QWidget>
-#include <utility>
 
 #include "channels/ChannelForm.h"
 #include "channels/ChannelWindows.h"
-#include "controls/PendingEdit.h"
 #include "shell/ChildWindows.h"
 #include "shell/DocumentView.h"
 #include "shell/LanguageForm.h"
 
 namespace zelvor {
 
-LanguageCommand::LanguageCommand(Session& session, Services& services, Windows windows)
-    : session_(session), services_(services), windows_(std::move(windows)) {}
+LanguageCommand::LanguageCommand(Session& session, Services& services, ChildWindows& children, DocumentView& view,
+                                 const ChannelWindows& channels, QWidget& mainWindow)
+    : session_(session), services_(services), children_(children), view_(view), channels_(channels),
+      mainWindow_(mainWindow) {}
 
 void LanguageCommand::Choose() {
-    CommitPendingEdit();
     // No control keeps the focus that would commit by losing it in another language than it was filled in. The main
     // window takes it: where nothing has it, the toolkit hands it to the grid after the dialog, which raises the grid.
     const QPointer<QWidget> focus = QApplication::focusWidget();
-    windows_.mainWindow.setFocus(Qt::OtherFocusReason);
-    LanguageForm(session_, services_, &windows_.mainWindow).exec();
+    mainWindow_.setFocus(Qt::OtherFocusReason);
+    LanguageForm(session_, services_, &mainWindow_).exec();
     if (session_.LanguageChanged) {
         Switch();
     }
@@ -33,12 +32,12 @@ void LanguageCommand::Choose() {
 }
 
 void LanguageCommand::Switch() {
-    windows_.children.DropEditors();
-    windows_.view.PlaceGrid();
-    windows_.view.ShowTitle();
-    windows_.applyMainWindowTexts();
+    children_.DropEditors();
+    view_.PlaceGrid();
+    view_.ShowTitle();
+    emit Switched();
     // A grid that was unloaded is made in the current language.
-    if (ChannelForm* grid = windows_.channels.grid) {
+    if (ChannelForm* grid = channels_.grid) {
         grid->SwitchLanguage();
     }
 }

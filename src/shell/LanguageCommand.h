@@ -1,6 +1,6 @@
 #pragma once
 
-#include <functional>
+#include <QObject>
 
 class QWidget;
 
@@ -14,28 +14,28 @@ struct Services;
 
 /// The choice of the language, and the switch of what is on screen where it has changed: the editors close, and the
 /// main window and the channel grid get the texts of the new language. Nothing is stored, and the image stays.
-class LanguageCommand {
-public:
-    /// The windows that the switch has to do with. applyMainWindowTexts sets the texts of menus and tool tips, and
-    /// those of the toolkit itself.
-    struct Windows {
-        ChildWindows& children;
-        DocumentView& view;
-        const ChannelWindows& channels;
-        QWidget& mainWindow;
-        std::function<void()> applyMainWindowTexts;
-    };
+class LanguageCommand : public QObject {
+    Q_OBJECT
 
-    LanguageCommand(Session& session, Services& services, Windows windows);
+public:
+    LanguageCommand(Session& session, Services& services, ChildWindows& children, DocumentView& view,
+                    const ChannelWindows& channels, QWidget& mainWindow);
 
     void Choose();
+
+signals:
+    /// The texts of menus and tool tips, and those of the toolkit itself, are to be set.
+    void Switched();
 
 private:
     void Switch();
 
     Session& session_;
     Services& services_;
-    Windows windows_;
+    ChildWindows& children_;
+    DocumentView& view_;
+    const ChannelWindows& channels_;
+    QWidget& mainWindow_;
 };
 
 } // namespace zelvor

@@ -2,19 +2,25 @@
 
 #include <QMainWindow>
 #include <memory>
+#include <optional>
+#include <vector>
 
 #include "channels/ChannelWindows.h"
 #include "platform/QtLanguage.h"
+#include "shell/Command.h"
+#include "shell/MenuTree.h"
+
+class QMdiArea;
 
 namespace zelvor {
 
-class ChildForm;
 class ChildWindows;
+class DialogCommands;
 class DocumentView;
 class LanguageCommand;
 class Menus;
-class Session;
 class ServiceCommands;
+class Session;
 class SessionCommands;
 class StatusBar1;
 class Timer;
@@ -24,7 +30,7 @@ class WindowList;
 struct Services;
 
 /// The main window, and the first to open: it restores the remembered settings, makes a blank document and shows the
-/// channel grid. What the commands do is elsewhere; here they are put to menus, toolbar and keys.
+/// channel grid. What the commands are and do is elsewhere; here they are put to menus, toolbar and keys, and run.
 class MDIForm1 : public QMainWindow {
     Q_OBJECT
 
@@ -53,30 +59,18 @@ private:
     void SetUpWindow();
     void StartClock();
     void RestoreSession();
-    void RegisterChildWindows();
-    [[nodiscard]] ChildForm* MakeGrid();
-    [[nodiscard]] ChildForm* MakeNavigator();
-    void ConnectFileMenu();
-    void ConnectEditMenu();
-    void ConnectProgramMenu();
-    void ConnectMemoryMapGesture();
-    void ConnectViewMenu();
-    void ConnectWindowMenu();
-    void ConnectHelpMenu();
-    void ConnectToolbar();
+    void BuildBars(QMdiArea& area);
+    void BuildCommands();
+    void ConnectKeys();
     void ApplyLanguage();
-    void ReplaceDocument(void (SessionCommands::*command)());
-    void Transfer(void (TransferCommands::*transfer)());
-    void ShowCommunicationPort();
-    void ShowPrintList();
-    void ShowAbout();
-    void ShowHelpPage(std::string_view page);
-    void ShowHelpOfActiveWindow();
+    void Run(const Command& command);
 
     Session& session_;
     Services& services_;
     QtLanguage toolkitLanguage_;
     ChannelWindows channelWindows_;
+    const std::vector<MenuDescription> menuTree_;
+    const std::vector<Command> keyCommands_;
     std::unique_ptr<Menus> menus_;
     std::unique_ptr<WindowList> windowList_;
     std::unique_ptr<ChildWindows> children_;
@@ -85,6 +79,8 @@ private:
     std::unique_ptr<TransferCommands> transfers_;
     std::unique_ptr<LanguageCommand> language_;
     std::unique_ptr<ServiceCommands> service_;
+    std::unique_ptr<DialogCommands> dialogs_;
+    std::optional<Program> program_; // from when all of the above is there
     std::unique_ptr<Timer> tmrStatusBar_;
     Toolbar1* toolbar1_ = nullptr;
     StatusBar1* statusBar1_ = nullptr;

@@ -1,29 +1,37 @@
 #pragma once
 
-#include <optional>
 #include <span>
 #include <string_view>
+#include <variant>
+#include <vector>
 
+#include "shell/Command.h"
 #include "text/Text.h"
 
 namespace zelvor {
 
-/// An entry of a menu: its control name, its text, and whether it bears a check mark.
-/// A separator has no text.
-struct MenuEntry {
+struct MenuSeparator {
     std::string_view name;
-    std::optional<Text> text = {};
-    bool checkable = false;
-    bool hidden = false; // from the start; nothing shows it again
 };
+
+using MenuItem = std::variant<Command, MenuSeparator>;
 
 struct MenuDescription {
     std::string_view name;
     Text text;
-    std::span<const MenuEntry> entries;
+    std::vector<MenuItem> items;
 };
 
 /// The menu bar, all but the window list at the foot of MnuWindow.
-[[nodiscard]] std::span<const MenuDescription> MenuTree();
+[[nodiscard]] std::vector<MenuDescription> MenuTree();
+
+/// The commands that have a key but no entry in a menu.
+[[nodiscard]] std::vector<Command> KeyCommands();
+
+/// The commands of the menus, in order.
+[[nodiscard]] std::vector<const Command*> CommandsOf(std::span<const MenuDescription> menus);
+
+/// The command of that name, which one of the menus must have.
+[[nodiscard]] const Command& CommandOf(std::span<const MenuDescription> menus, std::string_view name);
 
 } // namespace zelvor

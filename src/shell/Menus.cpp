@@ -1,7 +1,6 @@
 #include "shell/Menus.h"
 
 #include <QAction>
-#include <QKeySequence>
 #include <QMenu>
 #include <QMenuBar>
 
@@ -13,57 +12,52 @@ namespace zelvor {
 
 namespace {
 
-void AddEntry(QMenu& menu, const MenuEntry& entry) {
+QAction* AddAction(QMenu& menu, std::string_view name) {
     auto* action = new QAction(&menu);
-    action->setObjectName(ToQString(entry.name));
-    action->setSeparator(!entry.text);
-    action->setCheckable(entry.checkable);
-    action->setChecked(entry.checkable);
-    action->setVisible(!entry.hidden);
+    action->setObjectName(ToQString(name));
     // Otherwise some platforms move entries elsewhere for what their texts look like.
     action->setMenuRole(QAction::NoRole);
     menu.addAction(action);
+    return action;
 }
 
 } // namespace
 
-Menus::Menus(QMenuBar& bar) : bar_(bar) {
-    for (const MenuDescription& description : MenuTree()) {
+Menus::Menus(QMenuBar& bar, std::span<const MenuDescription> menus, const RunCommand& run) : bar_(bar), menus_(menus) {
+    for (const MenuDescription& description : menus) {
         QMenu* menu = bar.addMenu(QString());
         menu->setObjectName(ToQString(description.name));
         menu->menuAction()->setObjectName(ToQString(description.name));
-        for (const MenuEntry& entry : description.entries) {
-            AddEntry(*menu, entry);
-        }
-    }
-}
-
-void Menus::ApplyCaptions(const Session& session) {
-    for (const MenuDescription& description : MenuTree()) {
-        Menu(description.name).setTitle(ToQString(session.LoadText(description.text)));
-        for (const MenuEntry& entry : description.entries) {
-            if (entry.text) {
-                Entry(entry.name).setText(ToQString(session.LoadText(*entry.text)));
+        for (const MenuItem& item : description.items) {
+            if (const auto* command = std::get_if<Command>(&item)) {
+                AddEntry(*menu, *command, run);
+            } else {
+                AddAction(*menu, std::get<MenuSeparator>(item).name)->setSeparator(true);
             }
         }
     }
 }
 
+void Menus::AddEntry(QMenu& menu, const Command& command, const RunCommand& run) {
+    QAction* action = AddAction(menu, command.name);
+    action->setCheckable(command.checkable);
+    action->setChecked(command.checkable);
+    action->setVisible(!command.hidden);
+    action->setShortcut(command.shortcut);
+    QObject::connect(action, &QAction::triggered, &bar_, [run, &command] { run(command); });
+}
+
+void Menus::ApplyCaptions(const Session& session) {
+    for (const MenuDescription& description : menus_) {
+        Menu(description.name).setTitle(ToQString(session.LoadText(description.text)));
+    }
+    for (const Command* command : CommandsOf(menus_)) {
+        bar_.findChild<QAction*>(ToQString(command->name))->setText(ToQString(session.LoadText(*command->text)));
+    }
+}
+
 QMenu& Menus::Menu(std::string_view name) const {
     return *bar_.findChild<QMenu*>(ToQString(name), Qt::FindDirectChildrenOnly);
-}
-
-QAction& Menus::Entry(std::string_view name) const {
-    return *bar_.findChild<QAction*>(ToQString(name));
-}
-
-void Menus::On(std::string_view name, std::function<void()> command) {
-    QObject::connect(&Entry(name), &QAction::triggered, &bar_, [command = std::move(command)] { command(); });
-}
-
-void Menus::On(std::string_view name, const QKeySequence& shortcut, std::function<void()> command) {
-    Entry(name).setShortcut(shortcut);
-    On(name, std::move(command));
 }
 
 } // namespace zelvor

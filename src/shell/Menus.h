@@ -1,36 +1,36 @@
 #pragma once
 
-#include <QObject>
-#include <functional>
+#include <span>
 #include <string_view>
 
+#include "shell/Command.h"
+
 class QAction;
-class QKeySequence;
 class QMenu;
 class QMenuBar;
 
 namespace zelvor {
 
 class Session;
+struct MenuDescription;
 
-/// The menus of the main window, made of the menu tree: one QMenu and QAction per entry, named as the entry.
+/// The menus of the main window, made of their descriptions: one QMenu and QAction per entry, named as the entry.
 class Menus {
 public:
-    explicit Menus(QMenuBar& bar);
+    /// The descriptions must outlive the menus. run: what choosing an entry calls.
+    Menus(QMenuBar& bar, std::span<const MenuDescription> menus, const RunCommand& run);
 
     /// Sets every text but those of separators and of the window list, in the current language.
     void ApplyCaptions(const Session& session);
 
-    /// The menu and the entry of that control name; it must exist.
+    /// The menu of that control name; it must exist.
     [[nodiscard]] QMenu& Menu(std::string_view name) const;
-    [[nodiscard]] QAction& Entry(std::string_view name) const;
-
-    /// What choosing the entry does.
-    void On(std::string_view name, std::function<void()> command);
-    void On(std::string_view name, const QKeySequence& shortcut, std::function<void()> command);
 
 private:
+    void AddEntry(QMenu& menu, const Command& command, const RunCommand& run);
+
     QMenuBar& bar_;
+    const std::span<const MenuDescription> menus_;
 };
 
 } // namespace zelvor

@@ -4,7 +4,6 @@
 #include <QWidget>
 #include <utility>
 
-#include "controls/PendingEdit.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Services.h"
 #include "platform/Toolkit.h"
@@ -44,8 +43,8 @@ const TaskTexts& TextsOf(RadioTask task) {
 
 } // namespace
 
-ServiceCommands::ServiceCommands(Session& session, Services& services, MainWindow mainWindow)
-    : session_(session), services_(services), mainWindow_(std::move(mainWindow)), block_(mainWindow_.window),
+ServiceCommands::ServiceCommands(Session& session, Services& services, QWidget& mainWindow)
+    : session_(session), services_(services), mainWindow_(mainWindow), block_(mainWindow),
       notice_(services.clock.MakeTimer("tmrNotice")) {
     dialogPoll_.setSingleShot(true);
     dialogPoll_.setInterval(DialogPoll);
@@ -57,7 +56,6 @@ ServiceCommands::ServiceCommands(Session& session, Services& services, MainWindo
 ServiceCommands::~ServiceCommands() = default;
 
 void ServiceCommands::Start(RadioTask task) {
-    CommitPendingEdit();
     if (task_ == task) {
         return;
     }
@@ -83,7 +81,7 @@ void ServiceCommands::EndForAnother() {
 /// Ends the time of an earlier text.
 void ServiceCommands::Say(const QString& text) {
     notice_->SetEnabled(false);
-    mainWindow_.ShowExchange(text);
+    emit ExchangeTold(text);
 }
 
 EntryEngine& ServiceCommands::Engine() {
@@ -96,7 +94,7 @@ EntryEngine& ServiceCommands::Engine() {
 }
 
 void ServiceCommands::OnInformation(const std::string& record) {
-    mainWindow_.GetDJJInfo(record);
+    emit InformationRead(record);
 }
 
 void ServiceCommands::OnExchangeDone() {
@@ -138,11 +136,11 @@ void ServiceCommands::ShowWindowWhenNoDialogIsUp() {
 void ServiceCommands::ShowWindow(RadioTask task) {
     openTask_ = task;
     if (task == RadioTask::Information) {
-        ShowOver(new DJJInfoForm(session_, services_, &mainWindow_.window));
+        ShowOver(new DJJInfoForm(session_, services_, &mainWindow_));
         return;
     }
-    auto* window = new TestForm(session_, services_, &mainWindow_.window);
-    connect(window, &TestForm::Activated, this, mainWindow_.OnTestModeActive);
+    auto* window = new TestForm(session_, services_, &mainWindow_);
+    connect(window, &TestForm::Activated, this, &ServiceCommands::TestModeActivated);
     ShowOver(window);
 }
 

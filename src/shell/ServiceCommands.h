@@ -4,7 +4,6 @@
 #include <QPointer>
 #include <QString>
 #include <QTimer>
-#include <functional>
 #include <memory>
 #include <string>
 
@@ -27,17 +26,7 @@ class ServiceCommands : public QObject, private EntryObserver {
     Q_OBJECT
 
 public:
-    /// What these commands ask of the main window.
-    struct MainWindow {
-        QWidget& window;
-        std::function<void(const std::string& record)> GetDJJInfo;
-        /// Test mode has become the active window.
-        std::function<void()> OnTestModeActive;
-        /// What the radio is being asked and how far that is, or why it ended; empty for nothing.
-        std::function<void(const QString& text)> ShowExchange;
-    };
-
-    ServiceCommands(Session& session, Services& services, MainWindow mainWindow);
+    ServiceCommands(Session& session, Services& services, QWidget& mainWindow);
     ~ServiceCommands() override;
 
     /// An exchange for the same that is under way goes on; one for the other is ended.
@@ -49,6 +38,14 @@ public:
 
     /// For the end of the program: refused, and said why, while a window of these commands is open.
     [[nodiscard]] bool KeepsProgramOpen();
+
+signals:
+    /// The radio's manufacturing record, one character a byte.
+    void InformationRead(const std::string& record);
+    /// Test mode has become the active window.
+    void TestModeActivated();
+    /// What the radio is being asked and how far that is, or why it ended; empty for nothing.
+    void ExchangeTold(const QString& text);
 
 private:
     void Start(RadioTask task);
@@ -69,7 +66,7 @@ private:
 
     Session& session_;
     Services& services_;
-    const MainWindow mainWindow_;
+    QWidget& mainWindow_;
     WindowBlock block_;
     std::unique_ptr<SerialPort> port_; // MSComm1, made with the engine at first use
     std::unique_ptr<EntryEngine> engine_;

@@ -5,7 +5,6 @@
 #include <system_error>
 #include <utility>
 
-#include "controls/PendingEdit.h"
 #include "data/BlankImage.h"
 #include "data/MemoryMap.h"
 #include "data/Session.h"
@@ -59,7 +58,6 @@ SessionCommands::SessionCommands(Session& session, Services& services, DocumentW
     : session_(session), services_(services), windows_(windows) {}
 
 void SessionCommands::New() {
-    CommitPendingEdit();
     const Language language = session_.LanguageFlag;
     const MessageAnswer answer =
         services_.messages.Show({std::string(commontexts::Warning.In(language)), std::string(ClearedText.In(language)),
@@ -76,7 +74,6 @@ void SessionCommands::New() {
 }
 
 void SessionCommands::Open() {
-    CommitPendingEdit();
     const Language language = session_.LanguageFlag;
     const auto name =
         services_.files.Open({std::string(), std::string(FileFilter.In(language)), session_.CurrentDirectory});
@@ -104,7 +101,6 @@ void SessionCommands::Open() {
 }
 
 void SessionCommands::Save() {
-    CommitPendingEdit();
     if (session_.HasFile()) {
         if (ConfirmOverwrite()) {
             WriteFile();
@@ -129,7 +125,6 @@ bool SessionCommands::ConfirmOverwrite() {
 }
 
 void SessionCommands::SaveAs() {
-    CommitPendingEdit();
     const auto name = services_.files.Save(
         {session_.CurrentFileName, std::string(FileFilter.In(session_.LanguageFlag)), session_.CurrentDirectory});
     if (!name) {
@@ -152,7 +147,6 @@ bool SessionCommands::WriteFile() {
 }
 
 void SessionCommands::ChangeModel() {
-    CommitPendingEdit();
     const auto before = ModelOf(session_);
     windows_.ChooseModel();
     if (ModelOf(session_) != before) {
@@ -168,7 +162,6 @@ void SessionCommands::ChangeModel() {
 }
 
 void SessionCommands::EditMemoryMap() {
-    CommitPendingEdit();
     const auto before = ModelOf(session_);
     // Before the dialog shows: no window may write into the image behind it.
     windows_.UnloadEditors();
@@ -193,7 +186,6 @@ void SessionCommands::BecomeDefaultDocument() {
 }
 
 bool SessionCommands::QueryExit() {
-    CommitPendingEdit();
     const Language language = session_.LanguageFlag;
     const MessageAnswer answer =
         services_.messages.Show({std::string(ConfirmationTitle.In(language)), std::string(ExitText.In(language)),

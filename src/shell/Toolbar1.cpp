@@ -6,33 +6,18 @@
 #include <QMouseEvent>
 #include <QRubberBand>
 #include <QToolButton>
-#include <array>
 #include <optional>
 
 #include "data/Session.h"
 #include "platform/LayoutUnits.h"
 #include "platform/Toolkit.h"
 #include "shell/Icons.h"
+#include "shell/MenuTree.h"
 #include "shell/ToolbarGrip.h"
 
 namespace zelvor {
 
 namespace {
-
-struct Button {
-    int index;
-    Text toolTip;
-    IconShape icon;
-};
-constexpr std::array<Button, 7> Buttons{{
-    {1, Text::NewTip, IconShape::New},
-    {2, Text::OpenTip, IconShape::Open},
-    {3, Text::SaveTip, IconShape::Save},
-    {5, Text::PrintTip, IconShape::Print},
-    {7, Text::ReadTip, IconShape::Read},
-    {9, Text::WriteTip, IconShape::Write},
-    {11, Text::AboutTip, IconShape::About},
-}};
 
 constexpr int IconSize = 24;
 
@@ -58,7 +43,8 @@ std::optional<Qt::ToolBarArea> AreaOf(ToolbarAlignment alignment) {
 
 } // namespace
 
-Toolbar1::Toolbar1(QMainWindow& mainWindow) : QToolBar(&mainWindow), mainWindow_(mainWindow) {
+Toolbar1::Toolbar1(QMainWindow& mainWindow, std::span<const MenuDescription> menus, const RunCommand& run)
+    : QToolBar(&mainWindow), mainWindow_(mainWindow) {
     setObjectName("Toolbar1");
     setIconSize(QSize(IconSize, IconSize));
     // The toolkit's own dragging has docking rules of its own.
@@ -66,36 +52,33 @@ Toolbar1::Toolbar1(QMainWindow& mainWindow) : QToolBar(&mainWindow), mainWindow_
     setFloatable(false);
     setAutoFillBackground(true);
     addWidget(new ToolbarGrip(*this));
-    AddButtons();
+    for (const Command* command : CommandsOf(menus)) {
+        if (command->button) {
+            AddButton(*command, run);
+        }
+    }
     mainWindow.addToolBar(Qt::TopToolBarArea, this);
 }
 
-void Toolbar1::AddButtons() {
-    int next = 1;
-    for (const Button& button : Buttons) {
-        for (; next < button.index; ++next) {
-            addSeparator()->setObjectName(ButtonName(next));
-        }
-        QAction* action = addAction(MakeIcon(button.icon), QString());
-        action->setObjectName(ButtonName(button.index));
-        widgetForAction(action)->setObjectName(ButtonName(button.index));
-        next = button.index + 1;
+void Toolbar1::AddButton(const Command& command, const RunCommand& run) {
+    const CommandButton& button = *command.button;
+    while (++lastIndex_ < button.index) {
+        addSeparator()->setObjectName(ButtonName(lastIndex_));
     }
+    QAction* action = addAction(MakeIcon(button.icon), QString());
+    action->setObjectName(ButtonName(button.index));
+    widgetForAction(action)->setObjectName(ButtonName(button.index));
+    connect(action, &QAction::triggered, this, [run, &command] { run(command); });
+    toolTips_.emplace_back(action, button.toolTip);
 }
 
 void Toolbar1::ApplyToolTips(const Session& session) {
-    for (const Button& button : Buttons) {
-        auto* action = findChild<QAction*>(ButtonName(button.index));
-        const QString toolTip = ToQString(session.LoadText(button.toolTip));
+    for (const auto& [action, text] : toolTips_) {
+        const QString toolTip = ToQString(session.LoadText(text));
         action->setText(toolTip);
         action->setToolTip(toolTip);
         widgetForAction(action)->setAccessibleName(toolTip);
     }
-}
-
-void Toolbar1::On(int index, std::function<void()> command) {
-    connect(findChild<QAction*>(ButtonName(index)), &QAction::triggered, this,
-            [command = std::move(command)] { command(); });
 }
 
 void Toolbar1::mousePressEvent(QMouseEvent* event) {

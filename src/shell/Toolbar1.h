@@ -3,8 +3,11 @@
 #include <QPoint>
 #include <QPointer>
 #include <QToolBar>
-#include <functional>
+#include <span>
+#include <utility>
+#include <vector>
 
+#include "shell/Command.h"
 #include "shell/DockingRule.h"
 
 class QMainWindow;
@@ -13,18 +16,19 @@ class QRubberBand;
 namespace zelvor {
 
 class Session;
+struct MenuDescription;
 
-/// The toolbar. Its buttons are Toolbar1(1), (2), (3), (5), (7), (9) and (11); the gaps are separators. It can be
-/// dragged by its grip or any free place of it, and the drop point says at which edge it is put or where it floats.
+/// The toolbar: the buttons that commands of the menus have, Toolbar1(1), (2) and so on; gaps in the numbers are
+/// separators. It can be dragged by its grip or any free place of it, and the drop point says at which edge it is put
+/// or where it floats.
 class Toolbar1 : public QToolBar {
     Q_OBJECT
 
 public:
-    explicit Toolbar1(QMainWindow& mainWindow);
+    /// The menus must outlive the toolbar. run: what a click on a button calls.
+    Toolbar1(QMainWindow& mainWindow, std::span<const MenuDescription> menus, const RunCommand& run);
 
     void ApplyToolTips(const Session& session);
-    /// What a click on the button does.
-    void On(int index, std::function<void()> command);
 
     [[nodiscard]] ToolbarAlignment Alignment() const { return alignment_; }
     /// A drop at that point of the main window's client area, in logical pixels.
@@ -37,13 +41,15 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void AddButtons();
+    void AddButton(const Command& command, const RunCommand& run);
     void Align(ToolbarAlignment alignment, QPoint clientPosition);
     void Float(QPoint clientPosition);
     void KeepInside();
     void EndDrag();
 
     QMainWindow& mainWindow_;
+    std::vector<std::pair<QAction*, Text>> toolTips_;
+    int lastIndex_ = 0; // of the buttons
     ToolbarAlignment alignment_ = ToolbarAlignment::Top;
     QPoint pressed_;
     bool isPressed_ = false;

@@ -2,7 +2,6 @@
 
 #include <QObject>
 
-#include "controls/PendingEdit.h"
 #include "data/Session.h"
 #include "link/ConnectForm.h"
 #include "link/PreWriteChecks.h"
@@ -16,12 +15,10 @@ TransferCommands::TransferCommands(Session& session, Services& services, Documen
     : session_(session), services_(services), view_(view), mainWindow_(mainWindow) {}
 
 void TransferCommands::Read() {
-    CommitPendingEdit();
     ShowTransfer(false);
 }
 
 void TransferCommands::Write() {
-    CommitPendingEdit();
     if (const auto complaint = CheckBeforeWrite(session_)) {
         services_.messages.Show(*complaint);
         return;

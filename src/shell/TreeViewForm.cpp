@@ -4,7 +4,6 @@
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QTreeWidget>
-#include <array>
 
 #include "data/MemoryMap.h"
 #include "data/ModelCatalogue.h"
@@ -13,27 +12,13 @@
 #include "platform/LayoutUnits.h"
 #include "platform/Services.h"
 #include "platform/Toolkit.h"
+#include "shell/ChildWindowRows.h"
 
 namespace zelvor {
 
 namespace {
 
-struct Node {
-    const char* key;
-    Text text;
-    ChildWindow window;
-};
 constexpr const char* RootKey = "R";
-constexpr std::array<Node, 8> Nodes{{
-    {"C1", Text::ChannelInformationTitle, ChildWindow::Channels},
-    {"C2", Text::OptionalFeaturesTitle, ChildWindow::OptionalFeatures},
-    {"C3", Text::KeyAssignmentTitle, ChildWindow::KeyAssignment},
-    {"C4", Text::ScanInformationTitle, ChildWindow::Scan},
-    {"C5", Text::DtmfTitle, ChildWindow::Dtmf},
-    {"C6", Text::CorvaneTitle, ChildWindow::Corvane},
-    {"C7", Text::TestFrequencyTitle, ChildWindow::TestFrequency},
-    {"C8", Text::EmbeddedMessageTitle, ChildWindow::EmbeddedMessage},
-}};
 constexpr int KeyRole = Qt::UserRole;
 
 /// A double click has to follow the click on the node within this time.
@@ -84,9 +69,11 @@ void TreeViewForm::BuildTree() {
     const auto model = NavigatorModelText(session_.Image.At(address::Family), session_.Image.At(address::Market));
     auto* root = new QTreeWidgetItem(treView_, {ToQString(model)});
     root->setData(0, KeyRole, RootKey);
-    for (const Node& node : Nodes) {
-        auto* item = new QTreeWidgetItem(root, {ToQString(session_.LoadText(node.text))});
-        item->setData(0, KeyRole, node.key);
+    for (const ChildWindowRow& row : ChildWindowRows()) {
+        if (row.node) {
+            auto* item = new QTreeWidgetItem(root, {ToQString(session_.LoadText(row.node->text))});
+            item->setData(0, KeyRole, ToQString(row.node->key));
+        }
     }
     root->setExpanded(true);
     treView_->setCurrentItem(root);
@@ -123,9 +110,9 @@ void TreeViewForm::ActivateSelectedNode() {
     if (selected == nullptr) {
         return;
     }
-    for (const Node& node : Nodes) {
-        if (selected->text(0) == ToQString(session_.LoadText(node.text))) {
-            emit WindowChosen(node.window);
+    for (const ChildWindowRow& row : ChildWindowRows()) {
+        if (row.node && selected->text(0) == ToQString(session_.LoadText(row.node->text))) {
+            emit WindowChosen(row.window);
             return;
         }
     }

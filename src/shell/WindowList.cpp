@@ -1,71 +1,64 @@
 #include "shell/WindowList.h"
 
 #include "platform/Toolkit.h"
+#include "shell/ChildWindowRows.h"
 
 namespace zelvor {
 
-namespace {
-
-constexpr std::array WindowsInListOrder{
-    ChildWindow::Channels,    ChildWindow::OptionalFeatures, ChildWindow::KeyAssignment, ChildWindow::Scan,
-    ChildWindow::Dtmf,        ChildWindow::Corvane,          ChildWindow::TestFrequency, ChildWindow::EmbeddedMessage,
-    ChildWindow::ChannelEdit,
-};
-static_assert(WindowsInListOrder.size() == WindowListSize);
-
-} // namespace
-
-std::optional<int> WindowListEntry(ChildWindow window) {
-    for (int entry = 0; entry < WindowListSize; ++entry) {
-        if (WindowOfListEntry(entry) == window) {
-            return entry;
-        }
-    }
-    return std::nullopt;
-}
-
-ChildWindow WindowOfListEntry(int entry) {
-    return WindowsInListOrder[static_cast<std::size_t>(entry)];
-}
-
 WindowList::WindowList(QMenu& mnuWindow) : mnuWindow_(mnuWindow) {
-    for (int entry = 0; entry < WindowListSize; ++entry) {
+    int number = 0;
+    for (const ChildWindowRow& row : ChildWindowRows()) {
+        if (row.listCaption == nullptr) {
+            continue;
+        }
         auto* action = new QAction(&mnuWindow);
-        action->setObjectName(QStringLiteral("MnuWindowSub(%1)").arg(entry));
+        action->setObjectName(QStringLiteral("MnuWindowSub(%1)").arg(number++));
         action->setCheckable(true);
         action->setVisible(false);
         action->setMenuRole(QAction::NoRole);
-        connect(action, &QAction::triggered, this, [this, entry] { emit Chosen(entry); });
+        connect(action, &QAction::triggered, this, [this, window = row.window] { emit Chosen(window); });
         mnuWindow.addAction(action);
-        entries_[static_cast<std::size_t>(entry)] = action;
+        entries_[static_cast<std::size_t>(row.window)] = action;
     }
 }
 
-bool WindowList::IsShown(int entry) const {
-    return Entry(entry).isVisible();
+bool WindowList::IsShown(ChildWindow window) const {
+    return Entry(window) != nullptr && Entry(window)->isVisible();
 }
 
-void WindowList::Show(int entry, std::string_view caption) {
-    SetCaption(entry, ToQString(caption));
-    Entry(entry).setVisible(true);
+void WindowList::Show(ChildWindow window, std::string_view caption) {
+    SetCaption(window, ToQString(caption));
+    if (QAction* entry = Entry(window)) {
+        entry->setVisible(true);
+    }
 }
 
-void WindowList::Hide(int entry) {
-    Entry(entry).setVisible(false);
+void WindowList::Hide(ChildWindow window) {
+    if (QAction* entry = Entry(window)) {
+        entry->setVisible(false);
+    }
 }
 
-void WindowList::SetCaption(int entry, const QString& caption) {
-    Entry(entry).setText(caption);
+void WindowList::SetCaption(ChildWindow window, const QString& caption) {
+    if (QAction* entry = Entry(window)) {
+        entry->setText(caption);
+    }
 }
 
-void WindowList::ClearMark(int entry) {
-    Entry(entry).setChecked(false);
+void WindowList::ClearMark(ChildWindow window) {
+    if (QAction* entry = Entry(window)) {
+        entry->setChecked(false);
+    }
 }
 
-void WindowList::Mark(int entry) {
-    for (int other = 0; other < WindowListSize; ++other) {
-        if (other == entry || IsShown(other)) {
-            Entry(other).setChecked(other == entry);
+void WindowList::Mark(ChildWindow window) {
+    const QAction* marked = Entry(window);
+    if (marked == nullptr) {
+        return;
+    }
+    for (QAction* entry : entries_) {
+        if (entry != nullptr && (entry == marked || entry->isVisible())) {
+            entry->setChecked(entry == marked);
         }
     }
 }

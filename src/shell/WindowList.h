@@ -4,22 +4,15 @@
 #include <QMenu>
 #include <QObject>
 #include <array>
-#include <optional>
 #include <string_view>
 
 #include "data/Session.h"
 
 namespace zelvor {
 
-inline constexpr int WindowListSize = 9;
-
-/// The entry of the window list that belongs to a window: 0 to 8; the navigator has none.
-[[nodiscard]] std::optional<int> WindowListEntry(ChildWindow window);
-/// The window of an entry, 0 to 8.
-[[nodiscard]] ChildWindow WindowOfListEntry(int entry);
-
-/// The window list at the foot of MnuWindow: entries MnuWindowSub(0) to MnuWindowSub(8), one per window, shown while
-/// the window is open; the check mark shows the window the user last went to. Entries are numbered 0 to 8.
+/// The window list at the foot of MnuWindow: entries MnuWindowSub(0), (1) and so on, one for each window whose row has
+/// a caption for it, shown while the window is open; the check mark shows the window the user last went to. Nothing is
+/// done for a window that is not in the list.
 class WindowList : public QObject {
     Q_OBJECT
 
@@ -27,26 +20,27 @@ public:
     /// Adds the entries to MnuWindow, all hidden.
     explicit WindowList(QMenu& mnuWindow);
 
-    [[nodiscard]] bool IsShown(int entry) const;
-    void Show(int entry, std::string_view caption);
-    void Hide(int entry);
-    void SetCaption(int entry, const QString& caption);
-    void ClearMark(int entry);
+    [[nodiscard]] bool IsShown(ChildWindow window) const;
+    void Show(ChildWindow window, std::string_view caption);
+    void Hide(ChildWindow window);
+    void SetCaption(ChildWindow window, const QString& caption);
+    void ClearMark(ChildWindow window);
     /// Sets the entry's check mark and clears that of every other visible entry.
-    void Mark(int entry);
+    void Mark(ChildWindow window);
 
     /// MnuWindow itself.
     void SetMenuShown(bool shown);
 
 signals:
-    /// An entry was chosen.
-    void Chosen(int entry);
+    /// The entry of the window was chosen.
+    void Chosen(ChildWindow window);
 
 private:
-    [[nodiscard]] QAction& Entry(int entry) const { return *entries_[static_cast<std::size_t>(entry)]; }
+    /// Null for a window that is not in the list.
+    [[nodiscard]] QAction* Entry(ChildWindow window) const { return entries_[static_cast<std::size_t>(window)]; }
 
     QMenu& mnuWindow_;
-    std::array<QAction*, WindowListSize> entries_{};
+    std::array<QAction*, ChildWindowCount> entries_{};
 };
 
 } // namespace zelvor

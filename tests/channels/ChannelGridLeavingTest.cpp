@@ -107,12 +107,12 @@ TEST_F(ChannelGridLeavingTest, ACommandCommitsWhatWaitsBehindAnotherWindow) {
     GoTo(1, 1);
     Type("146.5");
     BringAnotherWindowToFront();
-    CommitPendingEdit();
+    CommitPendingEdit(*form);
     EXPECT_EQ(Cell(1, 1), "146.50000");
     EXPECT_EQ(Record(1)[2], 0x65);
     EXPECT_FALSE(TextBox().isVisible());
     GoTo(2, 1);
-    CommitPendingEdit(); // once is enough
+    CommitPendingEdit(*form); // once is enough
     EXPECT_EQ(Cell(1, 1), "146.50000");
 }
 

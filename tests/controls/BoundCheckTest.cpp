@@ -3,6 +3,7 @@
 #include <QMenuBar>
 
 #include "BoundControlFixture.h"
+#include "controls/PendingEdit.h"
 
 namespace zelvor {
 namespace {
@@ -103,7 +104,7 @@ TEST_F(BoundCheckBesideAWindow, IsNotLeftWhereTheOtherOnlyComesToTheFront) {
 
 TEST_F(BoundCheckBesideAWindow, IsLeftByACommandMeanwhile) {
     BringToFront(other);
-    CommitPendingEdit();
+    CommitPendingEdit(*window);
     EXPECT_EQ(At(0x100), 1);
 }
 

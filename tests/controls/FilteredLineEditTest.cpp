@@ -296,16 +296,34 @@ TEST_F(BoxBesideAWindow, IsNotLeftWhereTheOtherOnlyComesToTheFront) {
     EXPECT_FALSE(box.hasSelectedText()); // or the next key would replace what was typed
     neighbour.setFocus();
     EXPECT_EQ(left.count(), 1);
-    CommitPendingEdit();
+    CommitPendingEdit(form);
     EXPECT_EQ(left.count(), 1);
 }
 
 TEST_F(BoxBesideAWindow, IsLeftOnceByACommandMeanwhile) {
     BringOtherToFront();
-    CommitPendingEdit();
+    CommitPendingEdit(form);
     EXPECT_EQ(left.count(), 1);
-    CommitPendingEdit();
+    CommitPendingEdit(form);
     EXPECT_EQ(left.count(), 1);
+}
+
+TEST_F(BoxBesideAWindow, IsNotLeftByACommandOfTheOther) {
+    BringOtherToFront();
+    CommitPendingEdit(other);
+    EXPECT_EQ(left.count(), 0);
+    CommitPendingEdit(form);
+    EXPECT_EQ(left.count(), 1);
+}
+
+TEST_F(BoxBesideAWindow, SaysNothingOnceItsEditIsDropped) {
+    BringOtherToFront();
+    DropPendingEdit(form);
+    CommitPendingEdit(form);
+    form.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+    neighbour.setFocus();
+    EXPECT_EQ(left.count(), 0);
 }
 
 TEST_F(BoxBesideAWindow, MayGoMeanwhile) {
@@ -314,7 +332,7 @@ TEST_F(BoxBesideAWindow, MayGoMeanwhile) {
     shortLived->setFocus();
     BringOtherToFront();
     delete shortLived;
-    CommitPendingEdit();
+    CommitPendingEdit(form);
     EXPECT_EQ(left.count(), 1); // when the other box got the focus
 }
 

@@ -144,7 +144,7 @@ TEST_F(HoldingLineEditTest, AnotherChildWindowTakesTheFocusAndTheTextIsPutRight)
 
 TEST_F(HoldingLineEditTest, ACommandThatCommitsPutsTheTextRight) {
     Type("12");
-    CommitPendingEdit();
+    CommitPendingEdit(form);
     EXPECT_TRUE(box.hasFocus());
     EXPECT_EQ(refused.count(), 1);
     EXPECT_EQ(box.text(), "000");
@@ -181,7 +181,7 @@ TEST_F(HoldingLineEditTest, ACommandPutsAnIllegalTextRightThatWaitsBehindAnother
     help.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&help));
     EXPECT_EQ(refused.count(), 0);
-    CommitPendingEdit();
+    CommitPendingEdit(form);
     EXPECT_EQ(refused.count(), 1);
     EXPECT_EQ(box.text(), "000");
 }

@@ -171,7 +171,7 @@ TEST_F(OptionalFormPttIdTest, ACodeThatHasTheFocusBackFromElsewhereThanAControlD
     Box(Begin).setFocus();
     Type("2");
     ExpectError(true, 2);
-    CommitPendingEdit(); // as a write does, before it looks
+    CommitPendingEdit(*form); // as a write does, before it looks
     EXPECT_TRUE(Box(Begin).hasFocus());
     ExpectError(true, 2);
     QMenuBar menus(form.get());

@@ -6,6 +6,7 @@
 
 #include "../support/InView.h"
 #include "controls/ChildForm.h"
+#include "shell/ChildWindowRows.h"
 #include "shell/ShellTest.h"
 #include "shell/WindowList.h"
 
@@ -208,13 +209,6 @@ public:
 class ChildWindowsTest : public testing::Test {
 protected:
     ChildWindowsTest() {
-        for (int i = 0; i < 10; ++i) {
-            const auto window = static_cast<ChildWindow>(i);
-            children.Register(window, [this, window] {
-                ++made;
-                return new StandInForm(window);
-            });
-        }
         area.resize(800, 600);
         area.show();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&area));
@@ -224,7 +218,7 @@ protected:
         for (const ChildWindow window : All) {
             children.OpenChildWindow(window);
         }
-        children.OpenNavigator();
+        children.OpenChildWindow(ChildWindow::Navigator);
     }
 
     [[nodiscard]] QAction* Entry(int entry) const { return mnuWindow.actions()[entry]; }
@@ -248,8 +242,11 @@ protected:
     QMenu mnuWindow;
     QMdiArea area;
     WindowList list{mnuWindow};
-    ChildWindows children{session, area, list};
     int made = 0;
+    ChildWindows children{session, area, list, [this](const ChildWindowRow& row) {
+                              ++made;
+                              return new StandInForm(row.window);
+                          }};
 };
 
 TEST_F(ChildWindowsTest, TheListHasTheCaptionsOfTheWindowsInEnglish) {
@@ -307,7 +304,7 @@ TEST_F(ChildWindowsTest, AnActivatedWindowMarksItsEntry) {
 
 TEST_F(ChildWindowsTest, AnActivatedNavigatorMarksNothing) {
     children.OpenChildWindow(ChildWindow::Scan);
-    children.OpenNavigator();
+    children.OpenChildWindow(ChildWindow::Navigator);
     EXPECT_EQ(children.ActiveForm()->Window(), ChildWindow::Navigator);
     EXPECT_EQ(List(), "---x-----");
 }
@@ -408,19 +405,6 @@ TEST_F(ChildWindowsTest, ANewTitleOfAWindowIsListed) {
     children.OpenChildWindow(ChildWindow::TestFrequency);
     Form(ChildWindow::TestFrequency).SetCaption(" Test Frequency 2");
     EXPECT_EQ(Entry(6)->text(), " Test Frequency 2");
-}
-
-TEST_F(ChildWindowsTest, AWindowThatIsNotPartOfTheProgramDoesNothing) {
-    Session other;
-    QMenu menu;
-    WindowList otherList(menu);
-    otherList.SetMenuShown(false);
-    ChildWindows none(other, area, otherList);
-    none.OpenChildWindow(ChildWindow::Scan);
-    none.GoTo(ChildWindow::Scan);
-    EXPECT_EQ(other.ChildOpen, Flags{});
-    EXPECT_FALSE(menu.menuAction()->isVisible());
-    EXPECT_FALSE(menu.actions()[3]->isVisible());
 }
 
 } // namespace
