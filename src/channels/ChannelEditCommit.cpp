@@ -6,13 +6,13 @@
 #include "channels/CellValues.h"
 #include "channels/ChannelEditForm.h"
 #include "channels/ChannelEditLists.h"
-#include "channels/ChannelForm.h"
 #include "channels/FrequencyEntry.h"
 #include "controls/FieldList.h"
 #include "controls/FilteredLineEdit.h"
 #include "controls/PendingEdit.h"
 #include "data/ChannelRecord.h"
 #include "data/MemoryMap.h"
+#include "data/Session.h"
 #include "platform/Toolkit.h"
 #include "text/StringTable.h"
 
@@ -127,7 +127,7 @@ void ChannelEditForm::OnToneLeft(FieldList& list) {
     if (!IsLive() || !HasReceive()) {
         return;
     }
-    session_.CurrentChannel = channel_;
+    session_.Cursor.SetCurrentChannel(channel_);
     // An empty box becomes "None" by the same rule.
     PutTone(list, NormaliseTone(FromQString(list.currentText()), session_.LanguageFlag));
     if (&list == comDecode_ && !AreDependentListsRight()) {
@@ -147,9 +147,6 @@ void ChannelEditForm::OnSignalLeft() {
 // --- Commit ----------------------------------------------------------------------------------------------------------
 
 void ChannelEditForm::CommitDialog() {
-    if (!windows_.grid) {
-        return;
-    }
     if (!HasReceive()) {
         const QScopedValueRollback<bool> showing(showing_, true);
         chkScanAdd_->setChecked(false);
@@ -157,17 +154,13 @@ void ChannelEditForm::CommitDialog() {
     const bool added = chkScanAdd_->isChecked();
     Texts().ScanAddText = HasReceive() ? std::string(session_.LoadText(added ? Text::Yes : Text::No)) : std::string();
     SetScanAdd(session_.Image, channel_, added);
-    windows_.grid->EncodeChannelRow(channel_);
-    session_.Channels.RefreshChannelBytes(session_.Image);
-    windows_.grid->UpdateFreeArea();
+    session_.Channels.EncodeChannelRow(session_.Image, session_.LanguageFlag, channel_, session_.TxCodeError);
 }
 
 void ChannelEditForm::OnClose() {
     CommitPendingEdit();
     if (!HasReceive()) {
-        for (const auto text : GridTexts) {
-            (Texts().*text).clear();
-        }
+        session_.Channels.ClearTexts();
     }
     CommitDialog();
     emit UnloadRequested();

@@ -5,20 +5,22 @@
 #include "channels/CellValues.h"
 #include "channels/ChannelEditForm.h"
 #include "channels/ChannelEditLists.h"
-#include "channels/ChannelForm.h"
-#include "channels/ScanForm.h"
 #include "controls/FieldList.h"
 #include "controls/FilteredLineEdit.h"
 #include "data/ChannelRecord.h"
 #include "data/MemoryMap.h"
+#include "data/Session.h"
 #include "platform/Toolkit.h"
-#include "text/Decimal.h"
 #include "text/StringTable.h"
 
 namespace zelvor {
 
 bool ChannelEditForm::IsLive() const {
-    return session_.IsOpen(ChildWindow::ChannelEdit) && windows_.grid && !showing_;
+    return IsOpen() && !showing_;
+}
+
+bool ChannelEditForm::IsOpen() const {
+    return session_.IsOpen(ChildWindow::ChannelEdit);
 }
 
 bool ChannelEditForm::HasReceive() const {
@@ -26,7 +28,7 @@ bool ChannelEditForm::HasReceive() const {
 }
 
 ChannelTexts& ChannelEditForm::Texts() {
-    return session_.Channels.Texts;
+    return session_.Channels.Texts();
 }
 
 std::uint8_t ChannelEditForm::RecordByte(int j) const {
@@ -55,11 +57,11 @@ void ChannelEditForm::OnSignalSelected() {
         return;
     }
     RebuildDependentLists();
-    const QString text = comSelSignal_->currentText();
-    if (!windows_.grid->CellText(channel_, column::OptSignal).isEmpty()) {
-        windows_.grid->SetCellText(channel_, column::OptSignal, text);
+    const std::string text = FromQString(comSelSignal_->currentText());
+    if (!session_.Channels.CellText(channel_, column::OptSignal).empty()) {
+        session_.Channels.SetCellText(channel_, column::OptSignal, text);
     }
-    Texts().OptSignalText = FromQString(text);
+    Texts().OptSignalText = text;
 }
 
 void ChannelEditForm::RebuildDependentLists() {
@@ -115,22 +117,19 @@ void ChannelEditForm::StoreCompander() {
 // --- What the grid shows too -----------------------------------------------------------------------------------------
 
 void ChannelEditForm::StoreScanAdd() {
-    const auto isProgrammed = [this] {
-        return !Decimal::Leading(FromQString(windows_.grid->CellText(channel_, column::Rx))).IsZero();
-    };
-    if (!IsLive() || !isProgrammed()) {
+    if (!IsLive() || !session_.Channels.HasFrequency(channel_)) {
         return;
     }
     Texts().ScanAddText = session_.LoadText(chkScanAdd_->isChecked() ? Text::Yes : Text::No);
     SetScanAdd(session_.Image, channel_, chkScanAdd_->isChecked());
-    windows_.grid->SetCellText(channel_, column::ScanAdd, ToQString(Texts().ScanAddText));
+    session_.Channels.SetCellText(channel_, column::ScanAdd, Texts().ScanAddText);
 }
 
 void ChannelEditForm::StoreCell(const FieldList& list, std::string ChannelTexts::*field, int column) {
-    const QString text = list.currentText();
-    if (IsLive() && !text.isEmpty()) {
-        Texts().*field = FromQString(text);
-        windows_.grid->SetCellText(channel_, column, text);
+    const std::string text = FromQString(list.currentText());
+    if (IsLive() && !text.empty()) {
+        Texts().*field = text;
+        session_.Channels.SetCellText(channel_, column, text);
     }
 }
 
@@ -161,14 +160,8 @@ void ChannelEditForm::StorePriority(bool checked) {
     if (!IsLive()) {
         return;
     }
-    session_.PriorityChannelNo = checked ? channel_ : 0;
-    if (checked) {
-        session_.PriorityChannelError = false;
-    }
     // The image's byte is the scan window's to write, when its box is left.
-    if (session_.IsOpen(ChildWindow::Scan) && windows_.scan) {
-        windows_.scan->ShowPriorityChannel(session_.PriorityChannelNo);
-    }
+    session_.Priority.Mark(checked ? channel_ : 0);
 }
 
 } // namespace zelvor

@@ -9,7 +9,6 @@
 
 #include "channels/CellValues.h"
 #include "channels/ChannelEditLists.h"
-#include "channels/ChannelForm.h"
 #include "channels/ToneKeys.h"
 #include "controls/EnterAsTab.h"
 #include "controls/FieldList.h"
@@ -17,6 +16,7 @@
 #include "controls/SpinText.h"
 #include "data/MemoryMap.h"
 #include "data/OptionalFields.h"
+#include "data/Session.h"
 #include "data/ToneCodec.h"
 #include "platform/HelpTopic.h"
 #include "platform/HelpViewer.h"
@@ -57,10 +57,9 @@ QStringList NumbersTo(int last) {
 
 } // namespace
 
-ChannelEditForm::ChannelEditForm(Session& session, Services& services, ChannelWindows& windows, QWidget* parent)
+ChannelEditForm::ChannelEditForm(Session& session, Services& services, QWidget* parent)
     : ChildForm(ChildWindow::ChannelEdit, "ChannelEditForm", WindowSize, parent), session_(session),
-      services_(services), windows_(windows) {
-    windows_.dialog = this;
+      services_(services) {
     session_.SetOpen(ChildWindow::ChannelEdit, true);
     BuildChannel();
     BuildFrame();
@@ -72,10 +71,16 @@ ChannelEditForm::ChannelEditForm(Session& session, Services& services, ChannelWi
     ConnectFields();
     ConnectLists();
     setFocusProxy(channelSpin_);
-    GoToChannel(session_.EditChannel);
+    GoToChannel(session_.Cursor.EditChannel());
+    session_.Channels.Add(*this);
+    session_.Cursor.Add(*this);
+    session_.Priority.Add(*this);
 }
 
 ChannelEditForm::~ChannelEditForm() {
+    session_.Priority.Remove(*this);
+    session_.Cursor.Remove(*this);
+    session_.Channels.Remove(*this);
     DropPendingEdit(*this);
 }
 

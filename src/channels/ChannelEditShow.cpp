@@ -7,29 +7,25 @@
 #include "channels/CellValues.h"
 #include "channels/ChannelEditForm.h"
 #include "channels/ChannelEditLists.h"
-#include "channels/ChannelForm.h"
 #include "controls/FieldList.h"
 #include "controls/SpinText.h"
 #include "data/ChannelRecord.h"
 #include "data/MemoryMap.h"
+#include "data/Session.h"
 #include "platform/Toolkit.h"
 #include "text/StringTable.h"
 
 namespace zelvor {
 
 void ChannelEditForm::OpenOnEditChannel() {
-    GoToChannel(session_.EditChannel);
-    Reload();
+    GoToChannel(session_.Cursor.EditChannel());
+    ShowChannel(channel_);
     channelSpin_->setFocus();
     channelSpin_->Box().selectAll();
 }
 
 void ChannelEditForm::GoToChannel(int n) {
     channelSpin_->Put(n);
-}
-
-void ChannelEditForm::Reload() {
-    ShowChannel(channel_);
 }
 
 void ChannelEditForm::OnChannelText(const QString& text) {
@@ -47,25 +43,14 @@ void ChannelEditForm::OnChannelText(const QString& text) {
 void ChannelEditForm::ShowChannel(int n) {
     const QScopedValueRollback<bool> showing(showing_, true);
     channel_ = n;
-    session_.EditChannel = n;
     channelSpin_->SetValue(n);
-    if (windows_.grid) {
-        windows_.grid->ShowChannelInCaption(n);
-    }
-    LoadFields(n);
+    session_.Cursor.ShowInDialog(n);
+    session_.Channels.LoadRowIntoFields(session_.Image, session_.LanguageFlag, n);
     if (Texts().RxText.empty()) {
         BlankChannelDialog();
     } else {
         ShowProgrammedChannel();
     }
-}
-
-void ChannelEditForm::LoadFields(int n) {
-    for (int column = 1; column <= column::Count; ++column) {
-        Texts().*GridTexts[static_cast<std::size_t>(column) - 1] =
-            windows_.grid ? FromQString(windows_.grid->CellText(n, column)) : std::string();
-    }
-    session_.Channels.LoadHiddenFields(session_.Image, session_.LanguageFlag, n);
 }
 
 void ChannelEditForm::ShowProgrammedChannel() {
@@ -107,7 +92,7 @@ void ChannelEditForm::ShowRecordFields() {
 }
 
 void ChannelEditForm::EnableChannelControls() {
-    if (!session_.IsOpen(ChildWindow::ChannelEdit)) {
+    if (!IsOpen()) {
         return;
     }
     const std::string none(session_.LoadText(Text::None));
@@ -191,8 +176,8 @@ void ChannelEditForm::SelectMuteEntries() {
 // --- Priority channel ------------------------------------------------------------------------------------------------
 
 void ChannelEditForm::EnablePriorityMark() {
-    chkPriorityChannel_->setEnabled(session_.PriorityFixedMode && HasReceive());
-    ShowPriorityMark(session_.PriorityChannelNo);
+    chkPriorityChannel_->setEnabled(session_.Priority.PriorityFixedMode() && HasReceive());
+    ShowPriorityMark(session_.Priority.PriorityChannelNo());
 }
 
 void ChannelEditForm::ShowPriorityMark(int n) {
@@ -200,22 +185,73 @@ void ChannelEditForm::ShowPriorityMark(int n) {
     chkPriorityChannel_->setChecked(chkPriorityChannel_->isEnabled() && n == channel_);
 }
 
-// --- PTT ID ----------------------------------------------------------------------------------------------------------
-
-void ChannelEditForm::OfferPttIds(const QStringList& entries, int entry) {
-    comPTTID_->SetEntries(entries);
-    comPTTID_->ShowEntry(HasReceive() ? entry : NoEntry);
-}
-
-void ChannelEditForm::TakePttId() {
-    if (windows_.grid && HasReceive()) {
-        Texts().PttIdText = FromQString(windows_.grid->CellText(channel_, column::PttId));
+void ChannelEditForm::OnPriorityMode() {
+    if (IsOpen()) {
+        EnablePriorityMark();
     }
 }
 
-// --- What the grid tells ---------------------------------------------------------------------------------------------
+void ChannelEditForm::OnPriorityChannel(int n) {
+    // Intended: emptying the scan window's box leaves the mark until the channel is shown anew.
+    if (IsOpen() && n != 0) {
+        ShowPriorityMark(n);
+    }
+}
 
-void ChannelEditForm::ShowLoadedRow() {
+// --- PTT ID ----------------------------------------------------------------------------------------------------------
+
+void ChannelEditForm::OnPttIdTypeChosen(bool isOn) {
+    if (!IsOpen()) {
+        return;
+    }
+    // Intended: as the list is made anew for each channel, it shows what the last programmed one has.
+    comPTTID_->SetEntries(ToQStrings(PttIdTypeEntries(session_.Image, session_.LanguageFlag)));
+    comPTTID_->ShowEntry(!HasReceive() ? NoEntry : isOn ? 1 : 0);
+    TakePttId();
+}
+
+void ChannelEditForm::OnPttIdsRefreshed() {
+    if (IsOpen()) {
+        TakePttId();
+    }
+}
+
+/// The working texts take the PTT ID of the row, where the channel is programmed.
+void ChannelEditForm::TakePttId() {
+    if (HasReceive()) {
+        Texts().PttIdText = session_.Channels.CellText(channel_, column::PttId);
+    }
+}
+
+// --- What the grid tells, after it changed the working texts
+// -----------------------------------------------------------
+
+void ChannelEditForm::OnDecoded() {
+    if (IsOpen()) {
+        ShowChannel(channel_);
+    }
+}
+
+void ChannelEditForm::OnGridChannel(int n) {
+    if (IsOpen()) {
+        GoToChannel(n);
+    }
+}
+
+void ChannelEditForm::OnRowCleared(int /*k*/) {
+    if (IsOpen()) {
+        BlankChannelDialog();
+    }
+}
+
+void ChannelEditForm::OnRowOpened(int /*k*/) {
+    if (!IsOpen()) {
+        return;
+    }
+    if (Texts().RxText.empty()) {
+        BlankChannelDialog();
+        return;
+    }
     const QScopedValueRollback<bool> showing(showing_, true);
     txtRxFreq_->setText(ToQString(Texts().RxText));
     txtTxFreq_->setText(ToQString(Texts().TxText));
@@ -226,25 +262,36 @@ void ChannelEditForm::ShowLoadedRow() {
     }
 }
 
-void ChannelEditForm::ShowReceiveCommit(bool hasSignal, bool asTyped) {
-    const QScopedValueRollback<bool> showing(showing_, true);
-    ChannelTexts& texts = Texts();
-    if (!hasSignal) {
-        texts.OptSignalText = asTyped ? std::string() : std::string(session_.LoadText(Text::None));
+void ChannelEditForm::OnTextEdited(int /*k*/, int column) {
+    if (!IsOpen()) {
+        return;
     }
+    const QScopedValueRollback<bool> showing(showing_, true);
+    switch (column) {
+    case column::Rx:
+        ShowReceiveCommit();
+        break;
+    case column::Tx:
+        ShowTransmitCommit();
+        break;
+    default:
+        ShowCellChoice(column);
+        break;
+    }
+}
+
+void ChannelEditForm::ShowReceiveCommit() {
     ShowProgrammedChannel();
-    chkScanAdd_->setChecked(texts.ScanAddText != session_.LoadText(Text::No));
+    chkScanAdd_->setChecked(Texts().ScanAddText != session_.LoadText(Text::No));
 }
 
 void ChannelEditForm::ShowTransmitCommit() {
-    const QScopedValueRollback<bool> showing(showing_, true);
     txtTxFreq_->setText(ToQString(Texts().TxText));
     PutTone(*comEncode_, Texts().EncText);
     EnableEncode(!Texts().TxText.empty());
 }
 
 void ChannelEditForm::ShowCellChoice(int column) {
-    const QScopedValueRollback<bool> showing(showing_, true);
     const ChannelTexts& texts = Texts();
     switch (column) {
     case column::Decode:

@@ -104,7 +104,7 @@ void ChildWindows::OpenChildWindow(ChildWindow window) {
         return;
     }
     if (window == ChildWindow::Channels) {
-        session_.CurrentChannel = 1;
+        session_.Cursor.SetCurrentChannel(1);
     }
     list_.Show(*entry, ListCaption(window));
     list_.Mark(*entry);
@@ -264,7 +264,7 @@ void ChildWindows::Arrange(Arrangement arrangement) {
 
 std::string ChildWindows::ListCaption(ChildWindow window) const {
     const int entry = WindowListEntry(window).value_or(0);
-    return entry == 0 ? ChannelCaption(session_.LanguageFlag, session_.CurrentChannel)
+    return entry == 0 ? ChannelCaption(session_.LanguageFlag, session_.Cursor.CurrentChannel())
                       : std::string(session_.LoadText(Captions[static_cast<std::size_t>(entry - 1)]));
 }
 

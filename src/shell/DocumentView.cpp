@@ -52,7 +52,7 @@ void DocumentView::PlaceGrid() {
 }
 
 void DocumentView::DecodeImageToGrid() {
-    Grid().DecodeImageToGrid();
+    session_.Channels.DecodeImageToGrid(session_.Image, session_.LanguageFlag);
 }
 
 void DocumentView::ListNewDocument() {
@@ -65,8 +65,8 @@ void DocumentView::ListNewDocument() {
 void DocumentView::ListGrid() {
     list_.SetMenuShown(true);
     if (!list_.IsShown(GridEntry)) {
-        session_.CurrentChannel = 1;
-        list_.Show(GridEntry, ChannelCaption(session_.LanguageFlag, session_.CurrentChannel));
+        session_.Cursor.SetCurrentChannel(1);
+        list_.Show(GridEntry, ChannelCaption(session_.LanguageFlag, session_.Cursor.CurrentChannel()));
         list_.ClearMark(GridEntry);
     }
 }

@@ -5,8 +5,6 @@
 #include <QWidget>
 #include <utility>
 
-#include "channels/ChannelForm.h"
-#include "channels/ChannelWindows.h"
 #include "controls/PendingEdit.h"
 #include "shell/ChildWindows.h"
 #include "shell/DocumentView.h"
@@ -37,10 +35,7 @@ void LanguageCommand::Switch() {
     windows_.view.PlaceGrid();
     windows_.view.ShowTitle();
     windows_.applyMainWindowTexts();
-    // A grid that was unloaded is made in the current language.
-    if (ChannelForm* grid = windows_.channels.grid) {
-        grid->SwitchLanguage();
-    }
+    session_.Channels.Translate(session_.Image, session_.LanguageFlag);
 }
 
 } // namespace zelvor

@@ -9,7 +9,6 @@ namespace zelvor {
 class ChildWindows;
 class DocumentView;
 class Session;
-struct ChannelWindows;
 struct Services;
 
 /// The choice of the language, and the switch of what is on screen where it has changed: the editors close, and the
@@ -21,7 +20,6 @@ public:
     struct Windows {
         ChildWindows& children;
         DocumentView& view;
-        const ChannelWindows& channels;
         QWidget& mainWindow;
         std::function<void()> applyMainWindowTexts;
     };

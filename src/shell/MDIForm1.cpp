@@ -83,7 +83,6 @@ MDIForm1::MDIForm1(Session& session, Services& services) : session_(session), se
     ConnectToolbar();
     RegisterChildWindows();
     RestoreSession();
-    isStarted_ = true;
 }
 
 MDIForm1::~MDIForm1() {
@@ -119,12 +118,11 @@ void MDIForm1::SetUpWindow() {
                                     [this] { windowList_->Mark(TestModeListEntry); },
                                     [this](const QString& text) { statusBar1_->ShowExchange(text); }});
     language_ = std::make_unique<LanguageCommand>(
-        session_, services_,
-        LanguageCommand::Windows{*children_, *view_, channelWindows_, *this, [this] { ApplyLanguage(); }});
+        session_, services_, LanguageCommand::Windows{*children_, *view_, *this, [this] { ApplyLanguage(); }});
 }
 
 void MDIForm1::RestoreSession() {
-    session_.PriorityChannelError = false;
+    session_.Priority.SetError(false);
     session_.OwnIdError = false;
     session_.TxCodeError = false;
     session_.ExitConfirmed = false;
@@ -158,32 +156,26 @@ void MDIForm1::StartClock() {
 void MDIForm1::RegisterChildWindows() {
     children_->Register(ChildWindow::Channels, [this] { return MakeGrid(); });
     children_->Register(ChildWindow::Navigator, [this] { return MakeNavigator(); });
-    children_->Register(ChildWindow::OptionalFeatures,
-                        [this] { return new OptionalForm(session_, services_, channelWindows_); });
+    children_->Register(ChildWindow::OptionalFeatures, [this] { return new OptionalForm(session_, services_); });
     children_->Register(ChildWindow::KeyAssignment, [this] { return new KeyAssign(session_, services_); });
     children_->Register(ChildWindow::Dtmf, [this] { return new DTMFForm(session_, services_); });
     children_->Register(ChildWindow::Corvane, [this] { return new CorvaneForm(session_, services_); });
-    children_->Register(ChildWindow::Scan, [this] { return new ScanForm(session_, services_, channelWindows_); });
-    children_->Register(ChildWindow::TestFrequency,
-                        [this] { return new TestChannelForm(session_, services_, channelWindows_); });
-    children_->Register(ChildWindow::EmbeddedMessage,
-                        [this] { return new EmbedInfoForm(session_, services_, channelWindows_); });
-    children_->Register(ChildWindow::ChannelEdit,
-                        [this] { return new ChannelEditForm(session_, services_, channelWindows_); });
+    children_->Register(ChildWindow::Scan, [this] { return new ScanForm(session_, services_); });
+    children_->Register(ChildWindow::TestFrequency, [this] { return new TestChannelForm(session_, services_); });
+    children_->Register(ChildWindow::EmbeddedMessage, [this] { return new EmbedInfoForm(session_, services_); });
+    children_->Register(ChildWindow::ChannelEdit, [this] { return new ChannelEditForm(session_, services_); });
 }
 
 ChildForm* MDIForm1::MakeGrid() {
-    auto* grid = new ChannelForm(session_, services_, channelWindows_);
-    connect(grid, &ChannelForm::ChannelEditRequested, this,
-            [this] { children_->OpenChildWindow(ChildWindow::ChannelEdit); });
+    auto* grid = new ChannelForm(session_, services_);
+    connect(grid, &ChannelForm::ChannelEditRequested, this, [this] {
+        children_->OpenChildWindow(ChildWindow::ChannelEdit);
+        static_cast<ChannelEditForm&>(children_->Load(ChildWindow::ChannelEdit)).OpenOnEditChannel();
+    });
     connect(grid, &ChannelForm::ChannelEditHideRequested, this,
             [this] { children_->CloseByHiding(ChildWindow::ChannelEdit); });
     connect(grid, &ChannelForm::ChannelEditUnloadRequested, this,
             [this] { children_->CloseByUnloading(ChildWindow::ChannelEdit); });
-    // A grid that is made again after a cancelled exit must show the document that is there.
-    if (isStarted_) {
-        grid->DecodeImageToGrid();
-    }
     return grid;
 }
 

@@ -3,7 +3,6 @@
 #include <QMainWindow>
 #include <memory>
 
-#include "channels/ChannelWindows.h"
 #include "platform/QtLanguage.h"
 
 namespace zelvor {
@@ -76,7 +75,6 @@ private:
     Session& session_;
     Services& services_;
     QtLanguage toolkitLanguage_;
-    ChannelWindows channelWindows_;
     std::unique_ptr<Menus> menus_;
     std::unique_ptr<WindowList> windowList_;
     std::unique_ptr<ChildWindows> children_;
@@ -88,7 +86,6 @@ private:
     std::unique_ptr<Timer> tmrStatusBar_;
     Toolbar1* toolbar1_ = nullptr;
     StatusBar1* statusBar1_ = nullptr;
-    bool isStarted_ = false;
 };
 
 } // namespace zelvor

@@ -52,7 +52,7 @@ TEST_F(StartUpTest, TheHelpFileIsTheEnglishOneInEnglish) {
 }
 
 TEST_F(StartUpTest, TheSessionStartsCleanWhateverItHeld) {
-    session.PriorityChannelError = true;
+    session.Priority.SetError(true);
     session.OwnIdError = true;
     session.TxCodeError = true;
     session.ExitConfirmed = true;
@@ -60,7 +60,7 @@ TEST_F(StartUpTest, TheSessionStartsCleanWhateverItHeld) {
     session.Link.SentState = 4;
     session.CommPortNumber = 7;
     OpenMainWindow();
-    EXPECT_FALSE(session.PriorityChannelError || session.OwnIdError || session.TxCodeError);
+    EXPECT_FALSE(session.Priority.PriorityChannelError() || session.OwnIdError || session.TxCodeError);
     EXPECT_FALSE(session.ExitConfirmed || session.SaveCancelled);
     EXPECT_EQ(session.Link.SentState, 55);
     EXPECT_EQ(session.CommPortNumber, 1);
@@ -72,7 +72,7 @@ TEST_F(StartUpTest, TheGridIsOpenListedAndActive) {
     EXPECT_TRUE(IsChildShown("ChannelForm"));
     EXPECT_EQ(Child("ChannelForm")->parentWidget()->pos(), QPoint(0, 0));
     EXPECT_EQ(session.ChildOpen, (std::array<bool, 10>{true}));
-    EXPECT_EQ(session.CurrentChannel, 1);
+    EXPECT_EQ(session.Cursor.CurrentChannel(), 1);
     EXPECT_TRUE(Entry("MnuWindowSub(0)")->isVisible());
     EXPECT_TRUE(Entry("MnuWindowSub(0)")->isChecked());
     EXPECT_TRUE(Entry("MnuWindow")->isVisible());
