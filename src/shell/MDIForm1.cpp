@@ -83,6 +83,7 @@ MDIForm1::MDIForm1(Session& session, Services& services) : session_(session), se
     ConnectToolbar();
     RegisterChildWindows();
     RestoreSession();
+    isStarted_ = true;
 }
 
 MDIForm1::~MDIForm1() {
@@ -176,6 +177,10 @@ ChildForm* MDIForm1::MakeGrid() {
             [this] { children_->CloseByHiding(ChildWindow::ChannelEdit); });
     connect(grid, &ChannelForm::ChannelEditUnloadRequested, this,
             [this] { children_->CloseByUnloading(ChildWindow::ChannelEdit); });
+    // A grid that is made again after a cancelled exit must show the document that is there.
+    if (isStarted_) {
+        session_.Channels.DecodeImageToGrid(session_.Image, session_.LanguageFlag);
+    }
     return grid;
 }
 

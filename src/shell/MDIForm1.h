@@ -86,6 +86,7 @@ private:
     std::unique_ptr<Timer> tmrStatusBar_;
     Toolbar1* toolbar1_ = nullptr;
     StatusBar1* statusBar1_ = nullptr;
+    bool isStarted_ = false;
 };
 
 } // namespace zelvor
