@@ -24,7 +24,7 @@ constexpr int HelpContextBase = 4100;
 
 ChannelCellEditor::ChannelCellEditor(Session& session, Services& services, EditGrid& grid, QWidget* panel,
                                      ToneLists tones)
-    : QObject(panel), session_(session), services_(services), grid_(grid), tones_(tones),
+    : QObject(panel), session_(session), services_(services), editor_(session), grid_(grid), tones_(tones),
       txtInputBox_(new CellTextEditor(panel)), comInputStep_(new CellListEditor(panel)) {
     txtInputBox_->setObjectName("txtInputBox");
     txtInputBox_->setMaxLength(FrequencyLength);
@@ -164,11 +164,6 @@ void ChannelCellEditor::Leave() {
     LeaveList();
 }
 
-void ChannelCellEditor::EncodeRow() {
-    session_.Channels.EncodeChannelRow(session_.Image, session_.LanguageFlag, session_.Cursor.CurrentChannel(),
-                                       session_.TxCodeError);
-}
-
 // --- Frequencies -----------------------------------------------------------------------------------------------------
 
 void ChannelCellEditor::OnTextChanged(const QString& text) {
@@ -212,41 +207,29 @@ void ChannelCellEditor::CommitText() {
 }
 
 void ChannelCellEditor::CommitReceive(const QString& text) {
-    ChannelTable& table = session_.Channels;
     const int k = session_.Cursor.CurrentChannel();
     if (text.isEmpty()) {
-        table.ClearChannelData(session_.Image, k);
+        editor_.Blank(k);
         return;
     }
     const NormalisedFrequency entered = EnterFrequency(session_, services_, FromQString(text), FrequencyCaution);
-    const bool beside = IsDialogOpen(); // behind the message, which may outlive the dialog
-    table.Texts().RxText = entered.text;
     if (!entered.outOfRange) {
         CellUndoText = ToQString(entered.text);
     }
     // Retyping a complete frequency leaves the row's other columns alone: defaults come only with a completed one, or
-    // with the dialog beside.
-    const bool asTyped = entered.text == FromQString(text);
-    if (!asTyped || beside) {
-        table.CompleteChannelDefaults(session_.Image, session_.LanguageFlag, k);
-    }
-    if (beside && table.CellText(k, column::OptSignal).empty()) {
-        table.Texts().OptSignalText = asTyped ? std::string() : std::string(session_.LoadText(Text::None));
-    }
-    table.TellEdited(k, column::Rx);
-    EncodeRow();
+    // with the dialog beside, which then shows no option signalling where there was none.
+    const bool isCompleted = entered.text != FromQString(text);
+    const bool hasDefaults = isCompleted || IsDialogOpen(); // behind the message, which may outlive the dialog
+    editor_.CommitReceive(k, {.frequency = entered.text,
+                              .completesTexts = hasDefaults,
+                              .completesSignalling = isCompleted,
+                              .clearsHiddenFields = hasDefaults});
 }
 
 void ChannelCellEditor::CommitTransmit(const QString& text) {
-    ChannelTexts& texts = session_.Channels.Texts();
-    if (text.isEmpty()) {
-        texts.TxText.clear();
-        texts.EncText = session_.LoadText(Text::None);
-    } else {
-        texts.TxText = EnterFrequency(session_, services_, FromQString(text), FrequencyCaution).text;
-    }
-    session_.Channels.TellEdited(session_.Cursor.CurrentChannel(), column::Tx);
-    EncodeRow();
+    const std::string frequency =
+        text.isEmpty() ? std::string() : EnterFrequency(session_, services_, FromQString(text), FrequencyCaution).text;
+    editor_.CommitTransmit(session_.Cursor.CurrentChannel(), {.frequency = frequency});
 }
 
 // --- Tones and choices -----------------------------------------------------------------------------------------------
@@ -265,26 +248,18 @@ void ChannelCellEditor::OnSelected(const std::string& text) {
     if (state_ != State::ListEditing) {
         return;
     }
-    const std::string chosen = CycleActive ? CycledText : text;
-    ChannelTexts& texts = session_.Channels.Texts();
-    const bool deadEncode = session_.Cursor.CurrentCol() == column::Encode && texts.TxText.empty();
-    const std::string value = deadEncode ? std::string(session_.LoadText(Text::None)) : chosen;
-    texts.*GridTexts[static_cast<std::size_t>(session_.Cursor.CurrentCol()) - 1] = value;
+    const std::string value = editor_.Choose(
+        session_.Cursor.CurrentChannel(),
+        {.column = session_.Cursor.CurrentCol(), .text = CycleActive ? CycledText : text, .encodeNeedsTransmit = true});
     comInputStep_->PutText(ToQString(value));
-    session_.Channels.TellEdited(session_.Cursor.CurrentChannel(), session_.Cursor.CurrentCol());
-    EncodeRow();
     CycledText = value;
     CellUndoText = ToQString(CycledText);
     CycleActive = false;
 }
 
 void ChannelCellEditor::CommitTone() {
-    ChannelTexts& texts = session_.Channels.Texts();
-    const std::string tone = NormaliseTone(FromQString(comInputStep_->currentText()), session_.LanguageFlag);
-    (session_.Cursor.CurrentCol() == column::Decode ? texts.DecText : texts.EncText) = tone;
-    CycledText = tone;
-    session_.Channels.TellEdited(session_.Cursor.CurrentChannel(), session_.Cursor.CurrentCol());
-    EncodeRow();
+    CycledText = NormaliseTone(FromQString(comInputStep_->currentText()), session_.LanguageFlag);
+    editor_.Choose(session_.Cursor.CurrentChannel(), {.column = session_.Cursor.CurrentCol(), .text = CycledText});
 }
 
 void ChannelCellEditor::LeaveList() {

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "channels/ChannelEditor.h"
+
 class QKeyEvent;
 
 namespace zelvor {
@@ -63,13 +65,13 @@ private:
     void CommitTone();
     void LeaveList();
 
-    void EncodeRow();
     [[nodiscard]] bool IsRowBlank(int row) const;
     [[nodiscard]] bool HasTransmit(int row) const;
     [[nodiscard]] bool IsDialogOpen() const;
 
     Session& session_;
     Services& services_;
+    ChannelEditor editor_;
     EditGrid& grid_;
     ToneLists tones_;
     CellTextEditor* txtInputBox_;

@@ -2,22 +2,16 @@
 
 #include <string>
 
+#include "channels/ChannelEditPanel.h"
+#include "channels/ChannelEditor.h"
 #include "controls/ChildForm.h"
 #include "data/ChannelCursor.h"
 #include "data/ChannelPriority.h"
 #include "data/ChannelTable.h"
-#include "data/Fields.h"
-
-class QCheckBox;
-class QGridLayout;
-class QLabel;
-class QPushButton;
 
 namespace zelvor {
 
 class FieldList;
-class FilteredLineEdit;
-class SpinText;
 struct Services;
 
 /// The channel edit dialog: one channel with every field of its record, beside the grid and in step with it. Edits
@@ -37,14 +31,15 @@ public:
     /// An edit that is still open when the window is unloaded is dropped.
     ~ChannelEditForm() override;
 
-    /// Shows channel Session::EditChannel, with the text of txtChannel selected and the focus on it.
+    /// Shows channel ChannelCursor::EditChannel, with the text of txtChannel selected and the focus on it.
     void OpenOnEditChannel();
     /// Lets txtChannel and UpDown1 name a channel (1 to 16), which is then shown.
     void GoToChannel(int n);
     /// The channel in txtChannel.
     [[nodiscard]] int Channel() const { return channel_; }
-    /// Writes the working texts and the Scan Add mark into grid row and record of the channel.
-    void CommitDialog();
+    /// Writes the working texts and the Scan Add mark into row and record of the channel; blanksTexts: after emptying
+    /// the nine that have a column.
+    void CommitDialog(bool blanksTexts = false);
 
     void CloseFromFrame() override;
     [[nodiscard]] std::string_view HelpPage() const override { return "chedit.htm"; }
@@ -63,14 +58,6 @@ private:
     void OnPriorityMode() override;
     void OnPriorityChannel(int n) override;
 
-    void BuildChannel();
-    void BuildFrame();
-    void BuildFields();
-    void BuildToneLists();
-    void BuildChecks();
-    void BuildButtons();
-    void PlaceField(const char* labelName, QLabel*& label, QWidget* field, const FieldWord& caption);
-    void SetTexts();
     void ConnectFields();
     void ConnectLists();
 
@@ -93,17 +80,11 @@ private:
     void ShowPriorityMark(int n);
     void TakePttId();
     void EnableEncode(bool enabled);
-    void PutTone(FieldList& list, const std::string& tone);
     void BuildDependentLists();
-    [[nodiscard]] bool AreDependentListsRight() const;
-    [[nodiscard]] bool HasTone() const;
-    [[nodiscard]] bool HasSignalling() const;
 
     void OnReceiveText(const QString& text);
     void OnReceiveLeft();
-    void CompleteFields();
-    void CompleteDependentLists();
-    void CompleteNewChannel();
+    void ShowCompletedTexts();
     void OnTransmitText(const QString& text);
     void OnTransmitLeft();
     void OnToneLeft(FieldList& list);
@@ -112,15 +93,12 @@ private:
 
     void OnToneSelected(FieldList& list);
     void OnSignalSelected();
+    void Choose(const FieldList& list, int column);
+    [[nodiscard]] int ToneColumn(const FieldList& list) const;
     void RebuildDependentLists();
     void StoreSpMute();
     void StoreBusyLock();
-    void StoreAutoDial();
-    void StoreShift();
-    void StoreCompander();
-    void StoreScanAdd();
     void StorePriority(bool checked);
-    void StoreCell(const FieldList& list, std::string ChannelTexts::*field, int column);
     void OnPttIdFocus();
 
     /// Whether leaving or choosing may still store something: not once the window is being closed.
@@ -128,45 +106,11 @@ private:
     [[nodiscard]] bool IsOpen() const;
     [[nodiscard]] bool HasReceive() const;
     [[nodiscard]] ChannelTexts& Texts();
-    [[nodiscard]] std::uint8_t RecordByte(int j) const;
-    void SetRecordByte(int j, std::uint8_t value);
 
     Session& session_;
     Services& services_;
-
-    QLabel* labChannel_ = nullptr;
-    SpinText* channelSpin_ = nullptr;
-    QWidget* frame1_ = nullptr;
-    QGridLayout* fields_ = nullptr;
-    QLabel* labRxFreq_ = nullptr;
-    FilteredLineEdit* txtRxFreq_ = nullptr;
-    QLabel* labTxFreq_ = nullptr;
-    FilteredLineEdit* txtTxFreq_ = nullptr;
-    QLabel* labQTdec_ = nullptr;
-    FieldList* comDecode_ = nullptr;
-    QLabel* labQTenc_ = nullptr;
-    FieldList* comEncode_ = nullptr;
-    QLabel* labOptional_ = nullptr;
-    FieldList* comSelSignal_ = nullptr;
-    QLabel* labSPmute_ = nullptr;
-    FieldList* comSPMute_ = nullptr;
-    QLabel* labTxPower_ = nullptr;
-    FieldList* comTxPower_ = nullptr;
-    QLabel* labWN_ = nullptr;
-    FieldList* comWideNarrow_ = nullptr;
-    QLabel* labBusyLock_ = nullptr;
-    FieldList* comBusyLock_ = nullptr;
-    QLabel* labPTTID_ = nullptr;
-    FieldList* comPTTID_ = nullptr;
-    QLabel* labAutoDial_ = nullptr;
-    FieldList* comAutoDial_ = nullptr;
-    QCheckBox* chkShift_ = nullptr;
-    QCheckBox* chkScanAdd_ = nullptr;
-    QCheckBox* chkPriorityChannel_ = nullptr;
-    QCheckBox* chkYaKuo_ = nullptr;
-    QPushButton* cmdOK_ = nullptr;
-    QPushButton* cmdHelp_ = nullptr;
-
+    ChannelEditor editor_;
+    ChannelEditPanel fields_;
     int channel_ = 1;
     bool showing_ = false; // controls are being given values, which nobody entered
     bool WasBlank = false; // txtRxFreq was empty when it took the focus

@@ -120,10 +120,6 @@ void ChannelTable::ClearTexts() {
     }
 }
 
-void ChannelTable::CompleteChannelDefaults(DataImage& image, Language language, int k) {
-    codec_.CompleteChannelDefaults(image, language, k, std::string(Texts().RxText));
-}
-
 void ChannelTable::TellEdited(int k, int column) const {
     observers_.Tell(&ChannelTableObserver::OnTextEdited, k, column);
 }

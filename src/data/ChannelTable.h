@@ -88,8 +88,12 @@ public:
     void ClearChannelData(DataImage& image, int k);
     /// Blanks the nine working texts that have a column.
     void ClearTexts();
-    /// See ChannelCodec::CompleteChannelDefaults.
-    void CompleteChannelDefaults(DataImage& image, Language language, int k);
+    // The two parts of ChannelCodec::CompleteChannelDefaults.
+
+    void CompleteTexts(const DataImage& image, Language language, bool signalling) {
+        codec_.CompleteTexts(image, language, signalling);
+    }
+    void ClearHiddenFields(DataImage& image, Language language, int k) { codec_.ClearHiddenFields(image, language, k); }
     /// Tells OnTextEdited.
     void TellEdited(int k, int column) const;
 
