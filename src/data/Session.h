@@ -68,10 +68,8 @@ public:
 
     std::string CurrentFileName = std::string(DefaultFileName); // full path, or the bare default name; UTF-8
     std::string CurrentDirectory;                               // for the file dialogs; empty until an Open or Save As
-    std::string HelpFile; // the help file of the current language, behind the program's directory
 
     Language LanguageFlag = Language::English;
-    bool LanguageChanged = false;
     bool ExitConfirmed = false; // Yes was said to the exit question; stays set when the close is then cancelled
     bool SaveCancelled = false;
 

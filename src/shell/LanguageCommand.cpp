@@ -21,13 +21,18 @@ void LanguageCommand::Choose() {
     // window takes it: where nothing has it, the toolkit hands it to the grid after the dialog, which raises the grid.
     const QPointer<QWidget> focus = QApplication::focusWidget();
     windows_.mainWindow.setFocus(Qt::OtherFocusReason);
-    LanguageForm(session_, services_, &windows_.mainWindow).exec();
-    if (session_.LanguageChanged) {
+    if (AskLanguage()) {
         Switch();
     }
     if (focus && focus->isVisible()) {
         focus->setFocus(Qt::OtherFocusReason);
     }
+}
+
+bool LanguageCommand::AskLanguage() {
+    LanguageForm dialog(session_, services_, &windows_.mainWindow);
+    dialog.exec();
+    return dialog.LanguageChanged();
 }
 
 void LanguageCommand::Switch() {

@@ -29,6 +29,8 @@ public:
     void Choose();
 
 private:
+    /// Whether the dialog has changed the language.
+    [[nodiscard]] bool AskLanguage();
     void Switch();
 
     Session& session_;

@@ -143,7 +143,6 @@ void MDIForm1::RestoreSession() {
     view_->ShowTitle();
     view_->ShowGrid();
     view_->PlaceGrid();
-    session_.HelpFile = HelpFilePath(session_.LanguageFlag);
 }
 
 void MDIForm1::StartClock() {

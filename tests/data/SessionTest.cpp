@@ -18,7 +18,7 @@ TEST(Session, StartsWithANamelessEnglishDocument) {
     EXPECT_EQ(session.CurrentDirectory, "");
     EXPECT_EQ(session.LanguageFlag, Language::English);
     EXPECT_FALSE(session.HasFile());
-    EXPECT_FALSE(session.LanguageChanged || session.ExitConfirmed || session.SaveCancelled);
+    EXPECT_FALSE(session.ExitConfirmed || session.SaveCancelled);
     EXPECT_FALSE(session.Priority.PriorityChannelError() || session.OwnIdError || session.TxCodeError);
     EXPECT_EQ(session.CommPortNumber, 1);
     EXPECT_EQ(session.Cursor.CurrentChannel(), 1);

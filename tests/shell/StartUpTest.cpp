@@ -43,12 +43,14 @@ TEST_F(StartUpTest, TheRememberedLanguageIsUsedFromTheStart) {
     OpenMainWindowInChinese();
     EXPECT_EQ(window->windowTitle(), "Zelvor [4618: VHF: 136-174 MHz(M)] [ 文件名:Zelvor.dat]");
     EXPECT_EQ(TextOf("MnuWindowSub(0)"), " 信道信息 [ 信道 - 1 ]");
-    EXPECT_TRUE(QString::fromStdString(session.HelpFile).endsWith("\\Zelvor_c.chm"));
+    Choose("MnuHelpTopics");
+    EXPECT_TRUE(fakes.help.Topics().back().ends_with("\\Zelvor_c.chm::/html/general.htm"));
 }
 
 TEST_F(StartUpTest, TheHelpFileIsTheEnglishOneInEnglish) {
     OpenMainWindow();
-    EXPECT_TRUE(QString::fromStdString(session.HelpFile).endsWith("\\Zelvor_e.chm"));
+    Choose("MnuHelpTopics");
+    EXPECT_TRUE(fakes.help.Topics().back().ends_with("\\Zelvor_e.chm::/html/general.htm"));
 }
 
 TEST_F(StartUpTest, TheSessionStartsCleanWhateverItHeld) {
