@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "data/ChannelCodec.h"
 #include "text/StringTable.h"
 
 namespace zelvor {

@@ -4,7 +4,6 @@
 #include <QScopedValueRollback>
 
 #include "channels/CellValues.h"
-#include "channels/ChannelEditForm.h"
 #include "channels/FrequencyEntry.h"
 #include "channels/ToneKeys.h"
 #include "controls/CellListEditor.h"
@@ -23,8 +22,9 @@ constexpr int HelpContextBase = 4100;
 
 } // namespace
 
-ChannelCellEditor::ChannelCellEditor(Session& session, Services& services, EditGrid& grid, QWidget* panel, Owner owner)
-    : QObject(panel), session_(session), services_(services), grid_(grid), owner_(std::move(owner)),
+ChannelCellEditor::ChannelCellEditor(Session& session, Services& services, EditGrid& grid, QWidget* panel,
+                                     ToneLists tones)
+    : QObject(panel), session_(session), services_(services), editor_(session), grid_(grid), tones_(tones),
       txtInputBox_(new CellTextEditor(panel)), comInputStep_(new CellListEditor(panel)) {
     txtInputBox_->setObjectName("txtInputBox");
     txtInputBox_->setMaxLength(FrequencyLength);
@@ -51,9 +51,9 @@ ChannelCellEditor::ChannelCellEditor(Session& session, Services& services, EditG
 
 void ChannelCellEditor::OnCellClicked() {
     const int row = grid_.Row();
-    if (grid_.Text(row, column::Rx).isEmpty()) {
+    if (IsRowBlank(row)) {
         grid_.MoveTo(row, column::Rx);
-    } else if (grid_.Column() == column::Encode && grid_.Text(row, column::Tx).isEmpty()) {
+    } else if (grid_.Column() == column::Encode && !HasTransmit(row)) {
         grid_.MoveTo(row, column::Tx);
     }
     ShowCellEditor();
@@ -75,8 +75,8 @@ void ChannelCellEditor::OnGridKey(QKeyEvent* event) {
 void ChannelCellEditor::OnGridCharacter(QChar character) {
     const int row = grid_.Row();
     const int cursor = grid_.Column();
-    const bool hasRx = !grid_.Text(row, column::Rx).isEmpty();
-    const bool hasTx = !grid_.Text(row, column::Tx).isEmpty();
+    const bool hasRx = !IsRowBlank(row);
+    const bool hasTx = HasTransmit(row);
     if (IsFrequencyColumn(cursor)) {
         if (IsToneLetter(character.unicode())) {
             return;
@@ -107,19 +107,16 @@ void ChannelCellEditor::OnGridScrolled() {
     }
 }
 
-void ChannelCellEditor::LoadRowIntoFields(int row) {
-    ChannelTexts& texts = session_.Channels.Texts;
-    for (int column = 1; column <= column::Count; ++column) {
-        texts.*GridTexts[static_cast<std::size_t>(column) - 1] = FromQString(grid_.Text(row, column));
-    }
-    session_.Channels.LoadHiddenFields(session_.Image, session_.LanguageFlag, row);
-    if (ChannelEditForm* dialog = owner_.openDialog()) {
-        if (texts.RxText.empty()) {
-            dialog->BlankChannelDialog();
-        } else {
-            dialog->ShowLoadedRow();
-        }
-    }
+bool ChannelCellEditor::IsRowBlank(int row) const {
+    return !session_.Channels.IsProgrammed(row);
+}
+
+bool ChannelCellEditor::HasTransmit(int row) const {
+    return !session_.Channels.CellText(row, column::Tx).empty();
+}
+
+bool ChannelCellEditor::IsDialogOpen() const {
+    return session_.IsOpen(ChildWindow::ChannelEdit);
 }
 
 void ChannelCellEditor::ShowCellEditor() {
@@ -128,16 +125,10 @@ void ChannelCellEditor::ShowCellEditor() {
     }
     const int row = grid_.Row();
     const int cursor = grid_.Column();
-    session_.CurrentChannel = row;
-    session_.EditChannel = row;
-    session_.CurrentCol = cursor;
-    owner_.showChannelInCaption(row);
-    if (ChannelEditForm* dialog = owner_.openDialog()) {
-        dialog->GoToChannel(row);
-    }
+    session_.Cursor.GoToCell(row, cursor);
     CellUndoText = grid_.Text(row, cursor);
-    LoadRowIntoFields(row);
-    if (cursor != column::Rx && grid_.Text(row, column::Rx).isEmpty()) {
+    session_.Channels.OpenRow(session_.Image, session_.LanguageFlag, row);
+    if (cursor != column::Rx && IsRowBlank(row)) {
         return;
     }
     const int helpContext = HelpContextBase + cursor;
@@ -150,9 +141,9 @@ void ChannelCellEditor::ShowCellEditor() {
     }
     state_ = State::ListEditing;
     CycleActive = false;
-    const QStringList entries = cursor == column::Decode ? ToQStrings(owner_.toneListDec())
+    const QStringList entries = cursor == column::Decode ? ToQStrings(tones_.decode)
                                 : cursor == column::Encode
-                                    ? ToQStrings(owner_.toneListEnc())
+                                    ? ToQStrings(tones_.encode)
                                     : ToQStrings(CellChoices(cursor, session_.Image, session_.LanguageFlag));
     comInputStep_->setProperty("HelpContextID", helpContext);
     comInputStep_->ShowOver(grid_, entries, CellUndoText, IsToneColumn(cursor));
@@ -173,18 +164,13 @@ void ChannelCellEditor::Leave() {
     LeaveList();
 }
 
-void ChannelCellEditor::EncodeAndRefresh() {
-    owner_.encodeChannelRow(session_.CurrentChannel);
-    session_.Channels.RefreshChannelBytes(session_.Image);
-}
-
 // --- Frequencies -----------------------------------------------------------------------------------------------------
 
 void ChannelCellEditor::OnTextChanged(const QString& text) {
     if (loading_ || state_ != State::TextEditing) {
         return;
     }
-    grid_.SetText(session_.CurrentChannel, session_.CurrentCol, text);
+    grid_.SetText(session_.Cursor.CurrentChannel(), session_.Cursor.CurrentCol(), text);
     if (text.size() == FrequencyLength) {
         CommitText();
     }
@@ -194,7 +180,7 @@ void ChannelCellEditor::OnTextEnded(bool restore) {
     if (restore) {
         const QScopedValueRollback<bool> loading(loading_, true);
         txtInputBox_->setText(CellUndoText);
-        grid_.SetText(session_.CurrentChannel, session_.CurrentCol, CellUndoText);
+        grid_.SetText(session_.Cursor.CurrentChannel(), session_.Cursor.CurrentCol(), CellUndoText);
     }
     LeaveText();
     grid_.setFocus();
@@ -207,13 +193,13 @@ void ChannelCellEditor::LeaveText() {
     }
     CommitText();
     HideEditors();
-    owner_.updateFreeArea();
+    emit FrequencyLeft();
 }
 
 void ChannelCellEditor::CommitText() {
     const QScopedValueRollback<bool> committing(committing_, true);
-    session_.EditChannel = session_.CurrentChannel;
-    if (session_.CurrentCol == column::Rx) {
+    session_.Cursor.SetEditChannel(session_.Cursor.CurrentChannel());
+    if (session_.Cursor.CurrentCol() == column::Rx) {
         CommitReceive(txtInputBox_->text());
     } else {
         CommitTransmit(txtInputBox_->text());
@@ -221,59 +207,37 @@ void ChannelCellEditor::CommitText() {
 }
 
 void ChannelCellEditor::CommitReceive(const QString& text) {
+    const int k = session_.Cursor.CurrentChannel();
     if (text.isEmpty()) {
-        owner_.clearChannelData(session_.CurrentChannel);
-        if (ChannelEditForm* dialog = owner_.openDialog()) {
-            dialog->BlankChannelDialog();
-        }
+        editor_.Blank(k);
         return;
     }
-    ChannelTexts& texts = session_.Channels.Texts;
     const NormalisedFrequency entered = EnterFrequency(session_, services_, FromQString(text), FrequencyCaution);
-    ChannelEditForm* dialog = owner_.openDialog(); // behind the message, which may outlive it
-    texts.RxText = entered.text;
     if (!entered.outOfRange) {
-        CellUndoText = ToQString(texts.RxText);
+        CellUndoText = ToQString(entered.text);
     }
     // Retyping a complete frequency leaves the row's other columns alone: defaults come only with a completed one, or
-    // with the dialog beside.
-    const bool asTyped = texts.RxText == FromQString(text);
-    if (!asTyped || dialog != nullptr) {
-        session_.Channels.CompleteChannelDefaults(session_.Image, session_.LanguageFlag, session_.EditChannel,
-                                                  std::string(texts.RxText));
-    }
-    if (dialog != nullptr) {
-        dialog->ShowReceiveCommit(!grid_.Text(session_.EditChannel, column::OptSignal).isEmpty(), asTyped);
-    }
-    EncodeAndRefresh();
+    // with the dialog beside, which then shows no option signalling where there was none.
+    const bool isCompleted = entered.text != FromQString(text);
+    const bool hasDefaults = isCompleted || IsDialogOpen(); // behind the message, which may outlive the dialog
+    editor_.CommitReceive(k, {.frequency = entered.text,
+                              .completesTexts = hasDefaults,
+                              .completesSignalling = isCompleted,
+                              .clearsHiddenFields = hasDefaults});
 }
 
 void ChannelCellEditor::CommitTransmit(const QString& text) {
-    ChannelTexts& texts = session_.Channels.Texts;
-    if (text.isEmpty()) {
-        texts.TxText.clear();
-        texts.EncText = session_.LoadText(Text::None);
-    } else {
-        texts.TxText = EnterFrequency(session_, services_, FromQString(text), FrequencyCaution).text;
-    }
-    if (ChannelEditForm* dialog = owner_.openDialog()) {
-        dialog->ShowTransmitCommit();
-    }
-    EncodeAndRefresh();
+    const std::string frequency =
+        text.isEmpty() ? std::string() : EnterFrequency(session_, services_, FromQString(text), FrequencyCaution).text;
+    editor_.CommitTransmit(session_.Cursor.CurrentChannel(), {.frequency = frequency});
 }
 
 // --- Tones and choices -----------------------------------------------------------------------------------------------
 
-void ChannelCellEditor::TellChoice() {
-    if (ChannelEditForm* dialog = owner_.openDialog()) {
-        dialog->ShowCellChoice(session_.CurrentCol);
-    }
-}
-
 void ChannelCellEditor::OnStepped(int direction) {
     const std::string before = FromQString(comInputStep_->currentText());
-    CycledText = StepCellValue(session_.CurrentCol, before, direction, session_.Image, session_.LanguageFlag,
-                               owner_.toneListDec());
+    CycledText = StepCellValue(session_.Cursor.CurrentCol(), before, direction, session_.Image, session_.LanguageFlag,
+                               tones_.decode);
     if (CycledText != before) {
         CycleActive = true;
         OnSelected(before);
@@ -284,45 +248,37 @@ void ChannelCellEditor::OnSelected(const std::string& text) {
     if (state_ != State::ListEditing) {
         return;
     }
-    const std::string chosen = CycleActive ? CycledText : text;
-    ChannelTexts& texts = session_.Channels.Texts;
-    const bool deadEncode = session_.CurrentCol == column::Encode && texts.TxText.empty();
-    const std::string value = deadEncode ? std::string(session_.LoadText(Text::None)) : chosen;
-    texts.*GridTexts[static_cast<std::size_t>(session_.CurrentCol) - 1] = value;
+    const std::string value = editor_.Choose(
+        session_.Cursor.CurrentChannel(),
+        {.column = session_.Cursor.CurrentCol(), .text = CycleActive ? CycledText : text, .encodeNeedsTransmit = true});
     comInputStep_->PutText(ToQString(value));
-    TellChoice();
-    EncodeAndRefresh();
     CycledText = value;
     CellUndoText = ToQString(CycledText);
     CycleActive = false;
 }
 
 void ChannelCellEditor::CommitTone() {
-    ChannelTexts& texts = session_.Channels.Texts;
-    const std::string tone = NormaliseTone(FromQString(comInputStep_->currentText()), session_.LanguageFlag);
-    (session_.CurrentCol == column::Decode ? texts.DecText : texts.EncText) = tone;
-    CycledText = tone;
-    TellChoice();
-    EncodeAndRefresh();
+    CycledText = NormaliseTone(FromQString(comInputStep_->currentText()), session_.LanguageFlag);
+    editor_.Choose(session_.Cursor.CurrentChannel(), {.column = session_.Cursor.CurrentCol(), .text = CycledText});
 }
 
 void ChannelCellEditor::LeaveList() {
     if (state_ != State::ListEditing) {
         return;
     }
-    if (IsToneColumn(session_.CurrentCol)) {
+    if (IsToneColumn(session_.Cursor.CurrentCol())) {
         CommitTone();
     }
     HideEditors();
 }
 
 void ChannelCellEditor::OnListEnded() {
-    const int row = session_.CurrentChannel;
-    const int edited = session_.CurrentCol;
+    const int row = session_.Cursor.CurrentChannel();
+    const int edited = session_.Cursor.CurrentCol();
     LeaveList();
     grid_.setFocus();
     if (edited < column::Count) {
-        const bool skipsDeadEncode = edited == column::Decode && grid_.Text(row, column::Tx).isEmpty();
+        const bool skipsDeadEncode = edited == column::Decode && !HasTransmit(row);
         grid_.MoveTo(row, edited + (skipsDeadEncode ? 2 : 1));
     } else if (row < grid_.rowCount()) {
         grid_.MoveTo(row + 1, column::Rx);

@@ -2,9 +2,10 @@
 
 #include <QObject>
 #include <QString>
-#include <functional>
 #include <string>
 #include <vector>
+
+#include "channels/ChannelEditor.h"
 
 class QKeyEvent;
 
@@ -12,40 +13,36 @@ namespace zelvor {
 
 class CellListEditor;
 class CellTextEditor;
-class ChannelEditForm;
 class EditGrid;
 class Session;
 struct Services;
 
 /// Edits the cells of the channel grid: one floating text box for the two frequencies, one floating list for the other
-/// columns. At most one of them is visible. What is committed goes into the session's working texts and, through the
-/// owner's encoder, into grid and image.
+/// columns. At most one of them is visible. What is committed goes into the working texts, and into row and record of
+/// the channel; what is only typed, the grid alone shows.
 class ChannelCellEditor : public QObject {
     Q_OBJECT
 
 public:
-    /// What the editor asks of the window that owns it.
-    struct Owner {
-        std::function<void(int k)> encodeChannelRow;
-        std::function<void(int row)> clearChannelData;
-        std::function<void()> updateFreeArea;
-        std::function<void(int n)> showChannelInCaption;
-        std::function<const std::vector<std::string>&()> toneListDec;
-        std::function<const std::vector<std::string>&()> toneListEnc;
-        std::function<ChannelEditForm*()> openDialog; // null while the channel edit dialog is closed
+    /// The entries of the tone columns, which the window that owns the editor keeps in the current language.
+    struct ToneLists {
+        const std::vector<std::string>& decode;
+        const std::vector<std::string>& encode;
     };
 
-    ChannelCellEditor(Session& session, Services& services, EditGrid& grid, QWidget* panel, Owner owner);
+    ChannelCellEditor(Session& session, Services& services, EditGrid& grid, QWidget* panel, ToneLists tones);
 
     /// Opens the editor over the current cell; a blank row opens only its receive frequency.
     void ShowCellEditor();
-    /// Copies cells 1 to 9 of the row into the working texts, and reads the values without a column from the image. An
-    /// open channel edit dialog, on that channel already, shows them.
-    void LoadRowIntoFields(int row);
     /// Hides both editors without committing.
     void HideEditors();
     /// Commits an open edit, before the cursor's cell becomes another one.
     void Leave();
+    [[nodiscard]] bool IsTextEditing() const { return state_ == State::TextEditing; }
+
+signals:
+    /// The text box was left, and what was typed is committed.
+    void FrequencyLeft();
 
 private:
     enum class State { Idle, TextEditing, ListEditing };
@@ -68,13 +65,15 @@ private:
     void CommitTone();
     void LeaveList();
 
-    void TellChoice();
-    void EncodeAndRefresh();
+    [[nodiscard]] bool IsRowBlank(int row) const;
+    [[nodiscard]] bool HasTransmit(int row) const;
+    [[nodiscard]] bool IsDialogOpen() const;
 
     Session& session_;
     Services& services_;
+    ChannelEditor editor_;
     EditGrid& grid_;
-    Owner owner_;
+    ToneLists tones_;
     CellTextEditor* txtInputBox_;
     CellListEditor* comInputStep_;
 

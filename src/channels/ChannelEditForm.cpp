@@ -1,36 +1,31 @@
 #include "channels/ChannelEditForm.h"
 
 #include <QCheckBox>
-#include <QFrame>
-#include <QGridLayout>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QPushButton>
+#include <QScopedValueRollback>
 
 #include "channels/CellValues.h"
 #include "channels/ChannelEditLists.h"
-#include "channels/ChannelForm.h"
-#include "channels/ToneKeys.h"
+#include "channels/FrequencyEntry.h"
 #include "controls/EnterAsTab.h"
 #include "controls/FieldList.h"
+#include "controls/FilteredLineEdit.h"
 #include "controls/SpinText.h"
+#include "data/ChannelRecord.h"
 #include "data/MemoryMap.h"
-#include "data/OptionalFields.h"
+#include "data/Session.h"
 #include "data/ToneCodec.h"
 #include "help/HelpViewer.h"
-#include "platform/LayoutUnits.h"
 #include "platform/Services.h"
 #include "platform/Toolkit.h"
+#include "text/StringTable.h"
 
 namespace zelvor {
 
 namespace {
 
 constexpr QSize WindowSize{5640, 6570}; // twips
-constexpr int FrequencyLength = 9;      // "000.00000"
-constexpr int ChannelDigits = 2;
-constexpr int FieldHeight = 24;
-constexpr QSize FieldSize(178, FieldHeight);
 
 bool TakesFocus(const QEvent& event) {
     return event.type() == QEvent::FocusIn && static_cast<const QFocusEvent&>(event).reason() != Qt::PopupFocusReason;
@@ -45,181 +40,56 @@ bool IsTypedKey(const QEvent& event) {
     return !key.text().isEmpty() && key.key() != Qt::Key_Tab && key.key() != Qt::Key_Backtab;
 }
 
-QStringList NumbersTo(int last) {
-    QStringList numbers;
-    for (int n = 1; n <= last; ++n) {
-        numbers.append(QString::number(n));
-    }
-    return numbers;
-}
-
 } // namespace
 
-ChannelEditForm::ChannelEditForm(Session& session, Services& services, ChannelWindows& windows, QWidget* parent)
+ChannelEditForm::ChannelEditForm(Session& session, Services& services, QWidget* parent)
     : ChildForm(ChildWindow::ChannelEdit, "ChannelEditForm", WindowSize, parent), session_(session),
-      services_(services), windows_(windows) {
-    windows_.dialog = this;
+      services_(services), editor_(session), fields_(session, *Content()) {
     session_.SetOpen(ChildWindow::ChannelEdit, true);
-    BuildChannel();
-    BuildFrame();
-    BuildFields();
-    BuildToneLists();
-    BuildChecks();
-    BuildButtons();
-    SetTexts();
+    SetCaption(ToQString(session_.LoadText(Text::ChannelEditTitle)));
     ConnectFields();
     ConnectLists();
-    setFocusProxy(channelSpin_);
-    GoToChannel(session_.EditChannel);
+    setFocusProxy(fields_.channel);
+    GoToChannel(session_.Cursor.EditChannel());
+    session_.Channels.Add(*this);
+    session_.Cursor.Add(*this);
+    session_.Priority.Add(*this);
 }
 
-void ChannelEditForm::BuildChannel() {
-    labChannel_ = new QLabel(Content());
-    labChannel_->setObjectName("LabChannel");
-    labChannel_->setGeometry(LaidOut(QRect(20, 8, 140, FieldHeight)));
-    SpinTextRules rules;
-    rules.first = 1;
-    rules.last = address::ChannelCount;
-    rules.lengthLimit = ChannelDigits;
-    rules.show = [](int n) { return QString::number(n); };
-    rules.read = [](const QString& text) { return std::optional(text.toInt()); };
-    channelSpin_ = new SpinText("txtChannel", "UpDown1", std::move(rules), Content());
-    channelSpin_->setGeometry(LaidOut(QRect(178, 8, 72, FieldHeight)));
-    channelSpin_->Box().SetEnterLetter(u'l');
-    labChannel_->setBuddy(channelSpin_);
-}
-
-void ChannelEditForm::BuildFrame() {
-    auto* frame = new QFrame(Content());
-    frame->setObjectName("Frame1");
-    frame->setFrameShape(QFrame::StyledPanel);
-    frame->setGeometry(LaidOut(QRect(8, 38, 360, 358)));
-    frame1_ = frame;
-    fields_ = new QGridLayout(frame);
-    fields_->setContentsMargins(11, 6, 11, 6);
-    fields_->setVerticalSpacing(2);
-    fields_->setColumnStretch(0, 1);
-}
-
-void ChannelEditForm::PlaceField(const char* labelName, QLabel*& label, QWidget* field, const FieldWord& caption) {
-    const int row = fields_->rowCount();
-    label = new QLabel(ToQString(caption.In(session_.LanguageFlag)), frame1_);
-    label->setObjectName(labelName);
-    label->setBuddy(field);
-    field->setFixedSize(LaidOut(FieldSize));
-    field->setAccessibleName(label->text());
-    fields_->addWidget(label, row, 0);
-    fields_->addWidget(field, row, 1);
-}
-
-void ChannelEditForm::BuildFields() {
-    const auto frequency = [this](const char* name) {
-        auto* box = new FilteredLineEdit(frame1_);
-        box->setObjectName(name);
-        box->SetFilter(DigitOrPoint);
-        box->SetLengthLimit(FrequencyLength);
-        box->SetEnterLetter(u'l');
-        box->SelectAllOnFocus();
-        return box;
-    };
-    const auto list = [this](const char* name, const QStringList& entries) {
-        auto* made = new FieldList(frame1_);
-        made->setObjectName(name);
-        made->SetEntries(entries);
-        return made;
-    };
-    const Language language = session_.LanguageFlag;
-    const auto choices = [&](int column) { return ToQStrings(CellChoices(column, session_.Image, language)); };
-    PlaceField("LabRxFreq", labRxFreq_, txtRxFreq_ = frequency("txtRxFreq"), Text::ReceiveFrequency);
-    PlaceField("LabTxFreq", labTxFreq_, txtTxFreq_ = frequency("txtTxFreq"), Text::TransmitFrequency);
-    PlaceField("LabQTdec", labQTdec_, comDecode_ = list("ComDecode", {}), Text::QtDqtDecode);
-    PlaceField("LabQTenc", labQTenc_, comEncode_ = list("ComEncode", {}), Text::QtDqtEncode);
-    PlaceField("LabOptional", labOptional_, comSelSignal_ = list("ComSelSignal", choices(column::OptSignal)),
-               Text::OptionSignallingLabel);
-    PlaceField("LabSPmute", labSPmute_, comSPMute_ = list("ComSPMute", {}), Text::SpUnmute);
-    PlaceField("LabTxPower", labTxPower_, comTxPower_ = list("ComTxPower", choices(column::Power)), Text::TxPower);
-    PlaceField("LabWN", labWN_, comWideNarrow_ = list("ComWideNarrow", choices(column::Width)), Text::WideNarrow);
-    PlaceField("LabBusyLock", labBusyLock_, comBusyLock_ = list("ComBusyLock", {}), Text::BusyChannelLockout);
-    PlaceField("LabPTTID", labPTTID_, comPTTID_ = list("ComPTTID", choices(column::PttId)),
-               optional_features::PttId.label);
-    PlaceField("LabAutoDial", labAutoDial_, comAutoDial_ = list("ComAutoDial", NumbersTo(8)),
-               Text::AutodialMemoryOfChannel);
-    const DependentLists plain = DependentListsOf(false, false, language);
-    comSPMute_->SetEntries(ToQStrings(plain.spMute));
-    comBusyLock_->SetEntries(ToQStrings(plain.busyLock));
-}
-
-void ChannelEditForm::BuildToneLists() {
-    for (FieldList* list : {comDecode_, comEncode_}) {
-        auto* box = new FilteredLineEdit(list);
-        TakeToneKeys(*box);
-        list->setLineEdit(box);
-        list->setInsertPolicy(QComboBox::NoInsert);
-        list->setCompleter(nullptr);
-        list->setMaxVisibleItems(12);
-        list->SetEntries(ToQStrings(BuildToneList(session_.LanguageFlag)));
-    }
-}
-
-void ChannelEditForm::BuildChecks() {
-    auto* checks = new QGridLayout;
-    checks->setVerticalSpacing(0);
-    fields_->addLayout(checks, fields_->rowCount(), 0, 1, 2);
-    const auto check = [this, checks](const char* name, Text caption, int row, int column) {
-        auto* box = new QCheckBox(ToQString(session_.LoadText(caption)), frame1_);
-        box->setObjectName(name);
-        box->setFixedHeight(LaidOut(22));
-        checks->addWidget(box, row, column);
-        return box;
-    };
-    chkShift_ = check("ChkShift", Text::BeatShift, 0, 0);
-    chkScanAdd_ = check("ChkScanAdd", Text::ScanAdd, 0, 1);
-    chkPriorityChannel_ = check("ChkPriorityChannel", Text::IsPriorityChannel, 1, 0);
-    chkYaKuo_ = check("ChkYaKuo", Text::Compander, 1, 1);
-}
-
-void ChannelEditForm::BuildButtons() {
-    const auto button = [this](const char* name, int x) {
-        auto* made = new QPushButton(Content());
-        made->setObjectName(name);
-        made->setGeometry(LaidOut(QRect(x, 401, 100, 30)));
-        made->setAutoDefault(true);
-        return made;
-    };
-    cmdOK_ = button("cmdOK", 156);
-    cmdHelp_ = button("cmdHelp", 268);
-    On(*cmdOK_, [this] { OnClose(); });
-    connect(cmdHelp_, &QPushButton::clicked, this, [this] {
-        services_.help.Show({session_.LanguageFlag, HelpPage()});
-    });
-}
-
-void ChannelEditForm::SetTexts() {
-    const auto text = [this](Text name) { return ToQString(session_.LoadText(name)); };
-    SetCaption(text(Text::ChannelEditTitle));
-    labChannel_->setText(text(Text::Channel));
-    channelSpin_->SetAccessibleName(text(Text::Channel));
-    cmdOK_->setText(text(Text::CloseButton));
-    cmdHelp_->setText(text(Text::HelpButton));
+ChannelEditForm::~ChannelEditForm() {
+    session_.Priority.Remove(*this);
+    session_.Cursor.Remove(*this);
+    session_.Channels.Remove(*this);
 }
 
 void ChannelEditForm::ConnectFields() {
-    connect(&channelSpin_->Box(), &QLineEdit::textChanged, this, &ChannelEditForm::OnChannelText);
-    connect(txtRxFreq_, &QLineEdit::textChanged, this, &ChannelEditForm::OnReceiveText);
-    connect(txtRxFreq_, &FilteredLineEdit::FocusLeft, this, &ChannelEditForm::OnReceiveLeft);
-    connect(txtRxFreq_, &FilteredLineEdit::EnterPressed, this, [this] {
+    connect(&fields_.channel->Box(), &QLineEdit::textChanged, this, &ChannelEditForm::OnChannelText);
+    connect(fields_.txtRxFreq, &QLineEdit::textChanged, this, &ChannelEditForm::OnReceiveText);
+    connect(fields_.txtRxFreq, &FilteredLineEdit::FocusLeft, this, &ChannelEditForm::OnReceiveLeft);
+    connect(fields_.txtRxFreq, &FilteredLineEdit::EnterPressed, this, [this] {
         if (HasReceive()) {
-            MoveOn(*txtRxFreq_);
+            MoveOn(*fields_.txtRxFreq);
         }
     });
-    connect(txtTxFreq_, &QLineEdit::textChanged, this, &ChannelEditForm::OnTransmitText);
-    connect(txtTxFreq_, &FilteredLineEdit::FocusLeft, this, &ChannelEditForm::OnTransmitLeft);
-    EnterMovesOn(*txtTxFreq_);
-    connect(chkShift_, &QCheckBox::toggled, this, &ChannelEditForm::StoreShift);
-    connect(chkYaKuo_, &QCheckBox::toggled, this, &ChannelEditForm::StoreCompander);
-    connect(chkScanAdd_, &QCheckBox::toggled, this, &ChannelEditForm::StoreScanAdd);
-    connect(chkPriorityChannel_, &QCheckBox::toggled, this, &ChannelEditForm::StorePriority);
-    for (QWidget* watched : std::initializer_list<QWidget*>{txtRxFreq_, comPTTID_, chkScanAdd_}) {
+    connect(fields_.txtTxFreq, &QLineEdit::textChanged, this, &ChannelEditForm::OnTransmitText);
+    connect(fields_.txtTxFreq, &FilteredLineEdit::FocusLeft, this, &ChannelEditForm::OnTransmitLeft);
+    EnterMovesOn(*fields_.txtTxFreq);
+    connect(fields_.chkPriorityChannel, &QCheckBox::toggled, this, &ChannelEditForm::StorePriority);
+    On(*fields_.cmdOK, [this] { OnClose(); });
+    connect(fields_.cmdHelp, &QPushButton::clicked, this, [this] {
+        services_.help.Show({session_.LanguageFlag, HelpPage()});
+    });
+    const auto stores = [this](QCheckBox* check, void (ChannelEditor::*store)(int, bool)) {
+        connect(check, &QCheckBox::toggled, this, [this, store](bool checked) {
+            if (IsLive()) {
+                (editor_.*store)(channel_, checked);
+            }
+        });
+    };
+    stores(fields_.chkShift, &ChannelEditor::StoreBeatShift);
+    stores(fields_.chkYaKuo, &ChannelEditor::StoreCompander);
+    stores(fields_.chkScanAdd, &ChannelEditor::StoreScanAdd);
+    for (QWidget* watched : std::initializer_list<QWidget*>{fields_.txtRxFreq, fields_.comPTTID, fields_.chkScanAdd}) {
         watched->installEventFilter(this);
     }
 }
@@ -230,31 +100,233 @@ void ChannelEditForm::ConnectLists() {
         connect(list, &FieldList::Selected, this, store);
         connect(list, &FieldList::FocusLeft, this, store);
     };
-    stores(comSPMute_, [this] { StoreSpMute(); });
-    stores(comBusyLock_, [this] { StoreBusyLock(); });
-    stores(comAutoDial_, [this] { StoreAutoDial(); });
-    stores(comTxPower_, [this] { StoreCell(*comTxPower_, &ChannelTexts::PowerText, column::Power); });
-    stores(comWideNarrow_, [this] { StoreCell(*comWideNarrow_, &ChannelTexts::WidthText, column::Width); });
-    stores(comPTTID_, [this] { StoreCell(*comPTTID_, &ChannelTexts::PttIdText, column::PttId); });
-    for (FieldList* list : {comDecode_, comEncode_}) {
+    stores(fields_.comSPMute, [this] { StoreSpMute(); });
+    stores(fields_.comBusyLock, [this] { StoreBusyLock(); });
+    stores(fields_.comAutoDial, [this] {
+        if (IsLive()) {
+            editor_.StoreAutoDial(channel_, fields_.comAutoDial->currentIndex(),
+                                  FromQString(fields_.comAutoDial->currentText()));
+        }
+    });
+    stores(fields_.comTxPower, [this] { Choose(*fields_.comTxPower, column::Power); });
+    stores(fields_.comWideNarrow, [this] { Choose(*fields_.comWideNarrow, column::Width); });
+    stores(fields_.comPTTID, [this] { Choose(*fields_.comPTTID, column::PttId); });
+    for (FieldList* list : {fields_.comDecode, fields_.comEncode}) {
         connect(list, &FieldList::Selected, this, [this, list] { OnToneSelected(*list); });
         connect(list, &FieldList::FocusLeft, this, [this, list] { OnToneLeft(*list); });
     }
-    connect(comSelSignal_, &FieldList::Selected, this, &ChannelEditForm::OnSignalSelected);
-    connect(comSelSignal_, &FieldList::FocusLeft, this, &ChannelEditForm::OnSignalLeft);
+    connect(fields_.comSelSignal, &FieldList::Selected, this, &ChannelEditForm::OnSignalSelected);
+    connect(fields_.comSelSignal, &FieldList::FocusLeft, this, &ChannelEditForm::OnSignalLeft);
 }
 
 bool ChannelEditForm::eventFilter(QObject* watched, QEvent* event) {
     if (TakesFocus(*event)) {
-        if (watched == txtRxFreq_) {
+        if (watched == fields_.txtRxFreq) {
             WasBlank = !HasReceive();
-        } else if (watched == comPTTID_ && IsLive()) {
+        } else if (watched == fields_.comPTTID && IsLive()) {
             OnPttIdFocus();
         }
-    } else if (watched == chkScanAdd_ && IsTypedKey(*event) && IsLive()) {
+    } else if (watched == fields_.chkScanAdd && IsTypedKey(*event) && IsLive()) {
         CommitDialog();
     }
     return ChildForm::eventFilter(watched, event);
+}
+
+bool ChannelEditForm::IsLive() const {
+    return IsOpen() && !showing_;
+}
+
+bool ChannelEditForm::IsOpen() const {
+    return session_.IsOpen(ChildWindow::ChannelEdit);
+}
+
+bool ChannelEditForm::HasReceive() const {
+    return !fields_.txtRxFreq->text().isEmpty();
+}
+
+ChannelTexts& ChannelEditForm::Texts() {
+    return session_.Channels.Texts();
+}
+
+// --- Receive frequency -----------------------------------------------------------------------------------------------
+
+void ChannelEditForm::OnReceiveText(const QString& text) {
+    if (showing_) {
+        return;
+    }
+    if (text.isEmpty()) {
+        BlankChannelDialog();
+    } else {
+        fields_.txtTxFreq->setEnabled(true); // where Tab leads next
+    }
+}
+
+void ChannelEditForm::OnReceiveLeft() {
+    if (!IsLive() || !HasReceive()) {
+        return;
+    }
+    const std::string text = FromQString(fields_.txtRxFreq->text());
+    const std::string frequency = EnterFrequency(session_, services_, text, FrequencyCaution).text;
+    {
+        const QScopedValueRollback<bool> showing(showing_, true);
+        fields_.txtRxFreq->setText(ToQString(frequency));
+        EnableChannelControls();
+    }
+    fields_.TakeTexts(Texts());
+    editor_.CommitReceive(channel_, {.frequency = frequency,
+                                     .completesSignalling = WasBlank,
+                                     .clearsHiddenFields = WasBlank,
+                                     .record = RecordFollows::WithNextCommit});
+    ShowCompletedTexts();
+    if (WasBlank) {
+        StoreSpMute();
+        StoreBusyLock();
+    }
+    WasBlank = false;
+    CommitDialog();
+}
+
+// --- Transmit frequency ----------------------------------------------------------------------------------------------
+
+void ChannelEditForm::OnTransmitText(const QString& text) {
+    EnableEncode(!text.isEmpty() && HasReceive());
+    if (text.isEmpty() && HasReceive()) {
+        fields_.PutTone(*fields_.comEncode, std::string(session_.LoadText(Text::None)));
+        OnToneSelected(*fields_.comEncode);
+    }
+}
+
+void ChannelEditForm::OnTransmitLeft() {
+    if (!IsLive() || !HasReceive()) {
+        return;
+    }
+    std::string frequency = FromQString(fields_.txtTxFreq->text());
+    if (!frequency.empty()) {
+        frequency = EnterFrequency(session_, services_, frequency, FrequencyCaution).text;
+        fields_.txtTxFreq->setText(ToQString(frequency));
+    }
+    editor_.CommitTransmit(
+        channel_, {.frequency = frequency, .emptyTakesEncodeTone = false, .record = RecordFollows::WithNextCommit});
+    CommitDialog();
+}
+
+// --- Tones and choices -----------------------------------------------------------------------------------------------
+
+void ChannelEditForm::OnToneSelected(FieldList& list) {
+    if (!IsLive()) {
+        return;
+    }
+    if (&list == fields_.comDecode) {
+        RebuildDependentLists();
+    }
+    Choose(list, ToneColumn(list));
+}
+
+void ChannelEditForm::OnToneLeft(FieldList& list) {
+    if (!IsLive() || !HasReceive()) {
+        return;
+    }
+    session_.Cursor.SetCurrentChannel(channel_);
+    // An empty box becomes "None" by the same rule.
+    fields_.PutTone(list, NormaliseTone(FromQString(list.currentText()), session_.LanguageFlag));
+    if (&list == fields_.comDecode && !fields_.AreDependentListsRight()) {
+        RebuildDependentLists();
+    }
+    Choose(list, ToneColumn(list));
+    CommitDialog();
+}
+
+void ChannelEditForm::OnSignalSelected() {
+    if (IsLive()) {
+        RebuildDependentLists();
+        Choose(*fields_.comSelSignal, column::OptSignal);
+    }
+}
+
+void ChannelEditForm::OnSignalLeft() {
+    if (IsLive() && !fields_.comSelSignal->currentText().isEmpty()) {
+        CommitDialog();
+    }
+}
+
+int ChannelEditForm::ToneColumn(const FieldList& list) const {
+    return &list == fields_.comDecode ? column::Decode : column::Encode;
+}
+
+void ChannelEditForm::Choose(const FieldList& list, int column) {
+    if (IsLive()) {
+        editor_.Choose(channel_, {.column = column,
+                                  .text = FromQString(list.currentText()),
+                                  .emptySignallingStays = true,
+                                  .record = RecordFollows::WithNextCommit});
+    }
+}
+
+void ChannelEditForm::RebuildDependentLists() {
+    BuildDependentLists();
+    // A stored place that the new list does not have is shown as its first entry, and stored as what is shown. Where
+    // nothing is selected, nothing was chosen, and the byte stays.
+    if (fields_.comSPMute->currentIndex() != NoEntry) {
+        StoreSpMute();
+    }
+    StoreBusyLock();
+}
+
+void ChannelEditForm::StoreSpMute() {
+    if (IsLive()) {
+        editor_.StoreSpMute(channel_, fields_.comSPMute->currentIndex(), FromQString(fields_.comSPMute->currentText()));
+    }
+}
+
+void ChannelEditForm::StoreBusyLock() {
+    if (IsLive()) {
+        editor_.StoreBusyLock(channel_, fields_.comBusyLock->currentIndex(),
+                              FromQString(fields_.comBusyLock->currentText()));
+    }
+}
+
+void ChannelEditForm::OnPttIdFocus() {
+    const std::uint8_t type = session_.Image.At(address::PttIdType);
+    const QStringList entries = ToQStrings(CellChoices(column::PttId, session_.Image, session_.LanguageFlag));
+    editor_.TouchPttId(channel_);
+    if (type == record::TypeDtmf) {
+        if (fields_.comPTTID->currentText().isEmpty()) {
+            fields_.comPTTID->SetEntries(entries);
+            if (HasReceive()) {
+                fields_.comPTTID->setCurrentIndex(1);
+            }
+        }
+        return;
+    }
+    fields_.comPTTID->SetEntries(entries);
+    if (type == record::TypeCorvane) {
+        fields_.comPTTID->setCurrentIndex(
+            CorvanePttIdEntry(session_.Image.At(address::Channel(channel_) + record::PttId)));
+    }
+}
+
+void ChannelEditForm::StorePriority(bool checked) {
+    if (!IsLive()) {
+        return;
+    }
+    // The image's byte is the scan window's to write, when its box is left.
+    session_.Priority.Mark(checked ? channel_ : 0);
+}
+
+// --- Commit ----------------------------------------------------------------------------------------------------------
+
+void ChannelEditForm::CommitDialog(bool blanksTexts) {
+    if (!HasReceive()) {
+        const QScopedValueRollback<bool> showing(showing_, true);
+        fields_.chkScanAdd->setChecked(false);
+    }
+    editor_.CommitChannel(
+        channel_, {.programmed = HasReceive(), .scanAdd = fields_.chkScanAdd->isChecked(), .blanksTexts = blanksTexts});
+}
+
+void ChannelEditForm::OnClose() {
+    CommitDialog(!HasReceive());
+    emit UnloadRequested();
 }
 
 } // namespace zelvor

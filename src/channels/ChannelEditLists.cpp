@@ -1,6 +1,7 @@
 #include "channels/ChannelEditLists.h"
 
 #include "data/ChannelRecord.h"
+#include "data/MemoryMap.h"
 #include "text/StringTable.h"
 
 namespace zelvor {
@@ -71,6 +72,15 @@ std::uint8_t WithBusyLockEntry(std::uint8_t byte12, int entry) {
 
 std::uint8_t AutoDialByte(int entry) {
     return static_cast<std::uint8_t>(entry == NoEntry ? AutoDialFirst : AutoDialFirst + entry);
+}
+
+std::vector<std::string> PttIdTypeEntries(const DataImage& image, Language language) {
+    const bool isCorvane = image.At(address::PttIdType) == TypeCorvane;
+    std::vector<std::string> entries = Words(language, {Text::Off, isCorvane ? Text::Own : Text::On});
+    for (int n = 1; isCorvane && n <= FleetListCount; ++n) {
+        entries.push_back(std::to_string(n));
+    }
+    return entries;
 }
 
 int CorvanePttIdEntry(std::uint8_t byte14) {

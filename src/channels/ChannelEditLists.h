@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "data/DataImage.h"
 #include "text/Language.h"
 
 namespace zelvor {
@@ -38,6 +39,9 @@ inline constexpr int NoEntry = -1;
 /// Byte 15 for an entry of ComAutoDial, 0 to 7, or NoEntry.
 [[nodiscard]] std::uint8_t AutoDialByte(int entry);
 
+/// The entries that ComPTTID offers after a choice of the PTT ID Type, which the image has by now. Intended: those for
+/// the fleet list are bare digits.
+[[nodiscard]] std::vector<std::string> PttIdTypeEntries(const DataImage& image, Language language);
 /// The entry of ComPTTID that byte 14 selects under the PTT ID Type Corvane.
 [[nodiscard]] int CorvanePttIdEntry(std::uint8_t byte14);
 

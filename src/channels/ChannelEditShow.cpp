@@ -7,37 +7,33 @@
 #include "channels/CellValues.h"
 #include "channels/ChannelEditForm.h"
 #include "channels/ChannelEditLists.h"
-#include "channels/ChannelForm.h"
 #include "controls/FieldList.h"
 #include "controls/SpinText.h"
 #include "data/ChannelRecord.h"
 #include "data/MemoryMap.h"
+#include "data/Session.h"
 #include "platform/Toolkit.h"
 #include "text/StringTable.h"
 
 namespace zelvor {
 
 void ChannelEditForm::OpenOnEditChannel() {
-    GoToChannel(session_.EditChannel);
-    Reload();
-    channelSpin_->setFocus();
-    channelSpin_->Box().selectAll();
+    GoToChannel(session_.Cursor.EditChannel());
+    ShowChannel(channel_);
+    fields_.channel->setFocus();
+    fields_.channel->Box().selectAll();
 }
 
 void ChannelEditForm::GoToChannel(int n) {
-    channelSpin_->Put(n);
-}
-
-void ChannelEditForm::Reload() {
-    ShowChannel(channel_);
+    fields_.channel->Put(n);
 }
 
 void ChannelEditForm::OnChannelText(const QString& text) {
     const int n = std::clamp(text.toInt(), 1, address::ChannelCount);
     if (text != QString::number(n)) {
-        channelSpin_->SetText(QString::number(n));
+        fields_.channel->SetText(QString::number(n));
         if (text.isEmpty()) {
-            channelSpin_->Box().selectAll(); // what is typed next takes the place of the 1 that nobody typed
+            fields_.channel->Box().selectAll(); // what is typed next takes the place of the 1 that nobody typed
         }
         return;
     }
@@ -47,12 +43,9 @@ void ChannelEditForm::OnChannelText(const QString& text) {
 void ChannelEditForm::ShowChannel(int n) {
     const QScopedValueRollback<bool> showing(showing_, true);
     channel_ = n;
-    session_.EditChannel = n;
-    channelSpin_->SetValue(n);
-    if (windows_.grid) {
-        windows_.grid->ShowChannelInCaption(n);
-    }
-    LoadFields(n);
+    fields_.channel->SetValue(n);
+    session_.Cursor.ShowInDialog(n);
+    session_.Channels.LoadRowIntoFields(session_.Image, session_.LanguageFlag, n);
     if (Texts().RxText.empty()) {
         BlankChannelDialog();
     } else {
@@ -60,25 +53,17 @@ void ChannelEditForm::ShowChannel(int n) {
     }
 }
 
-void ChannelEditForm::LoadFields(int n) {
-    for (int column = 1; column <= column::Count; ++column) {
-        Texts().*GridTexts[static_cast<std::size_t>(column) - 1] =
-            windows_.grid ? FromQString(windows_.grid->CellText(n, column)) : std::string();
-    }
-    session_.Channels.LoadHiddenFields(session_.Image, session_.LanguageFlag, n);
-}
-
 void ChannelEditForm::ShowProgrammedChannel() {
     const ChannelTexts& texts = Texts();
-    txtRxFreq_->setText(ToQString(texts.RxText));
+    fields_.txtRxFreq->setText(ToQString(texts.RxText));
     EnableChannelControls();
-    txtTxFreq_->setText(ToQString(texts.TxText));
-    PutTone(*comDecode_, texts.DecText);
-    PutTone(*comEncode_, texts.EncText);
+    fields_.txtTxFreq->setText(ToQString(texts.TxText));
+    fields_.PutTone(*fields_.comDecode, texts.DecText);
+    fields_.PutTone(*fields_.comEncode, texts.EncText);
     EnableEncode(!texts.TxText.empty());
-    comTxPower_->ShowEntry(texts.PowerText == session_.LoadText(Text::High) ? 0 : 1);
-    comWideNarrow_->ShowEntry(texts.WidthText == session_.LoadText(Text::Narrow) ? 0 : 1);
-    chkScanAdd_->setChecked(texts.ScanAddText == session_.LoadText(Text::Yes));
+    fields_.comTxPower->ShowEntry(texts.PowerText == session_.LoadText(Text::High) ? 0 : 1);
+    fields_.comWideNarrow->ShowEntry(texts.WidthText == session_.LoadText(Text::Narrow) ? 0 : 1);
+    fields_.chkScanAdd->setChecked(texts.ScanAddText == session_.LoadText(Text::Yes));
     ShowOptSignal();
     ShowPttId();
     EnablePriorityMark();
@@ -87,180 +72,243 @@ void ChannelEditForm::ShowProgrammedChannel() {
 }
 
 void ChannelEditForm::ShowOptSignal() {
-    comSelSignal_->ShowEntry(comSelSignal_->findText(ToQString(Texts().OptSignalText)));
+    fields_.comSelSignal->ShowEntry(fields_.comSelSignal->findText(ToQString(Texts().OptSignalText)));
 }
 
 void ChannelEditForm::ShowPttId() {
     const QStringList entries = ToQStrings(CellChoices(column::PttId, session_.Image, session_.LanguageFlag));
-    if (comPTTID_->count() != entries.size()) {
-        comPTTID_->SetEntries(entries);
+    if (fields_.comPTTID->count() != entries.size()) {
+        fields_.comPTTID->SetEntries(entries);
     }
     const QString text = ToQString(Texts().PttIdText);
     const bool hasEntry = !text.isEmpty() && !entries.isEmpty();
-    comPTTID_->ShowEntry(hasEntry ? std::max(0, static_cast<int>(entries.indexOf(text))) : NoEntry);
+    fields_.comPTTID->ShowEntry(hasEntry ? std::max(0, static_cast<int>(entries.indexOf(text))) : NoEntry);
 }
 
 void ChannelEditForm::ShowRecordFields() {
-    chkYaKuo_->setChecked(Texts().CompanderFlag);
-    chkShift_->setChecked(Texts().BeatShiftFlag);
-    comAutoDial_->ShowEntry(comAutoDial_->findText(ToQString(Texts().AutoDialText)));
+    fields_.chkYaKuo->setChecked(Texts().CompanderFlag);
+    fields_.chkShift->setChecked(Texts().BeatShiftFlag);
+    fields_.comAutoDial->ShowEntry(fields_.comAutoDial->findText(ToQString(Texts().AutoDialText)));
+}
+
+/// After the editor completed the working texts of a receive frequency that was entered here.
+void ChannelEditForm::ShowCompletedTexts() {
+    const QScopedValueRollback<bool> showing(showing_, true);
+    fields_.ShowMissing(Texts());
+    const bool nothingShown =
+        fields_.comSPMute->currentIndex() == NoEntry && fields_.comBusyLock->currentIndex() == NoEntry;
+    if (!fields_.AreDependentListsRight()) {
+        BuildDependentLists();
+    } else if (nothingShown) {
+        SelectMuteEntries();
+    }
+    if (WasBlank) {
+        fields_.comSPMute->ShowEntry(0);
+        fields_.comBusyLock->ShowEntry(0);
+        fields_.chkScanAdd->setChecked(true);
+        fields_.chkShift->setChecked(false);
+        fields_.chkYaKuo->setChecked(false);
+    }
 }
 
 void ChannelEditForm::EnableChannelControls() {
-    if (!session_.IsOpen(ChildWindow::ChannelEdit)) {
+    if (!IsOpen()) {
         return;
     }
     const std::string none(session_.LoadText(Text::None));
-    for (QWidget* control :
-         std::initializer_list<QWidget*>{txtTxFreq_, comDecode_, comSelSignal_, comSPMute_, comTxPower_, comWideNarrow_,
-                                         comBusyLock_, comPTTID_, comAutoDial_, chkShift_, chkScanAdd_, chkYaKuo_}) {
+    for (QWidget* control : std::initializer_list<QWidget*>{
+             fields_.txtTxFreq, fields_.comDecode, fields_.comSelSignal, fields_.comSPMute, fields_.comTxPower,
+             fields_.comWideNarrow, fields_.comBusyLock, fields_.comPTTID, fields_.comAutoDial, fields_.chkShift,
+             fields_.chkScanAdd, fields_.chkYaKuo}) {
         control->setEnabled(true);
     }
-    if (comDecode_->currentText().isEmpty() && HasReceive()) {
-        PutTone(*comDecode_, none);
+    if (fields_.comDecode->currentText().isEmpty() && HasReceive()) {
+        fields_.PutTone(*fields_.comDecode, none);
     }
-    if (txtTxFreq_->text().isEmpty() && HasReceive()) {
+    if (fields_.txtTxFreq->text().isEmpty() && HasReceive()) {
         EnableEncode(false);
-        PutTone(*comEncode_, none);
-    } else if (comEncode_->currentText().isEmpty() && HasReceive()) {
-        PutTone(*comEncode_, none);
+        fields_.PutTone(*fields_.comEncode, none);
+    } else if (fields_.comEncode->currentText().isEmpty() && HasReceive()) {
+        fields_.PutTone(*fields_.comEncode, none);
     }
     EnablePriorityMark();
 }
 
 void ChannelEditForm::BlankChannelDialog() {
     const QScopedValueRollback<bool> showing(showing_, true);
-    txtRxFreq_->clear();
-    txtTxFreq_->clear();
-    txtTxFreq_->setEnabled(false);
-    for (FieldList* list : {comDecode_, comEncode_, comSelSignal_, comSPMute_, comTxPower_, comWideNarrow_,
-                            comBusyLock_, comPTTID_, comAutoDial_}) {
+    fields_.txtRxFreq->clear();
+    fields_.txtTxFreq->clear();
+    fields_.txtTxFreq->setEnabled(false);
+    for (FieldList* list :
+         {fields_.comDecode, fields_.comEncode, fields_.comSelSignal, fields_.comSPMute, fields_.comTxPower,
+          fields_.comWideNarrow, fields_.comBusyLock, fields_.comPTTID, fields_.comAutoDial}) {
         list->ShowEntry(NoEntry);
         list->setEnabled(false);
     }
-    PutTone(*comDecode_, {});
-    PutTone(*comEncode_, {});
-    for (QCheckBox* check : {chkShift_, chkScanAdd_, chkPriorityChannel_, chkYaKuo_}) {
+    fields_.PutTone(*fields_.comDecode, {});
+    fields_.PutTone(*fields_.comEncode, {});
+    for (QCheckBox* check : {fields_.chkShift, fields_.chkScanAdd, fields_.chkPriorityChannel, fields_.chkYaKuo}) {
         check->setChecked(false);
         check->setEnabled(false);
     }
 }
 
 void ChannelEditForm::EnableEncode(bool enabled) {
-    comEncode_->setEnabled(enabled);
-}
-
-void ChannelEditForm::PutTone(FieldList& list, const std::string& tone) {
-    const QString text = ToQString(tone);
-    list.ShowEntry(list.findText(text));
-    list.lineEdit()->setText(text);
+    fields_.comEncode->setEnabled(enabled);
 }
 
 // --- The two lists that depend on others -----------------------------------------------------------------------------
 
-bool ChannelEditForm::HasTone() const {
-    return FromQString(comDecode_->currentText()) != session_.LoadText(Text::None);
-}
-
-bool ChannelEditForm::HasSignalling() const {
-    return FromQString(comSelSignal_->currentText()) != session_.LoadText(Text::None);
-}
-
-bool ChannelEditForm::AreDependentListsRight() const {
-    const DependentLists right = DependentListsOf(HasTone(), HasSignalling(), session_.LanguageFlag);
-    // The first entry tells of the tone, the number of entries of the signalling.
-    return comSPMute_->count() == static_cast<int>(right.spMute.size()) &&
-           comSPMute_->itemText(0) == ToQString(right.spMute.front());
-}
-
 void ChannelEditForm::BuildDependentLists() {
-    const DependentLists lists = DependentListsOf(HasTone(), HasSignalling(), session_.LanguageFlag);
-    comSPMute_->SetEntries(ToQStrings(lists.spMute));
-    comBusyLock_->SetEntries(ToQStrings(lists.busyLock));
+    const DependentLists lists = fields_.DependentListsNow();
+    fields_.comSPMute->SetEntries(ToQStrings(lists.spMute));
+    fields_.comBusyLock->SetEntries(ToQStrings(lists.busyLock));
     SelectMuteEntries();
 }
 
 void ChannelEditForm::SelectMuteEntries() {
-    const std::uint8_t byte12 = RecordByte(record::Signalling);
-    comSPMute_->ShowEntry(SpMuteEntry(byte12, comSPMute_->count()));
-    comBusyLock_->ShowEntry(BusyLockEntry(byte12, comBusyLock_->count()));
-    Texts().SpMuteText = FromQString(comSPMute_->currentText());
-    Texts().BusyLockText = FromQString(comBusyLock_->currentText());
+    const std::uint8_t byte12 = session_.Image.At(address::Channel(channel_) + record::Signalling);
+    fields_.comSPMute->ShowEntry(SpMuteEntry(byte12, fields_.comSPMute->count()));
+    fields_.comBusyLock->ShowEntry(BusyLockEntry(byte12, fields_.comBusyLock->count()));
+    Texts().SpMuteText = FromQString(fields_.comSPMute->currentText());
+    Texts().BusyLockText = FromQString(fields_.comBusyLock->currentText());
 }
 
 // --- Priority channel ------------------------------------------------------------------------------------------------
 
 void ChannelEditForm::EnablePriorityMark() {
-    chkPriorityChannel_->setEnabled(session_.PriorityFixedMode && HasReceive());
-    ShowPriorityMark(session_.PriorityChannelNo);
+    fields_.chkPriorityChannel->setEnabled(session_.Priority.PriorityFixedMode() && HasReceive());
+    ShowPriorityMark(session_.Priority.PriorityChannelNo());
 }
 
 void ChannelEditForm::ShowPriorityMark(int n) {
     const QScopedValueRollback<bool> showing(showing_, true);
-    chkPriorityChannel_->setChecked(chkPriorityChannel_->isEnabled() && n == channel_);
+    fields_.chkPriorityChannel->setChecked(fields_.chkPriorityChannel->isEnabled() && n == channel_);
+}
+
+void ChannelEditForm::OnPriorityMode() {
+    if (IsOpen()) {
+        EnablePriorityMark();
+    }
+}
+
+void ChannelEditForm::OnPriorityChannel(int n) {
+    // Intended: emptying the scan window's box leaves the mark until the channel is shown anew.
+    if (IsOpen() && n != 0) {
+        ShowPriorityMark(n);
+    }
 }
 
 // --- PTT ID ----------------------------------------------------------------------------------------------------------
 
-void ChannelEditForm::OfferPttIds(const QStringList& entries, int entry) {
-    comPTTID_->SetEntries(entries);
-    comPTTID_->ShowEntry(HasReceive() ? entry : NoEntry);
+void ChannelEditForm::OnPttIdTypeChosen(bool isOn) {
+    if (!IsOpen()) {
+        return;
+    }
+    // Intended: as the list is made anew for each channel, it shows what the last programmed one has.
+    fields_.comPTTID->SetEntries(ToQStrings(PttIdTypeEntries(session_.Image, session_.LanguageFlag)));
+    fields_.comPTTID->ShowEntry(!HasReceive() ? NoEntry : isOn ? 1 : 0);
+    TakePttId();
 }
 
-void ChannelEditForm::TakePttId() {
-    if (windows_.grid && HasReceive()) {
-        Texts().PttIdText = FromQString(windows_.grid->CellText(channel_, column::PttId));
+void ChannelEditForm::OnPttIdsRefreshed() {
+    if (IsOpen()) {
+        TakePttId();
     }
 }
 
-// --- What the grid tells ---------------------------------------------------------------------------------------------
+/// The working texts take the PTT ID of the row, where the channel is programmed.
+void ChannelEditForm::TakePttId() {
+    if (HasReceive()) {
+        Texts().PttIdText = session_.Channels.CellText(channel_, column::PttId);
+    }
+}
 
-void ChannelEditForm::ShowLoadedRow() {
+// --- What the grid tells, after it changed the working texts
+// -----------------------------------------------------------
+
+void ChannelEditForm::OnDecoded() {
+    if (IsOpen()) {
+        ShowChannel(channel_);
+    }
+}
+
+void ChannelEditForm::OnGridChannel(int n) {
+    if (IsOpen()) {
+        GoToChannel(n);
+    }
+}
+
+void ChannelEditForm::OnRowCleared(int /*k*/) {
+    if (IsOpen()) {
+        BlankChannelDialog();
+    }
+}
+
+void ChannelEditForm::OnRowOpened(int /*k*/) {
+    if (!IsOpen()) {
+        return;
+    }
+    if (Texts().RxText.empty()) {
+        BlankChannelDialog();
+        return;
+    }
     const QScopedValueRollback<bool> showing(showing_, true);
-    txtRxFreq_->setText(ToQString(Texts().RxText));
-    txtTxFreq_->setText(ToQString(Texts().TxText));
-    PutTone(*comDecode_, Texts().DecText);
-    PutTone(*comEncode_, Texts().EncText);
-    if (!AreDependentListsRight()) {
+    fields_.txtRxFreq->setText(ToQString(Texts().RxText));
+    fields_.txtTxFreq->setText(ToQString(Texts().TxText));
+    fields_.PutTone(*fields_.comDecode, Texts().DecText);
+    fields_.PutTone(*fields_.comEncode, Texts().EncText);
+    if (!fields_.AreDependentListsRight()) {
         BuildDependentLists();
     }
 }
 
-void ChannelEditForm::ShowReceiveCommit(bool hasSignal, bool asTyped) {
-    const QScopedValueRollback<bool> showing(showing_, true);
-    ChannelTexts& texts = Texts();
-    if (!hasSignal) {
-        texts.OptSignalText = asTyped ? std::string() : std::string(session_.LoadText(Text::None));
+void ChannelEditForm::OnTextEdited(int /*k*/, int column) {
+    if (!IsOpen()) {
+        return;
     }
+    const QScopedValueRollback<bool> showing(showing_, true);
+    switch (column) {
+    case column::Rx:
+        ShowReceiveCommit();
+        break;
+    case column::Tx:
+        ShowTransmitCommit();
+        break;
+    default:
+        ShowCellChoice(column);
+        break;
+    }
+}
+
+void ChannelEditForm::ShowReceiveCommit() {
     ShowProgrammedChannel();
-    chkScanAdd_->setChecked(texts.ScanAddText != session_.LoadText(Text::No));
+    fields_.chkScanAdd->setChecked(Texts().ScanAddText != session_.LoadText(Text::No));
 }
 
 void ChannelEditForm::ShowTransmitCommit() {
-    const QScopedValueRollback<bool> showing(showing_, true);
-    txtTxFreq_->setText(ToQString(Texts().TxText));
-    PutTone(*comEncode_, Texts().EncText);
+    fields_.txtTxFreq->setText(ToQString(Texts().TxText));
+    fields_.PutTone(*fields_.comEncode, Texts().EncText);
     EnableEncode(!Texts().TxText.empty());
 }
 
 void ChannelEditForm::ShowCellChoice(int column) {
-    const QScopedValueRollback<bool> showing(showing_, true);
     const ChannelTexts& texts = Texts();
     switch (column) {
     case column::Decode:
-        PutTone(*comDecode_, texts.DecText);
+        fields_.PutTone(*fields_.comDecode, texts.DecText);
         break;
     case column::Encode:
-        PutTone(*comEncode_, texts.EncText);
+        fields_.PutTone(*fields_.comEncode, texts.EncText);
         break;
     case column::Power:
-        comTxPower_->ShowEntry(texts.PowerText == session_.LoadText(Text::High) ? 0 : 1);
+        fields_.comTxPower->ShowEntry(texts.PowerText == session_.LoadText(Text::High) ? 0 : 1);
         break;
     case column::Width:
-        comWideNarrow_->ShowEntry(texts.WidthText == session_.LoadText(Text::Narrow) ? 0 : 1);
+        fields_.comWideNarrow->ShowEntry(texts.WidthText == session_.LoadText(Text::Narrow) ? 0 : 1);
         break;
     case column::ScanAdd:
-        chkScanAdd_->setChecked(texts.ScanAddText == session_.LoadText(Text::Yes));
+        fields_.chkScanAdd->setChecked(texts.ScanAddText == session_.LoadText(Text::Yes));
         break;
     case column::OptSignal:
         ShowOptSignal();
@@ -271,7 +319,7 @@ void ChannelEditForm::ShowCellChoice(int column) {
     default:
         break;
     }
-    if (!AreDependentListsRight()) {
+    if (!fields_.AreDependentListsRight()) {
         BuildDependentLists();
     }
 }

@@ -4,17 +4,14 @@
 #include <QPushButton>
 #include <cmath>
 
-#include "channels/CellTranslation.h"
-#include "channels/CellValues.h"
 #include "channels/ChannelCellEditor.h"
-#include "channels/ChannelEditForm.h"
 #include "controls/EditGrid.h"
 #include "data/MemoryMap.h"
+#include "data/Session.h"
 #include "help/HelpViewer.h"
 #include "platform/LayoutUnits.h"
 #include "platform/Services.h"
 #include "platform/Toolkit.h"
-#include "text/Decimal.h"
 
 namespace zelvor {
 
@@ -24,7 +21,6 @@ namespace {
 constexpr QSize WindowSize{12000, 6500};
 constexpr QRect GridPlace{120, 75, 10650, 4440};
 
-constexpr int ChannelAreaSize = 256; // bytes of the channel block
 constexpr int HelpContextBase = 4100;
 
 /// Column captions behind the corner's, then the corner; blanks at the end of some are part of the format.
@@ -47,20 +43,23 @@ std::vector<int> ColumnWidths(int gridWidth) {
 
 } // namespace
 
-ChannelForm::ChannelForm(Session& session, Services& services, ChannelWindows& windows, QWidget* parent)
-    : ChildForm(ChildWindow::Channels, "ChannelForm", WindowSize, parent), session_(session), services_(services),
-      windows_(windows) {
-    windows_.grid = this;
+ChannelForm::ChannelForm(Session& session, Services& services, QWidget* parent)
+    : ChildForm(ChildWindow::Channels, "ChannelForm", WindowSize, parent), session_(session), services_(services) {
     BuildToneLists();
-    session_.EditChannel = 1;
+    session_.Cursor.SetEditChannel(1);
     BuildGrid();
     BuildControls();
     SetCaption(" " + ToQString(session_.LoadText(Text::ChannelInformationOfChannel1)));
     SetTexts();
+    ShowRows();
     setFocusProxy(channelGrid_);
+    session_.Channels.Add(*this);
+    session_.Cursor.Add(*this);
 }
 
 ChannelForm::~ChannelForm() {
+    session_.Cursor.Remove(*this);
+    session_.Channels.Remove(*this);
     cellEditor_->HideEditors();
 }
 
@@ -70,12 +69,8 @@ void ChannelForm::BuildGrid() {
     channelGrid_->setGeometry(PixelsOfTwips(GridPlace.x()), PixelsOfTwips(GridPlace.y()),
                               PixelsOfTwips(GridPlace.width()), PixelsOfTwips(GridPlace.height()));
     channelGrid_->setProperty("HelpContextID", HelpContextBase + column::Rx);
-    cellEditor_ = new ChannelCellEditor(
-        session_, services_, *channelGrid_, Content(),
-        {[this](int k) { EncodeChannelRow(k); }, [this](int row) { ClearChannelData(row); },
-         [this] { UpdateFreeArea(); }, [this](int n) { ShowChannelInCaption(n); },
-         [this]() -> const std::vector<std::string>& { return ToneListDec; },
-         [this]() -> const std::vector<std::string>& { return ToneListEnc; }, [this] { return OpenDialog(); }});
+    cellEditor_ = new ChannelCellEditor(session_, services_, *channelGrid_, Content(), {ToneListDec, ToneListEnc});
+    connect(cellEditor_, &ChannelCellEditor::FrequencyLeft, this, &ChannelForm::UpdateFreeArea);
     connect(channelGrid_, &EditGrid::CursorMoved, this, &ChannelForm::OnCursorMoved);
 }
 
@@ -97,7 +92,6 @@ void ChannelForm::BuildControls() {
     labHint_->setForegroundRole(QPalette::PlaceholderText);
     labFreeArea_ = label("LabFreeArea", {8, 352, 130, 30});
     labBlankChannel_ = label("LabBlankChannel", {142, 352, 60, 30});
-    labBlankChannel_->setText(QString::number(ChannelAreaSize));
     cmdChannelEdit_ = button("cmdChannelEdit", 370, 124);
     cmdClose_ = button("cmdClose", 506, 100);
     cmdHelp_ = button("cmdHelp", 618, 100);
@@ -126,60 +120,31 @@ void ChannelForm::SetTexts() {
     labBlankChannel_->setAccessibleName(text(Text::FreeAreaBytes));
 }
 
-void ChannelForm::SwitchLanguage() {
+void ChannelForm::OnTranslated() {
     SetTexts();
     SetCaption(ToQString(NewDocumentChannelCaption(session_.LanguageFlag)));
-    TranslateCells();
     BuildToneLists();
 }
 
-void ChannelForm::TranslateCells() {
+void ChannelForm::ShowRows() {
     for (int k = 1; k <= address::ChannelCount; ++k) {
-        if (channelGrid_->Text(k, column::Rx).isEmpty()) {
-            continue;
-        }
         for (int column = 1; column <= column::Count; ++column) {
-            const std::string text = FromQString(channelGrid_->Text(k, column));
-            channelGrid_->SetText(k, column,
-                                  ToQString(TranslateCell(column, text, session_.Image, k, session_.LanguageFlag)));
+            channelGrid_->SetText(k, column, ToQString(session_.Channels.CellText(k, column)));
         }
     }
+    UpdateFreeArea();
 }
 
-void ChannelForm::DecodeImageToGrid() {
-    const std::vector<ChannelTexts> channels = session_.Channels.DecodeAll(session_.Image, session_.LanguageFlag);
-    int programmed = 0;
-    for (int k = 1; k <= address::ChannelCount; ++k) {
-        const ChannelTexts& texts = channels[static_cast<std::size_t>(k) - 1];
-        const bool blank = texts.RxText == NoFrequencyText;
-        programmed += blank ? 0 : 1;
-        for (int column = 1; column <= column::Count; ++column) {
-            const std::string& text = texts.*GridTexts[static_cast<std::size_t>(column) - 1];
-            channelGrid_->SetText(k, column, blank ? QString() : ToQString(text));
-        }
-    }
-    labBlankChannel_->setText(QString::number(ChannelAreaSize - address::ChannelSize * programmed));
+void ChannelForm::OnDecoded() {
+    ShowRows();
     SelectCell(1, channelGrid_->Column());
-    if (ChannelEditForm* dialog = OpenDialog()) {
-        dialog->Reload();
-    }
 }
 
-void ChannelForm::EncodeChannelRow(int k) {
-    for (int column = 1; column <= column::Count; ++column) {
-        const std::string& text = session_.Channels.Texts.*GridTexts[static_cast<std::size_t>(column) - 1];
-        channelGrid_->SetText(k, column, ToQString(text));
-    }
-    session_.Channels.EncodeChannel(session_.Image, session_.LanguageFlag, k, session_.TxCodeError);
-}
-
-void ChannelForm::ClearChannelData(int row) {
-    for (int column = 1; column <= column::Count; ++column) {
-        (session_.Channels.Texts.*GridTexts[static_cast<std::size_t>(column) - 1]).clear();
-        channelGrid_->SetText(row, column, QString());
-    }
-    for (int j = 0; j < address::ChannelSize; ++j) {
-        session_.Image.Set(address::Channel(row) + j, 0xFF);
+void ChannelForm::OnCellSet(int k, int column) {
+    channelGrid_->SetText(k, column, ToQString(session_.Channels.CellText(k, column)));
+    // A frequency that is being typed counts when its editor is left.
+    if (column == column::Rx && !cellEditor_->IsTextEditing()) {
+        UpdateFreeArea();
     }
 }
 
@@ -198,47 +163,21 @@ void ChannelForm::HideEditors() {
 
 void ChannelForm::OnCursorMoved(int row, int column) {
     cellEditor_->Leave();
-    session_.CurrentChannel = row;
-    session_.CurrentCol = column;
-    session_.EditChannel = row;
-    ShowChannelInCaption(row);
-    if (ChannelEditForm* dialog = OpenDialog()) {
-        dialog->GoToChannel(row);
-    }
+    session_.Cursor.GoToCell(row, column);
     channelGrid_->setProperty("HelpContextID", HelpContextBase + column);
     UpdateFreeArea();
-}
-
-QString ChannelForm::CellText(int row, int column) const {
-    return channelGrid_->Text(row, column);
-}
-
-void ChannelForm::SetCellText(int row, int column, const QString& text) {
-    channelGrid_->SetText(row, column, text);
 }
 
 void ChannelForm::ShowChannelInCaption(int n) {
     SetCaption(ToQString(ChannelCaption(session_.LanguageFlag, n)));
 }
 
-ChannelEditForm* ChannelForm::OpenDialog() const {
-    return session_.IsOpen(ChildWindow::ChannelEdit) ? windows_.dialog.data() : nullptr;
-}
-
 void ChannelForm::UpdateFreeArea() {
-    int programmed = 0;
-    for (int k = 1; k <= address::ChannelCount; ++k) {
-        const bool blank = Decimal::Leading(FromQString(channelGrid_->Text(k, column::Rx))).IsZero();
-        programmed += blank ? 0 : 1;
-    }
-    labBlankChannel_->setText(QString::number(ChannelAreaSize - address::ChannelSize * programmed));
+    labBlankChannel_->setText(QString::number(session_.Channels.FreeBytes()));
 }
 
 void ChannelForm::OnChannelEdit() {
     emit ChannelEditRequested();
-    if (ChannelEditForm* dialog = OpenDialog()) {
-        dialog->OpenOnEditChannel();
-    }
 }
 
 void ChannelForm::OnClose() {

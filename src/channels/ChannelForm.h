@@ -3,8 +3,9 @@
 #include <string>
 #include <vector>
 
-#include "channels/ChannelWindows.h"
 #include "controls/ChildForm.h"
+#include "data/ChannelCursor.h"
+#include "data/ChannelTable.h"
 
 class QLabel;
 class QPushButton;
@@ -15,36 +16,20 @@ class ChannelCellEditor;
 class EditGrid;
 struct Services;
 
-/// The channel grid: the 16 channels of the document as texts, with a floating editor over the current cell. After
-/// every committed edit the row's texts are encoded back into the channel's record.
-class ChannelForm : public ChildForm {
+/// The channel grid: the rows of the channel table, with a floating editor over the current cell. After every committed
+/// edit the row's texts are encoded back into the channel's record.
+class ChannelForm : public ChildForm, private ChannelTableObserver, private ChannelCursorObserver {
     Q_OBJECT
 
 public:
-    ChannelForm(Session& session, Services& services, ChannelWindows& windows, QWidget* parent = nullptr);
+    ChannelForm(Session& session, Services& services, QWidget* parent = nullptr);
     /// An edit that is still open when the window is unloaded is dropped.
     ~ChannelForm() override;
 
-    /// Decodes all channels of the image into the grid, shows the free area, and makes row 1 the current row.
-    void DecodeImageToGrid();
-    /// Writes the shared working texts into grid row k (1 to 16) and channel k into the image.
-    void EncodeChannelRow(int k);
-    /// Blanks the shared working texts, and row and record of a channel (1 to 16). Its Scan Add bit stays.
-    void ClearChannelData(int row);
     /// Moves the cursor; row 1 to 16, column 1 to 9.
     void SelectCell(int row, int column);
     /// Also where the cursor is there already: the dialog may have moved on to another channel.
     void SelectFirstCell();
-    /// A cell's text, row 1 to 16 and column 1 to 9. Setting it changes neither working texts nor image.
-    [[nodiscard]] QString CellText(int row, int column) const;
-    void SetCellText(int row, int column, const QString& text);
-    /// Names channel n in the title; the cursor stays.
-    void ShowChannelInCaption(int n);
-    /// Shows the bytes that the blank rows leave.
-    void UpdateFreeArea();
-    /// Brings the window into the language that the program has changed to: captions, words in the cells, tone lists,
-    /// and the title of a new document. The image stays.
-    void SwitchLanguage();
     /// Hides txtInputBox and comInputStep without committing them.
     void HideEditors();
 
@@ -61,19 +46,28 @@ protected:
     void OnFrameClosed() override;
 
 private:
+    /// Fills all rows, shows the free area, and makes row 1 the current row.
+    void OnDecoded() override;
+    /// Brings the window into the language of the table: captions, tone lists, and the title of a new document.
+    void OnTranslated() override;
+    void OnCellSet(int k, int column) override;
+    void OnGridChannel(int n) override { ShowChannelInCaption(n); }
+    void OnDialogChannel(int n) override { ShowChannelInCaption(n); }
+
     void BuildGrid();
     void BuildControls();
     void BuildToneLists();
     void SetTexts();
-    void TranslateCells();
+    void ShowRows();
+    /// Names channel n in the title; the cursor stays.
+    void ShowChannelInCaption(int n);
+    void UpdateFreeArea();
     void OnCursorMoved(int row, int column);
     void OnChannelEdit();
     void OnClose();
-    [[nodiscard]] ChannelEditForm* OpenDialog() const;
 
     Session& session_;
     Services& services_;
-    ChannelWindows& windows_;
     EditGrid* channelGrid_ = nullptr;
     ChannelCellEditor* cellEditor_ = nullptr;
     QLabel* labFreeArea_ = nullptr;

@@ -55,7 +55,7 @@ QString CharacterAt(const QString& text, qsizetype place) {
 
 } // namespace
 
-EmbedInfoForm::EmbedInfoForm(Session& session, Services& services, ChannelWindows& /*windows*/, QWidget* parent)
+EmbedInfoForm::EmbedInfoForm(Session& session, Services& services, QWidget* parent)
     : FieldForm(ChildWindow::EmbeddedMessage, "EmbedInfoForm", WindowSize, "picEmbeddedMsg", Text::EmbeddedMessageTitle,
                 session, services, parent) {
     BuildLines();

@@ -2,7 +2,6 @@
 
 #include <array>
 
-#include "channels/ChannelWindows.h"
 #include "controls/FieldForm.h"
 #include "data/EmbeddedMessage.h"
 
@@ -19,7 +18,7 @@ class EmbedInfoForm : public FieldForm {
     Q_OBJECT
 
 public:
-    EmbedInfoForm(Session& session, Services& services, ChannelWindows& windows, QWidget* parent = nullptr);
+    EmbedInfoForm(Session& session, Services& services, QWidget* parent = nullptr);
 
     [[nodiscard]] bool OpensAtOrigin() const override { return false; }
     [[nodiscard]] std::string_view HelpPage() const override { return "embmsg.htm"; }

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
-#include "channels/ChannelEditForm.h"
 #include "controls/EnterAsTab.h"
 #include "controls/FieldList.h"
 #include "controls/FilteredLineEdit.h"
 #include "controls/SpinText.h"
+#include "data/ChannelTable.h"
 #include "data/Fields.h"
 #include "data/MemoryMap.h"
 #include "platform/MessageBoxes.h"
@@ -25,14 +25,6 @@ constexpr int PriorityChannelDigits = 2;
 constexpr TextPair ErrorText{"Channel must be selected\nfrom the programmed Channel's",
                              "必须从已编程的信道中\n选择信道。"};
 
-bool IsChannel(int n) {
-    return n >= 1 && n <= address::ChannelCount;
-}
-
-bool IsProgrammed(const DataImage& image, int n) {
-    return image.At(address::Channel(n)) < 0xFF;
-}
-
 int Number(const QString& text) {
     return LeadingNumber(FromQString(text));
 }
@@ -40,16 +32,19 @@ int Number(const QString& text) {
 } // namespace
 
 // The window list names this window by another text, which begins with a blank.
-ScanForm::ScanForm(Session& session, Services& services, ChannelWindows& windows, QWidget* parent)
+ScanForm::ScanForm(Session& session, Services& services, QWidget* parent)
     : FieldForm(ChildWindow::Scan, "ScanForm", WindowSize, "picScanInfo", Text::ScanInformation, session, services,
-                parent),
-      windows_(windows) {
-    windows_.scan = this;
+                parent) {
     BuildControls();
     LayOut();
     LoadFields();
     Load();
     setFocusProxy(cboPriority_);
+    session.Priority.Add(*this);
+}
+
+ScanForm::~ScanForm() {
+    TheSession().Priority.Remove(*this);
 }
 
 void ScanForm::BuildControls() {
@@ -170,18 +165,11 @@ void ScanForm::OnModeSelected(int index) {
 /// Without a legal mode the image's bytes stay and are shown, and what only Fixed has is off.
 void ScanForm::ShowMode(std::optional<scan::Mode> mode) {
     const bool fixed = mode == scan::Mode::Fixed;
-    TheSession().PriorityFixedMode = fixed;
-    TheSession().PriorityChannelError = fixed && !IsChannel(TheSession().Image.At(scan::PriorityChannel.address));
-    if (!fixed) {
-        TheSession().PriorityChannelNo = 0;
-    }
+    TheSession().Priority.SetMode(fixed, TheSession().Image);
     txtPriorityCH_->setEnabled(fixed);
     lookBackTimeA_->setEnabled(mode != scan::Mode::None);
     lookBackTimeB_->setEnabled(mode != scan::Mode::None);
     RebuildRevertList();
-    if (ChannelEditForm* dialog = OpenDialog()) {
-        dialog->EnablePriorityMark();
-    }
 }
 
 /// RevertText stays, so that a later mode that has it among its entries finds it again.
@@ -216,16 +204,13 @@ void ScanForm::CommitTime(SpinText& control, const scan::TimeField& field) {
 }
 
 void ScanForm::CommitPriorityChannel() {
-    TheSession().PriorityChannelError = false;
+    ChannelPriority& priority = TheSession().Priority;
+    priority.SetError(false);
     const int n = AcceptedPriorityChannel();
     ShowPriorityChannel(n);
     TheSession().Image.Set(scan::PriorityChannel.address, n == 0 ? scan::NoChannel : static_cast<std::uint8_t>(n));
-    TheSession().PriorityChannelError = n == 0 && TheSession().PriorityFixedMode;
     PriorityChText = txtPriorityCH_->text();
-    TheSession().PriorityChannelNo = n;
-    if (ChannelEditForm* dialog = OpenDialog(); dialog != nullptr && n != 0) {
-        dialog->ShowPriorityMark(n);
-    }
+    priority.Enter(n);
 }
 
 /// The channel that the box's text ends up as; 0 for none.
@@ -236,7 +221,7 @@ int ScanForm::AcceptedPriorityChannel() {
     }
     const int typed = Number(text);
     const int n = std::clamp(typed, 1, address::ChannelCount);
-    if (IsProgrammed(TheSession().Image, n)) {
+    if (IsRecordInUse(TheSession().Image, n)) {
         return n;
     }
     ShowError();
@@ -253,8 +238,10 @@ void ScanForm::ShowPriorityChannel(int n) {
     txtPriorityCH_->setText(n == 0 ? QString() : QString::number(n));
 }
 
-ChannelEditForm* ScanForm::OpenDialog() const {
-    return TheSession().IsOpen(ChildWindow::ChannelEdit) ? windows_.dialog.data() : nullptr;
+void ScanForm::OnPriorityChannel(int n) {
+    if (TheSession().IsOpen(ChildWindow::Scan)) {
+        ShowPriorityChannel(n);
+    }
 }
 
 } // namespace zelvor

@@ -2,8 +2,8 @@
 
 #include <optional>
 
-#include "channels/ChannelWindows.h"
 #include "controls/FieldForm.h"
+#include "data/ChannelPriority.h"
 #include "data/ScanFields.h"
 
 namespace zelvor {
@@ -14,20 +14,22 @@ class SpinText;
 struct Services;
 
 /// The scan block: priority mode and channel, look back times, revert channel and delays, each stored when its control
-/// is left. Keeps Session::PriorityFixedMode, PriorityChannelNo and PriorityChannelError.
-class ScanForm : public FieldForm {
+/// is left. It shares the priority channel with the channel edit dialog.
+class ScanForm : public FieldForm, private ChannelPriorityObserver {
     Q_OBJECT
 
 public:
-    ScanForm(Session& session, Services& services, ChannelWindows& windows, QWidget* parent = nullptr);
+    ScanForm(Session& session, Services& services, QWidget* parent = nullptr);
 
-    /// Shows a channel (1 to 16, 0 for none) as the priority channel. The image follows when the box is left.
-    void ShowPriorityChannel(int n);
+    ~ScanForm() override;
 
     [[nodiscard]] bool OpensAtOrigin() const override { return false; }
     [[nodiscard]] std::string_view HelpPage() const override { return "scaninfo.htm"; }
 
 private:
+    /// The image follows when the box is left.
+    void OnPriorityChannel(int n) override;
+
     void BuildControls();
     SpinText* MakeTime(const QString& name, const scan::TimeField& field);
     void LayOut();
@@ -47,9 +49,8 @@ private:
     void CommitPriorityChannel();
     [[nodiscard]] int AcceptedPriorityChannel();
     void ShowError();
-    [[nodiscard]] ChannelEditForm* OpenDialog() const;
+    void ShowPriorityChannel(int n);
 
-    ChannelWindows& windows_;
     FieldList* cboPriority_ = nullptr;
     FilteredLineEdit* txtPriorityCH_ = nullptr;
     SpinText* lookBackTimeA_ = nullptr;

@@ -40,7 +40,7 @@ QRect PixelRect(const QRect& twips) {
 
 } // namespace
 
-TestChannelForm::TestChannelForm(Session& session, Services& services, ChannelWindows& /*windows*/, QWidget* parent)
+TestChannelForm::TestChannelForm(Session& session, Services& services, QWidget* parent)
     : FieldForm(ChildWindow::TestFrequency, "TestChannelForm", WindowSize, {}, Text::TestFrequencyTitle, session,
                 services, parent),
       SavedBlock(TestFrequencyBlock(session.Image)) {

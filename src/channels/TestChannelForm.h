@@ -1,6 +1,5 @@
 #pragma once
 
-#include "channels/ChannelWindows.h"
 #include "controls/FieldForm.h"
 #include "data/TestFrequencies.h"
 
@@ -18,7 +17,7 @@ class TestChannelForm : public FieldForm {
     Q_OBJECT
 
 public:
-    TestChannelForm(Session& session, Services& services, ChannelWindows& windows, QWidget* parent = nullptr);
+    TestChannelForm(Session& session, Services& services, QWidget* parent = nullptr);
     /// An edit that is still open when the window is unloaded is dropped.
     ~TestChannelForm() override;
 

@@ -210,6 +210,11 @@ void ChannelCodec::EncodePttId(std::uint8_t pttIdType, Language language, bool& 
 
 void ChannelCodec::CompleteChannelDefaults(DataImage& image, Language language, int k, std::string_view rxText) {
     Texts.RxText = Decimal::Leading(rxText).Format(3, 5);
+    CompleteTexts(image, language, true);
+    ClearHiddenFields(image, language, k);
+}
+
+void ChannelCodec::CompleteTexts(const DataImage& image, Language language, bool signalling) {
     if (Texts.TxText.empty()) {
         Texts.EncText.clear();
     }
@@ -218,16 +223,21 @@ void ChannelCodec::CompleteChannelDefaults(DataImage& image, Language language, 
     CompleteWith(Texts.PowerText, TableText(language, Text::High));
     CompleteWith(Texts.WidthText, TableText(language, Text::Wide));
     CompleteWith(Texts.ScanAddText, TableText(language, Text::Yes));
-    CompleteWith(Texts.OptSignalText, TableText(language, Text::None));
+    if (signalling) {
+        CompleteWith(Texts.OptSignalText, TableText(language, Text::None));
+    }
     const std::uint8_t pttIdType = image.At(address::PttIdType);
     if (pttIdType == TypeDtmf || pttIdType == TypeCorvane) {
         CompleteWith(Texts.PttIdText, TableText(language, Text::Off));
     } else {
         Texts.PttIdText.clear();
     }
+    CompleteWith(Texts.AutoDialText, AutoDialWord(AutoDialFirst));
+}
+
+void ChannelCodec::ClearHiddenFields(DataImage& image, Language language, int k) {
     CompleteWith(Texts.SpMuteText, TableText(language, Text::Carrier));
     CompleteWith(Texts.BusyLockText, TableText(language, Text::Off));
-
     const int at = address::Channel(k);
     image.SetBits(at + Signalling, CompanderBit, 0);
     image.SetBits(at + Transmitter, BeatShiftBit, 0);

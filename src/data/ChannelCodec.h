@@ -74,6 +74,15 @@ public:
     /// and Autodial Memory of the channel in the image.
     void CompleteChannelDefaults(DataImage& image, Language language, int k, std::string_view rxText);
 
+    // The parts of it.
+
+    /// Gives the texts that are empty, those of SP Unmute and Busy Channel Lockout apart, the values of a new channel;
+    /// the option signalling only if wanted.
+    void CompleteTexts(const DataImage& image, Language language, bool signalling);
+    /// Gives Compander, Beat Shift and Autodial Memory, in Texts and in the image, the values of a new channel, and so
+    /// the texts of SP Unmute and Busy Channel Lockout where they are empty.
+    void ClearHiddenFields(DataImage& image, Language language, int k);
+
 private:
     void DecodeChannel(const DataImage& image, Language language, int k);
     void EncodeSignalling(const DataImage& image, Language language, int k);        // byte 12

@@ -7,7 +7,9 @@
 #include <string_view>
 #include <vector>
 
-#include "data/ChannelCodec.h"
+#include "data/ChannelCursor.h"
+#include "data/ChannelPriority.h"
+#include "data/ChannelTable.h"
 #include "data/DataImage.h"
 #include "data/TestFrequencies.h"
 #include "data/TuneItems.h"
@@ -66,29 +68,23 @@ public:
 
     std::string CurrentFileName = std::string(DefaultFileName); // full path, or the bare default name; UTF-8
     std::string CurrentDirectory;                               // for the file dialogs; empty until an Open or Save As
-    std::string HelpFile; // the help file of the current language, behind the program's directory
 
     Language LanguageFlag = Language::English;
-    bool LanguageChanged = false;
     bool ExitConfirmed = false; // Yes was said to the exit question; stays set when the close is then cancelled
     bool SaveCancelled = false;
 
-    int CurrentChannel = 1; // 1 to 16, named in the grid's captions
-    int EditChannel = 1;    // the channel of the channel edit dialog
-    int CurrentCol = 1;     // column of the grid's cursor, 1 to 9
+    ChannelCursor Cursor;
 
-    bool PriorityChannelError = false;
     bool OwnIdError = false;
     bool TxCodeError = false;
     int TxCodeErrorKind = 0; // 1 begin code, 2 end code, 3 both
 
-    bool PriorityFixedMode = false; // the scan window's priority mode is Fixed
-    int PriorityChannelNo = 0;      // 1 to 16, 0 none; the image's byte is the scan window's to write
+    ChannelPriority Priority;
 
     int CommPortNumber = 1; // 1 to 20, in memory only
     LinkState Link;
     ServiceState Service;
-    ChannelCodec Channels;
+    ChannelTable Channels;
 
     static constexpr std::string_view DefaultFileName = "Zelvor.dat";
 

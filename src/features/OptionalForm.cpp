@@ -17,7 +17,6 @@
 #include "controls/FilteredLineEdit.h"
 #include "data/ChannelRecord.h"
 #include "data/OptionalFields.h"
-#include "features/PttIdDisplay.h"
 #include "features/Raster.h"
 #include "platform/Toolkit.h"
 
@@ -47,10 +46,9 @@ bool IsClick(const QEvent& event) {
 
 } // namespace
 
-OptionalForm::OptionalForm(Session& session, Services& services, ChannelWindows& windows, QWidget* parent)
+OptionalForm::OptionalForm(Session& session, Services& services, QWidget* parent)
     : FieldForm(ChildWindow::OptionalFeatures, "OptionalForm", WindowSize, "picOpt", Text::OptionalFeatures, session,
-                services, parent),
-      windows_(windows) {
+                services, parent) {
     BoundRows rows(*Panel(), session, raster::Margin, raster::RowSpacing);
     BuildGeneral(rows);
     auto* fraPTTID = MakeFrame("fraPTTID", ToQString(PttId.label.In(session.LanguageFlag)), Panel());
@@ -129,7 +127,8 @@ void OptionalForm::Connect() {
 }
 
 void OptionalForm::Load() {
-    const DataImage& image = TheSession().Image;
+    Session& session = TheSession();
+    const DataImage& image = session.Image;
     LoadFields();
     // A time-out without a number of steps shows its seconds all the same, and is stepped from 0.
     const int steps = image.At(TimeOutTimer.address);
@@ -137,7 +136,9 @@ void OptionalForm::Load() {
     for (std::size_t code = 0; code < PTTCode.size(); ++code) {
         PTTCode[code].box->setText(QString::fromStdU16String(LoadCode(image, PttCodes[code])));
     }
-    RefreshPttIdColumn(TheSession(), windows_);
+    if (session.IsOpen(ChildWindow::Channels)) {
+        session.Channels.RefreshPttIds(image, session.LanguageFlag);
+    }
     OnPttIdSelected();
     EnableVox();
 }
@@ -186,7 +187,9 @@ void OptionalForm::OnTypeSelected() {
         ChooseDtmf();
     }
     TheSession().Image.Set(PttIdType.address, static_cast<std::uint8_t>(type));
-    ShowPttIdsOfType(TheSession(), windows_);
+    if (TheSession().IsOpen(ChildWindow::Channels)) {
+        TheSession().Channels.ShowPttIdsOfType(TheSession().Image, TheSession().LanguageFlag);
+    }
 }
 
 void OptionalForm::ChooseCorvane() {

@@ -12,7 +12,6 @@ class BoundList;
 class BoundRows;
 class BoundSpin;
 class FilteredLineEdit;
-struct ChannelWindows;
 
 /// The optional features: what the radio has besides its channels, each stored when its control is left, the PTT ID
 /// codes at every keystroke. Keeps Session::TxCodeError and TxCodeErrorKind, and the PTT ID of the open channel windows
@@ -21,7 +20,7 @@ class OptionalForm : public FieldForm {
     Q_OBJECT
 
 public:
-    OptionalForm(Session& session, Services& services, ChannelWindows& windows, QWidget* parent = nullptr);
+    OptionalForm(Session& session, Services& services, QWidget* parent = nullptr);
     ~OptionalForm() override;
 
     [[nodiscard]] std::string_view HelpPage() const override { return "optfeatures.htm"; }
@@ -55,7 +54,6 @@ private:
     void OnFocusMoved(QWidget* to);
     void OnCodeChanged(std::size_t code);
 
-    ChannelWindows& windows_;
     BoundSpin* tot_ = nullptr;
     BoundCheck* chkScramblerAct_ = nullptr;
     BoundCheck* chkScramblerBackup_ = nullptr;

@@ -203,7 +203,7 @@ void CloneEngine::Complete(const TextPair& text) {
                     .icon = MessageIcon::Information,
                     .buttons = MessageButtons::Ok,
                     .defaultButton = MessageAnswer::Ok});
-    session_.PriorityChannelError = false;
+    session_.Priority.SetError(false);
     if (reading) {
         session_.CurrentFileName = Session::DefaultFileName;
         observer_.OnReadCompleted();

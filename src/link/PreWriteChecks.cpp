@@ -78,7 +78,7 @@ std::optional<Message> TxCodeBox(Language language, int kind) {
 
 std::optional<Message> CheckBeforeWrite(Session& session) {
     const Language language = session.LanguageFlag;
-    if (session.PriorityChannelError) {
+    if (session.Priority.PriorityChannelError()) {
         return ErrorBox(language, EmptyLine::Yes, {PriorityChannel});
     }
     if (session.OwnIdError) {

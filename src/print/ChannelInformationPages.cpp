@@ -3,6 +3,7 @@
 
 #include "data/ChannelCodec.h"
 #include "data/ChannelRecord.h"
+#include "data/ChannelTable.h"
 #include "data/MemoryMap.h"
 #include "data/ScanFields.h"
 #include "print/ReportSections.h"
@@ -11,8 +12,6 @@
 namespace zelvor {
 
 namespace {
-
-constexpr std::uint8_t Unused = 0xFF;
 
 constexpr int BlocksPerPage = 4;
 constexpr double FirstBlockRow = 13;
@@ -24,7 +23,7 @@ constexpr double RightValueColumn = 105;
 std::vector<int> ChannelsInUse(const DataImage& image) {
     std::vector<int> channels;
     for (int channel = 1; channel <= address::ChannelCount; ++channel) {
-        if (image.At(address::Channel(channel)) != Unused) {
+        if (IsRecordInUse(image, channel)) {
             channels.push_back(channel);
         }
     }

@@ -1,7 +1,6 @@
 #include "shell/ChildWindowRows.h"
 
 #include <array>
-#include <type_traits>
 
 #include "channels/ChannelEditForm.h"
 #include "channels/ChannelForm.h"
@@ -21,25 +20,23 @@ namespace {
 
 template<typename Form>
 ChildForm* Make(const ChildWindowParts& parts) {
-    if constexpr (std::is_constructible_v<Form, Session&, Services&, ChannelWindows&>) {
-        return new Form(parts.session, parts.services, parts.channels);
-    } else {
-        return new Form(parts.session, parts.services);
-    }
+    return new Form(parts.session, parts.services);
 }
 
 ChildForm* MakeGrid(const ChildWindowParts& parts) {
-    auto* grid = new ChannelForm(parts.session, parts.services, parts.channels);
+    auto* grid = new ChannelForm(parts.session, parts.services);
     ChildWindows* children = &parts.children;
-    QObject::connect(grid, &ChannelForm::ChannelEditRequested, children,
-                     [children] { children->OpenChildWindow(ChildWindow::ChannelEdit); });
+    QObject::connect(grid, &ChannelForm::ChannelEditRequested, children, [children] {
+        children->OpenChildWindow(ChildWindow::ChannelEdit);
+        static_cast<ChannelEditForm&>(children->Load(ChildWindow::ChannelEdit)).OpenOnEditChannel();
+    });
     QObject::connect(grid, &ChannelForm::ChannelEditHideRequested, children,
                      [children] { children->CloseByHiding(ChildWindow::ChannelEdit); });
     QObject::connect(grid, &ChannelForm::ChannelEditUnloadRequested, children,
                      [children] { children->CloseByUnloading(ChildWindow::ChannelEdit); });
     // A grid that is made again after a cancelled exit must show the document that is there.
     if (parts.isStarted) {
-        grid->DecodeImageToGrid();
+        parts.session.Channels.DecodeImageToGrid(parts.session.Image, parts.session.LanguageFlag);
     }
     return grid;
 }
@@ -51,7 +48,7 @@ ChildForm* MakeNavigator(const ChildWindowParts& parts) {
 }
 
 std::string GridCaption(const Session& session) {
-    return ChannelCaption(session.LanguageFlag, session.CurrentChannel);
+    return ChannelCaption(session.LanguageFlag, session.Cursor.CurrentChannel());
 }
 
 template<Text Name>

@@ -12,14 +12,12 @@ namespace zelvor {
 
 class ChildForm;
 class ChildWindows;
-struct ChannelWindows;
 struct Services;
 
 /// What child windows are made with.
 struct ChildWindowParts {
     Session& session;
     Services& services;
-    ChannelWindows& channels;
     ChildWindows& children;
     bool isStarted; // the program has its first document and window
 };

@@ -78,7 +78,7 @@ void ChildWindows::OpenChildWindow(ChildWindow window) {
         return;
     }
     if (window == ChildWindow::Channels) {
-        session_.CurrentChannel = 1;
+        session_.Cursor.SetCurrentChannel(1);
     }
     ListAsOpened(RowOf(window));
     BringToFront(window);

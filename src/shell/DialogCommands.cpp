@@ -4,10 +4,9 @@
 
 #include "controls/ChildForm.h"
 #include "data/Session.h"
-#include "link/ComForm.h"
-
 #include "help/HelpTopic.h"
 #include "help/HelpViewer.h"
+#include "link/ComForm.h"
 #include "platform/Services.h"
 #include "print/frmPrintList.h"
 #include "shell/AboutForm.h"

@@ -46,7 +46,7 @@ void DocumentView::PlaceGrid() {
 }
 
 void DocumentView::DecodeImageToGrid() {
-    Grid().DecodeImageToGrid();
+    session_.Channels.DecodeImageToGrid(session_.Image, session_.LanguageFlag);
 }
 
 void DocumentView::ListNewDocument() {
@@ -59,8 +59,8 @@ void DocumentView::ListNewDocument() {
 void DocumentView::ListGrid() {
     list_.SetMenuShown(true);
     if (!list_.IsShown(ChildWindow::Channels)) {
-        session_.CurrentChannel = 1;
-        list_.Show(ChildWindow::Channels, ChannelCaption(session_.LanguageFlag, session_.CurrentChannel));
+        session_.Cursor.SetCurrentChannel(1);
+        list_.Show(ChildWindow::Channels, ChannelCaption(session_.LanguageFlag, session_.Cursor.CurrentChannel()));
         list_.ClearMark(ChildWindow::Channels);
     }
 }

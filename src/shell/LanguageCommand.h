@@ -9,7 +9,6 @@ namespace zelvor {
 class ChildWindows;
 class DocumentView;
 class Session;
-struct ChannelWindows;
 struct Services;
 
 /// The choice of the language, and the switch of what is on screen where it has changed: the editors close, and the
@@ -19,7 +18,7 @@ class LanguageCommand : public QObject {
 
 public:
     LanguageCommand(Session& session, Services& services, ChildWindows& children, DocumentView& view,
-                    const ChannelWindows& channels, QWidget& mainWindow);
+                    QWidget& mainWindow);
 
     void Choose();
 
@@ -28,13 +27,14 @@ signals:
     void Switched();
 
 private:
+    /// Whether the dialog has changed the language.
+    [[nodiscard]] bool AskLanguage();
     void Switch();
 
     Session& session_;
     Services& services_;
     ChildWindows& children_;
     DocumentView& view_;
-    const ChannelWindows& channels_;
     QWidget& mainWindow_;
 };
 

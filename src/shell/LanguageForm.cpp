@@ -59,14 +59,11 @@ void LanguageForm::BuildControls() {
 
 void LanguageForm::accept() {
     session_.LanguageFlag = comLanguage_->currentIndex() == 1 ? Language::Chinese : Language::English;
-    session_.HelpFile = HelpFilePath(session_.LanguageFlag);
-    session_.LanguageChanged = session_.LanguageFlag != oldLanguage_;
     QDialog::accept();
 }
 
-void LanguageForm::reject() {
-    session_.LanguageChanged = false;
-    QDialog::reject();
+bool LanguageForm::LanguageChanged() const {
+    return session_.LanguageFlag != oldLanguage_;
 }
 
 } // namespace zelvor

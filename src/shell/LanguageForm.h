@@ -11,8 +11,7 @@ namespace zelvor {
 class Session;
 struct Services;
 
-/// Choice of the program's language. Shown modally; OK sets LanguageFlag, the help file, and LanguageChanged, which
-/// tells who shows the dialog whether there is anything to switch. Any other end leaves the language.
+/// Choice of the program's language. Shown modally; OK sets LanguageFlag, and any other end leaves it.
 class LanguageForm : public QDialog {
     Q_OBJECT
 
@@ -20,7 +19,8 @@ public:
     LanguageForm(Session& session, Services& services, QWidget* parent = nullptr);
 
     void accept() override;
-    void reject() override;
+    /// For who shows the dialog: whether there is anything to switch.
+    [[nodiscard]] bool LanguageChanged() const;
 
 private:
     void BuildControls();

@@ -78,7 +78,7 @@ void MDIForm1::BuildBars(QMdiArea& area) {
     statusBar1_ = new StatusBar1(this);
     setStatusBar(statusBar1_);
     children_ = std::make_unique<ChildWindows>(session_, area, *windowList_, [this](const ChildWindowRow& row) {
-        return row.make({session_, services_, channelWindows_, *children_, isStarted_});
+        return row.make({session_, services_, *children_, isStarted_});
     });
 }
 
@@ -92,7 +92,7 @@ void MDIForm1::BuildCommands() {
     connect(service_.get(), &ServiceCommands::TestModeActivated, this,
             [this] { windowList_->Mark(ChildWindow::TestFrequency); });
     connect(service_.get(), &ServiceCommands::ExchangeTold, statusBar1_, &StatusBar1::ShowExchange);
-    language_ = std::make_unique<LanguageCommand>(session_, services_, *children_, *view_, channelWindows_, *this);
+    language_ = std::make_unique<LanguageCommand>(session_, services_, *children_, *view_, *this);
     connect(language_.get(), &LanguageCommand::Switched, this, &MDIForm1::ApplyLanguage);
     dialogs_ = std::make_unique<DialogCommands>(session_, services_, *children_, *this);
     connect(dialogs_.get(), &DialogCommands::PortChosen, this,
@@ -111,7 +111,7 @@ void MDIForm1::ConnectKeys() {
 }
 
 void MDIForm1::RestoreSession() {
-    session_.PriorityChannelError = false;
+    session_.Priority.SetError(false);
     session_.OwnIdError = false;
     session_.TxCodeError = false;
     session_.ExitConfirmed = false;
@@ -131,7 +131,6 @@ void MDIForm1::RestoreSession() {
     view_->ShowTitle();
     view_->ShowGrid();
     view_->PlaceGrid();
-    session_.HelpFile = HelpFilePath(session_.LanguageFlag);
 }
 
 void MDIForm1::StartClock() {

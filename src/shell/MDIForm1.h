@@ -5,7 +5,6 @@
 #include <optional>
 #include <vector>
 
-#include "channels/ChannelWindows.h"
 #include "platform/QtLanguage.h"
 #include "shell/Command.h"
 #include "shell/MenuTree.h"
@@ -68,7 +67,6 @@ private:
     Session& session_;
     Services& services_;
     QtLanguage toolkitLanguage_;
-    ChannelWindows channelWindows_;
     const std::vector<MenuDescription> menuTree_;
     const std::vector<Command> keyCommands_;
     std::unique_ptr<Menus> menus_;

@@ -36,7 +36,7 @@ TEST_F(ChannelEditTest, OpeningNeverChangesAByteWhateverTheRecordHolds) {
         if (value == 0) {
             ShowBoth();
         }
-        form->DecodeImageToGrid();
+        session.Channels.DecodeImageToGrid(session.Image, session.LanguageFlag);
         for (int k = 1; k <= 4; ++k) {
             dialog->GoToChannel(k);
         }

@@ -32,7 +32,7 @@ TEST_F(ChannelEditTest, RemovingTheSignallingTakesOptionSignallingBackToOff) {
     EXPECT_EQ(Combo("ComBusyLock").count(), 3);
     EXPECT_EQ(Combo("ComBusyLock").currentIndex(), 0);
     EXPECT_EQ(Byte(1, 12) & 0x18, 0x00);
-    EXPECT_EQ(session.Channels.Texts.BusyLockText, "Off");
+    EXPECT_EQ(session.Channels.Texts().BusyLockText, "Off");
 }
 
 TEST_F(ChannelEditTest, OptionSignallingWithoutAToneIsStoredLikeQtDqtWithOne) {
@@ -56,7 +56,7 @@ TEST_F(ChannelEditTest, SpUnmuteIsStoredByItsPlace) {
         Pick("ComSPMute", entry);
         EXPECT_EQ(Byte(1, 12), stored[entry]);
     }
-    EXPECT_EQ(session.Channels.Texts.SpMuteText, "QT/DQT");
+    EXPECT_EQ(session.Channels.Texts().SpMuteText, "QT/DQT");
 }
 
 TEST_F(ChannelEditTest, BusyLockIsStoredByItsPlace) {
@@ -69,7 +69,7 @@ TEST_F(ChannelEditTest, BusyLockIsStoredByItsPlace) {
     for (const int entry : {1, 2, 3, 0}) {
         Pick("ComBusyLock", entry);
         EXPECT_EQ(Byte(1, 12), stored[entry]);
-        EXPECT_EQ(session.Channels.Texts.BusyLockText, texts[entry]);
+        EXPECT_EQ(session.Channels.Texts().BusyLockText, texts[entry]);
     }
 }
 
@@ -103,7 +103,7 @@ TEST_F(ChannelEditTest, AutodialIs248PlusItsPlace) {
         Pick("ComAutoDial", entry);
         EXPECT_EQ(Byte(1, 15), stored[entry]);
     }
-    EXPECT_EQ(session.Channels.Texts.AutoDialText, "1");
+    EXPECT_EQ(session.Channels.Texts().AutoDialText, "1");
     Combo("ComAutoDial").setCurrentIndex(-1);
     EXPECT_EQ(Byte(1, 15), 0xF8);
 }
@@ -114,14 +114,14 @@ TEST_F(ChannelEditTest, BeatShiftAndCompanderAreOneBitEach) {
     Enter("ChkShift");
     Key(Qt::Key_Space);
     EXPECT_EQ(Byte(1, 13), 0xFF);
-    EXPECT_TRUE(session.Channels.Texts.BeatShiftFlag);
+    EXPECT_TRUE(session.Channels.Texts().BeatShiftFlag);
     Key(Qt::Key_Space);
     EXPECT_EQ(Byte(1, 13), 0xBF);
-    EXPECT_FALSE(session.Channels.Texts.BeatShiftFlag);
+    EXPECT_FALSE(session.Channels.Texts().BeatShiftFlag);
     Enter("ChkYaKuo");
     Key(Qt::Key_Space);
     EXPECT_EQ(Byte(1, 12), 0x01);
-    EXPECT_TRUE(session.Channels.Texts.CompanderFlag);
+    EXPECT_TRUE(session.Channels.Texts().CompanderFlag);
     Key(Qt::Key_Space);
     EXPECT_EQ(Byte(1, 12), 0x00);
 }
@@ -202,7 +202,7 @@ TEST_F(ChannelEditTest, ACorvanePttIdShowsTheRecordWhenItTakesTheFocus) {
                            "Off",          "Off",          "Off",          "Off"};
     for (int nibble = 0; nibble < 16; ++nibble) {
         PutAll(SimplexWith(14, 0xB0));
-        form->DecodeImageToGrid();
+        session.Channels.DecodeImageToGrid(session.Image, session.LanguageFlag);
         Enter("txtChannel");
         session.Image.Set(0x1E, static_cast<std::uint8_t>(0xB0 + nibble));
         Enter("ComPTTID");
@@ -224,28 +224,28 @@ TEST_F(ChannelEditTest, AnUnknownPttIdTypeEmptiesTheList) {
 
 TEST_F(ChannelEditTest, MarkingAnotherPriorityChannelMovesTheMark) {
     PutAll(SimplexRecord);
-    session.PriorityFixedMode = true;
-    session.PriorityChannelError = true;
+    session.Priority.SetMode(true, session.Image);
+    session.Priority.SetError(true);
     session.Image.Set(0x161, 0x09);
     ShowBoth(3);
     ASSERT_TRUE(Check("ChkPriorityChannel").isEnabled());
     Enter("ChkPriorityChannel");
     Key(Qt::Key_Space);
-    EXPECT_EQ(session.PriorityChannelNo, 3);
-    EXPECT_FALSE(session.PriorityChannelError);
+    EXPECT_EQ(session.Priority.PriorityChannelNo(), 3);
+    EXPECT_FALSE(session.Priority.PriorityChannelError());
     GoToChannel(5);
     EXPECT_FALSE(Check("ChkPriorityChannel").isChecked());
-    EXPECT_EQ(session.PriorityChannelNo, 3);
+    EXPECT_EQ(session.Priority.PriorityChannelNo(), 3);
     Enter("ChkPriorityChannel");
     Key(Qt::Key_Space);
-    EXPECT_EQ(session.PriorityChannelNo, 5);
+    EXPECT_EQ(session.Priority.PriorityChannelNo(), 5);
     GoToChannel(3);
     EXPECT_FALSE(Check("ChkPriorityChannel").isChecked());
     GoToChannel(5);
     EXPECT_TRUE(Check("ChkPriorityChannel").isChecked());
     Enter("ChkPriorityChannel");
     Key(Qt::Key_Space);
-    EXPECT_EQ(session.PriorityChannelNo, 0);
+    EXPECT_EQ(session.Priority.PriorityChannelNo(), 0);
     // With the scan window closed the image's byte stays.
     EXPECT_EQ(session.Image.At(0x161), 0x09);
 }
@@ -254,7 +254,7 @@ TEST_F(ChannelEditTest, AnOpenScanWindowShowsTheMarkedChannelAndKeepsTheByteUnti
     PutAll(SimplexRecord);
     session.Image.Set(0x160, 1);
     session.Image.Set(0x161, 7);
-    ScanForm scan(session, services.Get(), windows);
+    ScanForm scan(session, services.Get());
     session.SetOpen(ChildWindow::Scan, true);
     ShowBoth(7);
     const auto& box = *scan.findChild<QLineEdit*>("txtPriorityCH");
@@ -285,21 +285,20 @@ TEST_F(ChannelEditTest, AKeyInScanAddCommitsTheChannel) {
 
 TEST_F(ChannelEditTest, OnlyAProgrammedChannelInFixedModeCanBeMarked) {
     PutRecord(1, SimplexRecord);
-    session.PriorityChannelNo = 1;
+    session.Priority.Enter(1);
     ShowBoth();
     EXPECT_FALSE(Check("ChkPriorityChannel").isEnabled());
     EXPECT_FALSE(Check("ChkPriorityChannel").isChecked());
-    session.PriorityFixedMode = true;
-    dialog->EnablePriorityMark();
+    session.Priority.SetMode(true, session.Image);
     EXPECT_TRUE(Check("ChkPriorityChannel").isEnabled());
     EXPECT_TRUE(Check("ChkPriorityChannel").isChecked());
     GoToChannel(2);
     EXPECT_FALSE(Check("ChkPriorityChannel").isEnabled());
-    EXPECT_EQ(session.PriorityChannelNo, 1);
+    EXPECT_EQ(session.Priority.PriorityChannelNo(), 1);
     GoToChannel(1);
-    dialog->ShowPriorityMark(2);
+    session.Priority.Enter(2);
     EXPECT_FALSE(Check("ChkPriorityChannel").isChecked());
-    EXPECT_EQ(session.PriorityChannelNo, 1); // no click
+    EXPECT_EQ(session.Priority.PriorityChannelNo(), 2); // no click
 }
 
 } // namespace

@@ -24,9 +24,9 @@ protected:
         session.LanguageFlag = language;
         host = std::make_unique<QWidget>();
         host->resize(1400, 700);
-        form = std::make_unique<ChannelForm>(session, services.Get(), windows);
+        form = std::make_unique<ChannelForm>(session, services.Get());
         form->setParent(host.get(), Qt::SubWindow);
-        form->DecodeImageToGrid();
+        session.Channels.DecodeImageToGrid(session.Image, session.LanguageFlag);
         QObject::connect(form.get(), &ChannelForm::ChannelEditRequested, form.get(), [this] { LoadDialog(); });
         form->show();
         host->show();
@@ -113,7 +113,7 @@ protected:
 private:
     void LoadDialog() {
         if (!dialog) {
-            dialog = std::make_unique<ChannelEditForm>(session, services.Get(), windows);
+            dialog = std::make_unique<ChannelEditForm>(session, services.Get());
             dialog->setParent(host.get(), Qt::SubWindow);
             dialog->move(820, 0);
             QObject::connect(dialog.get(), &ChildForm::UnloadRequested, dialog.get(), [this] {
@@ -124,6 +124,7 @@ private:
         }
         session.SetOpen(ChildWindow::ChannelEdit, true);
         dialog->show();
+        dialog->OpenOnEditChannel();
     }
 };
 

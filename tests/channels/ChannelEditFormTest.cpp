@@ -233,7 +233,7 @@ TEST_F(ChannelEditTest, EveryStoredValueOfTheListsIsShown) {
     ShowBoth();
     for (const Row& row : rows) {
         PutRecord(1, SimplexWith(row.j, row.value));
-        form->DecodeImageToGrid();
+        session.Channels.DecodeImageToGrid(session.Image, session.LanguageFlag);
         EXPECT_EQ(Shown(row.list), row.shown) << row.list << " " << row.value;
     }
 }
@@ -247,7 +247,7 @@ TEST_F(ChannelEditTest, CorvanePttIdsAreShownByTheirLowNibble) {
                            "Off",          "Off",          "Off",          "Off"};
     for (int nibble = 0; nibble < 16; ++nibble) {
         PutRecord(1, SimplexWith(14, 0xB0 + nibble));
-        form->DecodeImageToGrid();
+        session.Channels.DecodeImageToGrid(session.Image, session.LanguageFlag);
         EXPECT_EQ(Shown("ComPTTID"), shown[nibble]);
     }
 }

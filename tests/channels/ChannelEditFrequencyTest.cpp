@@ -101,7 +101,7 @@ TEST_F(ChannelEditTest, BothFrequenciesGoToTheNearerRaster) {
             Type(entry.typed);
             Key(Qt::Key_Return);
             EXPECT_EQ(Text(name).text(), entry.stored) << name;
-            EXPECT_EQ(form->CellText(1, name[3] == 'R' ? 1 : 2), entry.stored) << name;
+            EXPECT_EQ(Cell(1, name[3] == 'R' ? 1 : 2), entry.stored) << name;
         }
     }
 }

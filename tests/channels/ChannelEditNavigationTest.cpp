@@ -32,7 +32,7 @@ TEST_F(ChannelEditTest, TheArrowsStepThroughAllChannelsAndShowEach) {
     for (int k = 1; k <= 16; ++k) {
         EXPECT_EQ(Text("txtChannel").text(), QString::number(k));
         EXPECT_EQ(Shown("ComAutoDial"), autoDial[k - 1]);
-        EXPECT_EQ(session.EditChannel, k);
+        EXPECT_EQ(session.Cursor.EditChannel(), k);
         Key(Qt::Key_Up);
     }
     EXPECT_EQ(Text("txtChannel").text(), "1");

@@ -30,7 +30,7 @@ TEST_F(ChannelEditRandomTest, EveryImageIsShownChannelByChannelWithoutChangingAB
     for (int round = 0; round < 2002; ++round) {
         FillImage(round);
         const DataImage before = session.Image;
-        form->DecodeImageToGrid();
+        session.Channels.DecodeImageToGrid(session.Image, session.LanguageFlag);
         Reopen();
         for (int step = 0; step < 4; ++step) {
             dialog->GoToChannel(1 + (round + 5 * step) % 16);
@@ -45,8 +45,8 @@ TEST_F(ChannelEditRandomTest, ClosingChangesOnlyTheShownChannelAndItsScanAddBit)
         FillImage(round);
         const DataImage before = session.Image;
         const int k = 1 + round % 16;
-        form->DecodeImageToGrid();
-        session.EditChannel = k;
+        session.Channels.DecodeImageToGrid(session.Image, session.LanguageFlag);
+        session.Cursor.SetEditChannel(k);
         Reopen();
         const bool blank = Rx().text().isEmpty();
         Close();
@@ -74,8 +74,8 @@ TEST_F(ChannelEditRandomTest, EveryControlIsPassedOnAnyImage) {
     for (int round = 0; round < 60; ++round) {
         FillImage(round);
         session.Image.Set(0x1BE, 0xF8);
-        form->DecodeImageToGrid();
-        session.EditChannel = 1 + round % 16;
+        session.Channels.DecodeImageToGrid(session.Image, session.LanguageFlag);
+        session.Cursor.SetEditChannel(1 + round % 16);
         Reopen();
         for (int step = 0; step < 16; ++step) {
             // Frequencies of any bytes may lie out of range.

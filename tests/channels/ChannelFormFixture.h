@@ -33,8 +33,8 @@ protected:
     /// Shows the window over the image as it is now.
     void Show(Language language = Language::English) {
         session.LanguageFlag = language;
-        form = std::make_unique<ChannelForm>(session, services.Get(), windows);
-        form->DecodeImageToGrid();
+        form = std::make_unique<ChannelForm>(session, services.Get());
+        session.Channels.DecodeImageToGrid(session.Image, session.LanguageFlag);
         form->show();
         form->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
@@ -97,7 +97,6 @@ protected:
 
     FakeServices services;
     Session session;
-    ChannelWindows windows;
     std::unique_ptr<ChannelForm> form;
 };
 

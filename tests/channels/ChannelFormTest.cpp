@@ -7,7 +7,7 @@ namespace zelvor {
 namespace {
 
 TEST_F(ChannelFormTest, TheWindowHasItsSizeTitleAndTexts) {
-    form = std::make_unique<ChannelForm>(session, services.Get(), windows);
+    form = std::make_unique<ChannelForm>(session, services.Get());
     EXPECT_EQ(form->objectName(), "ChannelForm");
     EXPECT_EQ(form->size(), QSize(800, 433));
     EXPECT_EQ(form->windowTitle(), " Channel Information [ Channel - 1 ]");
@@ -22,7 +22,7 @@ TEST_F(ChannelFormTest, TheWindowHasItsSizeTitleAndTexts) {
 
 TEST_F(ChannelFormTest, TheWindowSpeaksChinese) {
     session.LanguageFlag = Language::Chinese;
-    form = std::make_unique<ChannelForm>(session, services.Get(), windows);
+    form = std::make_unique<ChannelForm>(session, services.Get());
     EXPECT_EQ(form->windowTitle(), " 信道信息 [信道-1]");
     EXPECT_EQ(Find<QPushButton>("cmdChannelEdit").text(), "信道编辑(&E)");
     EXPECT_EQ(Find<QLabel>("LabFreeArea").text(), "空位(Bytes):");
@@ -34,7 +34,7 @@ TEST_F(ChannelFormTest, TheWindowSpeaksChinese) {
 }
 
 TEST_F(ChannelFormTest, TheGridHasNineColumnsAndSixteenNumberedRows) {
-    form = std::make_unique<ChannelForm>(session, services.Get(), windows);
+    form = std::make_unique<ChannelForm>(session, services.Get());
     const char* headers[] = {"RX Frequency", "TX Frequency", "QT/DQT Dec", "QT/DQT Enc", "TX Power",
                              "W/N",          "Scan Add",     "Opt Signal", "PTT ID"};
     const int widths[] = {78, 78, 78, 78, 57, 50, 57, 71, 85};
@@ -78,9 +78,9 @@ TEST_F(ChannelFormTest, TheCursorNamesItsChannelInTheTitle) {
     Key(Qt::Key_Right);
     EXPECT_EQ(form->windowTitle(), " Channel Information [ Channel - 3 ]");
     EXPECT_EQ(captions.last().first().toString(), " Channel Information [ Channel - 3 ]");
-    EXPECT_EQ(session.CurrentChannel, 3);
-    EXPECT_EQ(session.EditChannel, 3);
-    EXPECT_EQ(session.CurrentCol, 2);
+    EXPECT_EQ(session.Cursor.CurrentChannel(), 3);
+    EXPECT_EQ(session.Cursor.EditChannel(), 3);
+    EXPECT_EQ(session.Cursor.CurrentCol(), 2);
     EXPECT_EQ(Grid().property("HelpContextID").toInt(), 4102);
 }
 
@@ -149,8 +149,8 @@ TEST_F(ChannelFormTest, RandomImagesOpenAndAreWalkedWithoutChangingAByte) {
             session.Image.Set(a, static_cast<std::uint8_t>(round == 0 ? 0x00 : round == 1 ? 0xFF : std::rand()));
         }
         const DataImage before = session.Image;
-        form = std::make_unique<ChannelForm>(session, services.Get(), windows);
-        form->DecodeImageToGrid();
+        form = std::make_unique<ChannelForm>(session, services.Get());
+        session.Channels.DecodeImageToGrid(session.Image, session.LanguageFlag);
         for (int k = 1; k <= 16; ++k) {
             form->SelectCell(k, 1 + round % 9);
         }

@@ -128,7 +128,7 @@ TEST_F(ChannelGridLeavingTest, ALeftClickElsewhereStillCommits) {
 TEST_F(ChannelGridLeavingTest, TheDialogMayBeGoneBehindTheMessage) {
     PutRecord(1, SimplexRecord);
     Show();
-    auto dialog = std::make_unique<ChannelEditForm>(session, services.Get(), windows);
+    auto dialog = std::make_unique<ChannelEditForm>(session, services.Get());
     session.SetOpen(ChildWindow::ChannelEdit, true);
     GoTo(1, 1);
     Type("1");

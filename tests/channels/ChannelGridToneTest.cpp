@@ -89,7 +89,7 @@ TEST_F(ChannelGridToneTest, EnterInTheDecodeColumnSkipsADeadEncodeCell) {
     auto record = SimplexRecord;
     record[7] = 0x00;
     PutRecord(1, record);
-    form->DecodeImageToGrid();
+    session.Channels.DecodeImageToGrid(session.Image, session.LanguageFlag);
     TypeTone("100");
     ExpectCursor(1, 5);
 }

@@ -11,10 +11,8 @@
 #include <gtest/gtest.h>
 #include <memory>
 #include <random>
-#include <type_traits>
 #include <vector>
 
-#include "channels/ChannelWindows.h"
 #include "controls/ChildForm.h"
 #include "data/Session.h"
 #include "fakes/FakeServices.h"
@@ -31,11 +29,7 @@ protected:
     void Load(Language language = Language::English) {
         session.LanguageFlag = language;
         form.reset();
-        if constexpr (std::is_constructible_v<Form, Session&, Services&, ChannelWindows&>) {
-            form = std::make_unique<Form>(session, services.Get(), windows);
-        } else {
-            form = std::make_unique<Form>(session, services.Get());
-        }
+        form = std::make_unique<Form>(session, services.Get());
     }
     /// The same, active, with the focus where the window puts it.
     void Show(Language language = Language::English) {
@@ -133,7 +127,6 @@ protected:
 
     FakeServices services;
     Session session;
-    ChannelWindows windows;
     std::unique_ptr<Form> form;
 };
 

@@ -29,12 +29,12 @@ protected:
 
 TEST_F(ScanFormModeTest, NoneEmptiesThePriorityChannelAndDisablesLookBack) {
     Show();
-    session.PriorityChannelNo = 5;
-    session.PriorityChannelError = true;
+    session.Priority.Enter(5);
+    session.Priority.SetError(true);
     Choose("cboPriority", 0);
-    EXPECT_FALSE(session.PriorityFixedMode);
-    EXPECT_EQ(session.PriorityChannelNo, 0);
-    EXPECT_FALSE(session.PriorityChannelError);
+    EXPECT_FALSE(session.Priority.PriorityFixedMode());
+    EXPECT_EQ(session.Priority.PriorityChannelNo(), 0);
+    EXPECT_FALSE(session.Priority.PriorityChannelError());
     EXPECT_EQ(Text("txtPriorityCH"), "");
     ExpectEnabled(false, false);
     EXPECT_EQ(Entries("cboRevertCH"), (QStringList{"Selected", "Selected + Talk Back"}));
@@ -49,8 +49,8 @@ TEST_F(ScanFormModeTest, FixedOpensThePriorityChannelAndAllRevertChannels) {
     Show();
     EXPECT_EQ(At(0x161), 0xFF);
     Choose("cboPriority", 1);
-    EXPECT_TRUE(session.PriorityFixedMode);
-    EXPECT_TRUE(session.PriorityChannelError); // no channel yet
+    EXPECT_TRUE(session.Priority.PriorityFixedMode());
+    EXPECT_TRUE(session.Priority.PriorityChannelError()); // no channel yet
     EXPECT_EQ(Text("txtPriorityCH"), "");
     ExpectEnabled(true, true);
     EXPECT_EQ(Entries("cboRevertCH"),
@@ -62,12 +62,12 @@ TEST_F(ScanFormModeTest, FixedOpensThePriorityChannelAndAllRevertChannels) {
 
 TEST_F(ScanFormModeTest, SelectedEmptiesThePriorityChannelAndKeepsLookBack) {
     Show();
-    session.PriorityChannelNo = 5;
-    session.PriorityChannelError = true;
+    session.Priority.Enter(5);
+    session.Priority.SetError(true);
     Choose("cboPriority", 2);
-    EXPECT_FALSE(session.PriorityFixedMode);
-    EXPECT_EQ(session.PriorityChannelNo, 0);
-    EXPECT_FALSE(session.PriorityChannelError);
+    EXPECT_FALSE(session.Priority.PriorityFixedMode());
+    EXPECT_EQ(session.Priority.PriorityChannelNo(), 0);
+    EXPECT_FALSE(session.Priority.PriorityChannelError());
     EXPECT_EQ(Text("txtPriorityCH"), "");
     EXPECT_EQ(At(0x161), 0xFF);
     ExpectEnabled(false, true);
@@ -99,8 +99,8 @@ TEST_F(ScanFormModeTest, InFixedModeThePriorityChannelErrorFollowsTheByte) {
     for (int byte = 0; byte <= 255; ++byte) {
         session.Image.Set(0x161, static_cast<std::uint8_t>(byte));
         Load();
-        EXPECT_EQ(session.PriorityChannelError, !(byte >= 1 && byte <= 16)) << byte;
-        EXPECT_TRUE(session.PriorityFixedMode);
+        EXPECT_EQ(session.Priority.PriorityChannelError(), !(byte >= 1 && byte <= 16)) << byte;
+        EXPECT_TRUE(session.Priority.PriorityFixedMode());
         EXPECT_EQ(At(0x161), byte);
         EXPECT_EQ(Text("txtPriorityCH"), byte == 255 ? "" : std::to_string(byte));
     }
@@ -113,7 +113,7 @@ TEST_F(ScanFormModeTest, EveryByteOfTheModeShowsAsItsEntryAndGoesBackUntouched) 
         Show();
         const int shown = byte <= 2 ? byte : byte == 255 ? 0 : -1;
         EXPECT_EQ(List("cboPriority").currentIndex(), shown) << byte;
-        EXPECT_EQ(session.PriorityFixedMode, byte == 1) << byte;
+        EXPECT_EQ(session.Priority.PriorityFixedMode(), byte == 1) << byte;
         EXPECT_EQ(At(0x160), byte);
         Find<QPushButton>("cmdHelp").setFocus();
         EXPECT_EQ(At(0x160), byte == 255 ? 0 : byte);
@@ -122,15 +122,15 @@ TEST_F(ScanFormModeTest, EveryByteOfTheModeShowsAsItsEntryAndGoesBackUntouched) 
 
 TEST_F(ScanFormModeTest, AModeThatDoesNotExistShowsTheBlockAsItIsAndIsNotFixed) {
     session.Image.Set(0x160, 7);
-    session.PriorityChannelError = true;
-    session.PriorityChannelNo = 3;
+    session.Priority.SetError(true);
+    session.Priority.Enter(3);
     Show();
     EXPECT_EQ(List("cboPriority").currentIndex(), -1);
     EXPECT_EQ(Text("txtPriorityCH"), "5");
     ExpectEnabled(false, true);
     EXPECT_EQ(Chosen("cboRevertCH"), "Priority");
-    EXPECT_FALSE(session.PriorityChannelError);
-    EXPECT_EQ(session.PriorityChannelNo, 0);
+    EXPECT_FALSE(session.Priority.PriorityChannelError());
+    EXPECT_EQ(session.Priority.PriorityChannelNo(), 0);
     EXPECT_EQ(Block(), (Bytes{7, 5, 1, 15, 2, 3, 0, 0x2B, 1}));
 }
 
@@ -237,13 +237,13 @@ protected:
         Put(0x10, {0x00, 0x25, 0x51, 0x14, 0x00, 0x25, 0x51, 0x14});
         Put(0x50, {0x00, 0x25, 0x51, 0x14, 0x00, 0x25, 0x51, 0x14});
         session.SetOpen(ChildWindow::Channels, true);
-        grid = std::make_unique<ChannelForm>(session, services.Get(), windows);
-        grid->DecodeImageToGrid();
+        grid = std::make_unique<ChannelForm>(session, services.Get());
+        session.Channels.DecodeImageToGrid(session.Image, session.LanguageFlag);
     }
     void OpenDialog(int channel) {
         session.SetOpen(ChildWindow::ChannelEdit, true);
-        session.EditChannel = channel;
-        dialog = std::make_unique<ChannelEditForm>(session, services.Get(), windows);
+        session.Cursor.SetEditChannel(channel);
+        dialog = std::make_unique<ChannelEditForm>(session, services.Get());
         dialog->show();
         dialog->OpenOnEditChannel();
     }
@@ -285,10 +285,10 @@ TEST_F(ScanFormAndDialogTest, ACommittedChannelSetsAndClearsTheMarkWithoutAnEcho
     OpenScan();
     Enter("txtPriorityCH", "1");
     EXPECT_TRUE(Mark().isChecked());
-    EXPECT_EQ(session.PriorityChannelNo, 1);
+    EXPECT_EQ(session.Priority.PriorityChannelNo(), 1);
     Enter("txtPriorityCH", "5");
     EXPECT_FALSE(Mark().isChecked());
-    EXPECT_EQ(session.PriorityChannelNo, 5);
+    EXPECT_EQ(session.Priority.PriorityChannelNo(), 5);
     EXPECT_EQ(Text("txtPriorityCH"), "5");
     EXPECT_EQ(At(0x161), 5);
 }
@@ -297,7 +297,7 @@ TEST_F(ScanFormAndDialogTest, TheMarkShowsInTheBoxAndReachesTheImageWhenTheBoxIs
     OpenDialog(1);
     OpenScan();
     Mark().click();
-    EXPECT_EQ(session.PriorityChannelNo, 1);
+    EXPECT_EQ(session.Priority.PriorityChannelNo(), 1);
     EXPECT_EQ(Text("txtPriorityCH"), "1");
     EXPECT_EQ(At(0x161), 5);
     form->activateWindow();

@@ -21,7 +21,8 @@ void PrintTo(const Priority& priority, std::ostream* out) {
 class ScanFormPriorityTest : public ScanFormTest {
 protected:
     Priority Now() {
-        return {Text("txtPriorityCH"), At(0x161), session.PriorityChannelError, session.PriorityChannelNo};
+        return {Text("txtPriorityCH"), At(0x161), session.Priority.PriorityChannelError(),
+                session.Priority.PriorityChannelNo()};
     }
 };
 
@@ -171,12 +172,13 @@ TEST_F(ScanFormPriorityTest, AStoredChannelThatIsNoChannelComesBackWhereChannel1
 
 TEST_F(ScanFormPriorityTest, TheBoxCanBeSetFromOutsideAndStoresItWhenItIsLeft) {
     Show();
-    form->ShowPriorityChannel(12);
+    session.SetOpen(ChildWindow::Scan, true);
+    session.Priority.Mark(12);
     EXPECT_EQ(Text("txtPriorityCH"), "12");
     EXPECT_EQ(At(0x161), 5);
-    form->ShowPriorityChannel(0);
+    session.Priority.Mark(0);
     EXPECT_EQ(Text("txtPriorityCH"), "");
-    form->ShowPriorityChannel(12);
+    session.Priority.Mark(12);
     Box("txtPriorityCH").setFocus();
     Key(Qt::Key_Tab);
     EXPECT_EQ(At(0x161), 12);
@@ -187,7 +189,7 @@ TEST_F(ScanFormPriorityTest, TheErrorOutlivesTheWindow) {
     Enter("txtPriorityCH", "");
     Click("cmdClose");
     form.reset();
-    EXPECT_TRUE(session.PriorityChannelError);
+    EXPECT_TRUE(session.Priority.PriorityChannelError());
 }
 
 } // namespace

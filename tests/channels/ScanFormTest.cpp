@@ -160,11 +160,14 @@ TEST_F(ScanFormTest, AWindowThatIsDestroyedDropsWhatIsBeingEdited) {
     EXPECT_EQ(At(0x164), 2);
 }
 
-TEST_F(ScanFormTest, TheWindowListKnowsTheWindowOnlyWhileItLives) {
+TEST_F(ScanFormTest, TheWindowListensOnlyWhileItLives) {
     Load();
-    EXPECT_EQ(windows.scan, form.get());
+    session.SetOpen(ChildWindow::Scan, true);
+    session.Priority.Mark(7);
+    EXPECT_EQ(Text("txtPriorityCH"), "7");
     form.reset();
-    EXPECT_TRUE(windows.scan.isNull());
+    session.Priority.Mark(8);
+    EXPECT_EQ(session.Priority.PriorityChannelNo(), 8);
 }
 
 TEST_F(ScanFormTest, OpeningAndClosingAWindowOfLegalValuesChangesNothing) {

@@ -49,7 +49,7 @@ protected:
 
     void Show(Language language = Language::English) {
         session.LanguageFlag = language;
-        form = std::make_unique<TestChannelForm>(session, services.Get(), windows);
+        form = std::make_unique<TestChannelForm>(session, services.Get());
         form->show();
         form->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
@@ -113,7 +113,6 @@ protected:
 
     FakeServices services;
     Session session;
-    ChannelWindows windows;
     std::unique_ptr<TestChannelForm> form;
 };
 

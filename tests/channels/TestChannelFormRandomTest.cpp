@@ -27,7 +27,7 @@ TEST_F(TestChannelFormRandomTest, AnyImageOpensIsWalkedAndClosedWithoutChangingA
         }
         session.LanguageFlag = round % 2 == 0 ? Language::English : Language::Chinese;
         const DataImage before = session.Image;
-        form = std::make_unique<TestChannelForm>(session, services.Get(), windows);
+        form = std::make_unique<TestChannelForm>(session, services.Get());
         const QSignalSpy unloaded(form.get(), &ChildForm::UnloadRequested);
         for (int row = 1; row <= 16; ++row) {
             const bool empty = session.Image.At(0x280 + 8 * (row - 1)) == 0xFF;
@@ -70,7 +70,7 @@ TEST_F(TestChannelFormRandomTest, AnyEntryLeavesWholePairsAndTouchesOnlyItsOwn) 
         Randomise();
         session.Image.Set(0x280, 0x00); // never the last pair
         session.Image.Set(0x288, 0x00);
-        form = std::make_unique<TestChannelForm>(session, services.Get(), windows);
+        form = std::make_unique<TestChannelForm>(session, services.Get());
         DataImage expected = session.Image;
         const int row = 1 + Below(16);
         const int column = 1 + Below(2);

@@ -18,11 +18,11 @@ TEST(Session, StartsWithANamelessEnglishDocument) {
     EXPECT_EQ(session.CurrentDirectory, "");
     EXPECT_EQ(session.LanguageFlag, Language::English);
     EXPECT_FALSE(session.HasFile());
-    EXPECT_FALSE(session.LanguageChanged || session.ExitConfirmed || session.SaveCancelled);
-    EXPECT_FALSE(session.PriorityChannelError || session.OwnIdError || session.TxCodeError);
+    EXPECT_FALSE(session.ExitConfirmed || session.SaveCancelled);
+    EXPECT_FALSE(session.Priority.PriorityChannelError() || session.OwnIdError || session.TxCodeError);
     EXPECT_EQ(session.CommPortNumber, 1);
-    EXPECT_EQ(session.CurrentChannel, 1);
-    EXPECT_EQ(session.EditChannel, 1);
+    EXPECT_EQ(session.Cursor.CurrentChannel(), 1);
+    EXPECT_EQ(session.Cursor.EditChannel(), 1);
     EXPECT_EQ(session.Link.SentState, 55);
     EXPECT_FALSE(session.IsAnyChildOpen());
 }

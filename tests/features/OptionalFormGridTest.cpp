@@ -1,6 +1,7 @@
 #include "OptionalFormFixture.h"
 #include "channels/ChannelEditForm.h"
 #include "channels/ChannelForm.h"
+#include "controls/EditGrid.h"
 
 namespace zelvor {
 namespace {
@@ -35,26 +36,27 @@ protected:
         TearDown();
         session.LanguageFlag = language;
         session.Image.Set(0x133, static_cast<std::uint8_t>(type));
-        grid = std::make_unique<ChannelForm>(session, services.Get(), windows);
-        grid->DecodeImageToGrid();
+        grid = std::make_unique<ChannelForm>(session, services.Get());
+        session.Channels.DecodeImageToGrid(session.Image, session.LanguageFlag);
         session.SetOpen(ChildWindow::Channels, true);
         before = session.Image;
     }
     /// The channel edit dialog on a channel, beside the grid.
     void OpenDialog(int k) {
-        session.EditChannel = k;
-        dialog = std::make_unique<ChannelEditForm>(session, services.Get(), windows);
+        session.Cursor.SetEditChannel(k);
+        dialog = std::make_unique<ChannelEditForm>(session, services.Get());
         dialog->OpenOnEditChannel();
     }
     void FillColumn(const char* text) {
         for (int k = 1; k <= 16; ++k) {
-            grid->SetCellText(k, 9, text);
+            session.Channels.SetCellText(k, 9, text);
         }
     }
+    std::string CellText(int k) { return grid->findChild<EditGrid*>("ChannelGrid")->Text(k, 9).toStdString(); }
     Texts Column() {
         Texts texts;
         for (int k = 1; k <= 16; ++k) {
-            texts.push_back(grid->CellText(k, 9).toStdString());
+            texts.push_back(CellText(k));
         }
         return texts;
     }
@@ -191,13 +193,13 @@ TEST_F(OptionalFormGridTest, TheDialogStoresThePttIdThatTheGridShows) {
     OpenGrid(Corvane);
     OpenDialog(4); // fleet list 2
     Load();
-    EXPECT_EQ(grid->CellText(4, 9), "Fleet List 2");
+    EXPECT_EQ(CellText(4), "Fleet List 2");
     dialog->CommitDialog();
     EXPECT_EQ(At(4 * 16 + 14), 0xB3);
-    EXPECT_EQ(grid->CellText(4, 9), "Fleet List 2");
+    EXPECT_EQ(CellText(4), "Fleet List 2");
     List("cboPTTIDType").setCurrentIndex(Dtmf);
     dialog->CommitDialog();
-    EXPECT_EQ(grid->CellText(4, 9), "On");
+    EXPECT_EQ(CellText(4), "On");
     EXPECT_EQ(At(4 * 16 + 14), 0xB1);
 }
 

@@ -124,12 +124,12 @@ TEST_F(RefusedModel, LeavesTheImageUntouched) {
 }
 
 TEST_F(RefusedModel, ShowsNoCompletionAndKeepsTheFlags) {
-    rig.session.PriorityChannelError = true;
+    rig.session.Priority.SetError(true);
     Refuse();
     rig.clock.Advance(500);
     EXPECT_EQ(rig.messages.Shown().size(), 1U);
     EXPECT_EQ(rig.Count("write completed"), 0);
-    EXPECT_TRUE(rig.session.PriorityChannelError);
+    EXPECT_TRUE(rig.session.Priority.PriorityChannelError());
 }
 
 TEST_F(RefusedModel, HasBothTimersDisabledWhileThePromptIsUp) {

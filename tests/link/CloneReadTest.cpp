@@ -122,9 +122,10 @@ TEST_F(CloneRead, CompletesInOrder) {
 }
 
 TEST_F(CloneRead, ClearsTheComplaintAboutThePriorityChannelAlone) {
-    rig.session.PriorityChannelError = rig.session.OwnIdError = rig.session.TxCodeError = true;
+    rig.session.Priority.SetError(true);
+    rig.session.OwnIdError = rig.session.TxCodeError = true;
     Run();
-    EXPECT_FALSE(rig.session.PriorityChannelError);
+    EXPECT_FALSE(rig.session.Priority.PriorityChannelError());
     EXPECT_TRUE(rig.session.OwnIdError);
     EXPECT_TRUE(rig.session.TxCodeError);
 }

@@ -125,10 +125,11 @@ TEST_F(CloneWrite, SendsEndInTheTickThatEndsIt) {
 }
 
 TEST_F(CloneWrite, ClearsAllThreeFlagsAndKeepsTheFileName) {
-    rig.session.PriorityChannelError = rig.session.OwnIdError = rig.session.TxCodeError = true;
+    rig.session.Priority.SetError(true);
+    rig.session.OwnIdError = rig.session.TxCodeError = true;
     rig.session.CurrentFileName = "/home/dealer/radio.dat";
     Run();
-    EXPECT_FALSE(rig.session.PriorityChannelError);
+    EXPECT_FALSE(rig.session.Priority.PriorityChannelError());
     EXPECT_FALSE(rig.session.OwnIdError);
     EXPECT_FALSE(rig.session.TxCodeError);
     EXPECT_EQ(rig.session.CurrentFileName, "/home/dealer/radio.dat");

@@ -42,7 +42,7 @@ TEST_F(PreWriteChecks, LetTheWriteGoAheadWhereNoFlagIsSet) {
 }
 
 TEST_F(PreWriteChecks, NameThePriorityChannelBehindAnEmptyLine) {
-    session.PriorityChannelError = true;
+    session.Priority.SetError(true);
     ExpectBox(Language::English, "Error", "The following setting is incorrect.\r\n\r\n\"Priority Channel\"");
     ExpectBox(Language::Chinese, "错误", "以下设置错误。\r\n\r\n\"优先信道\"");
 }
@@ -90,10 +90,11 @@ TEST_F(PreWriteChecks, LetAnyOtherKindGoAheadAndKeepItsFlag) {
 
 TEST_F(PreWriteChecks, ReportTheFirstOfSeveralErrors) {
     UseCode();
-    session.PriorityChannelError = session.OwnIdError = session.TxCodeError = true;
+    session.Priority.SetError(true);
+    session.OwnIdError = session.TxCodeError = true;
     session.TxCodeErrorKind = 2;
     EXPECT_NE(CheckBeforeWrite(session)->text.find("Priority Channel"), std::string::npos);
-    session.PriorityChannelError = false;
+    session.Priority.SetError(false);
     EXPECT_NE(CheckBeforeWrite(session)->text.find("Fleet(Own)"), std::string::npos);
     session.OwnIdError = false;
     EXPECT_NE(CheckBeforeWrite(session)->text.find("End of TX code"), std::string::npos);
@@ -107,7 +108,8 @@ TEST_F(PreWriteChecks, ClearTheCodeErrorWhereNoChannelUsesTheCode) {
 }
 
 TEST_F(PreWriteChecks, DoNotClearTheCodeErrorBehindAnotherError) {
-    session.PriorityChannelError = session.TxCodeError = true;
+    session.Priority.SetError(true);
+    session.TxCodeError = true;
     EXPECT_TRUE(CheckBeforeWrite(session));
     EXPECT_TRUE(session.TxCodeError);
 }

@@ -47,11 +47,11 @@ TEST_F(MainWindowChildrenTest, ClosingTheGridByItsButtonDoesTheSame) {
 TEST_F(MainWindowChildrenTest, TheEditMenuBringsTheGridBack) {
     OpenMainWindow();
     CloseFrame("ChannelForm");
-    session.CurrentChannel = 9;
+    session.Cursor.SetCurrentChannel(9);
     Choose("MnuEditChannelInformation");
     EXPECT_TRUE(IsChildShown("ChannelForm"));
     EXPECT_TRUE(session.IsOpen(ChildWindow::Channels));
-    EXPECT_EQ(session.CurrentChannel, 1);
+    EXPECT_EQ(session.Cursor.CurrentChannel(), 1);
     EXPECT_EQ(TextOf("MnuWindowSub(0)"), " Channel Information [ Channel - 1 ]");
     EXPECT_TRUE(Entry("MnuWindowSub(0)")->isVisible());
     EXPECT_TRUE(Entry("MnuWindowSub(0)")->isChecked());

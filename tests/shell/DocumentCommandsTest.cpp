@@ -124,8 +124,8 @@ TEST_F(DocumentCommandsTest, NewListsTheGridSoWhereverTheCursorWas) {
     fakes.messages.Expect(NewQuestion, MessageAnswer::Ok);
     Choose("MnuFileNew");
     EXPECT_EQ(TextOf("MnuWindowSub(0)"), " Channel Information [ Channel-1 ]");
-    EXPECT_EQ(session.CurrentChannel, 1);
-    EXPECT_EQ(session.CurrentCol, 1);
+    EXPECT_EQ(session.Cursor.CurrentChannel(), 1);
+    EXPECT_EQ(session.Cursor.CurrentCol(), 1);
 }
 
 TEST_F(DocumentCommandsTest, NewClosesTheNavigatorAndPutsTheGridInItsPlace) {

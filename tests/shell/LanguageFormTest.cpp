@@ -16,11 +16,18 @@ protected:
         ChooseDialog("MnuSetupLanguageFileSetup", [&](QWidget& dialog) {
             ASSERT_EQ(dialog.objectName(), "LanguageForm");
             whileUp(dialog, *dialog.findChild<QComboBox*>("ComLanguage"));
+            languageChanged = static_cast<LanguageForm&>(dialog).LanguageChanged();
         });
+    }
+    [[nodiscard]] std::string HelpTopic() {
+        Choose("MnuHelpTopics");
+        return fakes.help.Topics().back();
     }
     static QString TextOfButton(QWidget& dialog, const char* name) {
         return dialog.findChild<QPushButton*>(name)->text();
     }
+
+    bool languageChanged = false; // of the dialog that was up last
 };
 
 TEST_F(LanguageFormTest, ShowsItsTextsAndTheLanguageInEnglish) {
@@ -64,23 +71,22 @@ TEST_F(LanguageFormTest, OkSetsTheFlagAndTheHelpFile) {
         Click(dialog, "CmdOK");
     });
     EXPECT_EQ(session.LanguageFlag, Language::Chinese);
-    EXPECT_TRUE(session.LanguageChanged);
-    EXPECT_TRUE(QString::fromStdString(session.HelpFile).endsWith("\\Zelvor_c.chm"));
+    EXPECT_TRUE(languageChanged);
+    EXPECT_TRUE(HelpTopic().ends_with("\\Zelvor_c.chm::/html/general.htm"));
     WithDialog([](QWidget& dialog, QComboBox& list) {
         list.setCurrentIndex(0);
         Click(dialog, "CmdOK");
     });
     EXPECT_EQ(session.LanguageFlag, Language::English);
-    EXPECT_TRUE(session.LanguageChanged);
-    EXPECT_TRUE(QString::fromStdString(session.HelpFile).endsWith("\\Zelvor_e.chm"));
+    EXPECT_TRUE(languageChanged);
+    EXPECT_TRUE(HelpTopic().ends_with("\\Zelvor_e.chm::/html/general.htm"));
 }
 
 TEST_F(LanguageFormTest, OkWithTheLanguageOfBeforeChangesNothing) {
     OpenMainWindow();
-    session.LanguageChanged = true;
     WithDialog([](QWidget& dialog, QComboBox&) { Click(dialog, "CmdOK"); });
     EXPECT_EQ(session.LanguageFlag, Language::English);
-    EXPECT_FALSE(session.LanguageChanged);
+    EXPECT_FALSE(languageChanged);
 }
 
 TEST_F(LanguageFormTest, AnyOtherEndChangesNothing) {
@@ -91,14 +97,13 @@ TEST_F(LanguageFormTest, AnyOtherEndChangesNothing) {
         [](QWidget& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); },
     };
     for (const auto& end : ends) {
-        session.LanguageChanged = true; // of an earlier switch
         WithDialog([&](QWidget& dialog, QComboBox& list) {
             list.setCurrentIndex(1);
             end(dialog);
         });
         EXPECT_EQ(session.LanguageFlag, Language::English);
-        EXPECT_FALSE(session.LanguageChanged);
-        EXPECT_TRUE(QString::fromStdString(session.HelpFile).endsWith("\\Zelvor_e.chm"));
+        EXPECT_FALSE(languageChanged);
+        EXPECT_TRUE(HelpTopic().ends_with("\\Zelvor_e.chm::/html/general.htm"));
     }
 }
 

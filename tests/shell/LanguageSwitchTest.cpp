@@ -10,7 +10,6 @@
 #include <QTableWidget>
 #include <QToolButton>
 
-#include "channels/ChannelForm.h"
 #include "shell/ShellTest.h"
 #include "support/QtPrinting.h"
 
@@ -62,7 +61,7 @@ protected:
         session.Image.Set(0x133, static_cast<std::uint8_t>(pttIdType));
         session.Image.Set(0x17E, 0x01);
         session.TakeSnapshot();
-        Find<ChannelForm>("ChannelForm")->DecodeImageToGrid();
+        session.Channels.DecodeImageToGrid(session.Image, session.LanguageFlag);
     }
     [[nodiscard]] QTableWidget& Grid() const { return *Find<QTableWidget>("ChannelGrid"); }
     [[nodiscard]] QMdiSubWindow& GridFrame() const {

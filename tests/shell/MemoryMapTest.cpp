@@ -286,7 +286,7 @@ TEST_F(MemoryMapTest, WithoutAChangeOfTheModelTheGridIsNotDecodedAnew) {
 
 TEST_F(MemoryMapTest, AChangedMarketMakesABlankDocumentAndDropsEveryOtherEdit) {
     OpenMainWindow();
-    Find<ChannelForm>("ChannelForm")->SetCellText(1, 1, "145.12500");
+    session.Channels.SetCellText(1, 1, "145.12500");
     session.CurrentFileName = "/tmp/one.dat";
     OpenEditors();
     WithMap([](QWidget& dialog, QTableWidget& grid) {

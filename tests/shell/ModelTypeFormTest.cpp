@@ -279,13 +279,13 @@ TEST_F(ModelTypeFormTest, TheWindowMenuListsTheGridAgainWhateverIsChosen) {
     OpenWith(0xF8, 1);
     CloseFrame("ChannelForm");
     ASSERT_FALSE(Entry("MnuWindow")->isVisible());
-    session.CurrentChannel = 4;
+    session.Cursor.SetCurrentChannel(4);
     Pick(2, 0, "cmdCancel");
     EXPECT_TRUE(Entry("MnuWindow")->isVisible());
     EXPECT_TRUE(Entry("MnuWindowSub(0)")->isVisible());
     EXPECT_FALSE(Entry("MnuWindowSub(0)")->isChecked());
     EXPECT_EQ(TextOf("MnuWindowSub(0)"), " Channel Information [ Channel - 1 ]");
-    EXPECT_EQ(session.CurrentChannel, 1);
+    EXPECT_EQ(session.Cursor.CurrentChannel(), 1);
     EXPECT_FALSE(IsChildShown("ChannelForm"));
 }
 

@@ -43,16 +43,18 @@ TEST_F(StartUpTest, TheRememberedLanguageIsUsedFromTheStart) {
     OpenMainWindowInChinese();
     EXPECT_EQ(window->windowTitle(), "Zelvor [4618: VHF: 136-174 MHz(M)] [ 文件名:Zelvor.dat]");
     EXPECT_EQ(TextOf("MnuWindowSub(0)"), " 信道信息 [ 信道 - 1 ]");
-    EXPECT_TRUE(QString::fromStdString(session.HelpFile).endsWith("\\Zelvor_c.chm"));
+    Choose("MnuHelpTopics");
+    EXPECT_TRUE(fakes.help.Topics().back().ends_with("\\Zelvor_c.chm::/html/general.htm"));
 }
 
 TEST_F(StartUpTest, TheHelpFileIsTheEnglishOneInEnglish) {
     OpenMainWindow();
-    EXPECT_TRUE(QString::fromStdString(session.HelpFile).endsWith("\\Zelvor_e.chm"));
+    Choose("MnuHelpTopics");
+    EXPECT_TRUE(fakes.help.Topics().back().ends_with("\\Zelvor_e.chm::/html/general.htm"));
 }
 
 TEST_F(StartUpTest, TheSessionStartsCleanWhateverItHeld) {
-    session.PriorityChannelError = true;
+    session.Priority.SetError(true);
     session.OwnIdError = true;
     session.TxCodeError = true;
     session.ExitConfirmed = true;
@@ -60,7 +62,7 @@ TEST_F(StartUpTest, TheSessionStartsCleanWhateverItHeld) {
     session.Link.SentState = 4;
     session.CommPortNumber = 7;
     OpenMainWindow();
-    EXPECT_FALSE(session.PriorityChannelError || session.OwnIdError || session.TxCodeError);
+    EXPECT_FALSE(session.Priority.PriorityChannelError() || session.OwnIdError || session.TxCodeError);
     EXPECT_FALSE(session.ExitConfirmed || session.SaveCancelled);
     EXPECT_EQ(session.Link.SentState, 55);
     EXPECT_EQ(session.CommPortNumber, 1);
@@ -72,7 +74,7 @@ TEST_F(StartUpTest, TheGridIsOpenListedAndActive) {
     EXPECT_TRUE(IsChildShown("ChannelForm"));
     EXPECT_EQ(Child("ChannelForm")->parentWidget()->pos(), QPoint(0, 0));
     EXPECT_EQ(session.ChildOpen, (std::array<bool, 10>{true}));
-    EXPECT_EQ(session.CurrentChannel, 1);
+    EXPECT_EQ(session.Cursor.CurrentChannel(), 1);
     EXPECT_TRUE(Entry("MnuWindowSub(0)")->isVisible());
     EXPECT_TRUE(Entry("MnuWindowSub(0)")->isChecked());
     EXPECT_TRUE(Entry("MnuWindow")->isVisible());

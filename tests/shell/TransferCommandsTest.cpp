@@ -48,7 +48,8 @@ TEST_F(TransferCommandsTest, AReadBecomesANewDocumentThatCountsAsChanged) {
     OpenMainWindow();
     ConnectRadio();
     session.CurrentFileName = "/somewhere/Other.dat";
-    session.PriorityChannelError = session.OwnIdError = session.TxCodeError = true;
+    session.Priority.SetError(true);
+    session.OwnIdError = session.TxCodeError = true;
     fakes.messages.Expect(ReadDone, MessageAnswer::Ok);
     Transfer("MnuProgramRead");
     EXPECT_EQ(session.Image.At(0x1BD), 33);
@@ -56,7 +57,7 @@ TEST_F(TransferCommandsTest, AReadBecomesANewDocumentThatCountsAsChanged) {
     EXPECT_EQ(session.CurrentFileName, "Zelvor.dat");
     EXPECT_EQ(window->windowTitle(), "Zelvor [5618: UHF: 450-490 MHz(M)] [ File Name:Zelvor.dat]");
     EXPECT_TRUE(session.IsDocumentChanged());
-    EXPECT_FALSE(session.PriorityChannelError);
+    EXPECT_FALSE(session.Priority.PriorityChannelError());
     EXPECT_FALSE(session.OwnIdError);
     EXPECT_FALSE(session.TxCodeError);
 }
@@ -93,7 +94,7 @@ TEST_F(TransferCommandsTest, ATransferShowsAndListsAGridThatWasClosed) {
     OpenMainWindow();
     ConnectRadio();
     CloseFrame("ChannelForm");
-    session.CurrentChannel = 7;
+    session.Cursor.SetCurrentChannel(7);
     fakes.messages.Expect(ReadDone, MessageAnswer::Ok);
     Transfer("MnuProgramRead");
     EXPECT_TRUE(IsChildShown("ChannelForm"));
@@ -101,7 +102,7 @@ TEST_F(TransferCommandsTest, ATransferShowsAndListsAGridThatWasClosed) {
     EXPECT_TRUE(Entry("MnuWindow")->isVisible());
     EXPECT_TRUE(Entry("MnuWindowSub(0)")->isVisible());
     EXPECT_EQ(TextOf("MnuWindowSub(0)"), " Channel Information [ Channel - 1 ]");
-    EXPECT_EQ(session.CurrentChannel, 1);
+    EXPECT_EQ(session.Cursor.CurrentChannel(), 1);
 }
 
 TEST_F(TransferCommandsTest, AFailedReadClosesTheEditorsAsWell) {
@@ -151,7 +152,7 @@ TEST_F(TransferCommandsTest, AWriteLeavesTheDocumentItsNameAndClearsTheComplaint
 
 TEST_F(TransferCommandsTest, AWriteIsRefusedWhileAnEditorsSettingIsIncorrect) {
     OpenMainWindow();
-    session.PriorityChannelError = true;
+    session.Priority.SetError(true);
     fakes.messages.Expect({"Error", "The following setting is incorrect.\r\n\r\n\"Priority Channel\"",
                            MessageIcon::Critical, MessageButtons::Ok, MessageAnswer::Ok},
                           MessageAnswer::Ok);

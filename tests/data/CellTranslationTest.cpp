@@ -1,4 +1,4 @@
-#include "channels/CellTranslation.h"
+#include "data/CellTranslation.h"
 
 #include <gtest/gtest.h>
 

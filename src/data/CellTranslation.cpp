@@ -1,7 +1,7 @@
-#include "channels/CellTranslation.h"
+#include "data/CellTranslation.h"
 
-#include "channels/CellValues.h"
 #include "data/ChannelRecord.h"
+#include "data/ChannelTable.h"
 #include "data/ChannelWords.h"
 #include "data/MemoryMap.h"
 #include "text/StringTable.h"
