@@ -6,13 +6,12 @@
 #include "controls/EditWatch.h"
 #include "controls/EnterAsTab.h"
 #include "platform/Toolkit.h"
-#include "text/StringTable.h"
 
 namespace zelvor {
 
 BoundCheck::BoundCheck(const QString& name, const CheckField& field, DataImage& image, Language language,
                        QWidget* parent)
-    : QCheckBox(ToQString(TableText(language, field.label)), parent), watch_(new EditWatch(*this)), field_(field),
+    : QCheckBox(ToQString(field.label.In(language)), parent), watch_(new EditWatch(*this)), field_(field),
       image_(image) {
     setObjectName(name);
     setFocusPolicy(Qt::StrongFocus);
