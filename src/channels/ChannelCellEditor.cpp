@@ -170,7 +170,7 @@ void ChannelCellEditor::OnTextChanged(const QString& text) {
     if (loading_ || state_ != State::TextEditing) {
         return;
     }
-    grid_.SetText(session_.Cursor.CurrentChannel(), session_.Cursor.CurrentCol(), text);
+    session_.Channels.SetCellText(session_.Cursor.CurrentChannel(), session_.Cursor.CurrentCol(), FromQString(text));
     if (text.size() == FrequencyLength) {
         CommitText();
     }
@@ -180,7 +180,8 @@ void ChannelCellEditor::OnTextEnded(bool restore) {
     if (restore) {
         const QScopedValueRollback<bool> loading(loading_, true);
         txtInputBox_->setText(CellUndoText);
-        grid_.SetText(session_.Cursor.CurrentChannel(), session_.Cursor.CurrentCol(), CellUndoText);
+        session_.Channels.SetCellText(session_.Cursor.CurrentChannel(), session_.Cursor.CurrentCol(),
+                                      FromQString(CellUndoText));
     }
     LeaveText();
     grid_.setFocus();

@@ -19,7 +19,7 @@ struct Services;
 
 /// Edits the cells of the channel grid: one floating text box for the two frequencies, one floating list for the other
 /// columns. At most one of them is visible. What is committed goes into the working texts, and into row and record of
-/// the channel; what is only typed, the grid alone shows.
+/// the channel; a frequency that is being typed shows in the row as it is.
 class ChannelCellEditor : public QObject {
     Q_OBJECT
 

@@ -171,19 +171,37 @@ void ChannelEditForm::OnReceiveLeft() {
         const QScopedValueRollback<bool> showing(showing_, true);
         fields_.txtRxFreq->setText(ToQString(frequency));
         EnableChannelControls();
+        fields_.ShowDefaults(WasBlank, session_.Image.At(address::PttIdType) <= record::TypeCorvane);
     }
+    // The texts come complete, from what is shown.
     fields_.TakeTexts(Texts());
     editor_.CommitReceive(channel_, {.frequency = frequency,
-                                     .completesSignalling = WasBlank,
-                                     .clearsHiddenFields = WasBlank,
+                                     .completesTexts = false,
+                                     .clearsHiddenFields = false,
                                      .record = RecordFollows::WithNextCommit});
-    ShowCompletedTexts();
+    CompleteDependentLists();
     if (WasBlank) {
-        StoreSpMute();
-        StoreBusyLock();
+        CompleteNewChannel();
     }
-    WasBlank = false;
     CommitDialog();
+}
+
+void ChannelEditForm::CompleteNewChannel() {
+    WasBlank = false;
+    {
+        const QScopedValueRollback<bool> showing(showing_, true);
+        fields_.comSPMute->ShowEntry(0);
+        fields_.comBusyLock->ShowEntry(0);
+        fields_.chkScanAdd->setChecked(true);
+        fields_.chkShift->setChecked(false);
+        fields_.chkYaKuo->setChecked(false);
+    }
+    StoreSpMute();
+    StoreBusyLock();
+    if (IsLive()) {
+        editor_.StoreBeatShift(channel_, false);
+        editor_.StoreCompander(channel_, false);
+    }
 }
 
 // --- Transmit frequency ----------------------------------------------------------------------------------------------
@@ -282,26 +300,6 @@ void ChannelEditForm::StoreBusyLock() {
     if (IsLive()) {
         editor_.StoreBusyLock(channel_, fields_.comBusyLock->currentIndex(),
                               FromQString(fields_.comBusyLock->currentText()));
-    }
-}
-
-void ChannelEditForm::OnPttIdFocus() {
-    const std::uint8_t type = session_.Image.At(address::PttIdType);
-    const QStringList entries = ToQStrings(CellChoices(column::PttId, session_.Image, session_.LanguageFlag));
-    editor_.TouchPttId(channel_);
-    if (type == record::TypeDtmf) {
-        if (fields_.comPTTID->currentText().isEmpty()) {
-            fields_.comPTTID->SetEntries(entries);
-            if (HasReceive()) {
-                fields_.comPTTID->setCurrentIndex(1);
-            }
-        }
-        return;
-    }
-    fields_.comPTTID->SetEntries(entries);
-    if (type == record::TypeCorvane) {
-        fields_.comPTTID->setCurrentIndex(
-            CorvanePttIdEntry(session_.Image.At(address::Channel(channel_) + record::PttId)));
     }
 }
 

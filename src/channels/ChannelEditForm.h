@@ -82,7 +82,8 @@ private:
 
     void OnReceiveText(const QString& text);
     void OnReceiveLeft();
-    void ShowCompletedTexts();
+    void CompleteDependentLists();
+    void CompleteNewChannel();
     void OnTransmitText(const QString& text);
     void OnTransmitLeft();
     void OnToneLeft(FieldList& list);

@@ -202,19 +202,21 @@ void ChannelEditPanel::TakeTexts(ChannelTexts& texts) const {
     texts.AutoDialText = FromQString(comAutoDial->currentText());
 }
 
-void ChannelEditPanel::ShowMissing(const ChannelTexts& texts) {
-    const auto show = [](FieldList& list, const std::string& text) {
+void ChannelEditPanel::ShowDefaults(bool isNew, bool hasPttId) {
+    const auto complete = [](FieldList& list, int entry) {
         if (list.currentText().isEmpty()) {
-            list.ShowEntry(list.findText(ToQString(text)));
+            list.ShowEntry(entry);
         }
     };
-    show(*comDecode, texts.DecText);
-    show(*comEncode, texts.EncText);
-    show(*comSelSignal, texts.OptSignalText);
-    show(*comTxPower, texts.PowerText);
-    show(*comWideNarrow, texts.WidthText);
-    show(*comPTTID, texts.PttIdText);
-    show(*comAutoDial, texts.AutoDialText);
+    complete(*comDecode, 0);
+    complete(*comEncode, 0);
+    if (isNew) {
+        comSelSignal->ShowEntry(0);
+    }
+    complete(*comTxPower, 0);
+    complete(*comWideNarrow, 1);
+    complete(*comPTTID, hasPttId ? 0 : NoEntry);
+    complete(*comAutoDial, 0);
 }
 
 } // namespace zelvor

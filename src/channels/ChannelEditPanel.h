@@ -52,8 +52,9 @@ public:
     [[nodiscard]] bool AreDependentListsRight() const;
     /// What is shown becomes the texts, SP Unmute and Busy Channel Lockout apart.
     void TakeTexts(ChannelTexts& texts) const;
-    /// Where nothing is shown, the texts are; those that TakeTexts takes.
-    void ShowMissing(const ChannelTexts& texts);
+    /// Where nothing is shown, the entry of a new channel is; the option signalling's only, and then always, where it
+    /// is one.
+    void ShowDefaults(bool isNew, bool hasPttId);
 
 private:
     [[nodiscard]] bool HasTone() const;

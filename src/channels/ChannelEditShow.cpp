@@ -91,23 +91,13 @@ void ChannelEditForm::ShowRecordFields() {
     fields_.comAutoDial->ShowEntry(fields_.comAutoDial->findText(ToQString(Texts().AutoDialText)));
 }
 
-/// After the editor completed the working texts of a receive frequency that was entered here.
-void ChannelEditForm::ShowCompletedTexts() {
-    const QScopedValueRollback<bool> showing(showing_, true);
-    fields_.ShowMissing(Texts());
+void ChannelEditForm::CompleteDependentLists() {
     const bool nothingShown =
         fields_.comSPMute->currentIndex() == NoEntry && fields_.comBusyLock->currentIndex() == NoEntry;
     if (!fields_.AreDependentListsRight()) {
         BuildDependentLists();
     } else if (nothingShown) {
         SelectMuteEntries();
-    }
-    if (WasBlank) {
-        fields_.comSPMute->ShowEntry(0);
-        fields_.comBusyLock->ShowEntry(0);
-        fields_.chkScanAdd->setChecked(true);
-        fields_.chkShift->setChecked(false);
-        fields_.chkYaKuo->setChecked(false);
     }
 }
 
@@ -200,6 +190,26 @@ void ChannelEditForm::OnPriorityChannel(int n) {
 }
 
 // --- PTT ID ----------------------------------------------------------------------------------------------------------
+
+void ChannelEditForm::OnPttIdFocus() {
+    const std::uint8_t type = session_.Image.At(address::PttIdType);
+    const QStringList entries = ToQStrings(CellChoices(column::PttId, session_.Image, session_.LanguageFlag));
+    editor_.TouchPttId(channel_);
+    if (type == record::TypeDtmf) {
+        if (fields_.comPTTID->currentText().isEmpty()) {
+            fields_.comPTTID->SetEntries(entries);
+            if (HasReceive()) {
+                fields_.comPTTID->setCurrentIndex(1);
+            }
+        }
+        return;
+    }
+    fields_.comPTTID->SetEntries(entries);
+    if (type == record::TypeCorvane) {
+        fields_.comPTTID->setCurrentIndex(
+            CorvanePttIdEntry(session_.Image.At(address::Channel(channel_) + record::PttId)));
+    }
+}
 
 void ChannelEditForm::OnPttIdTypeChosen(bool isOn) {
     if (!IsOpen()) {

@@ -90,8 +90,8 @@ TEST_F(ChannelEditorTest, AFirstFrequencyBringsAllDefaults) {
     OpenDecoded(1);
     editor.CommitReceive(1, {.frequency = "145.00000"});
     EXPECT_EQ(Row(1), (Texts{"145.00000", "", "None", "None", "High", "Wide", "Yes", "None", "Off"}));
-    EXPECT_EQ(Bytes(RecordOf(1).begin(), RecordOf(1).begin() + 8),
-              (Bytes{0x00, 0x00, 0x50, 0x14, 0xFF, 0xFF, 0xFF, 0xFF}));
+    const Bytes record = RecordOf(1);
+    EXPECT_EQ(Bytes(record.begin(), record.begin() + 8), (Bytes{0x00, 0x00, 0x50, 0x14, 0xFF, 0xFF, 0xFF, 0xFF}));
     EXPECT_EQ(Byte(1, 13), 0xBF);
     EXPECT_EQ(Byte(1, 14), 0xB0);
     EXPECT_EQ(Byte(1, 15), 0xF8);
