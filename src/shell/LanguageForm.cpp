@@ -8,7 +8,6 @@
 #include "controls/DialogButtons.h"
 #include "controls/FitToScreen.h"
 #include "data/Session.h"
-#include "help/HelpTopic.h"
 #include "help/HelpViewer.h"
 #include "platform/Services.h"
 #include "platform/Toolkit.h"
