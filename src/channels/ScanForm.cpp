@@ -1,13 +1,15 @@
 #include "channels/ScanForm.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "channels/ChannelEditForm.h"
+#include "controls/BoundList.h"
+#include "controls/BoundRows.h"
+#include "controls/BoundSpin.h"
 #include "controls/EnterAsTab.h"
 #include "controls/FieldList.h"
 #include "controls/FilteredLineEdit.h"
-#include "controls/SpinText.h"
-#include "data/Fields.h"
 #include "data/MemoryMap.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Services.h"
@@ -20,7 +22,8 @@ namespace {
 
 constexpr QSize WindowSize{5175, 5895}; // twips
 
-constexpr int PriorityChannelDigits = 2;
+constexpr int Margin = 12; // pixels
+constexpr int Spacing = 20;
 
 constexpr TextPair ErrorText{"Channel must be selected\nfrom the programmed Channel's",
                              "必须从已编程的信道中\n选择信道。"};
@@ -37,6 +40,16 @@ int Number(const QString& text) {
     return LeadingNumber(FromQString(text));
 }
 
+/// A step starts from what was typed.
+SpinTextRules TimeRules(const NumberField& field, FilteredLineEdit::Filter filter) {
+    SpinTextRules rules;
+    rules.filter = std::move(filter);
+    rules.read = [&field](const QString& text) {
+        return text.isEmpty() ? std::nullopt : std::optional(field.read(FromQString(text)));
+    };
+    return rules;
+}
+
 } // namespace
 
 // The window list names this window by another text, which begins with a blank.
@@ -46,98 +59,47 @@ ScanForm::ScanForm(Session& session, Services& services, ChannelWindows& windows
       windows_(windows) {
     windows_.scan = this;
     BuildControls();
-    LayOut();
+    Connect();
+    // Showing the mode overwrites the revert channel and, but for Fixed, the priority channel.
+    const std::uint8_t revertChannel = session.Image.At(scan::RevertChannel.address);
     LoadFields();
-    Load();
+    if (cboPriority_->currentIndex() < 0) {
+        ShowMode(std::nullopt);
+    }
+    LoadRevertChannel(revertChannel);
+    txtPriorityCH_->setText(ToQString(LoadNumber(session.Image, scan::PriorityChannel, session.LanguageFlag).text));
+    PriorityChText = txtPriorityCH_->text();
     setFocusProxy(cboPriority_);
 }
 
 void ScanForm::BuildControls() {
-    const auto list = [this](const char* name) {
-        auto* made = new FieldList(Panel());
-        made->setObjectName(name);
-        return made;
-    };
-    cboPriority_ = list("cboPriority");
+    BoundRows rows(*Panel(), TheSession(), Margin, Spacing);
+    cboPriority_ = rows.AddList("Priority", scan::PriorityMode);
     txtPriorityCH_ = new FilteredLineEdit(Panel());
     txtPriorityCH_->setObjectName("txtPriorityCH");
     txtPriorityCH_->SetFilter(Digit);
-    txtPriorityCH_->SetLengthLimit(PriorityChannelDigits);
+    txtPriorityCH_->SetLengthLimit(scan::PriorityChannel.lengthLimit);
     txtPriorityCH_->SelectAllOnFocus();
-    lookBackTimeA_ = MakeTime("LookBackTimeA", scan::LookBackTimeA);
-    lookBackTimeB_ = MakeTime("LookBackTimeB", scan::LookBackTimeB);
-    cboRevertCH_ = list("cboRevertCH");
-    dropoutDelayTime_ = MakeTime("DropoutDelayTime", scan::DropoutDelayTime);
-    txDwellTime_ = MakeTime("TXDwellTime", scan::TxDwellTime);
-
     EnterMovesOn(*txtPriorityCH_);
-    connect(cboPriority_, &FieldList::Selected, this, &ScanForm::OnModeSelected);
-    connect(cboPriority_, &FieldList::FocusLeft, this, &ScanForm::CommitMode);
-    connect(txtPriorityCH_, &FilteredLineEdit::FocusLeft, this, &ScanForm::CommitPriorityChannel);
-    connect(cboRevertCH_, &FieldList::Selected, this, [this] { RevertText = cboRevertCH_->currentText(); });
-    connect(cboRevertCH_, &FieldList::FocusLeft, this, &ScanForm::CommitRevertChannel);
-}
-
-SpinText* ScanForm::MakeTime(const QString& name, const scan::TimeField& field) {
-    SpinTextRules rules;
-    rules.first = field.first;
-    rules.last = field.last;
-    rules.lengthLimit = field.lengthLimit;
-    rules.filter = field.decimals > 0 ? DigitOrPoint : Digit;
-    rules.show = [&field](int value) { return ToQString(scan::Show(field, value)); };
-    rules.read = [&field](const QString& text) -> std::optional<int> {
-        if (text.isEmpty()) {
-            return std::nullopt;
-        }
-        return scan::Read(field, FromQString(text));
-    };
-    auto* made = new SpinText("txt" + name, "upd" + name, rules, Panel());
-    connect(&made->Box(), &FilteredLineEdit::FocusLeft, this, [this, made, &field] { CommitTime(*made, field); });
-    return made;
-}
-
-void ScanForm::LayOut() {
-    constexpr int margin = 12;
-    constexpr int spacing = 20;
-    FieldRows rows(*Panel(), TheSession().LanguageFlag, margin, spacing);
-    rows.Add("lblPriority", scan::PriorityMode.label, cboPriority_);
     rows.Add("lblPriorityCH", scan::PriorityChannel.label, txtPriorityCH_);
-    rows.Add("lblLookBackTimeA", scan::LookBackTimeA.label, lookBackTimeA_);
-    rows.Add("lblLookBackTimeB", scan::LookBackTimeB.label, lookBackTimeB_);
+    const auto time = [&rows](const QString& name, const NumberField& field, FilteredLineEdit::Filter filter) {
+        return rows.AddSpin(name, field, TimeRules(field, std::move(filter)));
+    };
+    lookBackTimeA_ = time("LookBackTimeA", scan::LookBackTimeA, DigitOrPoint);
+    lookBackTimeB_ = time("LookBackTimeB", scan::LookBackTimeB, DigitOrPoint);
+    cboRevertCH_ = new FieldList(Panel());
+    cboRevertCH_->setObjectName("cboRevertCH");
     rows.Add("lblRevertCH", scan::RevertChannel.label, cboRevertCH_);
-    rows.Add("lblDropoutDelayTime", scan::DropoutDelayTime.label, dropoutDelayTime_);
-    rows.Add("lblTXDwellTime", scan::TxDwellTime.label, txDwellTime_);
+    time("DropoutDelayTime", scan::DropoutDelayTime, Digit);
+    time("TXDwellTime", scan::TxDwellTime, Digit);
     rows.End();
 }
 
-void ScanForm::Load() {
-    QStringList modes;
-    for (const Text word : scan::PriorityMode.words) {
-        modes.append(LoadText(word));
-    }
-    cboPriority_->SetEntries(modes);
-
-    const DataImage& image = TheSession().Image;
-    const std::uint8_t revertChannel = image.At(scan::RevertChannel.address);
-    if (const auto mode = scan::EntryOf(scan::PriorityMode, image.At(scan::PriorityMode.address))) {
-        cboPriority_->setCurrentIndex(*mode);
-    } else {
-        ShowMode(std::nullopt);
-    }
-    const std::uint8_t channel = image.At(scan::PriorityChannel.address);
-    txtPriorityCH_->setText(channel == scan::NoChannel ? QString() : QString::number(channel));
-    PriorityChText = txtPriorityCH_->text();
-    LoadTime(*lookBackTimeA_, scan::LookBackTimeA);
-    LoadTime(*lookBackTimeB_, scan::LookBackTimeB);
-    LoadRevertChannel(revertChannel);
-    LoadTime(*dropoutDelayTime_, scan::DropoutDelayTime);
-    LoadTime(*txDwellTime_, scan::TxDwellTime);
-}
-
-void ScanForm::LoadTime(SpinText& control, const scan::TimeField& field) {
-    const std::optional<int> value = scan::Load(TheSession().Image, field);
-    control.SetValue(value.value_or(field.first));
-    control.SetText(value ? ToQString(scan::Show(field, *value)) : QString());
+void ScanForm::Connect() {
+    connect(cboPriority_, &FieldList::Selected, this, &ScanForm::OnModeSelected);
+    connect(txtPriorityCH_, &FilteredLineEdit::FocusLeft, this, &ScanForm::CommitPriorityChannel);
+    connect(cboRevertCH_, &FieldList::Selected, this, [this] { RevertText = cboRevertCH_->currentText(); });
+    connect(cboRevertCH_, &FieldList::FocusLeft, this, &ScanForm::CommitRevertChannel);
 }
 
 /// The byte is stored as it was: showing the mode has overwritten it. A list of two entries shows both meanings, with
@@ -188,17 +150,11 @@ void ScanForm::ShowMode(std::optional<scan::Mode> mode) {
 void ScanForm::RebuildRevertList() {
     QStringList entries;
     for (const std::uint8_t value : scan::RevertChannelsOf(ShownMode())) {
-        entries.append(ToQString(TheSession().LoadText(scan::RevertChannel.words[value])));
+        entries.append(ToQString(scan::RevertChannel.words[value].In(TheSession().LanguageFlag)));
     }
     cboRevertCH_->SetEntries(entries);
     const auto found = static_cast<int>(entries.indexOf(RevertText));
     cboRevertCH_->ShowEntry(found < 0 ? static_cast<int>(entries.size()) - 1 : found);
-}
-
-void ScanForm::CommitMode() {
-    if (const auto mode = ShownMode()) {
-        TheSession().Image.Set(scan::PriorityMode.address, static_cast<std::uint8_t>(*mode));
-    }
 }
 
 void ScanForm::CommitRevertChannel() {
@@ -207,12 +163,6 @@ void ScanForm::CommitRevertChannel() {
         const std::uint8_t value = scan::RevertChannelsOf(ShownMode())[static_cast<std::size_t>(index)];
         TheSession().Image.Set(scan::RevertChannel.address, value);
     }
-}
-
-void ScanForm::CommitTime(SpinText& control, const scan::TimeField& field) {
-    const int value = scan::Read(field, FromQString(control.Box().text()));
-    control.Put(value);
-    scan::Store(TheSession().Image, field, value);
 }
 
 void ScanForm::CommitPriorityChannel() {

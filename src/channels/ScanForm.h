@@ -8,9 +8,10 @@
 
 namespace zelvor {
 
+class BoundList;
+class BoundSpin;
 class FieldList;
 class FilteredLineEdit;
-class SpinText;
 struct Services;
 
 /// The scan block: priority mode and channel, look back times, revert channel and delays, each stored when its control
@@ -29,11 +30,7 @@ public:
 
 private:
     void BuildControls();
-    SpinText* MakeTime(const QString& name, const scan::TimeField& field);
-    void LayOut();
-
-    void Load();
-    void LoadTime(SpinText& control, const scan::TimeField& field);
+    void Connect();
     void LoadRevertChannel(std::uint8_t byte);
 
     void OnModeSelected(int index);
@@ -41,22 +38,18 @@ private:
     void RebuildRevertList();
     [[nodiscard]] std::optional<scan::Mode> ShownMode() const;
 
-    void CommitMode();
     void CommitRevertChannel();
-    void CommitTime(SpinText& control, const scan::TimeField& field);
     void CommitPriorityChannel();
     [[nodiscard]] int AcceptedPriorityChannel();
     void ShowError();
     [[nodiscard]] ChannelEditForm* OpenDialog() const;
 
     ChannelWindows& windows_;
-    FieldList* cboPriority_ = nullptr;
+    BoundList* cboPriority_ = nullptr;
     FilteredLineEdit* txtPriorityCH_ = nullptr;
-    SpinText* lookBackTimeA_ = nullptr;
-    SpinText* lookBackTimeB_ = nullptr;
+    BoundSpin* lookBackTimeA_ = nullptr;
+    BoundSpin* lookBackTimeB_ = nullptr;
     FieldList* cboRevertCH_ = nullptr;
-    SpinText* dropoutDelayTime_ = nullptr;
-    SpinText* txDwellTime_ = nullptr;
     QString RevertText;     // of the revert list, as the user or the image chose it
     QString PriorityChText; // last accepted text of txtPriorityCH
 };

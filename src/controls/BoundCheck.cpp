@@ -6,13 +6,12 @@
 #include "controls/EnterAsTab.h"
 #include "controls/PendingEdit.h"
 #include "platform/Toolkit.h"
-#include "text/StringTable.h"
 
 namespace zelvor {
 
 BoundCheck::BoundCheck(const QString& name, const CheckField& field, DataImage& image, Language language,
                        QWidget* parent)
-    : QCheckBox(ToQString(TableText(language, field.label)), parent), field_(field), image_(image) {
+    : QCheckBox(ToQString(field.label.In(language)), parent), field_(field), image_(image) {
     setObjectName(name);
     setFocusPolicy(Qt::StrongFocus);
     connect(this, &BoundCheck::FocusLeft, this, &BoundCheck::Commit);

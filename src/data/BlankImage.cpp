@@ -2,6 +2,7 @@
 
 #include <initializer_list>
 
+#include "data/FieldRegistry.h"
 #include "data/MemoryMap.h"
 #include "data/ModelCatalogue.h"
 #include "data/TestFrequencies.h"
@@ -15,18 +16,13 @@ void Store(DataImage& image, int address, std::initializer_list<std::uint8_t> by
     }
 }
 
+/// What a new document holds in bytes that are no field.
 void StoreConstants(DataImage& image) {
-    Store(image, 0x110, {0x00, 0x00, 0x0A, 0x00, 0x00, 0x01, 0x00, 0x0A, 0x00, 0x00, 0x00}); // DTMF
-    Store(image, 0x11E, {0x0A});                                                             // programmable key
-    Store(image, 0x120, {0x30, 0x30, 0x30});                                                 // DTMF ID code
-    Store(image, 0x12C, {0x00, 0x00, 0x01, 0x00, 0x04});                                     // optional features
-    Store(image, 0x131, {0x00, 0x00, 0x00, 0x05, 0x00, 0x01, 0x00, 0x00, 0x00, 0x05, 0x01, 0x00, 0x00, 0x00, 0x00});
-    Store(image, 0x140, {0x31, 0x32, 0x33, 0x34, 0x35}); // PTT ID, Begin of TX
-    Store(image, 0x160, {0x00});                         // scan
-    Store(image, 0x162, {0x1F, 0x33, 0x01, 0x03, 0x00, 0x03, 0x00});
-    Store(image, 0x171, {0x00, 0x00, 0x90, 0x01, 0x00, 0x0A, 0x00, 0x01, 0x00}); // Corvane
-    Store(image, 0x17C, {0x00, 0x00, 0x00, 0x00});                               // with Scan Add
-    Store(image, 0x1FA, {0x00});                                                 // DTMF stun type
+    Store(image, 0x12E, {0x01});       // among the optional features
+    Store(image, 0x13F, {0x00});       // behind them
+    Store(image, 0x179, {0x00});       // behind the Corvane settings
+    Store(image, 0x17C, {0x00, 0x00}); // before Scan Add
+    Store(image, address::ScanAdd, {0x00, 0x00});
 }
 
 void StoreIdentity(DataImage& image, std::uint8_t market, std::uint8_t family) {
@@ -42,6 +38,9 @@ void InitAllFrameData(DataImage& image) {
     const std::uint8_t market = image.At(address::Market);
     const std::uint8_t family = image.At(address::Family);
     image.Fill(0xFF);
+    for (const Field& field : AllFields()) {
+        field.StoreBlank(image);
+    }
     StoreConstants(image);
     StoreIdentity(image, market, family);
     StoreDefaultTestFrequencies(image, TestFrequencyBand(market));

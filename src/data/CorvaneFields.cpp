@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "data/ChannelWords.h"
 #include "text/StringTable.h"
 
 namespace zelvor::corvane {
@@ -74,7 +75,55 @@ void StoreListNumber(DataImage& image, int n, const ListNumber& field, int numbe
 
 void EraseEntry(DataImage& image, int n) {
     for (int i = 0; i < EntrySize; ++i) {
-        image.Set(EntryAddress(n) + i, BlankByte);
+        image.Set(EntryAddress(n) + i, ErasedByte);
+    }
+}
+
+std::string KeyOf(const ListNumberField& field) {
+    return "corvane.fleet-list." + std::to_string(field.entry) + '.' + std::string(field.number->key);
+}
+
+int AddressOf(const ListNumberField& field) {
+    return EntryAddress(field.entry) + field.number->offset;
+}
+
+int SizeOf(const ListNumberField& field) {
+    return field.number->bytes;
+}
+
+std::string LabelOf(const ListNumberField& field, Language language) {
+    return FleetListText(language, field.entry) + ' ' + std::string(field.number->heading.In(language));
+}
+
+std::string ShowValue(const ListNumberField& field, const DataImage& image, Language language) {
+    return LoadListNumber(image, field.entry, *field.number, language);
+}
+
+LegalValues LegalValuesOf(const ListNumberField& field, Language language) {
+    return {.mayBeEmpty = true,
+            .words = {ShowListNumber(AllNumbers, language)},
+            .range = LegalValues::Range{std::to_string(field.number->first), std::to_string(field.number->last), "1"}};
+}
+
+bool ParseValue(const ListNumberField& field, std::string_view text, DataImage& image) {
+    const std::string_view typed = Trimmed(text);
+    if (typed.empty()) {
+        StoreBlankValue(field, image);
+        return true;
+    }
+    const bool all = typed == ShowListNumber(AllNumbers, Language::English) ||
+                     typed == ShowListNumber(AllNumbers, Language::Chinese);
+    const int number = all ? AllNumbers : LeadingNumber(typed);
+    if (!all && (std::to_string(number) != typed || number < field.number->first || number > field.number->last)) {
+        return false;
+    }
+    StoreListNumber(image, field.entry, *field.number, number);
+    return true;
+}
+
+void StoreBlankValue(const ListNumberField& field, DataImage& image) {
+    for (int i = 0; i < SizeOf(field); ++i) {
+        image.Set(AddressOf(field) + i, ErasedByte);
     }
 }
 

@@ -2,15 +2,10 @@
 
 #include <algorithm>
 #include <span>
-#include <vector>
-
-#include "data/Windows1252.h"
 
 namespace zelvor::dtmf {
 
 namespace {
-
-constexpr std::uint8_t Padding = ' ';
 
 constexpr std::array<int, 4> Speeds{6, 8, 10, 15};
 constexpr std::array<int, 4> Times{0, 100, 500, 1000};
@@ -24,33 +19,6 @@ std::string ShowPlace(std::span<const int> values, int place) {
 int PlaceOf(std::span<const int> values, int number) {
     const auto above = std::upper_bound(values.begin() + 1, values.end(), number);
     return static_cast<int>(above - values.begin()) - 1;
-}
-
-/// The bytes of a text's characters; a character outside the code page has none.
-std::vector<std::uint8_t> BytesOf(std::u16string_view text) {
-    std::vector<std::uint8_t> bytes;
-    for (const char16_t character : text) {
-        if (const auto byte = Windows1252Byte(character)) {
-            bytes.push_back(*byte);
-        }
-    }
-    return bytes;
-}
-
-/// Writes the bytes at the start of a field, and fills the rest of it.
-void Fill(DataImage& image, int address, int size, std::span<const std::uint8_t> bytes, std::uint8_t rest) {
-    for (int i = 0; i < size; ++i) {
-        const auto place = static_cast<std::size_t>(i);
-        image.Set(address + i, place < bytes.size() ? bytes[place] : rest);
-    }
-}
-
-constexpr bool IsDecimalDigit(std::uint8_t byte) {
-    return byte >= '0' && byte <= '9';
-}
-
-constexpr int AutodialAddress(int n) {
-    return FirstAutodial + AutodialSize * (n - 1);
 }
 
 } // namespace
@@ -107,44 +75,6 @@ std::optional<int> NextText(const NumberField& field, std::string_view text, boo
         }
     }
     return std::nullopt;
-}
-
-std::u16string LoadCode(const DataImage& image, const CodeField& field) {
-    std::u16string code;
-    for (int address = field.address; address < field.address + CodeField::Size; ++address) {
-        const std::uint8_t byte = image.At(address);
-        if (byte == BlankByte || (field.decimal && !IsDecimalDigit(byte))) {
-            break;
-        }
-        code += Windows1252Character(byte);
-    }
-    return code;
-}
-
-void StoreCode(DataImage& image, const CodeField& field, std::u16string_view code) {
-    Fill(image, field.address, CodeField::Size, BytesOf(code), BlankByte);
-}
-
-bool IsLegalLength(const CodeField& field, int length) {
-    return length == 0 ? field.mayBeEmpty : length >= CodeField::LeastDigits;
-}
-
-std::u16string LoadAutodial(const DataImage& image, int n) {
-    std::u16string digits;
-    const int first = AutodialAddress(n);
-    if (image.At(first) == BlankByte) {
-        return digits;
-    }
-    for (int address = first; address < first + AutodialSize; ++address) {
-        if (const std::uint8_t byte = image.At(address); byte != Padding) {
-            digits += Windows1252Character(byte);
-        }
-    }
-    return digits;
-}
-
-void StoreAutodial(DataImage& image, int n, std::u16string_view digits) {
-    Fill(image, AutodialAddress(n), AutodialSize, BytesOf(digits), digits.empty() ? BlankByte : Padding);
 }
 
 } // namespace zelvor::dtmf

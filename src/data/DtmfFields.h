@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "data/Fields.h"
+#include "data/Field.h"
 #include "text/StringTable.h"
 
 /// The DTMF settings of the image: how the radio sends and decodes digits, its two codes and its autodial memories.
@@ -22,68 +22,159 @@ namespace zelvor::dtmf {
 [[nodiscard]] int ReadDCode(std::string_view text);
 [[nodiscard]] int ReadResetTime(std::string_view text);
 
-// Stored as a place among four texts; any other byte has no text.
-inline constexpr NumberField Speed{Text::DtmfSpeed, 0x110,    1, 0, 3, 1, 2, 0, true,
-                                   ShowSpeed,       ReadSpeed}; // digits a second
-inline constexpr NumberField FirstDigitTime{
-    Text::FirstDigitTime, 0x111, 1, 0, 3, 1, 4, 0, true, ShowTime, ReadTime};                                // ms
-inline constexpr NumberField Tone{Text::StarAndHashTone, 0x113, 1, 0, 3, 1, 4, 0, true, ShowTime, ReadTime}; // ms
+// Stored as a place among four texts; any other byte has no text. Digits a second, and milliseconds.
+inline constexpr NumberField Speed{.key = "dtmf.speed",
+                                   .label = Text::DtmfSpeed,
+                                   .address = 0x110,
+                                   .first = 0,
+                                   .last = 3,
+                                   .lengthLimit = 2,
+                                   .showsErased = true,
+                                   .blank = 0,
+                                   .show = ShowSpeed,
+                                   .read = ReadSpeed};
+inline constexpr NumberField FirstDigitTime{.key = "dtmf.first-digit-time",
+                                            .label = Text::FirstDigitTime,
+                                            .address = 0x111,
+                                            .first = 0,
+                                            .last = 3,
+                                            .lengthLimit = 4,
+                                            .showsErased = true,
+                                            .blank = 0,
+                                            .show = ShowTime,
+                                            .read = ReadTime};
+inline constexpr NumberField Tone{.key = "dtmf.star-and-hash-tone",
+                                  .label = Text::StarAndHashTone,
+                                  .address = 0x113,
+                                  .first = 0,
+                                  .last = 3,
+                                  .lengthLimit = 4,
+                                  .showsErased = true,
+                                  .blank = 0,
+                                  .show = ShowTime,
+                                  .read = ReadTime};
 
-inline constexpr NumberField FirstDigitDelay{
-    Text::FirstDigitDelay, 0x112, 1, 10, 100, 5, 4, 10, true, ShowDelay, ReadDelay}; // tens of ms
-inline constexpr NumberField DCodeAssignment{
-    Text::DCodeAssignment, 0x114, 1, 0, 16, 1, 2, 0, true, ShowDCode, ReadDCode}; // s
-inline constexpr NumberField AutoResetTimer{Text::AutoResetTimer, 0x117,        1, 0, 15, 1, 2, 10, true,
-                                            ShowNumberOrOff,      ReadResetTime}; // s
+/// Tens of milliseconds.
+inline constexpr NumberField FirstDigitDelay{.key = "dtmf.first-digit-delay",
+                                             .label = Text::FirstDigitDelay,
+                                             .address = 0x112,
+                                             .first = 10,
+                                             .last = 100,
+                                             .increment = 5,
+                                             .lengthLimit = 4,
+                                             .erased = 10,
+                                             .showsErased = true,
+                                             .blank = 10,
+                                             .show = ShowDelay,
+                                             .read = ReadDelay};
+/// Seconds.
+inline constexpr NumberField DCodeAssignment{.key = "dtmf.d-code-assignment",
+                                             .label = Text::DCodeAssignment,
+                                             .address = 0x114,
+                                             .first = 0,
+                                             .last = 16,
+                                             .lengthLimit = 2,
+                                             .showsErased = true,
+                                             .blank = 0,
+                                             .show = ShowDCode,
+                                             .read = ReadDCode};
+inline constexpr NumberField AutoResetTimer{.key = "dtmf.auto-reset-timer",
+                                            .label = Text::AutoResetTimer,
+                                            .address = 0x117,
+                                            .first = 0,
+                                            .last = 15,
+                                            .lengthLimit = 2,
+                                            .erased = 10,
+                                            .showsErased = true,
+                                            .blank = 10,
+                                            .show = ShowNumberOrOff,
+                                            .read = ReadResetTime};
 
 /// The next of the texts that a field shows from its first to its last value, round in a circle; nothing where the text
 /// is none of them.
 [[nodiscard]] std::optional<int> NextText(const NumberField& field, std::string_view text, bool up);
 
-inline constexpr CheckField SideTone{Text::DtmfSideTone, 0x115};
-inline constexpr CheckField ClearToTranspond{Text::ClearToTranspond, 0x11A, true};
+inline constexpr CheckField SideTone{
+    .key = "dtmf.side-tone", .label = Text::DtmfSideTone, .address = 0x115, .blank = true};
+inline constexpr CheckField ClearToTranspond{.key = "dtmf.clear-to-transpond",
+                                             .label = Text::ClearToTranspond,
+                                             .address = 0x11A,
+                                             .erasedIsOff = true,
+                                             .blank = false};
 
-inline constexpr std::array<FieldWord, 7> GroupCodeWords{{{Text::Off}, {"A"}, {"B"}, {"C"}, {"D"}, {"#"}, {"*"}}};
+inline constexpr std::array<FieldWord, 7> GroupCodeWords{{Text::Off, "A", "B", "C", "D", "#", "*"}};
 inline constexpr std::array<std::uint8_t, 7> GroupCodeBytes{0, 'A', 'B', 'C', 'D', '#', '*'};
-inline constexpr ListField GroupCode{Text::GroupCode, 0x116, GroupCodeWords, GroupCodeBytes};
+inline constexpr ListField GroupCode{.key = "dtmf.group-code",
+                                     .label = Text::GroupCode,
+                                     .address = 0x116,
+                                     .words = GroupCodeWords,
+                                     .codes = GroupCodeBytes,
+                                     .blank = 0};
 
-inline constexpr std::array<FieldWord, 3> CallAlertWords{{{Text::Off}, {Text::Normal}, {Text::Continuous}}};
+inline constexpr std::array<FieldWord, 3> CallAlertWords{{Text::Off, Text::Normal, Text::Continuous}};
 inline constexpr std::array<std::uint8_t, 3> CallAlertBytes{2, 0, 1};
-inline constexpr ListField CallAlert{Text::CallAlert, 0x118, CallAlertWords, CallAlertBytes};
+inline constexpr ListField CallAlert{.key = "dtmf.call-alert",
+                                     .label = Text::CallAlert,
+                                     .address = 0x118,
+                                     .words = CallAlertWords,
+                                     .codes = CallAlertBytes,
+                                     .blank = 1};
 
-inline constexpr std::array<FieldWord, 3> TranspondWords{{{Text::Off}, {Text::Alert}, {Text::IdCode}}};
-inline constexpr ListField Transpond{Text::Transpond, 0x119, TranspondWords, {}, {}, ListField::NoEntry, BlankByte};
+inline constexpr std::array<FieldWord, 3> TranspondWords{{Text::Off, Text::Alert, Text::IdCode}};
+inline constexpr ListField Transpond{.key = "dtmf.transpond",
+                                     .label = Text::Transpond,
+                                     .address = 0x119,
+                                     .words = TranspondWords,
+                                     .none = ErasedByte,
+                                     .blank = 0};
 
-inline constexpr std::array<FieldWord, 2> StunTypeWords{{{"TX Inhibit"}, {"TX/RX Inhibit"}}};
-inline constexpr std::array<ListField::Exception, 1> StunTypeExceptions{{{BlankByte, 0}}};
-inline constexpr ListField StunType{Text::StunType, 0x1FA, StunTypeWords, {}, StunTypeExceptions};
+inline constexpr std::array<FieldWord, 2> StunTypeWords{{"TX Inhibit", "TX/RX Inhibit"}};
+inline constexpr std::array<ListField::Exception, 1> StunTypeExceptions{{{ErasedByte, 0}}};
+inline constexpr ListField StunType{.key = "dtmf.stun-type",
+                                    .label = Text::StunType,
+                                    .address = 0x1FA,
+                                    .words = StunTypeWords,
+                                    .exceptions = StunTypeExceptions,
+                                    .blank = 0};
 
-/// A code: a character a byte, and 0xFF behind the last one.
-struct CodeField {
-    static constexpr int Size = 10;
-    static constexpr int LeastDigits = 3;
-
-    Text label;
-    int address;
-    bool decimal;    // ends before the first byte that is none of 0-9, not only before a 0xFF
-    bool mayBeEmpty; // besides having LeastDigits or more
-};
-inline constexpr CodeField IdCode{Text::IdCode, 0x120, true, false};
-inline constexpr CodeField StunCode{Text::StunCode, 0x1F0, false, true};
-
-/// The code as it stands, legal or not.
-[[nodiscard]] std::u16string LoadCode(const DataImage& image, const CodeField& field);
-/// Characters outside of Windows-1252 and those beyond the field are left out.
-void StoreCode(DataImage& image, const CodeField& field, std::u16string_view code);
-[[nodiscard]] bool IsLegalLength(const CodeField& field, int length);
+inline constexpr int CodeSize = 10;
+inline constexpr TextField IdCode{.key = "dtmf.id-code",
+                                  .label = Text::IdCode,
+                                  .address = 0x120,
+                                  .size = CodeSize,
+                                  .characters = TextField::Characters::Digits,
+                                  .leastLength = 3,
+                                  .mayBeEmpty = false,
+                                  .blank = u"000"};
+inline constexpr TextField StunCode{.key = "dtmf.stun-code",
+                                    .label = Text::StunCode,
+                                    .address = 0x1F0,
+                                    .size = CodeSize,
+                                    .leastLength = 3,
+                                    .blank = u""};
 
 inline constexpr int AutodialCount = 8;
 inline constexpr int AutodialSize = 16;
-inline constexpr int FirstAutodial = 0x200;
 
-/// The digits of memory n (1 to 8), spaces left out; empty for an unused memory.
-[[nodiscard]] std::u16string LoadAutodial(const DataImage& image, int n);
-/// Pads the digits with spaces. No digits make the memory an unused one.
-void StoreAutodial(DataImage& image, int n, std::u16string_view digits);
+/// The memories 1 to 8.
+inline constexpr std::array<TextField, AutodialCount> Autodials = [] {
+    const auto memory = [](int n) {
+        return TextField{.key = "dtmf.autodial-memory",
+                         .label = Text::AutodialMemory,
+                         .number = n,
+                         .address = 0x200 + AutodialSize * (n - 1),
+                         .size = AutodialSize,
+                         .layout = TextField::Layout::PaddedByBlanks,
+                         .blank = u""};
+    };
+    return std::array{memory(1), memory(2), memory(3), memory(4), memory(5), memory(6), memory(7), memory(8)};
+}();
+
+/// In the order of the report.
+inline constexpr std::array Fields = std::to_array<Field>(
+    {Speed,        FirstDigitTime, FirstDigitDelay, Tone,         DCodeAssignment, SideTone,
+     IdCode,       GroupCode,      AutoResetTimer,  CallAlert,    Transpond,       ClearToTranspond,
+     StunCode,     StunType,       Autodials[0],    Autodials[1], Autodials[2],    Autodials[3],
+     Autodials[4], Autodials[5],   Autodials[6],    Autodials[7]});
 
 } // namespace zelvor::dtmf

@@ -8,8 +8,6 @@ namespace zelvor::embedded_message {
 
 namespace {
 
-constexpr std::uint8_t Erased = 0xFF;
-
 constexpr int FieldOf(int line) {
     return FirstField + line * FieldSize;
 }
@@ -17,21 +15,13 @@ constexpr int FieldOf(int line) {
 } // namespace
 
 std::u16string Load(const DataImage& image, int line) {
-    std::u16string text;
-    for (int address = FieldOf(line); address < FieldOf(line) + FieldSize; ++address) {
-        const std::uint8_t byte = image.At(address);
-        if (byte == Erased) {
-            break;
-        }
-        text += Windows1252Character(byte);
-    }
-    return text;
+    return LoadCode(image, Lines[static_cast<std::size_t>(line)]);
 }
 
 std::size_t StorableLength(std::u16string_view text) {
     const auto isLost = [](char16_t character) {
         const auto byte = Windows1252Byte(character);
-        return !byte || *byte == Erased;
+        return !byte || *byte == ErasedByte;
     };
     return static_cast<std::size_t>(std::find_if(text.begin(), text.end(), isLost) - text.begin());
 }
@@ -46,7 +36,7 @@ void Store(DataImage& image, int line, std::u16string_view text) {
         image.Set(address++, *byte);
     }
     while (address < FieldOf(line) + FieldSize) {
-        image.Set(address++, Erased);
+        image.Set(address++, ErasedByte);
     }
 }
 

@@ -1,10 +1,11 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <string>
 #include <string_view>
 
-#include "data/DataImage.h"
+#include "data/Field.h"
 
 /// The embedded message: two lines of text that the radio keeps, in code page Windows-1252. A line lies at the start of
 /// its field, without length and end mark; the rest of the field is 0xFF.
@@ -14,6 +15,20 @@ inline constexpr int LineCount = 2;
 inline constexpr int FieldSize = 32;
 inline constexpr int FirstField = 0x300;
 inline constexpr int End = FirstField + LineCount * FieldSize;
+
+inline constexpr std::array<TextField, LineCount> Lines = [] {
+    const auto line = [](int n) {
+        return TextField{.key = "message.line",
+                         .label = TextPair{"Line", "行"},
+                         .number = n,
+                         .address = FirstField + FieldSize * (n - 1),
+                         .size = FieldSize,
+                         .characters = TextField::Characters::Windows1252,
+                         .blank = u""};
+    };
+    return std::array{line(1), line(2)};
+}();
+inline constexpr std::array Fields = std::to_array<Field>({Lines[0], Lines[1]});
 
 /// The characters of a line (0 or 1) before the first 0xFF of its field, at most 32.
 [[nodiscard]] std::u16string Load(const DataImage& image, int line);

@@ -1,14 +1,77 @@
 #include "data/Fields.h"
 
 #include <algorithm>
+#include <vector>
 
+#include "data/Windows1252.h"
 #include "text/Decimal.h"
 #include "text/StringTable.h"
 
 namespace zelvor {
 
+namespace {
+
+constexpr std::uint8_t Padding = ' ';
+
+bool IsDecimalDigit(std::uint8_t byte) {
+    return byte >= '0' && byte <= '9';
+}
+
+/// The bytes of a text's characters; a character outside the code page has none.
+std::vector<std::uint8_t> BytesOf(std::u16string_view text) {
+    std::vector<std::uint8_t> bytes;
+    for (const char16_t character : text) {
+        if (const auto byte = Windows1252Byte(character)) {
+            bytes.push_back(*byte);
+        }
+    }
+    return bytes;
+}
+
+/// Writes the bytes at the start of a field, and fills the rest of it.
+void Fill(DataImage& image, const TextField& field, std::span<const std::uint8_t> bytes, std::uint8_t rest) {
+    for (int i = 0; i < field.size; ++i) {
+        const auto place = static_cast<std::size_t>(i);
+        image.Set(field.address + i, place < bytes.size() ? bytes[place] : rest);
+    }
+}
+
+/// A character outside the code page erases its byte.
+void StoreOver(DataImage& image, const TextField& field, std::u16string_view text) {
+    for (int i = 0; i < field.size && static_cast<std::size_t>(i) < text.size(); ++i) {
+        image.Set(field.address + i, Windows1252Byte(text[static_cast<std::size_t>(i)]).value_or(ErasedByte));
+    }
+}
+
+/// Whether the text ends before this byte of its field.
+bool IsEnd(const TextField& field, std::uint8_t byte, int place) {
+    switch (field.layout) {
+    case TextField::Layout::EndsAtErased:
+        return byte == ErasedByte || (field.characters == TextField::Characters::Digits && !IsDecimalDigit(byte));
+    case TextField::Layout::SkipsErased:
+        return false;
+    case TextField::Layout::PaddedByBlanks:
+        return place == 0 && byte == ErasedByte;
+    }
+    return true;
+}
+
+bool IsCharacter(const TextField& field, std::uint8_t byte) {
+    switch (field.layout) {
+    case TextField::Layout::EndsAtErased:
+        return true;
+    case TextField::Layout::SkipsErased:
+        return byte != ErasedByte;
+    case TextField::Layout::PaddedByBlanks:
+        return byte != Padding;
+    }
+    return true;
+}
+
+} // namespace
+
 std::string_view FieldWord::In(Language language) const {
-    return name_ ? TableText(language, *name_) : text_;
+    return name_ ? TableText(language, *name_) : text_.In(language);
 }
 
 int EntryOf(const ListField& field, std::uint8_t byte) {
@@ -32,14 +95,14 @@ std::optional<std::uint8_t> ByteOf(const ListField& field, int entry) {
 }
 
 bool IsOn(const CheckField& field, std::uint8_t byte) {
-    return byte != 0 && !(field.blankIsOff && byte == BlankByte);
+    return byte != 0 && !(field.erasedIsOff && byte == ErasedByte);
 }
 
 NumberOnShow LoadNumber(const DataImage& image, const NumberField& field, Language language) {
     const int low = image.At(field.address);
     const int high = field.bytes == 2 ? image.At(field.address + 1) : low;
-    if (high == BlankByte) {
-        return {field.blank, field.showsBlank ? field.show(field.blank, language) : std::string()};
+    if (high == ErasedByte) {
+        return {field.erased, field.showsErased ? field.show(field.erased, language) : std::string()};
     }
     const int value = field.bytes == 2 ? high * 256 + low : low;
     return {value, field.show(value, language)};
@@ -52,6 +115,41 @@ void StoreNumber(DataImage& image, const NumberField& field, int value) {
         return;
     }
     image.Set(field.address, value == 0 && field.zeroByte ? *field.zeroByte : static_cast<std::uint8_t>(value));
+}
+
+std::u16string LoadCode(const DataImage& image, const TextField& field) {
+    std::u16string text;
+    for (int i = 0; i < field.size; ++i) {
+        const std::uint8_t byte = image.At(field.address + i);
+        if (IsEnd(field, byte, i)) {
+            break;
+        }
+        if (IsCharacter(field, byte)) {
+            text += Windows1252Character(byte);
+        }
+    }
+    return text;
+}
+
+void StoreCode(DataImage& image, const TextField& field, std::u16string_view text) {
+    switch (field.layout) {
+    case TextField::Layout::EndsAtErased:
+        Fill(image, field, BytesOf(text), ErasedByte);
+        break;
+    case TextField::Layout::SkipsErased:
+        if (text.empty()) {
+            Fill(image, field, {}, ErasedByte);
+        }
+        StoreOver(image, field, text);
+        break;
+    case TextField::Layout::PaddedByBlanks:
+        Fill(image, field, BytesOf(text), text.empty() ? ErasedByte : Padding);
+        break;
+    }
+}
+
+bool IsLegalLength(const TextField& field, int length) {
+    return length == 0 ? field.mayBeEmpty : length >= field.leastLength;
 }
 
 int LeadingNumber(std::string_view text) {

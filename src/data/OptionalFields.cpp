@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "data/Windows1252.h"
-
 namespace zelvor::optional_features {
 
 std::string ShowTimeOut(int steps, Language language) {
@@ -25,31 +23,9 @@ int ReadSquelchLevel(std::string_view text) {
     return level <= 0xFF ? level : SquelchLevel.last;
 }
 
-std::u16string LoadCode(const DataImage& image, const PttCode& code) {
-    std::u16string text;
-    for (int i = 0; i < PttCodeLength; ++i) {
-        const std::uint8_t byte = image.At(code.address + i);
-        if (byte != BlankByte) {
-            text += Windows1252Character(byte);
-        }
-    }
-    return text;
-}
-
-void StoreCode(DataImage& image, const PttCode& code, std::u16string_view text) {
-    for (int i = 0; i < PttCodeLength; ++i) {
-        if (text.empty()) {
-            image.Set(code.address + i, BlankByte);
-        } else if (static_cast<std::size_t>(i) < text.size()) {
-            const char16_t character = text[static_cast<std::size_t>(i)];
-            image.Set(code.address + i, Windows1252Byte(character).value_or(BlankByte));
-        }
-    }
-}
-
 CodeErrorKind MissingCodes(PttIdChoice choice, const DataImage& image) {
     return MissingCodes(choice,
-                        {image.At(PttCodes[0].address) == BlankByte, image.At(PttCodes[1].address) == BlankByte});
+                        {image.At(PttCodes[0].address) == ErasedByte, image.At(PttCodes[1].address) == ErasedByte});
 }
 
 } // namespace zelvor::optional_features

@@ -8,10 +8,12 @@ namespace zelvor::scan {
 
 namespace {
 
-constexpr std::uint8_t BlankByte = 0xFF;
-constexpr int NoHighByte = 0xFF;
+// Hundredths of a second.
+constexpr int LookBackStep = 5;
+constexpr int LookBackBase = 45;
+constexpr int LookBackDecimals = 2;
 
-/// Seconds in units of 10^-decimals, cut off behind them.
+/// Of a number of seconds, in units of 10^-decimals; cut off behind them.
 std::int64_t CutUnits(std::string_view text, int decimals) {
     std::int64_t units = Decimal::Leading(text).Rounded(Decimal::Places);
     for (int place = Decimal::Places; place > decimals; --place) {
@@ -20,38 +22,27 @@ std::int64_t CutUnits(std::string_view text, int decimals) {
     return units;
 }
 
+int KeptToRange(std::int64_t value, const NumberField& field) {
+    return static_cast<int>(std::clamp<std::int64_t>(value, field.first, field.last));
+}
+
 } // namespace
 
-std::optional<std::uint8_t> EntryOf(const ListField& field, std::uint8_t byte) {
-    if (byte == BlankByte) {
-        return field.blank;
-    }
-    return byte < field.words.size() ? std::optional(byte) : std::nullopt;
+int ReadChannel(std::string_view text) {
+    return KeptToRange(CutUnits(text, 0), PriorityChannel);
 }
 
-std::optional<int> Load(const DataImage& image, const TimeField& field) {
-    const int low = image.At(field.address);
-    if (field.bytes == 1) {
-        return low == 0x00 || low == 0xFF ? std::nullopt : std::optional(low);
-    }
-    const int high = image.At(field.address + 1);
-    return high == NoHighByte ? std::nullopt : std::optional(high * 256 + low);
+std::string ShowLookBackTime(int steps, Language /*language*/) {
+    return steps == 0 ? std::string()
+                      : Decimal::Of(steps * LookBackStep + LookBackBase, LookBackDecimals).Format(1, LookBackDecimals);
 }
 
-void Store(DataImage& image, const TimeField& field, int value) {
-    image.Set(field.address, static_cast<std::uint8_t>(value % 256));
-    if (field.bytes == 2) {
-        image.Set(field.address + 1, static_cast<std::uint8_t>(value / 256));
-    }
+int ReadLookBackTime(std::string_view text) {
+    return KeptToRange((CutUnits(text, LookBackDecimals) - LookBackBase) / LookBackStep, LookBackTimeA);
 }
 
-std::string Show(const TimeField& field, int value) {
-    return Decimal::Of(value * field.step + field.base, field.decimals).Format(1, field.decimals);
-}
-
-int Read(const TimeField& field, std::string_view text) {
-    const std::int64_t value = (CutUnits(text, field.decimals) - field.base) / field.step;
-    return static_cast<int>(std::clamp<std::int64_t>(value, field.first, field.last));
+int ReadDelay(std::string_view text) {
+    return KeptToRange(CutUnits(text, 0), DropoutDelayTime);
 }
 
 } // namespace zelvor::scan

@@ -7,33 +7,66 @@
 #include <string>
 #include <string_view>
 
-#include "data/DataImage.h"
-#include "text/Text.h"
+#include "data/Field.h"
 
 /// The scan block of the image: nine bytes, described once for all that show or store them.
 namespace zelvor::scan {
 
-/// The legal values of the priority mode's byte.
+/// The entries of PriorityMode.
 enum class Mode : std::uint8_t { None, Fixed, Selected };
 
-/// A byte that is a number of a list of words.
-struct ListField {
-    Text label;
-    int address;
-    std::span<const Text> words;
-    std::optional<std::uint8_t> blank = {}; // the number that 0xFF reads as; nothing: it is no legal one
-};
+inline constexpr std::array<FieldWord, 3> ModeWords{{Text::None, Text::Fixed, Text::Selected}};
+inline constexpr std::array<ListField::Exception, 1> ErasedIsNone{{{ErasedByte, 0}}};
+inline constexpr ListField PriorityMode{.key = "scan.priority",
+                                        .label = Text::PriorityLabel,
+                                        .address = 0x160,
+                                        .words = ModeWords,
+                                        .exceptions = ErasedIsNone,
+                                        .blank = 0};
 
-inline constexpr std::array ModeWords{Text::None, Text::Fixed, Text::Selected};
-inline constexpr std::array RevertWords{Text::Selected, Text::SelectedAndTalkBack, Text::Priority,
-                                        Text::PriorityAndTalkBack};
-inline constexpr ListField PriorityMode{Text::PriorityLabel, 0x160, ModeWords, 0};
-inline constexpr ListField RevertChannel{Text::RevertChannel, 0x164, RevertWords};
+/// 1 to 16; 0, stored as an erased byte, for none.
+[[nodiscard]] int ReadChannel(std::string_view text);
+inline constexpr std::uint8_t NoChannel = ErasedByte;
+inline constexpr NumberField PriorityChannel{.key = "scan.priority-channel",
+                                             .label = Text::PriorityChannel,
+                                             .address = 0x161,
+                                             .first = 0,
+                                             .last = 16,
+                                             .lengthLimit = 2,
+                                             .blank = 0,
+                                             .show = ShowNumber,
+                                             .read = ReadChannel,
+                                             .zeroByte = NoChannel};
 
-/// The place of a byte's word among those of the field; nothing for an illegal byte.
-[[nodiscard]] std::optional<std::uint8_t> EntryOf(const ListField& field, std::uint8_t byte);
+/// Seconds: 0.50 for 1, and 0.05 more a step. 0 is no time.
+[[nodiscard]] std::string ShowLookBackTime(int steps, Language language);
+/// Cut down to the step and kept to the range; a text without a number counts as 0 s.
+[[nodiscard]] int ReadLookBackTime(std::string_view text);
+inline constexpr NumberField LookBackTimeA{.key = "scan.look-back-time-a",
+                                           .label = Text::LookBackTimeA,
+                                           .address = 0x162,
+                                           .first = 1,
+                                           .last = 91,
+                                           .lengthLimit = 4,
+                                           .blank = 31,
+                                           .show = ShowLookBackTime,
+                                           .read = ReadLookBackTime};
+inline constexpr NumberField LookBackTimeB{.key = "scan.look-back-time-b",
+                                           .label = Text::LookBackTimeB,
+                                           .address = 0x163,
+                                           .first = 1,
+                                           .last = 91,
+                                           .lengthLimit = 4,
+                                           .blank = 51,
+                                           .show = ShowLookBackTime,
+                                           .read = ReadLookBackTime};
 
-/// The revert channels that a priority mode offers, as values of RevertChannel.
+inline constexpr std::array<FieldWord, 4> RevertWords{
+    {Text::Selected, Text::SelectedAndTalkBack, Text::Priority, Text::PriorityAndTalkBack}};
+inline constexpr ListField RevertChannel{
+    .key = "scan.revert-channel", .label = Text::RevertChannel, .address = 0x164, .words = RevertWords, .blank = 1};
+
+/// The revert channels that a priority mode offers, as entries of RevertChannel.
 inline constexpr std::array<std::uint8_t, 2> RevertWithoutPriority{0, 1};
 inline constexpr std::array<std::uint8_t, 4> RevertOfEither{0, 1, 2, 3};
 inline constexpr std::array<std::uint8_t, 2> RevertToPriority{2, 3};
@@ -48,40 +81,31 @@ inline constexpr std::array<std::uint8_t, 2> RevertToPriority{2, 3};
     return RevertOfEither;
 }
 
-/// The priority channel: 1 to 16, and NoChannel.
-struct ChannelField {
-    Text label;
-    int address;
-};
-inline constexpr ChannelField PriorityChannel{Text::PriorityChannel, 0x161};
-inline constexpr std::uint8_t NoChannel = 0xFF;
+/// Seconds.
+[[nodiscard]] int ReadDelay(std::string_view text);
+inline constexpr NumberField DropoutDelayTime{.key = "scan.dropout-delay-time",
+                                              .label = Text::DropoutDelayTime,
+                                              .address = 0x165,
+                                              .bytes = 2,
+                                              .first = 0,
+                                              .last = 300,
+                                              .lengthLimit = 3,
+                                              .blank = 3,
+                                              .show = ShowNumber,
+                                              .read = ReadDelay};
+inline constexpr NumberField TxDwellTime{.key = "scan.tx-dwell-time",
+                                         .label = Text::TxDwellTime,
+                                         .address = 0x167,
+                                         .bytes = 2,
+                                         .first = 0,
+                                         .last = 300,
+                                         .lengthLimit = 3,
+                                         .blank = 3,
+                                         .show = ShowNumber,
+                                         .read = ReadDelay};
 
-/// A time, stored as a number of steps and shown in seconds.
-struct TimeField {
-    Text label;
-    int address;
-    int bytes;       // 1, or 2 with the low byte first
-    int first;       // legal values
-    int last;        //
-    int step;        // seconds of a step and
-    int base;        // of the value 0, in units of 10^-decimals s
-    int decimals;    // of the shown text
-    int lengthLimit; // characters that can be typed
-};
-inline constexpr TimeField LookBackTimeA{Text::LookBackTimeA, 0x162, 1, 1, 91, 5, 45, 2, 4};
-inline constexpr TimeField LookBackTimeB{Text::LookBackTimeB, 0x163, 1, 1, 91, 5, 45, 2, 4};
-inline constexpr TimeField DropoutDelayTime{Text::DropoutDelayTime, 0x165, 2, 0, 300, 1, 0, 0, 3};
-inline constexpr TimeField TxDwellTime{Text::TxDwellTime, 0x167, 2, 0, 300, 1, 0, 0, 3};
-
-/// The stored value, legal or not; nothing where the image holds none: 0 or 0xFF in a field of one byte, a high byte of
-/// 0xFF in one of two.
-[[nodiscard]] std::optional<int> Load(const DataImage& image, const TimeField& field);
-void Store(DataImage& image, const TimeField& field, int value);
-
-/// The seconds of any value, "0.50" for 1 of a look back time.
-[[nodiscard]] std::string Show(const TimeField& field, int value);
-
-/// The legal value of a typed text: cut down to the step and kept to the range. A text without a number counts as 0 s.
-[[nodiscard]] int Read(const TimeField& field, std::string_view text);
+/// In the order of the window and the report.
+inline constexpr std::array Fields = std::to_array<Field>(
+    {PriorityMode, PriorityChannel, LookBackTimeA, LookBackTimeB, RevertChannel, DropoutDelayTime, TxDwellTime});
 
 } // namespace zelvor::scan

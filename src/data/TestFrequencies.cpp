@@ -5,6 +5,7 @@
 
 #include "data/FrequencyCodec.h"
 #include "text/Decimal.h"
+#include "text/StringTable.h"
 
 namespace zelvor {
 namespace {
@@ -101,5 +102,53 @@ void StoreDefaultTestFrequencies(DataImage& image, Band band) {
 void RestoreDefaultTestFrequencies(DataImage& image) {
     StoreDefaultTestFrequencies(image, BandOfMarket(image.At(address::Market)).value_or(Band{0, 0}));
 }
+
+std::string KeyOf(const TestFrequencyField& field) {
+    return "test." + std::to_string(field.channel) + (field.isTransmit ? ".transmit" : ".receive");
+}
+
+int AddressOf(const TestFrequencyField& field) {
+    return AddressOf(field.channel) + (field.isTransmit ? TransmitOffset : 0);
+}
+
+int SizeOf(const TestFrequencyField& /*field*/) {
+    return TransmitOffset;
+}
+
+std::string LabelOf(const TestFrequencyField& field, Language language) {
+    const Text side = field.isTransmit ? Text::TxFrequency : Text::RxFrequency;
+    return std::string(TableText(language, Text::Channel)) + ' ' + std::to_string(field.channel) + ' ' +
+           std::string(TableText(language, side));
+}
+
+std::string ShowValue(const TestFrequencyField& field, const DataImage& image, Language /*language*/) {
+    const TestFrequencyTexts texts = ReadTestChannel(image, field.channel);
+    return field.isTransmit ? texts.transmit : texts.receive;
+}
+
+LegalValues LegalValuesOf(const TestFrequencyField& /*field*/, Language /*language*/) {
+    return {.mayBeEmpty = true, .range = LegalValues::Range{"100.00000", "550.00000", "0.00500 or 0.00625"}};
+}
+
+bool ParseValue(const TestFrequencyField& field, std::string_view text, DataImage& image) {
+    const std::string typed(Trimmed(text));
+    if (typed.empty()) {
+        EraseTestChannel(image, field.channel);
+        return true;
+    }
+    const NormalisedFrequency normalised = NormaliseFrequency(typed, SetBandLimits(image));
+    if (normalised.outOfRange || normalised.text != typed) {
+        return false;
+    }
+    TestFrequencyTexts texts = ReadTestChannel(image, field.channel);
+    if (texts == TestFrequencyTexts{}) {
+        texts = {typed, typed};
+    }
+    (field.isTransmit ? texts.transmit : texts.receive) = typed;
+    WriteTestChannel(image, field.channel, texts);
+    return true;
+}
+
+void StoreBlankValue(const TestFrequencyField& /*field*/, DataImage& /*image*/) {}
 
 } // namespace zelvor

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "data/DataImage.h"
+#include "data/Field.h"
 #include "data/MemoryMap.h"
 #include "data/ModelCatalogue.h"
 
@@ -50,5 +51,30 @@ void StoreDefaultTestFrequencies(DataImage& image, Band band);
 /// Stores the default pairs of the image's own market. A market without a band counts as the band 0 to 0, unlike in the
 /// blank image, which takes 440 to 480 MHz for it: both are intended.
 void RestoreDefaultTestFrequencies(DataImage& image);
+
+/// One frequency of a test channel as a field. What it holds in a blank image depends on the model.
+struct TestFrequencyField {
+    int channel; // 1 to 16
+    bool isTransmit;
+};
+inline constexpr std::array<TestFrequencyField, 2 * TestChannelCount> TestFrequencyFields = [] {
+    std::array<TestFrequencyField, 2 * TestChannelCount> fields{};
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        fields[i] = {static_cast<int>(i / 2) + 1, i % 2 == 1};
+    }
+    return fields;
+}();
+
+/// "test.3.transmit"
+[[nodiscard]] std::string KeyOf(const TestFrequencyField& field);
+[[nodiscard]] int AddressOf(const TestFrequencyField& field);
+[[nodiscard]] int SizeOf(const TestFrequencyField& field);
+[[nodiscard]] std::string LabelOf(const TestFrequencyField& field, Language language);
+[[nodiscard]] std::string ShowValue(const TestFrequencyField& field, const DataImage& image, Language language);
+[[nodiscard]] LegalValues LegalValuesOf(const TestFrequencyField& field, Language language);
+/// A frequency of the raster, in the range of every document, as "000.00000"; an empty text empties the channel. As in
+/// the window, the first frequency of an empty channel becomes both.
+[[nodiscard]] bool ParseValue(const TestFrequencyField& field, std::string_view text, DataImage& image);
+void StoreBlankValue(const TestFrequencyField& field, DataImage& image);
 
 } // namespace zelvor

@@ -34,6 +34,11 @@ constexpr int DigitsColumn = 1;
 constexpr const char* StunFrame = "Stun"; // in both languages
 constexpr TextPair InvalidData{"Invalid Data.", "无效数据。"};
 
+/// Of the row of the grid, 1 to 8.
+const TextField& Memory(int row) {
+    return dtmf::Autodials[static_cast<std::size_t>(row - 1)];
+}
+
 SpinTextRules StepsThroughTexts(const NumberField& field) {
     SpinTextRules rules;
     rules.step = [&field](const QString& text, bool up) { return dtmf::NextText(field, FromQString(text), up); };
@@ -141,11 +146,11 @@ void DTMFForm::Load() {
     txtStunCode_->Load();
     EnableStunType();
     for (int n = 1; n <= dtmf::AutodialCount; ++n) {
-        msgAutodial_->SetText(n, DigitsColumn, QString::fromStdU16String(dtmf::LoadAutodial(TheSession().Image, n)));
+        msgAutodial_->SetText(n, DigitsColumn, QString::fromStdU16String(LoadCode(TheSession().Image, Memory(n))));
     }
 }
 
-DtmfCodeBox* DTMFForm::MakeCode(const QString& name, const dtmf::CodeField& field) {
+DtmfCodeBox* DTMFForm::MakeCode(const QString& name, const TextField& field) {
     auto* made = new DtmfCodeBox(name, field, TheSession().Image);
     connect(made, &DtmfCodeBox::Invalid, this, &DTMFForm::OnInvalidCode);
     return made;
@@ -193,7 +198,7 @@ void DTMFForm::OnEntered() {
 /// Runs at every key, so Escape brings back the cell's text but not the memory: that keeps what was typed last, on
 /// purpose.
 void DTMFForm::StoreMemory() {
-    dtmf::StoreAutodial(TheSession().Image, edit_->Row(), edit_->Text().toStdU16String());
+    StoreCode(TheSession().Image, Memory(edit_->Row()), edit_->Text().toStdU16String());
 }
 
 } // namespace zelvor

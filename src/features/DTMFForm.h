@@ -35,7 +35,7 @@ private:
     void SetGridTexts();
     void Load();
 
-    DtmfCodeBox* MakeCode(const QString& name, const dtmf::CodeField& field);
+    DtmfCodeBox* MakeCode(const QString& name, const TextField& field);
     void OnInvalidCode();
     void EnableStunType();
 

@@ -5,20 +5,20 @@
 
 namespace zelvor {
 
-DtmfCodeBox::DtmfCodeBox(const QString& name, const dtmf::CodeField& field, DataImage& image, QWidget* parent)
-    : HoldingLineEdit(
-          [&field](const QString& text) { return dtmf::IsLegalLength(field, static_cast<int>(text.size())); }, parent),
+DtmfCodeBox::DtmfCodeBox(const QString& name, const TextField& field, DataImage& image, QWidget* parent)
+    : HoldingLineEdit([&field](const QString& text) { return IsLegalLength(field, static_cast<int>(text.size())); },
+                      parent),
       field_(field), image_(image) {
     setObjectName(name);
-    SetFilter(field.decimal ? Digit : DtmfDigitFilter);
-    SetLengthLimit(dtmf::CodeField::Size);
+    SetFilter(field.characters == TextField::Characters::Digits ? Digit : DtmfDigitFilter);
+    SetLengthLimit(field.size);
     EnterMovesOn(*this);
     connect(this, &DtmfCodeBox::Refused, this, &DtmfCodeBox::Refuse);
     connect(this, &DtmfCodeBox::FocusLeft, this, &DtmfCodeBox::Commit);
 }
 
 void DtmfCodeBox::Load() {
-    lastGood_ = QString::fromStdU16String(dtmf::LoadCode(image_, field_));
+    lastGood_ = QString::fromStdU16String(LoadCode(image_, field_));
     setText(lastGood_);
 }
 
@@ -36,7 +36,7 @@ void DtmfCodeBox::Commit() {
 }
 
 void DtmfCodeBox::Store() {
-    dtmf::StoreCode(image_, field_, text().toStdU16String());
+    StoreCode(image_, field_, text().toStdU16String());
 }
 
 } // namespace zelvor

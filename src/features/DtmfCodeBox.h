@@ -1,7 +1,7 @@
 #pragma once
 
 #include "controls/HoldingLineEdit.h"
-#include "data/DtmfFields.h"
+#include "data/Fields.h"
 
 namespace zelvor {
 
@@ -12,7 +12,7 @@ class DtmfCodeBox : public HoldingLineEdit {
 
 public:
     /// Field and image must outlive it.
-    DtmfCodeBox(const QString& name, const dtmf::CodeField& field, DataImage& image, QWidget* parent = nullptr);
+    DtmfCodeBox(const QString& name, const TextField& field, DataImage& image, QWidget* parent = nullptr);
 
     void Load();
 
@@ -27,7 +27,7 @@ private:
     void Commit();
     void Store();
 
-    const dtmf::CodeField& field_;
+    const TextField& field_;
     DataImage& image_;
     QString lastGood_;
 };

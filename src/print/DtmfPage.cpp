@@ -35,13 +35,13 @@ void AddEncode(SectionPage& page) {
 void AddDecode(SectionPage& page) {
     page.AddWord(DecodeColumn, pagecells::FirstRow, Text::Decode);
     PageRows rows(page, DecodeColumn, DecodeValueColumn, FieldsRow);
-    rows.Add(IdCode.label, Utf8Of(LoadCode(page.Image(), IdCode)));
+    rows.Add(IdCode.label, page.ValueOf(Field(IdCode)));
     rows.Add(GroupCode.label, page.ValueOrOff(GroupCode));
     rows.Add(AutoResetTimer);
     rows.Add(CallAlert);
     rows.Add(Transpond.label, page.ValueOrOff(Transpond));
     rows.Add(ClearToTranspond);
-    rows.Add(StunCode.label, Utf8Of(LoadCode(page.Image(), StunCode)));
+    rows.Add(StunCode.label, page.ValueOf(Field(StunCode)));
     rows.Add(StunType);
 }
 
@@ -49,7 +49,7 @@ void AddAutodial(SectionPage& page) {
     page.AddWord(pagecells::LabelColumn, AutodialRow, Text::AutodialMemory);
     for (int n = 1; n <= AutodialCount; ++n) {
         page.Add(pagecells::LabelColumn, AutodialRow + n, std::to_string(n));
-        page.Add(DigitsColumn, AutodialRow + n, LoadAutodial(page.Image(), n));
+        page.Add(DigitsColumn, AutodialRow + n, LoadCode(page.Image(), Autodials[static_cast<std::size_t>(n - 1)]));
     }
 }
 

@@ -7,9 +7,7 @@ namespace zelvor {
 std::vector<CellText> KeyAssignmentPage(const DataImage& image, Language language) {
     SectionPage page(image, language, ReportSection::KeyAssignment);
     PageRows rows(page, pagecells::LabelColumn, pagecells::ValueColumn, pagecells::FirstRow);
-    for (const ListField& key : key_assignment::Keys) {
-        rows.Add(key);
-    }
+    rows.Add(key_assignment::Fields);
     return page.Texts();
 }
 

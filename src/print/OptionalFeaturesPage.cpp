@@ -19,12 +19,18 @@ std::string PttIdValue(const SectionPage& page) {
     return sendsBoth ? std::string(TableText(page.TextLanguage(), Text::LanguageFileSetup)) : page.ValueOf(PttId);
 }
 
-void AddPttId(PageRows& rows, const SectionPage& page) {
-    rows.Add(PttIdType);
-    rows.Add(PttId.label, PttIdValue(page));
-    for (const PttCode& code : PttCodes) {
-        rows.Add(code.label, OrElse(Utf8Of(LoadCode(page.Image(), code)), NoCode));
+/// What is not printed as it is shown.
+std::optional<std::string> PrintedInstead(const SectionPage& page, const Field& field) {
+    if (field.Is(&PttId)) {
+        return PttIdValue(page);
     }
+    if (field.Is(&VoxGainLevel)) {
+        return page.ValueOrOff(VoxGainLevel);
+    }
+    if (field.Is(&PttCodes[0]) || field.Is(&PttCodes[1])) {
+        return OrElse(page.ValueOf(field), NoCode);
+    }
+    return std::nullopt;
 }
 
 } // namespace
@@ -32,23 +38,7 @@ void AddPttId(PageRows& rows, const SectionPage& page) {
 std::vector<CellText> OptionalFeaturesPage(const DataImage& image, Language language) {
     SectionPage page(image, language, ReportSection::OptionalFeatures);
     PageRows rows(page, pagecells::LabelColumn, pagecells::ValueColumn, pagecells::FirstRow);
-    rows.Add(TimeOutTimer);
-    rows.Add(TimeOutPreAlert);
-    rows.Add(SquelchLevel);
-    rows.Add(MicSensitivity);
-    rows.Add(BatterySave);
-    rows.Add(Beep);
-    rows.Add(VoiceAnnunciation);
-    rows.Add(ScramblerActivation);
-    rows.Add(ScramblerBackup);
-    AddPttId(rows, page);
-    rows.Add(VoxFunction);
-    rows.Add(VoxGainLevel.label, page.ValueOrOff(VoxGainLevel));
-    rows.Add(VoxDelayTime);
-    rows.Add(CancelOperation);
-    rows.Add(VoxProceedTone);
-    rows.Add(VoxInhibit);
-    rows.Add(CloneMode);
+    rows.Add(Fields, [&page](const Field& field) { return PrintedInstead(page, field); });
     return page.Texts();
 }
 

@@ -1,10 +1,9 @@
 #include "print/SectionPage.h"
 
-#include <QString>
 #include <cstddef>
 
-#include "platform/Toolkit.h"
 #include "text/StringTable.h"
+#include "text/Utf8.h"
 
 namespace zelvor {
 
@@ -35,6 +34,11 @@ std::string SectionPage::ValueOf(const ListField& field) const {
 
 std::string SectionPage::ValueOf(const NumberField& field) const {
     return LoadNumber(image_, field, language_).text;
+}
+
+std::string SectionPage::ValueOf(const Field& field) const {
+    const auto* check = field.As<CheckField>();
+    return check != nullptr ? std::string(ValueOf(*check)) : field.Show(image_, language_);
 }
 
 std::string_view SectionPage::EnabledWord(bool enabled) const {
@@ -68,12 +72,15 @@ void PageRows::Add(const ListField& field) {
     Add(field.label, page_.ValueOf(field));
 }
 
-std::string NumberedWord(Text word, int number, Language language) {
-    return std::string(TableText(language, word)) + ' ' + std::to_string(number);
+void PageRows::Add(std::span<const Field> fields, const Instead& instead) {
+    for (const Field& field : fields) {
+        const auto text = instead ? instead(field) : std::nullopt;
+        Add(field.Label(page_.TextLanguage()), text ? *text : page_.ValueOf(field));
+    }
 }
 
-std::string Utf8Of(std::u16string_view text) {
-    return FromQString(QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size())));
+std::string NumberedWord(Text word, int number, Language language) {
+    return std::string(TableText(language, word)) + ' ' + std::to_string(number);
 }
 
 std::string OrElse(const std::string& text, std::string_view instead) {

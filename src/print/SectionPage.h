@@ -1,10 +1,13 @@
 #pragma once
 
+#include <functional>
+#include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "data/Fields.h"
+#include "data/Field.h"
 #include "print/PageGrid.h"
 #include "print/ReportSection.h"
 
@@ -41,6 +44,7 @@ public:
     /// On and off in words.
     [[nodiscard]] std::string_view ValueOf(const CheckField& field) const { return EnabledWord(IsOn(field)); }
     [[nodiscard]] std::string_view EnabledWord(bool enabled) const;
+    [[nodiscard]] std::string ValueOf(const Field& field) const;
 
     /// The same, with PrintedOff for 0.
     [[nodiscard]] std::string ValueOrOff(const ListField& field) const;
@@ -70,6 +74,10 @@ public:
     void Add(const CheckField& field) { Add(field.label, page_.ValueOf(field)); }
     void Add(const NumberField& field) { Add(field.label, page_.ValueOf(field)); }
 
+    /// What is printed in place of a field's value; nothing: the value.
+    using Instead = std::function<std::optional<std::string>(const Field& field)>;
+    void Add(std::span<const Field> fields, const Instead& instead = {});
+
 private:
     SectionPage& page_;
     double labelColumn_;
@@ -79,9 +87,6 @@ private:
 
 /// A text with a number: "Channel 1".
 [[nodiscard]] std::string NumberedWord(Text word, int number, Language language);
-
-/// The text of characters that the radio keeps as bytes.
-[[nodiscard]] std::string Utf8Of(std::u16string_view text);
 
 /// A text, or what stands for an empty one.
 [[nodiscard]] std::string OrElse(const std::string& text, std::string_view instead);

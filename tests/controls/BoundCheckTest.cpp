@@ -7,8 +7,8 @@
 namespace zelvor {
 namespace {
 
-constexpr CheckField Plain{Text::Beep, 0x100};
-constexpr CheckField BlankIsOff{.label = Text::Beep, .address = 0x101, .blankIsOff = true};
+constexpr CheckField Plain{.key = "test.plain", .label = Text::Beep, .address = 0x100};
+constexpr CheckField BlankIsOff{.key = "test.blankisoff", .label = Text::Beep, .address = 0x101, .erasedIsOff = true};
 
 class BoundCheckTest : public BoundControlTest<BoundCheck> {
 protected:

@@ -7,8 +7,10 @@ namespace {
 
 constexpr FieldWord Words[] = {{Text::Off}, {"7"}, {Text::On}};
 constexpr std::uint8_t Codes[] = {0, 30, 20};
-constexpr ListField InOrder{.label = Text::OptionSignallingLabel, .address = 0x100, .words = Words, .none = 0xFF};
-constexpr ListField WithCodes{Text::OptionSignallingLabel, 0x101, Words, Codes};
+constexpr ListField InOrder{
+    .key = "test.inorder", .label = Text::OptionSignallingLabel, .address = 0x100, .words = Words, .none = 0xFF};
+constexpr ListField WithCodes{
+    .key = "test.withcodes", .label = Text::OptionSignallingLabel, .address = 0x101, .words = Words, .codes = Codes};
 
 class BoundListTest : public BoundControlTest<BoundList> {
 protected:

@@ -14,26 +14,28 @@ int ReadAny(std::string_view text) {
     return LeadingNumber(text);
 }
 
-constexpr NumberField Level{.label = Text::SquelchLevel,
+constexpr NumberField Level{.key = "test.level",
+                            .label = Text::SquelchLevel,
                             .address = 0x100,
                             .bytes = 1,
                             .first = 1,
                             .last = 9,
                             .increment = 1,
                             .lengthLimit = 1,
-                            .blank = 5,
-                            .showsBlank = true,
+                            .erased = 5,
+                            .showsErased = true,
                             .show = ShowNumber,
                             .read = ReadUpToNine};
-constexpr NumberField Time{.label = Text::TimeOutTimer,
+constexpr NumberField Time{.key = "test.time",
+                           .label = Text::TimeOutTimer,
                            .address = 0x102,
                            .bytes = 2,
                            .first = 0,
                            .last = 300,
                            .increment = 10,
                            .lengthLimit = 3,
-                           .blank = 0,
-                           .showsBlank = false,
+                           .erased = 0,
+                           .showsErased = false,
                            .show = ShowNumberOrOff,
                            .read = ReadAny};
 

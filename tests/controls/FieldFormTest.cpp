@@ -23,22 +23,23 @@ int ReadAny(std::string_view text) {
     return LeadingNumber(text);
 }
 
-constexpr NumberField Number{.label = Text::SquelchLevel,
+constexpr NumberField Number{.key = "test.number",
+                             .label = Text::SquelchLevel,
                              .address = 0x100,
                              .bytes = 1,
                              .first = 0,
                              .last = 9,
                              .increment = 1,
                              .lengthLimit = 1,
-                             .blank = 0,
-                             .showsBlank = true,
+                             .erased = 0,
+                             .showsErased = true,
                              .show = ShowNumber,
                              .read = ReadAny};
 constexpr FieldWord Words[] = {{Text::Off}, {Text::On}};
-constexpr ListField List{.label = Text::MicSensitivity, .address = 0x101, .words = Words};
-constexpr ListField OwnLabel{.label = "PTT ID", .address = 0x102, .words = Words};
-constexpr CheckField Check{Text::Beep, 0x103};
-constexpr CheckField OtherCheck{Text::BatterySave, 0x104};
+constexpr ListField List{.key = "test.list", .label = Text::MicSensitivity, .address = 0x101, .words = Words};
+constexpr ListField OwnLabel{.key = "test.ownlabel", .label = "PTT ID", .address = 0x102, .words = Words};
+constexpr CheckField Check{.key = "test.check", .label = Text::Beep, .address = 0x103};
+constexpr CheckField OtherCheck{.key = "test.othercheck", .label = Text::BatterySave, .address = 0x104};
 
 class TestForm : public FieldForm {
 public:

@@ -22,21 +22,21 @@ NumberOnShow LoadedFrom(const NumberField& field, std::initializer_list<int> byt
     return LoadNumber(With(field.address, bytes), field, language);
 }
 
-void ExpectNumber(const NumberField& field, Text label, int address, int bytes, int last, int digits) {
-    EXPECT_EQ(field.label, label);
+void ExpectNumber(const NumberField& field, std::string_view label, int address, int bytes, int last, int digits) {
+    EXPECT_EQ(field.label.In(Language::English), label);
     EXPECT_EQ(field.address, address);
-    EXPECT_EQ(field.bytes, bytes) << TableText(Language::English, label);
-    EXPECT_EQ(field.first, 0) << TableText(Language::English, label);
-    EXPECT_EQ(field.last, last) << TableText(Language::English, label);
-    EXPECT_EQ(field.increment, 1) << TableText(Language::English, label);
-    EXPECT_EQ(field.lengthLimit, digits) << TableText(Language::English, label);
+    EXPECT_EQ(field.bytes, bytes) << label;
+    EXPECT_EQ(field.first, 0) << label;
+    EXPECT_EQ(field.last, last) << label;
+    EXPECT_EQ(field.increment, 1) << label;
+    EXPECT_EQ(field.lengthLimit, digits) << label;
 }
 
 TEST(CorvaneFieldsTest, NumbersHaveTheirLabelsAddressesAndRanges) {
-    ExpectNumber(OwnFleet, Text::OwnFleet, 0x170, 1, 250, 3);
-    ExpectNumber(OwnId, Text::OwnId, 0x171, 2, 4000, 4);
-    ExpectNumber(DelayTime, Text::DataTxModulationDelayTimer, 0x173, 2, 6000, 4);
-    ExpectNumber(MessageModeTimer, Text::MessageModeTimer, 0x176, 2, 300, 3);
+    ExpectNumber(OwnFleet, "Fleet(own)", 0x170, 1, 250, 3);
+    ExpectNumber(OwnId, "ID(own)", 0x171, 2, 4000, 4);
+    ExpectNumber(DelayTime, "Data TX Modulation Delay Timer [ms]", 0x173, 2, 6000, 4);
+    ExpectNumber(MessageModeTimer, "Message Mode Timer [s]", 0x176, 2, 300, 3);
 }
 
 TEST(CorvaneFieldsTest, BaudRateIsAListOfTwoAndNoneIsStoredAsErased) {
@@ -58,7 +58,7 @@ TEST(CorvaneFieldsTest, BaudRateIsAListOfTwoAndNoneIsStoredAsErased) {
 }
 
 TEST(CorvaneFieldsTest, SideToneIsOnForAllBytesBetweenZeroAndErased) {
-    EXPECT_EQ(SideTone.label, Text::PttIdSideTone);
+    EXPECT_EQ(SideTone.label.In(Language::English), "PTT ID Side Tone");
     EXPECT_EQ(SideTone.address, 0x178);
     EXPECT_FALSE(IsOn(SideTone, 0));
     EXPECT_FALSE(IsOn(SideTone, 0xFF));

@@ -26,6 +26,11 @@ void Put(DataImage& image, int address, std::initializer_list<int> bytes) {
     }
 }
 
+/// Memory 1 to 8.
+const TextField& Memory(int n) {
+    return dtmf::Autodials[static_cast<std::size_t>(n - 1)];
+}
+
 struct Range {
     int from;
     int to;
@@ -172,7 +177,7 @@ TEST(DtmfFields, AStunCodeEndsBeforeTheFirstErasedByte) {
 }
 
 TEST(DtmfFields, ACodeIsStoredWithErasedBytesBehindIt) {
-    for (const dtmf::CodeField& field : {dtmf::IdCode, dtmf::StunCode}) {
+    for (const TextField& field : {dtmf::IdCode, dtmf::StunCode}) {
         DataImage image;
         image.Fill(0);
         StoreCode(image, field, u"12345");
@@ -201,33 +206,33 @@ TEST(DtmfFields, EachAutodialMemoryHasSixteenBytesOfItsOwn) {
     const int addresses[] = {0x200, 0x210, 0x220, 0x230, 0x240, 0x250, 0x260, 0x270};
     for (int n = 1; n <= 8; ++n) {
         DataImage image;
-        dtmf::StoreAutodial(image, n, u"0123456789*#ABCD");
+        StoreCode(image, Memory(n), u"0123456789*#ABCD");
         const int first = addresses[n - 1];
         EXPECT_EQ(From(image, first, 16),
                   (Bytes{'0', '1', '2', '3', '4', '5', '6', '7', '8', '9', '*', '#', 'A', 'B', 'C', 'D'}));
         EXPECT_EQ(image.At(first - 1), 0xFF);
         EXPECT_EQ(image.At(first + 16), 0xFF);
-        EXPECT_EQ(dtmf::LoadAutodial(image, n), u"0123456789*#ABCD");
+        EXPECT_EQ(LoadCode(image, Memory(n)), u"0123456789*#ABCD");
     }
 }
 
 TEST(DtmfFields, AnAutodialMemoryIsPaddedWithSpacesThatDoNotShow) {
     DataImage image;
-    dtmf::StoreAutodial(image, 2, u"12345");
+    StoreCode(image, Memory(2), u"12345");
     EXPECT_EQ(From(image, 0x210, 16),
               (Bytes{'1', '2', '3', '4', '5', 0x20, 0x20, 0x20, 0x20, 0x20, 0x20, 0x20, 0x20, 0x20, 0x20, 0x20}));
-    EXPECT_EQ(dtmf::LoadAutodial(image, 2), u"12345");
+    EXPECT_EQ(LoadCode(image, Memory(2)), u"12345");
     Put(image, 0x210, {' ', '7', ' ', ' ', '8', 0xFF});
-    EXPECT_EQ(dtmf::LoadAutodial(image, 2), u"78\u00FF");
+    EXPECT_EQ(LoadCode(image, Memory(2)), u"78\u00FF");
 }
 
 TEST(DtmfFields, NoDigitsMakeAnUnusedMemoryWhichOnlyItsFirstByteTells) {
     DataImage image;
-    dtmf::StoreAutodial(image, 8, u"5");
-    dtmf::StoreAutodial(image, 8, u"");
+    StoreCode(image, Memory(8), u"5");
+    StoreCode(image, Memory(8), u"");
     EXPECT_EQ(From(image, 0x270, 16), Bytes(16, 0xFF));
     Put(image, 0x271, {'1', '2'});
-    EXPECT_EQ(dtmf::LoadAutodial(image, 8), u"");
+    EXPECT_EQ(LoadCode(image, Memory(8)), u"");
 }
 
 } // namespace

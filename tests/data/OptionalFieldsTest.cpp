@@ -12,10 +12,6 @@ using namespace optional_features;
 
 using Texts = std::vector<std::string>;
 
-std::string Label(Text label, Language language) {
-    return std::string(TableText(language, label));
-}
-
 Texts Words(const ListField& field, Language language) {
     Texts texts;
     for (const FieldWord& word : field.words) {
@@ -43,8 +39,8 @@ TEST(OptionalFields, ChecksLieAtTheirAddressesUnderTheirLabels) {
     };
     for (const auto& row : rows) {
         EXPECT_EQ(row.field.address, row.address);
-        EXPECT_EQ(Label(row.field.label, Language::English), row.english);
-        EXPECT_EQ(Label(row.field.label, Language::Chinese), row.chinese);
+        EXPECT_EQ(row.field.label.In(Language::English), row.english);
+        EXPECT_EQ(row.field.label.In(Language::Chinese), row.chinese);
         EXPECT_FALSE(IsOn(row.field, 0));
         for (int byte = 1; byte <= 255; ++byte) {
             EXPECT_TRUE(IsOn(row.field, static_cast<std::uint8_t>(byte))) << row.english << ' ' << byte;
@@ -142,8 +138,8 @@ TEST(OptionalFields, NumbersHaveTheirAddressesLabelsAndRanges) {
     for (const auto& row : rows) {
         EXPECT_EQ(row.field.address, row.address);
         EXPECT_EQ(row.field.bytes, 1);
-        EXPECT_EQ(Label(row.field.label, Language::English), row.english);
-        EXPECT_EQ(Label(row.field.label, Language::Chinese), row.chinese);
+        EXPECT_EQ(row.field.label.In(Language::English), row.english);
+        EXPECT_EQ(row.field.label.In(Language::Chinese), row.chinese);
         EXPECT_EQ(row.field.first, row.first);
         EXPECT_EQ(row.field.last, row.last);
         EXPECT_EQ(row.field.increment, 1);
@@ -221,10 +217,10 @@ TEST(OptionalFields, ASquelchLevelIsTheNumberThatIsShown) {
 TEST(OptionalFields, CodesLieAtTheirAddressesUnderTheirLabels) {
     EXPECT_EQ(PttCodes[0].address, 0x140);
     EXPECT_EQ(PttCodes[1].address, 0x150);
-    EXPECT_EQ(Label(PttCodes[0].label, Language::English), "Begin of TX");
-    EXPECT_EQ(Label(PttCodes[0].label, Language::Chinese), "发射开始");
-    EXPECT_EQ(Label(PttCodes[1].label, Language::English), "End of TX");
-    EXPECT_EQ(Label(PttCodes[1].label, Language::Chinese), "发射结束");
+    EXPECT_EQ(PttCodes[0].label.In(Language::English), "Begin of TX");
+    EXPECT_EQ(PttCodes[0].label.In(Language::Chinese), "发射开始");
+    EXPECT_EQ(PttCodes[1].label.In(Language::English), "End of TX");
+    EXPECT_EQ(PttCodes[1].label.In(Language::Chinese), "发射结束");
 }
 
 TEST(OptionalFields, ACodeIsReadOverItsGaps) {

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace zelvor {
+
+/// The same text in the other encoding. What is no valid text becomes U+FFFD.
+[[nodiscard]] std::string Utf8Of(std::u16string_view text);
+[[nodiscard]] std::u16string Utf16Of(std::string_view text);
+
+} // namespace zelvor
