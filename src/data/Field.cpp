@@ -15,7 +15,7 @@ namespace {
 
 constexpr Language Languages[] = {Language::English, Language::Chinese};
 
-std::string InBoth(const FieldWord& word, Language language) {
+std::string TextIn(const FieldWord& word, Language language) {
     return std::string(word.In(language));
 }
 
@@ -109,12 +109,12 @@ int SizeOf(const ListField& /*field*/) {
 }
 
 std::string LabelOf(const ListField& field, Language language) {
-    return InBoth(field.label, language);
+    return TextIn(field.label, language);
 }
 
 std::string ShowValue(const ListField& field, const DataImage& image, Language language) {
     const int entry = EntryOf(field, image.At(field.address));
-    return entry == ListField::NoEntry ? std::string() : InBoth(field.words[static_cast<std::size_t>(entry)], language);
+    return entry == ListField::NoEntry ? std::string() : TextIn(field.words[static_cast<std::size_t>(entry)], language);
 }
 
 LegalValues LegalValuesOf(const ListField& field, Language language) {
@@ -154,7 +154,7 @@ int SizeOf(const CheckField& /*field*/) {
 }
 
 std::string LabelOf(const CheckField& field, Language language) {
-    return InBoth(field.label, language);
+    return TextIn(field.label, language);
 }
 
 std::string ShowValue(const CheckField& field, const DataImage& image, Language language) {
@@ -193,7 +193,7 @@ int SizeOf(const NumberField& field) {
 }
 
 std::string LabelOf(const NumberField& field, Language language) {
-    return InBoth(field.label, language);
+    return TextIn(field.label, language);
 }
 
 std::string ShowValue(const NumberField& field, const DataImage& image, Language language) {
@@ -256,7 +256,7 @@ int SizeOf(const TextField& field) {
 }
 
 std::string LabelOf(const TextField& field, Language language) {
-    const std::string label = InBoth(field.label, language);
+    const std::string label = TextIn(field.label, language);
     return field.number == 0 ? label : label + ' ' + std::to_string(field.number);
 }
 
