@@ -21,7 +21,6 @@ class ScanForm : public FieldForm, private ChannelPriorityObserver {
 
 public:
     ScanForm(Session& session, Services& services, QWidget* parent = nullptr);
-
     ~ScanForm() override;
 
     [[nodiscard]] bool OpensAtOrigin() const override { return false; }
