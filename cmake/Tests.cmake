@@ -25,16 +25,21 @@ target_precompile_headers(
   <QLineEdit> <QListWidget> <QMainWindow> <QMdiArea> <QMdiSubWindow> <QMenuBar> <QMessageBox> <QPushButton> <QScrollBar>
   <QSignalSpy> <QTableWidget> <QTabWidget> <QTest> <QToolBar> <QToolButton> <QVBoxLayout> <QWindow>)
 
-# A test program: zelvor_test(<name> LABEL fast|gui|system SOURCES ... LINKS ...).
-# Each GoogleTest case becomes one CTest test with the label.
+# A test program: zelvor_test(<name> LABEL fast|gui|system [SHARES <n>] SOURCES ... LINKS ...).
+# Its cases run in one process, or in several of their own that share them out: each is one CTest test with the label.
+# A process for each case would spend most of its time on starting. One case alone: build/release/tests/<name>
+# --gtest_filter=<case>.
 
 # What every test passes over under the leak sanitizer: libraries that are not ours.
 set(ZELVOR_LEAKS "LSAN_OPTIONS=set:suppressions=${CMAKE_SOURCE_DIR}/tests/leaks.supp:print_suppressions=0")
 
 function(zelvor_test name)
-  cmake_parse_arguments(TEST "" "LABEL;TIMEOUT" "SOURCES;LINKS" ${ARGN})
+  cmake_parse_arguments(TEST "" "LABEL;SHARES;TIMEOUT" "SOURCES;LINKS" ${ARGN})
   if(NOT TEST_TIMEOUT)
-    set(TEST_TIMEOUT 60)
+    set(TEST_TIMEOUT 600)
+  endif()
+  if(NOT TEST_SHARES)
+    set(TEST_SHARES 1)
   endif()
   add_executable(${name} ${TEST_SOURCES})
   target_link_libraries(${name} PRIVATE ${TEST_LINKS} GTest::gtest)
@@ -51,7 +56,17 @@ function(zelvor_test name)
     target_precompile_headers(${name} REUSE_FROM zelvor_test_headers_plain)
   endif()
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
-  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
-                       PROPERTIES LABELS ${TEST_LABEL} TIMEOUT ${TEST_TIMEOUT}
-                       ENVIRONMENT "QT_QPA_PLATFORM=offscreen" ENVIRONMENT_MODIFICATION "${ZELVOR_LEAKS}")
+  foreach(share RANGE 1 ${TEST_SHARES})
+    math(EXPR index "${share} - 1")
+    if(TEST_SHARES EQUAL 1)
+      set(test ${name})
+    else()
+      set(test ${name}-${share})
+    endif()
+    add_test(NAME ${test} COMMAND ${name})
+    set_tests_properties(
+      ${test} PROPERTIES LABELS ${TEST_LABEL} TIMEOUT ${TEST_TIMEOUT}
+                         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;GTEST_TOTAL_SHARDS=${TEST_SHARES};GTEST_SHARD_INDEX=${index}"
+                         ENVIRONMENT_MODIFICATION "${ZELVOR_LEAKS}")
+  endforeach()
 endfunction()
