@@ -65,8 +65,8 @@ public:
 
     /// The dialog's commit: the working texts and the Scan Add mark go into row and record.
     struct Commit {
-        bool programmed; // the dialog shows a receive frequency; else there is no mark
-        bool scanAdd;
+        bool programmed = false; // the dialog shows a receive frequency; else there is no mark
+        bool scanAdd = false;
         bool blanksTexts = false; // the nine texts are emptied before
     };
     void CommitChannel(int k, const Commit& commit);

@@ -50,7 +50,7 @@ public:
 private:
     static constexpr std::size_t IndexOf(int address) { return static_cast<std::size_t>(IndexOfAddress(address)); }
 
-    Bytes cells_; // by image index
+    Bytes cells_{}; // by image index
 };
 
 } // namespace zelvor

@@ -7,7 +7,7 @@
 namespace zelvor {
 
 struct PageFont {
-    std::string_view family = ""; // empty: the device's own
+    std::string_view family{}; // empty: the device's own
     double pointSize = 10;
     bool bold = false;
     double stretch = 1; // of the characters' width: 0.8 for letters a fifth narrower

@@ -37,7 +37,7 @@ struct NavigatorNode {
 
 /// All that the shell knows of a child window. Its class, which `make` names, has its own title and help page.
 struct ChildWindowRow {
-    ChildWindow window;
+    ChildWindow window{};
     std::optional<EditMenuEntry> menu = {};
     std::optional<NavigatorNode> node = {};
     std::string (*listCaption)(const Session& session) = nullptr; // as it opens; without, the window is not in the list

@@ -30,7 +30,7 @@ public:
 private:
     struct Entry {
         EntryWord word;
-        ModeResponder* mode;
+        ModeResponder* mode = nullptr;
     };
 
     [[nodiscard]] Reaction Begin(const Entry& entry);
