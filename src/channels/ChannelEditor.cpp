@@ -40,7 +40,7 @@ void ChannelEditor::CommitTransmit(int k, const Transmit& transmit) {
 
 std::string ChannelEditor::Choose(int k, const Choice& choice) {
     const bool isDead = choice.encodeNeedsTransmit && choice.column == column::Encode && Texts().TxText.empty();
-    const std::string text = isDead ? std::string(session_.LoadText(Text::None)) : choice.text;
+    std::string text = isDead ? std::string(session_.LoadText(Text::None)) : choice.text;
     if (text.empty()) {
         return text;
     }

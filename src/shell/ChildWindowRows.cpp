@@ -104,7 +104,7 @@ constexpr std::array<ChildWindowRow, ChildWindowCount> Rows{{
 
 constexpr bool AreInOrder() {
     for (std::size_t i = 0; i < Rows.size(); ++i) {
-        if (Rows[i].window != static_cast<ChildWindow>(i) || Rows[i].make == nullptr) {
+        if (Rows[i].window != static_cast<ChildWindow>(i)) {
             return false;
         }
     }
