@@ -1,7 +1,9 @@
 #include <QDialog>
+#include <QLibraryInfo>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QTabWidget>
+#include <QVersionNumber>
 #include <functional>
 
 #include "../support/InView.h"
@@ -91,7 +93,11 @@ protected:
 
     void LookAt(QDialog& dialog, int leastControls) const {
         const std::string name = dialog.objectName().toStdString();
-        EXPECT_EQ(dialog.screen(), screen) << name;
+        // The platform without a screen of newer toolkits puts every window that is moved while it is shown at its
+        // origin.
+        if (QLibraryInfo::version() < QVersionNumber(6, 5)) {
+            EXPECT_EQ(dialog.screen(), screen) << name;
+        }
         EXPECT_LE(dialog.width(), 427) << name;
         EXPECT_LE(dialog.height(), 267 - 20) << name; // a title bar's height less
         auto* area = dialog.findChild<QScrollArea*>();
