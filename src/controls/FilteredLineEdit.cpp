@@ -70,17 +70,17 @@ void FilteredLineEdit::Paste(const QString& text) {
 }
 
 void FilteredLineEdit::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    const QString typed = TypedText(*event);
+    const bool isEnterKey = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isEnterKey || (!enterLetter_.isNull() && typed == enterLetter_)) {
         emit EnterPressed();
     } else if (event->key() == Qt::Key_Escape) {
         emit EscapePressed();
     } else if (event->matches(QKeySequence::Paste)) {
         Paste(QApplication::clipboard()->text());
-    } else if (const QString typed = TypedText(*event); typed.isEmpty()) {
+    } else if (typed.isEmpty()) {
         Edit(*event);
         return;
-    } else if (!enterLetter_.isNull() && typed == enterLetter_) {
-        emit EnterPressed();
     } else {
         Enter(typed);
     }

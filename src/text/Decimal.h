@@ -33,7 +33,7 @@ public:
     [[nodiscard]] bool IsZero() const { return units_ == 0; }
     [[nodiscard]] Decimal operator-(Decimal other) const;
     [[nodiscard]] Decimal operator*(int factor) const;
-    auto operator<=>(const Decimal&) const = default;
+    auto operator<=>(const Decimal&) const = default; // NOLINT(modernize-use-nullptr): there is no pointer
 
 private:
     std::int64_t units_ = 0; // in 10^-10
