@@ -69,6 +69,7 @@ std::vector<QPoint> CascadeCorners(QSize area, int count, int step) {
     const int rowWidth = area.width() / std::max(1, rows);
     const int right = rows <= 1 ? step : std::min(step, rowWidth / 2 / inRow);
     std::vector<QPoint> corners;
+    corners.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) {
         corners.emplace_back(i / inRow * rowWidth + i % inRow * right, i % inRow * step);
     }
