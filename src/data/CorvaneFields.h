@@ -151,11 +151,15 @@ inline constexpr std::array<ListNumberField, 2 * FleetListSize> FleetList = [] {
 [[nodiscard]] bool ParseValue(const ListNumberField& field, std::string_view text, DataImage& image);
 void StoreBlankValue(const ListNumberField& field, DataImage& image);
 
-/// In the order of the report: the own number and how to send, then the fleet list.
-inline constexpr std::array Fields =
-    std::to_array<Field>({OwnFleet,      OwnId,         BaudRate,      DelayTime,    MessageModeTimer, SideTone,
-                          FleetList[0],  FleetList[1],  FleetList[2],  FleetList[3], FleetList[4],     FleetList[5],
-                          FleetList[6],  FleetList[7],  FleetList[8],  FleetList[9], FleetList[10],    FleetList[11],
+/// The own number and how to send.
+inline constexpr std::array OwnFields =
+    std::to_array<Field>({OwnFleet, OwnId, BaudRate, DelayTime, MessageModeTimer, SideTone});
+inline constexpr std::array FleetListFields =
+    std::to_array<Field>({FleetList[0], FleetList[1], FleetList[2], FleetList[3], FleetList[4], FleetList[5],
+                          FleetList[6], FleetList[7], FleetList[8], FleetList[9], FleetList[10], FleetList[11],
                           FleetList[12], FleetList[13], FleetList[14], FleetList[15]});
+
+/// In the order of the report.
+inline constexpr std::array Fields = Joined(OwnFields, FleetListFields);
 
 } // namespace zelvor::corvane

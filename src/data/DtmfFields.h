@@ -170,11 +170,15 @@ inline constexpr std::array<TextField, AutodialCount> Autodials = [] {
     return std::array{memory(1), memory(2), memory(3), memory(4), memory(5), memory(6), memory(7), memory(8)};
 }();
 
+/// How the radio sends, and how it is called.
+inline constexpr std::array EncodeFields =
+    std::to_array<Field>({Speed, FirstDigitTime, FirstDigitDelay, Tone, DCodeAssignment, SideTone});
+inline constexpr std::array DecodeFields = std::to_array<Field>(
+    {IdCode, GroupCode, AutoResetTimer, CallAlert, Transpond, ClearToTranspond, StunCode, StunType});
+inline constexpr std::array AutodialFields = std::to_array<Field>(
+    {Autodials[0], Autodials[1], Autodials[2], Autodials[3], Autodials[4], Autodials[5], Autodials[6], Autodials[7]});
+
 /// In the order of the report.
-inline constexpr std::array Fields = std::to_array<Field>(
-    {Speed,        FirstDigitTime, FirstDigitDelay, Tone,         DCodeAssignment, SideTone,
-     IdCode,       GroupCode,      AutoResetTimer,  CallAlert,    Transpond,       ClearToTranspond,
-     StunCode,     StunType,       Autodials[0],    Autodials[1], Autodials[2],    Autodials[3],
-     Autodials[4], Autodials[5],   Autodials[6],    Autodials[7]});
+inline constexpr std::array Fields = Joined(EncodeFields, DecodeFields, AutodialFields);
 
 } // namespace zelvor::dtmf

@@ -1,9 +1,12 @@
 #pragma once
 
+#include <array>
 #include <concepts>
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <vector>
 
 #include "data/DataImage.h"
@@ -149,6 +152,12 @@ void StoreBlankValue(const NumberField& field, DataImage& image);
 [[nodiscard]] LegalValues LegalValuesOf(const TextField& field, Language language);
 [[nodiscard]] bool ParseValue(const TextField& field, std::string_view text, DataImage& image);
 void StoreBlankValue(const TextField& field, DataImage& image);
+
+/// The rows of tables behind each other, as one table.
+template<typename First, std::size_t... Sizes>
+[[nodiscard]] constexpr auto Joined(const First& first, const std::array<Field, Sizes>&... others) {
+    return std::apply([](const auto&... rows) { return std::array{rows...}; }, std::tuple_cat(first, others...));
+}
 
 /// A text without the blanks at its ends.
 [[nodiscard]] std::string_view Trimmed(std::string_view text);

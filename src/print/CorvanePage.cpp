@@ -1,3 +1,4 @@
+#include <optional>
 #include <string>
 
 #include "data/CorvaneFields.h"
@@ -18,14 +19,23 @@ constexpr double ListHeadRow = 20;
 constexpr double FleetColumn = 30;
 constexpr double IdColumn = 50;
 
+/// What is not printed as it is shown.
+std::optional<std::string> PrintedInstead(const SectionPage& page, const Field& field) {
+    if (field.Is(&OwnFleet)) {
+        return OrElse(page.ValueOf(OwnFleet), NoFleet);
+    }
+    if (field.Is(&OwnId)) {
+        return OrElse(page.ValueOf(OwnId), NoId);
+    }
+    if (field.Is(&MessageModeTimer)) {
+        return page.ValueOrOff(MessageModeTimer);
+    }
+    return std::nullopt;
+}
+
 void AddOwn(SectionPage& page) {
     PageRows rows(page, pagecells::LabelColumn, pagecells::ValueColumn, pagecells::FirstRow);
-    rows.Add(OwnFleet.label, OrElse(page.ValueOf(OwnFleet), NoFleet));
-    rows.Add(OwnId.label, OrElse(page.ValueOf(OwnId), NoId));
-    rows.Add(BaudRate);
-    rows.Add(DelayTime);
-    rows.Add(MessageModeTimer.label, page.ValueOrOff(MessageModeTimer));
-    rows.Add(SideTone);
+    rows.Add(OwnFields, [&page](const Field& field) { return PrintedInstead(page, field); });
 }
 
 void AddFleetList(SectionPage& page) {

@@ -1,3 +1,5 @@
+#include <optional>
+#include <span>
 #include <string>
 
 #include "data/DtmfFields.h"
@@ -20,29 +22,25 @@ constexpr double DigitsColumn = 8;
 /// Stands for 0. Intended: Chinese whatever the language is, as PrintedOff.
 constexpr std::string_view PrintedDCode = "D 码";
 
-void AddEncode(SectionPage& page) {
-    page.AddWord(pagecells::LabelColumn, pagecells::FirstRow, Text::Encode);
-    PageRows rows(page, pagecells::LabelColumn, pagecells::ValueColumn, FieldsRow);
-    rows.Add(Speed);
-    rows.Add(FirstDigitTime);
-    rows.Add(FirstDigitDelay);
-    rows.Add(Tone);
-    rows.Add(DCodeAssignment.label,
-             page.IsZero(DCodeAssignment) ? std::string(PrintedDCode) : page.ValueOf(DCodeAssignment));
-    rows.Add(SideTone);
+/// What is not printed as it is shown.
+std::optional<std::string> PrintedInstead(const SectionPage& page, const Field& field) {
+    if (field.Is(&DCodeAssignment) && page.IsZero(DCodeAssignment)) {
+        return std::string(PrintedDCode);
+    }
+    if (field.Is(&GroupCode)) {
+        return page.ValueOrOff(GroupCode);
+    }
+    if (field.Is(&Transpond)) {
+        return page.ValueOrOff(Transpond);
+    }
+    return std::nullopt;
 }
 
-void AddDecode(SectionPage& page) {
-    page.AddWord(DecodeColumn, pagecells::FirstRow, Text::Decode);
-    PageRows rows(page, DecodeColumn, DecodeValueColumn, FieldsRow);
-    rows.Add(IdCode.label, page.ValueOf(Field(IdCode)));
-    rows.Add(GroupCode.label, page.ValueOrOff(GroupCode));
-    rows.Add(AutoResetTimer);
-    rows.Add(CallAlert);
-    rows.Add(Transpond.label, page.ValueOrOff(Transpond));
-    rows.Add(ClearToTranspond);
-    rows.Add(StunCode.label, page.ValueOf(Field(StunCode)));
-    rows.Add(StunType);
+/// A title, and the fields some rows below.
+void AddFields(SectionPage& page, double column, double valueColumn, Text title, std::span<const Field> fields) {
+    page.AddWord(column, pagecells::FirstRow, title);
+    PageRows rows(page, column, valueColumn, FieldsRow);
+    rows.Add(fields, [&page](const Field& field) { return PrintedInstead(page, field); });
 }
 
 void AddAutodial(SectionPage& page) {
@@ -57,8 +55,8 @@ void AddAutodial(SectionPage& page) {
 
 std::vector<CellText> DtmfPage(const DataImage& image, Language language) {
     SectionPage page(image, language, ReportSection::Dtmf);
-    AddEncode(page);
-    AddDecode(page);
+    AddFields(page, pagecells::LabelColumn, pagecells::ValueColumn, Text::Encode, EncodeFields);
+    AddFields(page, DecodeColumn, DecodeValueColumn, Text::Decode, DecodeFields);
     AddAutodial(page);
     return page.Texts();
 }
