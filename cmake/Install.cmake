@@ -2,7 +2,39 @@ include(GNUInstallDirs)
 install(TARGETS zelvor RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 if(TARGET zelvor-radio)
   install(TARGETS zelvor-radio RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-  install(FILES packaging/zelvor-radio.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 endif()
-install(FILES resources/org.zelvor.Zelvor.svg DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/icons/hicolor/scalable/apps)
 install(DIRECTORY help DESTINATION ${CMAKE_INSTALL_DATADIR}/zelvor FILES_MATCHING PATTERN "*.htm" PATTERN "*.css")
+
+# Installs a file compressed, as distributions keep manuals and change logs.
+function(zelvor_install_gzipped file destination)
+  cmake_path(GET file FILENAME name)
+  set(packed ${CMAKE_BINARY_DIR}/packaging/${name}.gz)
+  add_custom_command(
+    OUTPUT ${packed}
+    COMMAND gzip -9nc ${file} > ${packed}
+    DEPENDS ${file}
+    VERBATIM)
+  add_custom_target(packed_${name} ALL DEPENDS ${packed})
+  install(FILES ${packed} DESTINATION ${destination})
+endfunction()
+
+# What desktops of this kind look for: names, icon, kinds of files, manuals and licence.
+if(UNIX AND NOT APPLE)
+  set(ZELVOR_RELEASE_DATE 2026-11-22)
+  set(ZELVOR_RELEASE_DAY "Sun, 22 Nov 2026 12:00:00 +0000")
+  set(metainfo ${CMAKE_BINARY_DIR}/packaging/org.zelvor.Zelvor.metainfo.xml)
+  configure_file(packaging/org.zelvor.Zelvor.metainfo.xml.in ${metainfo} @ONLY)
+  install(FILES ${metainfo} DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
+  install(FILES packaging/org.zelvor.Zelvor.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+  install(FILES packaging/org.zelvor.Zelvor.mime.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages
+          RENAME org.zelvor.Zelvor.xml)
+  install(FILES resources/org.zelvor.Zelvor.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
+  foreach(program zelvor zelvor-radio)
+    zelvor_install_gzipped(${CMAKE_SOURCE_DIR}/packaging/${program}.1 ${CMAKE_INSTALL_MANDIR}/man1)
+  endforeach()
+  install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/zelvor RENAME copyright)
+  configure_file(packaging/changelog.in ${CMAKE_BINARY_DIR}/packaging/changelog @ONLY)
+  zelvor_install_gzipped(${CMAKE_BINARY_DIR}/packaging/changelog ${CMAKE_INSTALL_DATADIR}/doc/zelvor)
+endif()
+
+include(cmake/Package.cmake)
