@@ -8,11 +8,13 @@
 
 #include "AnsweringMessageBoxes.h"
 #include "RadioProcess.h"
-#include "data/Session.h"
+#include "controls/WindowState.h"
+#include "data/Document.h"
 #include "help/QtHelpViewer.h"
 #include "link/CloneEngine.h"
 #include "link/CloneFrames.h"
 #include "platform/QtServices.h"
+#include "service/ServiceState.h"
 #include "shell/MDIForm1.h"
 #include "simulator/SampleRadio.h"
 
@@ -30,13 +32,16 @@ struct Bed {
     Services services{machine.Get().ports, machine.Get().settings, messages,
                       machine.Get().files, machine.Get().clock,    machine.Get().help,
                       machine.Get().pages, machine.Get().store};
-    Session session;
+    Document document;
+    WindowState windows;
+    LinkState link;
+    ServiceState service;
     RadioProcess radio;
 
     [[nodiscard]] std::optional<SessionTimes> Outcome(TransferDirection direction) {
         const bool isRead = direction == TransferDirection::Read;
         if (!messages.TakeOnly(isRead ? "Reading Completed" : "Writing Completed") ||
-            (isRead && session.Image != SampleRadioMemory())) {
+            (isRead && document.Image != SampleRadioMemory())) {
             return std::nullopt;
         }
         return ReadTrace(radio.TraceOfSession());
@@ -67,11 +72,11 @@ public:
 
 std::optional<SessionTimes> RunFromMainWindow(TransferDirection direction) {
     Bed bed;
-    MDIForm1 window(bed.session, bed.services);
+    MDIForm1 window({bed.document, bed.windows, bed.link, bed.service}, bed.services);
     window.show();
-    bed.session.Image = SampleRadioMemory();
+    bed.document.Image = SampleRadioMemory();
     if (direction == TransferDirection::Read) {
-        bed.session.Image.Fill(0);
+        bed.document.Image.Fill(0);
     }
     auto* entry =
         window.findChild<QAction*>(direction == TransferDirection::Read ? "MnuProgramRead" : "MnuProgramWrite");
@@ -87,15 +92,16 @@ std::optional<SessionTimes> RunEngineAlone(TransferDirection direction) {
     Bed bed;
     const bool isRead = direction == TransferDirection::Read;
     if (!isRead) {
-        bed.session.Image = SampleRadioMemory();
+        bed.document.Image = SampleRadioMemory();
     }
-    bed.session.Link.TransferMode = isRead ? transfer::Reading : transfer::Writing;
+    bed.link.TransferMode = isRead ? transfer::Reading : transfer::Writing;
     if (!bed.radio.IsReady()) {
         return std::nullopt;
     }
     const std::unique_ptr<SerialPort> port = bed.services.ports.Make("MSComm1");
     EngineOwner owner;
-    CloneEngine engine(bed.session, *port, bed.services.clock, bed.services.messages, owner);
+    CloneEngine engine(bed.document,
+                       {bed.link, *port, bed.services.clock, bed.services.messages, bed.windows.LanguageFlag}, owner);
     engine.Load();
     engine.Start();
     owner.Loop.exec();

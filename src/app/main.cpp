@@ -1,10 +1,13 @@
 #include <QApplication>
 #include <cstdio>
 
-#include "data/Session.h"
+#include "controls/WindowState.h"
+#include "data/Document.h"
 #include "help/QtHelpViewer.h"
+#include "link/LinkState.h"
 #include "platform/FontCheck.h"
 #include "platform/QtServices.h"
+#include "service/ServiceState.h"
 #include "shell/Icons.h"
 #include "shell/MDIForm1.h"
 
@@ -34,8 +37,11 @@ int main(int argc, char** argv) {
 
     zelvor::QtHelpViewer help;
     zelvor::QtServices services(help);
-    zelvor::Session session;
-    zelvor::MDIForm1 mainWindow(session, services.Get());
+    zelvor::Document document;
+    zelvor::WindowState windows;
+    zelvor::LinkState link;
+    zelvor::ServiceState service;
+    zelvor::MDIForm1 mainWindow({document, windows, link, service}, services.Get());
     // At once: child windows are not asked.
     QObject::connect(&mainWindow, &zelvor::MDIForm1::Ended, &application, [] { QCoreApplication::exit(0); });
     mainWindow.show();

@@ -9,7 +9,8 @@
 #include "controls/CellListEditor.h"
 #include "controls/CellTextEditor.h"
 #include "controls/EditGrid.h"
-#include "data/Session.h"
+#include "controls/WindowState.h"
+#include "data/Document.h"
 #include "platform/Toolkit.h"
 #include "text/StringTable.h"
 
@@ -22,10 +23,10 @@ constexpr int HelpContextBase = 4100;
 
 } // namespace
 
-ChannelCellEditor::ChannelCellEditor(Session& session, Services& services, EditGrid& grid, QWidget* panel,
-                                     ToneLists tones)
-    : QObject(panel), session_(session), services_(services), editor_(session), grid_(grid), tones_(tones),
-      txtInputBox_(new CellTextEditor(panel)), comInputStep_(new CellListEditor(panel)) {
+ChannelCellEditor::ChannelCellEditor(Document& document, WindowState& windows, Services& services, EditGrid& grid,
+                                     QWidget* panel, ToneLists tones)
+    : QObject(panel), document_(document), windows_(windows), services_(services), editor_(document, windows),
+      grid_(grid), tones_(tones), txtInputBox_(new CellTextEditor(panel)), comInputStep_(new CellListEditor(panel)) {
     txtInputBox_->setObjectName("txtInputBox");
     txtInputBox_->setMaxLength(FrequencyLength);
     txtInputBox_->SetFilter(DigitOrPoint);
@@ -108,15 +109,15 @@ void ChannelCellEditor::OnGridScrolled() {
 }
 
 bool ChannelCellEditor::IsRowBlank(int row) const {
-    return !session_.Channels.IsProgrammed(row);
+    return !document_.Channels.IsProgrammed(row);
 }
 
 bool ChannelCellEditor::HasTransmit(int row) const {
-    return !session_.Channels.CellText(row, column::Tx).empty();
+    return !document_.Channels.CellText(row, column::Tx).empty();
 }
 
 bool ChannelCellEditor::IsDialogOpen() const {
-    return session_.IsOpen(ChildWindow::ChannelEdit);
+    return windows_.IsOpen(ChildWindow::ChannelEdit);
 }
 
 void ChannelCellEditor::ShowCellEditor() {
@@ -125,9 +126,9 @@ void ChannelCellEditor::ShowCellEditor() {
     }
     const int row = grid_.Row();
     const int cursor = grid_.Column();
-    session_.Cursor.GoToCell(row, cursor);
+    windows_.Cursor.GoToCell(row, cursor);
     CellUndoText = grid_.Text(row, cursor);
-    session_.Channels.OpenRow(session_.Image, session_.LanguageFlag, row);
+    document_.Channels.OpenRow(document_.Image, windows_.LanguageFlag, row);
     if (cursor != column::Rx && IsRowBlank(row)) {
         return;
     }
@@ -144,7 +145,7 @@ void ChannelCellEditor::ShowCellEditor() {
     const QStringList entries = cursor == column::Decode ? ToQStrings(tones_.decode)
                                 : cursor == column::Encode
                                     ? ToQStrings(tones_.encode)
-                                    : ToQStrings(CellChoices(cursor, session_.Image, session_.LanguageFlag));
+                                    : ToQStrings(CellChoices(cursor, document_.Image, windows_.LanguageFlag));
     comInputStep_->setProperty("HelpContextID", helpContext);
     comInputStep_->ShowOver(grid_, entries, CellUndoText, IsToneColumn(cursor));
 }
@@ -170,7 +171,7 @@ void ChannelCellEditor::OnTextChanged(const QString& text) {
     if (loading_ || state_ != State::TextEditing) {
         return;
     }
-    session_.Channels.SetCellText(session_.Cursor.CurrentChannel(), session_.Cursor.CurrentCol(), FromQString(text));
+    document_.Channels.SetCellText(windows_.Cursor.CurrentChannel(), windows_.Cursor.CurrentCol(), FromQString(text));
     if (text.size() == FrequencyLength) {
         CommitText();
     }
@@ -180,8 +181,8 @@ void ChannelCellEditor::OnTextEnded(bool restore) {
     if (restore) {
         const QScopedValueRollback<bool> loading(loading_, true);
         txtInputBox_->setText(CellUndoText);
-        session_.Channels.SetCellText(session_.Cursor.CurrentChannel(), session_.Cursor.CurrentCol(),
-                                      FromQString(CellUndoText));
+        document_.Channels.SetCellText(windows_.Cursor.CurrentChannel(), windows_.Cursor.CurrentCol(),
+                                       FromQString(CellUndoText));
     }
     LeaveText();
     grid_.setFocus();
@@ -199,8 +200,8 @@ void ChannelCellEditor::LeaveText() {
 
 void ChannelCellEditor::CommitText() {
     const QScopedValueRollback<bool> committing(committing_, true);
-    session_.Cursor.SetEditChannel(session_.Cursor.CurrentChannel());
-    if (session_.Cursor.CurrentCol() == column::Rx) {
+    windows_.Cursor.SetEditChannel(windows_.Cursor.CurrentChannel());
+    if (windows_.Cursor.CurrentCol() == column::Rx) {
         CommitReceive(txtInputBox_->text());
     } else {
         CommitTransmit(txtInputBox_->text());
@@ -208,12 +209,12 @@ void ChannelCellEditor::CommitText() {
 }
 
 void ChannelCellEditor::CommitReceive(const QString& text) {
-    const int k = session_.Cursor.CurrentChannel();
+    const int k = windows_.Cursor.CurrentChannel();
     if (text.isEmpty()) {
         editor_.Blank(k);
         return;
     }
-    const NormalisedFrequency entered = EnterFrequency(session_, services_, FromQString(text), FrequencyCaution);
+    const NormalisedFrequency entered = Enter(text);
     if (!entered.outOfRange) {
         CellUndoText = ToQString(entered.text);
     }
@@ -227,17 +228,20 @@ void ChannelCellEditor::CommitReceive(const QString& text) {
                               .clearsHiddenFields = hasDefaults});
 }
 
+NormalisedFrequency ChannelCellEditor::Enter(const QString& text) const {
+    return EnterFrequency(document_.Image, FromQString(text), services_, windows_.LanguageFlag, FrequencyCaution);
+}
+
 void ChannelCellEditor::CommitTransmit(const QString& text) {
-    const std::string frequency =
-        text.isEmpty() ? std::string() : EnterFrequency(session_, services_, FromQString(text), FrequencyCaution).text;
-    editor_.CommitTransmit(session_.Cursor.CurrentChannel(), {.frequency = frequency});
+    const std::string frequency = text.isEmpty() ? std::string() : Enter(text).text;
+    editor_.CommitTransmit(windows_.Cursor.CurrentChannel(), {.frequency = frequency});
 }
 
 // --- Tones and choices -----------------------------------------------------------------------------------------------
 
 void ChannelCellEditor::OnStepped(int direction) {
     const std::string before = FromQString(comInputStep_->currentText());
-    CycledText = StepCellValue(session_.Cursor.CurrentCol(), before, direction, session_.Image, session_.LanguageFlag,
+    CycledText = StepCellValue(windows_.Cursor.CurrentCol(), before, direction, document_.Image, windows_.LanguageFlag,
                                tones_.decode);
     if (CycledText != before) {
         CycleActive = true;
@@ -250,8 +254,8 @@ void ChannelCellEditor::OnSelected(const std::string& text) {
         return;
     }
     const std::string value = editor_.Choose(
-        session_.Cursor.CurrentChannel(),
-        {.column = session_.Cursor.CurrentCol(), .text = CycleActive ? CycledText : text, .encodeNeedsTransmit = true});
+        windows_.Cursor.CurrentChannel(),
+        {.column = windows_.Cursor.CurrentCol(), .text = CycleActive ? CycledText : text, .encodeNeedsTransmit = true});
     comInputStep_->PutText(ToQString(value));
     CycledText = value;
     CellUndoText = ToQString(CycledText);
@@ -259,23 +263,23 @@ void ChannelCellEditor::OnSelected(const std::string& text) {
 }
 
 void ChannelCellEditor::CommitTone() {
-    CycledText = NormaliseTone(FromQString(comInputStep_->currentText()), session_.LanguageFlag);
-    editor_.Choose(session_.Cursor.CurrentChannel(), {.column = session_.Cursor.CurrentCol(), .text = CycledText});
+    CycledText = NormaliseTone(FromQString(comInputStep_->currentText()), windows_.LanguageFlag);
+    editor_.Choose(windows_.Cursor.CurrentChannel(), {.column = windows_.Cursor.CurrentCol(), .text = CycledText});
 }
 
 void ChannelCellEditor::LeaveList() {
     if (state_ != State::ListEditing) {
         return;
     }
-    if (IsToneColumn(session_.Cursor.CurrentCol())) {
+    if (IsToneColumn(windows_.Cursor.CurrentCol())) {
         CommitTone();
     }
     HideEditors();
 }
 
 void ChannelCellEditor::OnListEnded() {
-    const int row = session_.Cursor.CurrentChannel();
-    const int edited = session_.Cursor.CurrentCol();
+    const int row = windows_.Cursor.CurrentChannel();
+    const int edited = windows_.Cursor.CurrentCol();
     LeaveList();
     grid_.setFocus();
     if (edited < column::Count) {

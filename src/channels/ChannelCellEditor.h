@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "channels/ChannelEditor.h"
+#include "data/FrequencyCodec.h"
 
 class QKeyEvent;
 
@@ -13,8 +14,9 @@ namespace zelvor {
 
 class CellListEditor;
 class CellTextEditor;
+class Document;
 class EditGrid;
-class Session;
+class WindowState;
 struct Services;
 
 /// Edits the cells of the channel grid: one floating text box for the two frequencies, one floating list for the other
@@ -30,7 +32,8 @@ public:
         const std::vector<std::string>& encode;
     };
 
-    ChannelCellEditor(Session& session, Services& services, EditGrid& grid, QWidget* panel, ToneLists tones);
+    ChannelCellEditor(Document& document, WindowState& windows, Services& services, EditGrid& grid, QWidget* panel,
+                      ToneLists tones);
 
     /// Opens the editor over the current cell; a blank row opens only its receive frequency.
     void ShowCellEditor();
@@ -57,6 +60,8 @@ private:
     void CommitText();
     void CommitReceive(const QString& text);
     void CommitTransmit(const QString& text);
+    /// A typed frequency as it is to be stored; an entry out of range is reported.
+    [[nodiscard]] NormalisedFrequency Enter(const QString& text) const;
     void LeaveText();
 
     void OnStepped(int direction);
@@ -69,7 +74,8 @@ private:
     [[nodiscard]] bool HasTransmit(int row) const;
     [[nodiscard]] bool IsDialogOpen() const;
 
-    Session& session_;
+    Document& document_;
+    WindowState& windows_;
     Services& services_;
     ChannelEditor editor_;
     EditGrid& grid_;

@@ -13,8 +13,8 @@
 #include "controls/FilteredLineEdit.h"
 #include "controls/SpinText.h"
 #include "data/ChannelRecord.h"
+#include "data/Document.h"
 #include "data/MemoryMap.h"
-#include "data/Session.h"
 #include "data/ToneCodec.h"
 #include "help/HelpViewer.h"
 #include "platform/Services.h"
@@ -42,24 +42,24 @@ bool IsTypedKey(const QEvent& event) {
 
 } // namespace
 
-ChannelEditForm::ChannelEditForm(Session& session, Services& services, QWidget* parent)
-    : ChildForm(ChildWindow::ChannelEdit, "ChannelEditForm", WindowSize, parent), session_(session),
-      services_(services), editor_(session), fields_(session, *Content()) {
-    session_.SetOpen(ChildWindow::ChannelEdit, true);
-    SetCaption(ToQString(session_.LoadText(Text::ChannelEditTitle)));
+ChannelEditForm::ChannelEditForm(Document& document, WindowState& windows, Services& services, QWidget* parent)
+    : ChildForm(ChildWindow::ChannelEdit, "ChannelEditForm", WindowSize, parent), document_(document),
+      windows_(windows), services_(services), editor_(document, windows), fields_(document, windows, *Content()) {
+    windows_.SetOpen(ChildWindow::ChannelEdit, true);
+    SetCaption(ToQString(windows_.LoadText(Text::ChannelEditTitle)));
     ConnectFields();
     ConnectLists();
     setFocusProxy(fields_.channel);
-    GoToChannel(session_.Cursor.EditChannel());
-    session_.Channels.Add(*this);
-    session_.Cursor.Add(*this);
-    session_.Priority.Add(*this);
+    GoToChannel(windows_.Cursor.EditChannel());
+    document_.Channels.Add(*this);
+    windows_.Cursor.Add(*this);
+    document_.Priority.Add(*this);
 }
 
 ChannelEditForm::~ChannelEditForm() {
-    session_.Priority.Remove(*this);
-    session_.Cursor.Remove(*this);
-    session_.Channels.Remove(*this);
+    document_.Priority.Remove(*this);
+    windows_.Cursor.Remove(*this);
+    document_.Channels.Remove(*this);
 }
 
 void ChannelEditForm::ConnectFields() {
@@ -77,7 +77,7 @@ void ChannelEditForm::ConnectFields() {
     connect(fields_.chkPriorityChannel, &QCheckBox::toggled, this, &ChannelEditForm::StorePriority);
     On(*fields_.cmdOK, [this] { OnClose(); });
     connect(fields_.cmdHelp, &QPushButton::clicked, this, [this] {
-        services_.help.Show({session_.LanguageFlag, HelpPage()});
+        services_.help.Show({windows_.LanguageFlag, HelpPage()});
     });
     const auto stores = [this](QCheckBox* check, void (ChannelEditor::*store)(int, bool)) {
         connect(check, &QCheckBox::toggled, this, [this, store](bool checked) {
@@ -137,7 +137,7 @@ bool ChannelEditForm::IsLive() const {
 }
 
 bool ChannelEditForm::IsOpen() const {
-    return session_.IsOpen(ChildWindow::ChannelEdit);
+    return windows_.IsOpen(ChildWindow::ChannelEdit);
 }
 
 bool ChannelEditForm::HasReceive() const {
@@ -145,7 +145,7 @@ bool ChannelEditForm::HasReceive() const {
 }
 
 ChannelTexts& ChannelEditForm::Texts() {
-    return session_.Channels.Texts();
+    return document_.Channels.Texts();
 }
 
 // --- Receive frequency -----------------------------------------------------------------------------------------------
@@ -161,17 +161,21 @@ void ChannelEditForm::OnReceiveText(const QString& text) {
     }
 }
 
+std::string ChannelEditForm::Enter(const std::string& text) const {
+    return EnterFrequency(document_.Image, text, services_, windows_.LanguageFlag, FrequencyCaution).text;
+}
+
 void ChannelEditForm::OnReceiveLeft() {
     if (!IsLive() || !HasReceive()) {
         return;
     }
     const std::string text = FromQString(fields_.txtRxFreq->text());
-    const std::string frequency = EnterFrequency(session_, services_, text, FrequencyCaution).text;
+    const std::string frequency = Enter(text);
     {
         const QScopedValueRollback<bool> showing(showing_, true);
         fields_.txtRxFreq->setText(ToQString(frequency));
         EnableChannelControls();
-        fields_.ShowDefaults(WasBlank, session_.Image.At(address::PttIdType) <= record::TypeCorvane);
+        fields_.ShowDefaults(WasBlank, document_.Image.At(address::PttIdType) <= record::TypeCorvane);
     }
     // The texts come complete, from what is shown.
     fields_.TakeTexts(Texts());
@@ -209,7 +213,7 @@ void ChannelEditForm::CompleteNewChannel() {
 void ChannelEditForm::OnTransmitText(const QString& text) {
     EnableEncode(!text.isEmpty() && HasReceive());
     if (text.isEmpty() && HasReceive()) {
-        fields_.PutTone(*fields_.comEncode, std::string(session_.LoadText(Text::None)));
+        fields_.PutTone(*fields_.comEncode, std::string(windows_.LoadText(Text::None)));
         OnToneSelected(*fields_.comEncode);
     }
 }
@@ -220,7 +224,7 @@ void ChannelEditForm::OnTransmitLeft() {
     }
     std::string frequency = FromQString(fields_.txtTxFreq->text());
     if (!frequency.empty()) {
-        frequency = EnterFrequency(session_, services_, frequency, FrequencyCaution).text;
+        frequency = Enter(frequency);
         fields_.txtTxFreq->setText(ToQString(frequency));
     }
     editor_.CommitTransmit(
@@ -244,9 +248,9 @@ void ChannelEditForm::OnToneLeft(FieldList& list) {
     if (!IsLive() || !HasReceive()) {
         return;
     }
-    session_.Cursor.SetCurrentChannel(channel_);
+    windows_.Cursor.SetCurrentChannel(channel_);
     // An empty box becomes "None" by the same rule.
-    fields_.PutTone(list, NormaliseTone(FromQString(list.currentText()), session_.LanguageFlag));
+    fields_.PutTone(list, NormaliseTone(FromQString(list.currentText()), windows_.LanguageFlag));
     if (&list == fields_.comDecode && !fields_.AreDependentListsRight()) {
         RebuildDependentLists();
     }
@@ -308,7 +312,7 @@ void ChannelEditForm::StorePriority(bool checked) {
         return;
     }
     // The image's byte is the scan window's to write, when its box is left.
-    session_.Priority.Mark(checked ? channel_ : 0);
+    document_.Priority.Mark(checked ? channel_ : 0);
 }
 
 // --- Commit ----------------------------------------------------------------------------------------------------------

@@ -4,14 +4,15 @@
 
 #include "channels/ChannelEditPanel.h"
 #include "channels/ChannelEditor.h"
+#include "controls/ChannelCursor.h"
 #include "controls/ChildForm.h"
-#include "data/ChannelCursor.h"
 #include "data/ChannelPriority.h"
 #include "data/ChannelTable.h"
 
 namespace zelvor {
 
 class FieldList;
+class Document;
 struct Services;
 
 /// The channel edit dialog: one channel with every field of its record, beside the grid and in step with it. Edits
@@ -27,7 +28,7 @@ class ChannelEditForm : public ChildForm,
     Q_OBJECT
 
 public:
-    ChannelEditForm(Session& session, Services& services, QWidget* parent = nullptr);
+    ChannelEditForm(Document& document, WindowState& windows, Services& services, QWidget* parent = nullptr);
     ~ChannelEditForm() override;
 
     /// Shows channel ChannelCursor::EditChannel, with the text of txtChannel selected and the focus on it.
@@ -82,6 +83,8 @@ private:
 
     void OnReceiveText(const QString& text);
     void OnReceiveLeft();
+    /// A typed frequency as it is to be stored; an entry out of range is reported.
+    [[nodiscard]] std::string Enter(const std::string& text) const;
     void CompleteDependentLists();
     void CompleteNewChannel();
     void OnTransmitText(const QString& text);
@@ -106,7 +109,8 @@ private:
     [[nodiscard]] bool HasReceive() const;
     [[nodiscard]] ChannelTexts& Texts();
 
-    Session& session_;
+    Document& document_;
+    WindowState& windows_;
     Services& services_;
     ChannelEditor editor_;
     ChannelEditPanel fields_;

@@ -12,9 +12,10 @@
 #include "controls/FieldList.h"
 #include "controls/FilteredLineEdit.h"
 #include "controls/SpinText.h"
+#include "controls/WindowState.h"
+#include "data/Document.h"
 #include "data/MemoryMap.h"
 #include "data/OptionalFields.h"
-#include "data/Session.h"
 #include "data/ToneCodec.h"
 #include "platform/LayoutUnits.h"
 #include "platform/Toolkit.h"
@@ -38,7 +39,8 @@ QStringList NumbersTo(int last) {
 
 } // namespace
 
-ChannelEditPanel::ChannelEditPanel(const Session& session, QWidget& content) : session_(session) {
+ChannelEditPanel::ChannelEditPanel(const Document& document, const WindowState& windows, QWidget& content)
+    : document_(document), windows_(windows) {
     BuildChannel(content);
     BuildFrame(content);
     BuildFields();
@@ -48,7 +50,7 @@ ChannelEditPanel::ChannelEditPanel(const Session& session, QWidget& content) : s
 }
 
 void ChannelEditPanel::BuildChannel(QWidget& content) {
-    auto* label = new QLabel(ToQString(session_.LoadText(Text::Channel)), &content);
+    auto* label = new QLabel(ToQString(windows_.LoadText(Text::Channel)), &content);
     label->setObjectName("LabChannel");
     label->setGeometry(LaidOut(QRect(20, 8, 140, FieldHeight)));
     SpinTextRules rules;
@@ -78,7 +80,7 @@ void ChannelEditPanel::BuildFrame(QWidget& content) {
 
 void ChannelEditPanel::PlaceField(const char* labelName, QWidget* field, const FieldWord& caption) {
     const int row = fields_->rowCount();
-    auto* label = new QLabel(ToQString(caption.In(session_.LanguageFlag)), frame1_);
+    auto* label = new QLabel(ToQString(caption.In(windows_.LanguageFlag)), frame1_);
     label->setObjectName(labelName);
     label->setBuddy(field);
     field->setFixedSize(LaidOut(FieldSize));
@@ -103,8 +105,8 @@ void ChannelEditPanel::BuildFields() {
         made->SetEntries(entries);
         return made;
     };
-    const Language language = session_.LanguageFlag;
-    const auto choices = [&](int column) { return ToQStrings(CellChoices(column, session_.Image, language)); };
+    const Language language = windows_.LanguageFlag;
+    const auto choices = [&](int column) { return ToQStrings(CellChoices(column, document_.Image, language)); };
     PlaceField("LabRxFreq", txtRxFreq = frequency("txtRxFreq"), Text::ReceiveFrequency);
     PlaceField("LabTxFreq", txtTxFreq = frequency("txtTxFreq"), Text::TransmitFrequency);
     PlaceField("LabQTdec", comDecode = list("ComDecode", {}), Text::QtDqtDecode);
@@ -130,7 +132,7 @@ void ChannelEditPanel::BuildToneLists() {
         list->setInsertPolicy(QComboBox::NoInsert);
         list->setCompleter(nullptr);
         list->setMaxVisibleItems(12);
-        list->SetEntries(ToQStrings(BuildToneList(session_.LanguageFlag)));
+        list->SetEntries(ToQStrings(BuildToneList(windows_.LanguageFlag)));
     }
 }
 
@@ -139,7 +141,7 @@ void ChannelEditPanel::BuildChecks() {
     checks->setVerticalSpacing(0);
     fields_->addLayout(checks, fields_->rowCount(), 0, 1, 2);
     const auto check = [this, checks](const char* name, Text caption, int row, int column) {
-        auto* box = new QCheckBox(ToQString(session_.LoadText(caption)), frame1_);
+        auto* box = new QCheckBox(ToQString(windows_.LoadText(caption)), frame1_);
         box->setObjectName(name);
         box->setFixedHeight(LaidOut(22));
         checks->addWidget(box, row, column);
@@ -153,7 +155,7 @@ void ChannelEditPanel::BuildChecks() {
 
 void ChannelEditPanel::BuildButtons(QWidget& content) {
     const auto button = [&](const char* name, Text caption, int x) {
-        auto* made = new QPushButton(ToQString(session_.LoadText(caption)), &content);
+        auto* made = new QPushButton(ToQString(windows_.LoadText(caption)), &content);
         made->setObjectName(name);
         made->setGeometry(LaidOut(QRect(x, 401, 100, 30)));
         made->setAutoDefault(true);
@@ -173,11 +175,11 @@ void ChannelEditPanel::PutTone(FieldList& list, const std::string& tone) {
 }
 
 bool ChannelEditPanel::HasTone() const {
-    return FromQString(comDecode->currentText()) != session_.LoadText(Text::None);
+    return FromQString(comDecode->currentText()) != windows_.LoadText(Text::None);
 }
 
 bool ChannelEditPanel::HasSignalling() const {
-    return FromQString(comSelSignal->currentText()) != session_.LoadText(Text::None);
+    return FromQString(comSelSignal->currentText()) != windows_.LoadText(Text::None);
 }
 
 bool ChannelEditPanel::AreDependentListsRight() const {
@@ -188,7 +190,7 @@ bool ChannelEditPanel::AreDependentListsRight() const {
 }
 
 DependentLists ChannelEditPanel::DependentListsNow() const {
-    return DependentListsOf(HasTone(), HasSignalling(), session_.LanguageFlag);
+    return DependentListsOf(HasTone(), HasSignalling(), windows_.LanguageFlag);
 }
 
 void ChannelEditPanel::TakeTexts(ChannelTexts& texts) const {

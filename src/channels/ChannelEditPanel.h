@@ -15,16 +15,17 @@ class QWidget;
 
 namespace zelvor {
 
+class Document;
 class FieldList;
 class FilteredLineEdit;
-class Session;
 class SpinText;
+class WindowState;
 
 /// The controls of the channel edit dialog, and where they lie. What they do is the dialog's.
 class ChannelEditPanel {
 public:
     /// Makes them on the content panel of the window, which owns them, in the current language.
-    ChannelEditPanel(const Session& session, QWidget& content);
+    ChannelEditPanel(const Document& document, const WindowState& windows, QWidget& content);
 
     SpinText* channel = nullptr; // txtChannel, UpDown1
     FilteredLineEdit* txtRxFreq = nullptr;
@@ -67,7 +68,8 @@ private:
     void BuildButtons(QWidget& content);
     void PlaceField(const char* labelName, QWidget* field, const FieldWord& caption);
 
-    const Session& session_;
+    const Document& document_;
+    const WindowState& windows_;
     QWidget* frame1_ = nullptr;
     QGridLayout* fields_ = nullptr;
 };

@@ -10,15 +10,15 @@
 #include "controls/FieldList.h"
 #include "controls/SpinText.h"
 #include "data/ChannelRecord.h"
+#include "data/Document.h"
 #include "data/MemoryMap.h"
-#include "data/Session.h"
 #include "platform/Toolkit.h"
 #include "text/StringTable.h"
 
 namespace zelvor {
 
 void ChannelEditForm::OpenOnEditChannel() {
-    GoToChannel(session_.Cursor.EditChannel());
+    GoToChannel(windows_.Cursor.EditChannel());
     ShowChannel(channel_);
     fields_.channel->setFocus();
     fields_.channel->Box().selectAll();
@@ -44,8 +44,8 @@ void ChannelEditForm::ShowChannel(int n) {
     const QScopedValueRollback<bool> showing(showing_, true);
     channel_ = n;
     fields_.channel->SetValue(n);
-    session_.Cursor.ShowInDialog(n);
-    session_.Channels.LoadRowIntoFields(session_.Image, session_.LanguageFlag, n);
+    windows_.Cursor.ShowInDialog(n);
+    document_.Channels.LoadRowIntoFields(document_.Image, windows_.LanguageFlag, n);
     if (Texts().RxText.empty()) {
         BlankChannelDialog();
     } else {
@@ -61,9 +61,9 @@ void ChannelEditForm::ShowProgrammedChannel() {
     fields_.PutTone(*fields_.comDecode, texts.DecText);
     fields_.PutTone(*fields_.comEncode, texts.EncText);
     EnableEncode(!texts.TxText.empty());
-    fields_.comTxPower->ShowEntry(texts.PowerText == session_.LoadText(Text::High) ? 0 : 1);
-    fields_.comWideNarrow->ShowEntry(texts.WidthText == session_.LoadText(Text::Narrow) ? 0 : 1);
-    fields_.chkScanAdd->setChecked(texts.ScanAddText == session_.LoadText(Text::Yes));
+    fields_.comTxPower->ShowEntry(texts.PowerText == windows_.LoadText(Text::High) ? 0 : 1);
+    fields_.comWideNarrow->ShowEntry(texts.WidthText == windows_.LoadText(Text::Narrow) ? 0 : 1);
+    fields_.chkScanAdd->setChecked(texts.ScanAddText == windows_.LoadText(Text::Yes));
     ShowOptSignal();
     ShowPttId();
     EnablePriorityMark();
@@ -76,7 +76,7 @@ void ChannelEditForm::ShowOptSignal() {
 }
 
 void ChannelEditForm::ShowPttId() {
-    const QStringList entries = ToQStrings(CellChoices(column::PttId, session_.Image, session_.LanguageFlag));
+    const QStringList entries = ToQStrings(CellChoices(column::PttId, document_.Image, windows_.LanguageFlag));
     if (fields_.comPTTID->count() != entries.size()) {
         fields_.comPTTID->SetEntries(entries);
     }
@@ -105,7 +105,7 @@ void ChannelEditForm::EnableChannelControls() {
     if (!IsOpen()) {
         return;
     }
-    const std::string none(session_.LoadText(Text::None));
+    const std::string none(windows_.LoadText(Text::None));
     for (QWidget* control : std::initializer_list<QWidget*>{
              fields_.txtTxFreq, fields_.comDecode, fields_.comSelSignal, fields_.comSPMute, fields_.comTxPower,
              fields_.comWideNarrow, fields_.comBusyLock, fields_.comPTTID, fields_.comAutoDial, fields_.chkShift,
@@ -157,7 +157,7 @@ void ChannelEditForm::BuildDependentLists() {
 }
 
 void ChannelEditForm::SelectMuteEntries() {
-    const std::uint8_t byte12 = session_.Image.At(address::Channel(channel_) + record::Signalling);
+    const std::uint8_t byte12 = document_.Image.At(address::Channel(channel_) + record::Signalling);
     fields_.comSPMute->ShowEntry(SpMuteEntry(byte12, fields_.comSPMute->count()));
     fields_.comBusyLock->ShowEntry(BusyLockEntry(byte12, fields_.comBusyLock->count()));
     Texts().SpMuteText = FromQString(fields_.comSPMute->currentText());
@@ -167,8 +167,8 @@ void ChannelEditForm::SelectMuteEntries() {
 // --- Priority channel ------------------------------------------------------------------------------------------------
 
 void ChannelEditForm::EnablePriorityMark() {
-    fields_.chkPriorityChannel->setEnabled(session_.Priority.PriorityFixedMode() && HasReceive());
-    ShowPriorityMark(session_.Priority.PriorityChannelNo());
+    fields_.chkPriorityChannel->setEnabled(document_.Priority.PriorityFixedMode() && HasReceive());
+    ShowPriorityMark(document_.Priority.PriorityChannelNo());
 }
 
 void ChannelEditForm::ShowPriorityMark(int n) {
@@ -192,8 +192,8 @@ void ChannelEditForm::OnPriorityChannel(int n) {
 // --- PTT ID ----------------------------------------------------------------------------------------------------------
 
 void ChannelEditForm::OnPttIdFocus() {
-    const std::uint8_t type = session_.Image.At(address::PttIdType);
-    const QStringList entries = ToQStrings(CellChoices(column::PttId, session_.Image, session_.LanguageFlag));
+    const std::uint8_t type = document_.Image.At(address::PttIdType);
+    const QStringList entries = ToQStrings(CellChoices(column::PttId, document_.Image, windows_.LanguageFlag));
     editor_.TouchPttId(channel_);
     if (type == record::TypeDtmf) {
         if (fields_.comPTTID->currentText().isEmpty()) {
@@ -207,7 +207,7 @@ void ChannelEditForm::OnPttIdFocus() {
     fields_.comPTTID->SetEntries(entries);
     if (type == record::TypeCorvane) {
         fields_.comPTTID->setCurrentIndex(
-            CorvanePttIdEntry(session_.Image.At(address::Channel(channel_) + record::PttId)));
+            CorvanePttIdEntry(document_.Image.At(address::Channel(channel_) + record::PttId)));
     }
 }
 
@@ -216,7 +216,7 @@ void ChannelEditForm::OnPttIdTypeChosen(bool isOn) {
         return;
     }
     // Intended: as the list is made anew for each channel, it shows what the last programmed one has.
-    fields_.comPTTID->SetEntries(ToQStrings(PttIdTypeEntries(session_.Image, session_.LanguageFlag)));
+    fields_.comPTTID->SetEntries(ToQStrings(PttIdTypeEntries(document_.Image, windows_.LanguageFlag)));
     fields_.comPTTID->ShowEntry(!HasReceive() ? NoEntry : isOn ? 1 : 0);
     TakePttId();
 }
@@ -230,7 +230,7 @@ void ChannelEditForm::OnPttIdsRefreshed() {
 /// The working texts take the PTT ID of the row, where the channel is programmed.
 void ChannelEditForm::TakePttId() {
     if (HasReceive()) {
-        Texts().PttIdText = session_.Channels.CellText(channel_, column::PttId);
+        Texts().PttIdText = document_.Channels.CellText(channel_, column::PttId);
     }
 }
 
@@ -293,7 +293,7 @@ void ChannelEditForm::OnTextEdited(int /*k*/, int column) {
 
 void ChannelEditForm::ShowReceiveCommit() {
     ShowProgrammedChannel();
-    fields_.chkScanAdd->setChecked(Texts().ScanAddText != session_.LoadText(Text::No));
+    fields_.chkScanAdd->setChecked(Texts().ScanAddText != windows_.LoadText(Text::No));
 }
 
 void ChannelEditForm::ShowTransmitCommit() {
@@ -312,13 +312,13 @@ void ChannelEditForm::ShowCellChoice(int column) {
         fields_.PutTone(*fields_.comEncode, texts.EncText);
         break;
     case column::Power:
-        fields_.comTxPower->ShowEntry(texts.PowerText == session_.LoadText(Text::High) ? 0 : 1);
+        fields_.comTxPower->ShowEntry(texts.PowerText == windows_.LoadText(Text::High) ? 0 : 1);
         break;
     case column::Width:
-        fields_.comWideNarrow->ShowEntry(texts.WidthText == session_.LoadText(Text::Narrow) ? 0 : 1);
+        fields_.comWideNarrow->ShowEntry(texts.WidthText == windows_.LoadText(Text::Narrow) ? 0 : 1);
         break;
     case column::ScanAdd:
-        fields_.chkScanAdd->setChecked(texts.ScanAddText == session_.LoadText(Text::Yes));
+        fields_.chkScanAdd->setChecked(texts.ScanAddText == windows_.LoadText(Text::Yes));
         break;
     case column::OptSignal:
         ShowOptSignal();

@@ -5,7 +5,8 @@
 
 namespace zelvor {
 
-class Session;
+class Document;
+class WindowState;
 struct ChannelTexts;
 
 /// When the record of a channel follows its working texts: at once, and what is edited is told to the other window
@@ -16,7 +17,8 @@ enum class RecordFollows { AtOnce, WithNextCommit };
 /// call it, with what each of them does differently as named arguments; it knows neither. Channels k: 1 to 16.
 class ChannelEditor {
 public:
-    explicit ChannelEditor(Session& session);
+    /// Texts are in the language of the windows.
+    ChannelEditor(Document& document, const WindowState& windows);
 
     /// A receive frequency as NormaliseFrequency gives it.
     struct Receive {
@@ -78,7 +80,8 @@ private:
     [[nodiscard]] std::uint8_t RecordByte(int k, int j) const;
     void SetRecordByte(int k, int j, std::uint8_t value);
 
-    Session& session_;
+    Document& document_;
+    const WindowState& windows_;
 };
 
 } // namespace zelvor

@@ -4,10 +4,11 @@
 #include <QPushButton>
 #include <cmath>
 
+#include "channels/ChannelCaption.h"
 #include "channels/ChannelCellEditor.h"
 #include "controls/EditGrid.h"
+#include "data/Document.h"
 #include "data/MemoryMap.h"
-#include "data/Session.h"
 #include "help/HelpViewer.h"
 #include "platform/LayoutUnits.h"
 #include "platform/Services.h"
@@ -43,23 +44,24 @@ std::vector<int> ColumnWidths(int gridWidth) {
 
 } // namespace
 
-ChannelForm::ChannelForm(Session& session, Services& services, QWidget* parent)
-    : ChildForm(ChildWindow::Channels, "ChannelForm", WindowSize, parent), session_(session), services_(services) {
+ChannelForm::ChannelForm(Document& document, WindowState& windows, Services& services, QWidget* parent)
+    : ChildForm(ChildWindow::Channels, "ChannelForm", WindowSize, parent), document_(document), windows_(windows),
+      services_(services) {
     BuildToneLists();
-    session_.Cursor.SetEditChannel(1);
+    windows_.Cursor.SetEditChannel(1);
     BuildGrid();
     BuildControls();
-    SetCaption(" " + ToQString(session_.LoadText(Text::ChannelInformationOfChannel1)));
+    SetCaption(" " + ToQString(windows_.LoadText(Text::ChannelInformationOfChannel1)));
     SetTexts();
     ShowRows();
     setFocusProxy(channelGrid_);
-    session_.Channels.Add(*this);
-    session_.Cursor.Add(*this);
+    document_.Channels.Add(*this);
+    windows_.Cursor.Add(*this);
 }
 
 ChannelForm::~ChannelForm() {
-    session_.Cursor.Remove(*this);
-    session_.Channels.Remove(*this);
+    windows_.Cursor.Remove(*this);
+    document_.Channels.Remove(*this);
     cellEditor_->HideEditors();
 }
 
@@ -69,7 +71,8 @@ void ChannelForm::BuildGrid() {
     channelGrid_->setGeometry(PixelsOfTwips(GridPlace.x()), PixelsOfTwips(GridPlace.y()),
                               PixelsOfTwips(GridPlace.width()), PixelsOfTwips(GridPlace.height()));
     channelGrid_->setProperty("HelpContextID", HelpContextBase + column::Rx);
-    cellEditor_ = new ChannelCellEditor(session_, services_, *channelGrid_, Content(), {ToneListDec, ToneListEnc});
+    cellEditor_ =
+        new ChannelCellEditor(document_, windows_, services_, *channelGrid_, Content(), {ToneListDec, ToneListEnc});
     connect(cellEditor_, &ChannelCellEditor::FrequencyLeft, this, &ChannelForm::UpdateFreeArea);
     connect(channelGrid_, &EditGrid::CursorMoved, this, &ChannelForm::OnCursorMoved);
 }
@@ -98,23 +101,23 @@ void ChannelForm::BuildControls() {
     On(*cmdChannelEdit_, [this] { OnChannelEdit(); });
     On(*cmdClose_, [this] { OnClose(); });
     connect(cmdHelp_, &QPushButton::clicked, this, [this] {
-        services_.help.Show({session_.LanguageFlag, HelpPage()});
+        services_.help.Show({windows_.LanguageFlag, HelpPage()});
     });
 }
 
 void ChannelForm::BuildToneLists() {
-    ToneListDec = BuildToneList(session_.LanguageFlag);
-    ToneListEnc = BuildToneList(session_.LanguageFlag);
+    ToneListDec = BuildToneList(windows_.LanguageFlag);
+    ToneListEnc = BuildToneList(windows_.LanguageFlag);
 }
 
 void ChannelForm::SetTexts() {
-    const auto text = [this](Text name) { return ToQString(session_.LoadText(name)); };
+    const auto text = [this](Text name) { return ToQString(windows_.LoadText(name)); };
     cmdChannelEdit_->setText(text(Text::ChannelEditButton));
     cmdClose_->setText(text(Text::CloseButton));
     cmdHelp_->setText(text(Text::HelpButton));
     labFreeArea_->setText(text(Text::FreeAreaBytes));
-    labHint_->setText(ToQString(HintText.In(session_.LanguageFlag)));
-    channelGrid_->SetFormat(ToQString(GridFormat.In(session_.LanguageFlag)));
+    labHint_->setText(ToQString(HintText.In(windows_.LanguageFlag)));
+    channelGrid_->SetFormat(ToQString(GridFormat.In(windows_.LanguageFlag)));
     channelGrid_->FitCells(ColumnWidths(PixelsOfTwips(GridPlace.width())));
     channelGrid_->setAccessibleName(text(Text::ChannelInformationTitle).trimmed());
     labBlankChannel_->setAccessibleName(text(Text::FreeAreaBytes));
@@ -122,14 +125,14 @@ void ChannelForm::SetTexts() {
 
 void ChannelForm::OnTranslated() {
     SetTexts();
-    SetCaption(ToQString(NewDocumentChannelCaption(session_.LanguageFlag)));
+    SetCaption(ToQString(NewDocumentChannelCaption(windows_.LanguageFlag)));
     BuildToneLists();
 }
 
 void ChannelForm::ShowRows() {
     for (int k = 1; k <= address::ChannelCount; ++k) {
         for (int column = 1; column <= column::Count; ++column) {
-            channelGrid_->SetText(k, column, ToQString(session_.Channels.CellText(k, column)));
+            channelGrid_->SetText(k, column, ToQString(document_.Channels.CellText(k, column)));
         }
     }
     UpdateFreeArea();
@@ -141,7 +144,7 @@ void ChannelForm::OnDecoded() {
 }
 
 void ChannelForm::OnCellSet(int k, int column) {
-    channelGrid_->SetText(k, column, ToQString(session_.Channels.CellText(k, column)));
+    channelGrid_->SetText(k, column, ToQString(document_.Channels.CellText(k, column)));
     // A frequency that is being typed counts when its editor is left.
     if (column == column::Rx && !cellEditor_->IsTextEditing()) {
         UpdateFreeArea();
@@ -163,17 +166,17 @@ void ChannelForm::HideEditors() {
 
 void ChannelForm::OnCursorMoved(int row, int column) {
     cellEditor_->Leave();
-    session_.Cursor.GoToCell(row, column);
+    windows_.Cursor.GoToCell(row, column);
     channelGrid_->setProperty("HelpContextID", HelpContextBase + column);
     UpdateFreeArea();
 }
 
 void ChannelForm::ShowChannelInCaption(int n) {
-    SetCaption(ToQString(ChannelCaption(session_.LanguageFlag, n)));
+    SetCaption(ToQString(ChannelCaption(windows_.LanguageFlag, n)));
 }
 
 void ChannelForm::UpdateFreeArea() {
-    labBlankChannel_->setText(QString::number(session_.Channels.FreeBytes()));
+    labBlankChannel_->setText(QString::number(document_.Channels.FreeBytes()));
 }
 
 void ChannelForm::OnChannelEdit() {
@@ -187,7 +190,7 @@ void ChannelForm::OnClose() {
 
 void ChannelForm::OnFrameClosed() {
     // A cancelled program exit leaves ExitConfirmed set, and from then on the window really goes.
-    if (session_.ExitConfirmed) {
+    if (windows_.ExitConfirmed) {
         emit ChannelEditUnloadRequested();
         emit UnloadRequested();
         return;

@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
+#include "controls/ChannelCursor.h"
 #include "controls/ChildForm.h"
-#include "data/ChannelCursor.h"
 #include "data/ChannelTable.h"
 
 class QLabel;
@@ -14,6 +14,7 @@ namespace zelvor {
 
 class ChannelCellEditor;
 class EditGrid;
+class Document;
 struct Services;
 
 /// The channel grid: the rows of the channel table, with a floating editor over the current cell. After every committed
@@ -22,7 +23,7 @@ class ChannelForm : public ChildForm, private ChannelTableObserver, private Chan
     Q_OBJECT
 
 public:
-    ChannelForm(Session& session, Services& services, QWidget* parent = nullptr);
+    ChannelForm(Document& document, WindowState& windows, Services& services, QWidget* parent = nullptr);
     /// An edit that is still open when the window is unloaded is dropped.
     ~ChannelForm() override;
 
@@ -66,7 +67,8 @@ private:
     void OnChannelEdit();
     void OnClose();
 
-    Session& session_;
+    Document& document_;
+    WindowState& windows_;
     Services& services_;
     EditGrid* channelGrid_ = nullptr;
     ChannelCellEditor* cellEditor_ = nullptr;

@@ -55,9 +55,9 @@ QString CharacterAt(const QString& text, qsizetype place) {
 
 } // namespace
 
-EmbedInfoForm::EmbedInfoForm(Session& session, Services& services, QWidget* parent)
+EmbedInfoForm::EmbedInfoForm(Document& document, const WindowState& windows, Services& services, QWidget* parent)
     : FieldForm(ChildWindow::EmbeddedMessage, "EmbedInfoForm", WindowSize, "picEmbeddedMsg", Text::EmbeddedMessageTitle,
-                session, services, parent) {
+                document, windows, services, parent) {
     BuildLines();
     LoadFields();
     Load();
@@ -76,7 +76,7 @@ void EmbedInfoForm::BuildLines() {
 }
 
 void EmbedInfoForm::BuildLine(int line, QGridLayout& layout) {
-    const QString name = ToQString(LineNames[line].In(TheSession().LanguageFlag));
+    const QString name = ToQString(LineNames[line].In(CurrentLanguage()));
     auto* box = new FilteredLineEdit(Panel());
     box->setObjectName(QStringLiteral("txtMsg(%1)").arg(line));
     box->setAccessibleName(name);
@@ -92,7 +92,7 @@ void EmbedInfoForm::BuildLine(int line, QGridLayout& layout) {
     hint->setObjectName(QStringLiteral("lblMsgHint(%1)").arg(line));
     hint->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     hint->setTextFormat(Qt::PlainText);
-    hint->setToolTip(ToQString(HintTip.In(TheSession().LanguageFlag)));
+    hint->setToolTip(ToQString(HintTip.In(CurrentLanguage())));
     txtMsg_[static_cast<std::size_t>(line)] = box;
     lblMsgHint_[static_cast<std::size_t>(line)] = hint;
     const int row = layout.rowCount();
@@ -107,7 +107,7 @@ void EmbedInfoForm::BuildLine(int line, QGridLayout& layout) {
 }
 
 void EmbedInfoForm::ShowHint(int line) {
-    const auto in = [this](const TextPair& text) { return ToQString(text.In(TheSession().LanguageFlag)); };
+    const auto in = [this](const TextPair& text) { return ToQString(text.In(CurrentLanguage())); };
     FilteredLineEdit& box = *txtMsg_[static_cast<std::size_t>(line)];
     QLabel& hint = *lblMsgHint_[static_cast<std::size_t>(line)];
     const QString text = box.text();
@@ -124,14 +124,14 @@ void EmbedInfoForm::ShowHint(int line) {
 
 void EmbedInfoForm::Load() {
     for (int line = 0; line < embedded_message::LineCount; ++line) {
-        const std::u16string text = embedded_message::Load(TheSession().Image, line);
+        const std::u16string text = embedded_message::Load(TheDocument().Image, line);
         txtMsg_[static_cast<std::size_t>(line)]->setText(QString::fromStdU16String(text));
     }
 }
 
 void EmbedInfoForm::Commit(int line) {
     const QString text = txtMsg_[static_cast<std::size_t>(line)]->text();
-    embedded_message::Store(TheSession().Image, line, text.toStdU16String());
+    embedded_message::Store(TheDocument().Image, line, text.toStdU16String());
 }
 
 } // namespace zelvor

@@ -18,7 +18,7 @@ class EmbedInfoForm : public FieldForm {
     Q_OBJECT
 
 public:
-    EmbedInfoForm(Session& session, Services& services, QWidget* parent = nullptr);
+    EmbedInfoForm(Document& document, const WindowState& windows, Services& services, QWidget* parent = nullptr);
 
     [[nodiscard]] bool OpensAtOrigin() const override { return false; }
     [[nodiscard]] std::string_view HelpPage() const override { return "embmsg.htm"; }

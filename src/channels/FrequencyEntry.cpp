@@ -1,6 +1,5 @@
 #include "channels/FrequencyEntry.h"
 
-#include "data/Session.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Services.h"
 
@@ -12,11 +11,10 @@ constexpr TextPair OutOfRangeText{"Frequency is out of range.", "频率超出范
 
 } // namespace
 
-NormalisedFrequency EnterFrequency(const Session& session, Services& services, std::string_view text,
+NormalisedFrequency EnterFrequency(const DataImage& image, std::string_view text, Services& services, Language language,
                                    const TextPair& caption) {
-    NormalisedFrequency result = NormaliseFrequency(text, SetBandLimits(session.Image));
+    NormalisedFrequency result = NormaliseFrequency(text, SetBandLimits(image));
     if (result.outOfRange) {
-        const Language language = session.LanguageFlag;
         services.messages.Show({std::string(caption.In(language)), std::string(OutOfRangeText.In(language)),
                                 MessageIcon::Exclamation, MessageButtons::Ok, MessageAnswer::Ok});
     }

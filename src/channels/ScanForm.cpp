@@ -46,30 +46,30 @@ SpinTextRules TimeRules(const NumberField& field, FilteredLineEdit::Filter filte
 } // namespace
 
 // The window list names this window by another text, which begins with a blank.
-ScanForm::ScanForm(Session& session, Services& services, QWidget* parent)
-    : FieldForm(ChildWindow::Scan, "ScanForm", WindowSize, "picScanInfo", Text::ScanInformation, session, services,
-                parent) {
+ScanForm::ScanForm(Document& document, const WindowState& windows, Services& services, QWidget* parent)
+    : FieldForm(ChildWindow::Scan, "ScanForm", WindowSize, "picScanInfo", Text::ScanInformation, document, windows,
+                services, parent) {
     BuildControls();
     Connect();
     // Showing the mode overwrites the revert channel and, but for Fixed, the priority channel.
-    const std::uint8_t revertChannel = session.Image.At(scan::RevertChannel.address);
+    const std::uint8_t revertChannel = document.Image.At(scan::RevertChannel.address);
     LoadFields();
     if (cboPriority_->currentIndex() < 0) {
         ShowMode(std::nullopt);
     }
     LoadRevertChannel(revertChannel);
-    txtPriorityCH_->setText(ToQString(LoadNumber(session.Image, scan::PriorityChannel, session.LanguageFlag).text));
+    txtPriorityCH_->setText(ToQString(LoadNumber(document.Image, scan::PriorityChannel, windows.LanguageFlag).text));
     PriorityChText = txtPriorityCH_->text();
     setFocusProxy(cboPriority_);
-    session.Priority.Add(*this);
+    document.Priority.Add(*this);
 }
 
 ScanForm::~ScanForm() {
-    TheSession().Priority.Remove(*this);
+    TheDocument().Priority.Remove(*this);
 }
 
 void ScanForm::BuildControls() {
-    BoundRows rows(*Panel(), TheSession(), Margin, Spacing);
+    BoundRows rows(*Panel(), TheDocument().Image, CurrentLanguage(), Margin, Spacing);
     cboPriority_ = rows.AddList("Priority", scan::PriorityMode);
     txtPriorityCH_ = new FilteredLineEdit(Panel());
     txtPriorityCH_->setObjectName("txtPriorityCH");
@@ -101,7 +101,7 @@ void ScanForm::Connect() {
 /// The byte is stored as it was: showing the mode has overwritten it. A list of two entries shows both meanings, with
 /// priority and without, by the same entry.
 void ScanForm::LoadRevertChannel(std::uint8_t byte) {
-    TheSession().Image.Set(scan::RevertChannel.address, byte);
+    TheDocument().Image.Set(scan::RevertChannel.address, byte);
     const bool legal = byte < scan::RevertChannel.words.size();
     cboRevertCH_->ShowEntry(legal ? byte % cboRevertCH_->count() : -1);
     RevertText = cboRevertCH_->currentText();
@@ -119,7 +119,7 @@ void ScanForm::OnModeSelected(int index) {
     const auto mode = static_cast<scan::Mode>(index);
     if (mode != scan::Mode::Fixed) {
         txtPriorityCH_->clear();
-        TheSession().Image.Set(scan::PriorityChannel.address, scan::NoChannel);
+        TheDocument().Image.Set(scan::PriorityChannel.address, scan::NoChannel);
     }
     ShowMode(mode);
     CommitRevertChannel();
@@ -128,7 +128,7 @@ void ScanForm::OnModeSelected(int index) {
 /// Without a legal mode the image's bytes stay and are shown, and what only Fixed has is off.
 void ScanForm::ShowMode(std::optional<scan::Mode> mode) {
     const bool fixed = mode == scan::Mode::Fixed;
-    TheSession().Priority.SetMode(fixed, TheSession().Image);
+    TheDocument().Priority.SetMode(fixed, TheDocument().Image);
     txtPriorityCH_->setEnabled(fixed);
     lookBackTimeA_->setEnabled(mode != scan::Mode::None);
     lookBackTimeB_->setEnabled(mode != scan::Mode::None);
@@ -139,7 +139,7 @@ void ScanForm::ShowMode(std::optional<scan::Mode> mode) {
 void ScanForm::RebuildRevertList() {
     QStringList entries;
     for (const std::uint8_t value : scan::RevertChannelsOf(ShownMode())) {
-        entries.append(ToQString(scan::RevertChannel.words[value].In(TheSession().LanguageFlag)));
+        entries.append(ToQString(scan::RevertChannel.words[value].In(CurrentLanguage())));
     }
     cboRevertCH_->SetEntries(entries);
     const auto found = static_cast<int>(entries.indexOf(RevertText));
@@ -150,16 +150,16 @@ void ScanForm::CommitRevertChannel() {
     const int index = cboRevertCH_->currentIndex();
     if (index >= 0) {
         const std::uint8_t value = scan::RevertChannelsOf(ShownMode())[static_cast<std::size_t>(index)];
-        TheSession().Image.Set(scan::RevertChannel.address, value);
+        TheDocument().Image.Set(scan::RevertChannel.address, value);
     }
 }
 
 void ScanForm::CommitPriorityChannel() {
-    ChannelPriority& priority = TheSession().Priority;
+    ChannelPriority& priority = TheDocument().Priority;
     priority.SetError(false);
     const int n = AcceptedPriorityChannel();
     ShowPriorityChannel(n);
-    TheSession().Image.Set(scan::PriorityChannel.address, n == 0 ? scan::NoChannel : static_cast<std::uint8_t>(n));
+    TheDocument().Image.Set(scan::PriorityChannel.address, n == 0 ? scan::NoChannel : static_cast<std::uint8_t>(n));
     PriorityChText = txtPriorityCH_->text();
     priority.Enter(n);
 }
@@ -172,7 +172,7 @@ int ScanForm::AcceptedPriorityChannel() {
     }
     const int typed = Number(text);
     const int n = std::clamp(typed, 1, address::ChannelCount);
-    if (IsRecordInUse(TheSession().Image, n)) {
+    if (IsRecordInUse(TheDocument().Image, n)) {
         return n;
     }
     ShowError();
@@ -180,8 +180,8 @@ int ScanForm::AcceptedPriorityChannel() {
 }
 
 void ScanForm::ShowError() {
-    TheServices().messages.Show({std::string(commontexts::Error.In(TheSession().LanguageFlag)),
-                                 std::string(ErrorText.In(TheSession().LanguageFlag)), MessageIcon::Critical,
+    TheServices().messages.Show({std::string(commontexts::Error.In(CurrentLanguage())),
+                                 std::string(ErrorText.In(CurrentLanguage())), MessageIcon::Critical,
                                  MessageButtons::Ok});
 }
 
@@ -190,7 +190,7 @@ void ScanForm::ShowPriorityChannel(int n) {
 }
 
 void ScanForm::OnPriorityChannel(int n) {
-    if (TheSession().IsOpen(ChildWindow::Scan)) {
+    if (TheWindows().IsOpen(ChildWindow::Scan)) {
         ShowPriorityChannel(n);
     }
 }

@@ -20,7 +20,7 @@ class ScanForm : public FieldForm, private ChannelPriorityObserver {
     Q_OBJECT
 
 public:
-    ScanForm(Session& session, Services& services, QWidget* parent = nullptr);
+    ScanForm(Document& document, const WindowState& windows, Services& services, QWidget* parent = nullptr);
     ~ScanForm() override;
 
     [[nodiscard]] bool OpensAtOrigin() const override { return false; }

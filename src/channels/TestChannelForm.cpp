@@ -40,10 +40,10 @@ QRect PixelRect(const QRect& twips) {
 
 } // namespace
 
-TestChannelForm::TestChannelForm(Session& session, Services& services, QWidget* parent)
-    : FieldForm(ChildWindow::TestFrequency, "TestChannelForm", WindowSize, {}, Text::TestFrequencyTitle, session,
-                services, parent),
-      SavedBlock(TestFrequencyBlock(session.Image)) {
+TestChannelForm::TestChannelForm(Document& document, const WindowState& windows, Services& services, QWidget* parent)
+    : FieldForm(ChildWindow::TestFrequency, "TestChannelForm", WindowSize, {}, Text::TestFrequencyTitle, document,
+                windows, services, parent),
+      SavedBlock(TestFrequencyBlock(document.Image)) {
     Content()->setObjectName("picTestFreq");
     Panel()->resize(Panel()->width(), PixelsOfTwips(GridPlace.y() + GridPlace.height()));
     BuildGrid();
@@ -75,14 +75,14 @@ void TestChannelForm::BuildGrid() {
 }
 
 void TestChannelForm::SetTexts() {
-    msgTestFreq_->SetFormat(ToQString(GridFormat.In(TheSession().LanguageFlag)));
+    msgTestFreq_->SetFormat(ToQString(GridFormat.In(CurrentLanguage())));
     const int eighth = PixelsOfTwips(GridPlace.width()) / 8;
     msgTestFreq_->FitCells({eighth, 3 * eighth, 3 * eighth});
     msgTestFreq_->setAccessibleName(LoadText(Text::TestFrequency));
 }
 
 void TestChannelForm::ShowTestChannel(int row) {
-    const TestFrequencyTexts texts = ReadTestChannel(TheSession().Image, row);
+    const TestFrequencyTexts texts = ReadTestChannel(TheDocument().Image, row);
     msgTestFreq_->SetText(row, ReceiveColumn, ToQString(texts.receive));
     msgTestFreq_->SetText(row, TransmitColumn, ToQString(texts.transmit));
 }
@@ -145,8 +145,8 @@ void TestChannelForm::Commit() {
     } else {
         StorePair(edit_->Row(), edit_->Column());
     }
-    if (AreTestChannelsEmpty(TheSession().Image)) {
-        RestoreDefaultTestFrequencies(TheSession().Image);
+    if (AreTestChannelsEmpty(TheDocument().Image)) {
+        RestoreDefaultTestFrequencies(TheDocument().Image);
         SkipCellWrite = true;
         for (int row = 1; row <= DefaultTestChannelCount; ++row) {
             ShowTestChannel(row);
@@ -156,25 +156,26 @@ void TestChannelForm::Commit() {
 
 void TestChannelForm::EmptyPair(int row, int column) {
     msgTestFreq_->SetText(row, OtherColumn(column), QString());
-    EraseTestChannel(TheSession().Image, row);
+    EraseTestChannel(TheDocument().Image, row);
 }
 
 void TestChannelForm::StorePair(int row, int column) {
-    const QString result =
-        ToQString(EnterFrequency(TheSession(), TheServices(), FromQString(edit_->Text()), commontexts::Warning).text);
+    const QString result = ToQString(EnterFrequency(TheDocument().Image, FromQString(edit_->Text()), TheServices(),
+                                                    CurrentLanguage(), commontexts::Warning)
+                                         .text);
     edit_->PutText(result);
     if (msgTestFreq_->Text(row, OtherColumn(column)).isEmpty()) {
         msgTestFreq_->SetText(row, OtherColumn(column), result);
     }
     WriteTestChannel(
-        TheSession().Image, row,
+        TheDocument().Image, row,
         {FromQString(msgTestFreq_->Text(row, ReceiveColumn)), FromQString(msgTestFreq_->Text(row, TransmitColumn))});
 }
 
 /// The warning comes with the button alone, on purpose.
 void TestChannelForm::CloseFromButton() {
-    if (TestFrequencyBlock(TheSession().Image) != SavedBlock) {
-        const Language language = TheSession().LanguageFlag;
+    if (TestFrequencyBlock(TheDocument().Image) != SavedBlock) {
+        const Language language = CurrentLanguage();
         TheServices().messages.Show({std::string(commontexts::Warning.In(language)),
                                      std::string(ChangedText.In(language)), MessageIcon::Exclamation,
                                      MessageButtons::Ok, MessageAnswer::Ok});

@@ -17,7 +17,7 @@ class TestChannelForm : public FieldForm {
     Q_OBJECT
 
 public:
-    TestChannelForm(Session& session, Services& services, QWidget* parent = nullptr);
+    TestChannelForm(Document& document, const WindowState& windows, Services& services, QWidget* parent = nullptr);
     /// An edit that is still open when the window is unloaded is dropped.
     ~TestChannelForm() override;
 

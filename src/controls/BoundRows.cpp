@@ -5,22 +5,21 @@
 #include "controls/BoundCheck.h"
 #include "controls/BoundList.h"
 #include "controls/BoundSpin.h"
-#include "data/Session.h"
 #include "platform/Toolkit.h"
 
 namespace zelvor {
 
-BoundRows::BoundRows(QWidget& container, Session& session, int margin, int spacing)
-    : FieldRows(container, session.LanguageFlag, margin, spacing), container_(container), session_(session) {}
+BoundRows::BoundRows(QWidget& container, DataImage& image, Language language, int margin, int spacing)
+    : FieldRows(container, language, margin, spacing), container_(container), image_(image), language_(language) {}
 
 BoundSpin* BoundRows::AddSpin(const QString& name, const NumberField& field, SpinTextRules rules) {
-    auto* made = new BoundSpin(name, field, session_.Image, session_.LanguageFlag, std::move(rules), &container_);
+    auto* made = new BoundSpin(name, field, image_, language_, std::move(rules), &container_);
     Add("lbl" + name, field.label, made);
     return made;
 }
 
 BoundList* BoundRows::AddList(const QString& name, const ListField& field, const QString& labelName) {
-    auto* made = new BoundList("cbo" + name, field, session_.Image, session_.LanguageFlag, &container_);
+    auto* made = new BoundList("cbo" + name, field, image_, language_, &container_);
     Add(labelName.isEmpty() ? "lbl" + name : labelName, field.label, made);
     return made;
 }
@@ -32,7 +31,7 @@ BoundCheck* BoundRows::AddCheck(const QString& name, const CheckField& field) {
 }
 
 BoundCheck* BoundRows::MakeCheck(const QString& name, const CheckField& field) {
-    return new BoundCheck("chk" + name, field, session_.Image, session_.LanguageFlag, &container_);
+    return new BoundCheck("chk" + name, field, image_, language_, &container_);
 }
 
 } // namespace zelvor

@@ -10,11 +10,11 @@ class BoundCheck;
 class BoundList;
 class BoundSpin;
 
-/// Rows of controls that are bound to fields of the session's image, each made and labelled from its field's
+/// Rows of controls that are bound to fields of an image, each made and labelled from its field's
 /// description. `name` is the control's without its prefix: "TOT" makes txtTOT, updTOT and lblTOT.
 class BoundRows : public FieldRows {
 public:
-    BoundRows(QWidget& container, Session& session, int margin = 12, int spacing = 6);
+    BoundRows(QWidget& container, DataImage& image, Language language, int margin = 12, int spacing = 6);
 
     BoundSpin* AddSpin(const QString& name, const NumberField& field, SpinTextRules rules = {});
     /// labelName: where it is not "lbl" and the name.
@@ -25,7 +25,8 @@ public:
 
 private:
     QWidget& container_;
-    Session& session_;
+    DataImage& image_;
+    const Language language_;
 };
 
 } // namespace zelvor

@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "controls/FocusPlace.h"
-#include "data/Session.h"
+#include "controls/WindowState.h"
 
 class QPushButton;
 class QScrollBar;

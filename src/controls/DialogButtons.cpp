@@ -5,8 +5,8 @@
 #include <QPushButton>
 #include <QShortcut>
 
-#include "data/Session.h"
 #include "platform/Toolkit.h"
+#include "text/StringTable.h"
 
 namespace zelvor {
 
@@ -21,10 +21,10 @@ QPushButton* MakeButton(QDialog& dialog, const char* name, std::string_view text
 
 } // namespace
 
-DialogButtons MakeDialogButtons(QDialog& dialog, const Session& session) {
-    DialogButtons buttons{MakeButton(dialog, "cmdOK", session.LoadText(Text::OkButton)),
-                          MakeButton(dialog, "cmdCancel", session.LoadText(Text::CancelButton)),
-                          MakeButton(dialog, "cmdHelp", session.LoadText(Text::HelpButton)), new QHBoxLayout};
+DialogButtons MakeDialogButtons(QDialog& dialog, Language language) {
+    DialogButtons buttons{MakeButton(dialog, "cmdOK", TableText(language, Text::OkButton)),
+                          MakeButton(dialog, "cmdCancel", TableText(language, Text::CancelButton)),
+                          MakeButton(dialog, "cmdHelp", TableText(language, Text::HelpButton)), new QHBoxLayout};
     buttons.cmdOK->setDefault(true);
     buttons.row->addStretch();
     for (QPushButton* button : {buttons.cmdOK, buttons.cmdCancel, buttons.cmdHelp}) {

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "text/Language.h"
+
 class QDialog;
 class QHBoxLayout;
 class QPushButton;
 
 namespace zelvor {
-
-class Session;
 
 /// The three buttons of a link dialog, in one row: cmdOK (the default button), cmdCancel, cmdHelp (also F1).
 struct DialogButtons {
@@ -16,6 +16,6 @@ struct DialogButtons {
     QHBoxLayout* row; // to be put into the dialog's layout
 };
 
-[[nodiscard]] DialogButtons MakeDialogButtons(QDialog& dialog, const Session& session);
+[[nodiscard]] DialogButtons MakeDialogButtons(QDialog& dialog, Language language);
 
 } // namespace zelvor

@@ -25,8 +25,8 @@ constexpr QSize ButtonSize(100, 30);
 } // namespace
 
 FieldForm::FieldForm(ChildWindow window, std::string_view objectName, QSize contentTwips, std::string_view panelName,
-                     Text caption, Session& session, Services& services, QWidget* parent)
-    : ChildForm(window, objectName, contentTwips, parent), session_(session), services_(services),
+                     Text caption, Document& document, const WindowState& windows, Services& services, QWidget* parent)
+    : ChildForm(window, objectName, contentTwips, parent), document_(document), windows_(windows), services_(services),
       panel_(new QFrame(Content())) {
     panel_->setObjectName(ToQString(panelName));
     panel_->setGeometry(0, 0, Content()->width(), Content()->height() - LaidOut(ButtonSize.height() + 2 * Margin));
@@ -34,7 +34,7 @@ FieldForm::FieldForm(ChildWindow window, std::string_view objectName, QSize cont
 }
 
 QString FieldForm::LoadText(Text name) const {
-    return ToQString(session_.LoadText(name));
+    return ToQString(windows_.LoadText(name));
 }
 
 void FieldForm::LoadFields() {
@@ -85,7 +85,7 @@ void FieldForm::BuildButtons() {
     const auto* cmdClose = button("cmdClose", 2, Text::CloseButton);
     const auto* cmdHelp = button("cmdHelp", 1, Text::HelpButton);
     On(*cmdClose, [this] { CloseFromButton(); });
-    connect(cmdHelp, &QPushButton::clicked, this, [this] { services_.help.Show({session_.LanguageFlag, HelpPage()}); });
+    connect(cmdHelp, &QPushButton::clicked, this, [this] { services_.help.Show({windows_.LanguageFlag, HelpPage()}); });
 }
 
 FieldRows::FieldRows(QWidget& container, Language language, int margin, int spacing)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/ChildForm.h"
+#include "data/Document.h"
 #include "data/Fields.h"
 
 class QGridLayout;
@@ -20,11 +21,13 @@ public:
 
 protected:
     FieldForm(ChildWindow window, std::string_view objectName, QSize contentTwips, std::string_view panelName,
-              Text caption, Session& session, Services& services, QWidget* parent);
+              Text caption, Document& document, const WindowState& windows, Services& services, QWidget* parent);
 
     /// The panel, and what lies on it, fill the window above the buttons. It has no layout of its own.
     [[nodiscard]] QWidget* Panel() const { return panel_; }
-    [[nodiscard]] Session& TheSession() const { return session_; }
+    [[nodiscard]] Document& TheDocument() const { return document_; }
+    [[nodiscard]] const WindowState& TheWindows() const { return windows_; }
+    [[nodiscard]] Language CurrentLanguage() const { return windows_.LanguageFlag; }
     [[nodiscard]] Services& TheServices() const { return services_; }
     [[nodiscard]] QString LoadText(Text name) const;
 
@@ -43,7 +46,8 @@ protected:
 private:
     void BuildButtons();
 
-    Session& session_;
+    Document& document_;
+    const WindowState& windows_;
     Services& services_;
     QWidget* panel_;
     QWidget* first_ = nullptr;

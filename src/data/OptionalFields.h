@@ -145,7 +145,7 @@ enum class PttIdChoice : std::uint8_t { Bot, Eot, Both };
     return choice == PttIdChoice::Both || static_cast<std::size_t>(choice) == code;
 }
 
-/// A value of Session::TxCodeErrorKind: bit 0 for a begin code that is to be sent and is missing, bit 1 for an end
+/// A value of TxCodeErrorKind: bit 0 for a begin code that is to be sent and is missing, bit 1 for an end
 /// code.
 using CodeErrorKind = int;
 [[nodiscard]] constexpr CodeErrorKind MissingCodes(PttIdChoice choice, std::array<bool, 2> missing) {

@@ -14,11 +14,12 @@
 #include "controls/EditGrid.h"
 #include "controls/PendingEdit.h"
 #include "controls/TextCellEdit.h"
-#include "data/Session.h"
+#include "data/Document.h"
 #include "platform/LayoutUnits.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Services.h"
 #include "platform/Toolkit.h"
+#include "text/StringTable.h"
 
 namespace zelvor {
 
@@ -73,13 +74,13 @@ int DigitValue(QChar digit) {
 
 } // namespace
 
-CPUForm::CPUForm(Session& session, Services& services, QWidget* parent)
-    : QDialog(parent), session_(session), services_(services) {
+CPUForm::CPUForm(Document& document, Language language, Services& services, QWidget* parent)
+    : QDialog(parent), document_(document), language_(language), services_(services) {
     setObjectName("CPUForm");
     setModal(true);
     setSizeGripEnabled(true);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
-    setWindowTitle(ToQString(session_.LoadText(Text::MemoryMap)));
+    setWindowTitle(ToQString(TableText(language_, Text::MemoryMap)));
     BuildGrid();
     BuildEditor();
     ShowImage();
@@ -132,7 +133,7 @@ void CPUForm::BuildEditor() {
 
 void CPUForm::LayOut() {
     const auto button = [this](const char* name, Text text) {
-        auto* made = new QPushButton(ToQString(session_.LoadText(text)), this);
+        auto* made = new QPushButton(ToQString(TableText(language_, text)), this);
         made->setObjectName(name);
         return made;
     };
@@ -142,9 +143,9 @@ void CPUForm::LayOut() {
     connect(cmdCancel, &QPushButton::clicked, this, [this] { QDialog::reject(); });
     lblAddr_ = new QLabel(this);
     lblAddr_->setObjectName("lblAddr");
-    lblAddr_->setAccessibleName(ToQString(AddressName.In(session_.LanguageFlag)));
+    lblAddr_->setAccessibleName(ToQString(AddressName.In(language_)));
 
-    auto* lblAddrCaption = new QLabel(ToQString(AddressCaption.In(session_.LanguageFlag)), this);
+    auto* lblAddrCaption = new QLabel(ToQString(AddressCaption.In(language_)), this);
     lblAddrCaption->setObjectName("lblAddrCaption");
 
     auto* foot = new QHBoxLayout;
@@ -202,7 +203,7 @@ bool CPUForm::eventFilter(QObject* watched, QEvent* event) {
 }
 
 QString CPUForm::StoredText(int row, int column) const {
-    return HexText(session_.Image.At(AddressOf(row, column)), ByteDigits);
+    return HexText(document_.Image.At(AddressOf(row, column)), ByteDigits);
 }
 
 void CPUForm::ShowImage() {
@@ -232,7 +233,7 @@ void CPUForm::MarkCell(QTableWidgetItem* cell) {
     font.setBold(changed);
     cell->setFont(font);
     cell->setForeground(changed ? palette().link() : QBrush());
-    cell->setToolTip(changed ? ToQString(ChangedByte.In(session_.LanguageFlag)).arg(stored) : QString());
+    cell->setToolTip(changed ? ToQString(ChangedByte.In(language_)).arg(stored) : QString());
 }
 
 void CPUForm::ShowAddress(int row, int column) {
@@ -280,16 +281,16 @@ void CPUForm::accept() {
         for (int column = 1; column <= ByteColumns; ++column) {
             const QString text = msgMemory_->Text(row, column);
             const int value = DigitValue(text.at(0)) * 16 + DigitValue(text.at(1));
-            session_.Image.Set(AddressOf(row, column), static_cast<std::uint8_t>(value));
+            document_.Image.Set(AddressOf(row, column), static_cast<std::uint8_t>(value));
         }
     }
     QDialog::accept();
 }
 
 void CPUForm::reject() {
-    if (IsChanged() && services_.messages.Show(
-                           {FromQString(windowTitle()), std::string(DiscardQuestion.In(session_.LanguageFlag)),
-                            MessageIcon::Question, MessageButtons::YesNo, MessageAnswer::No}) != MessageAnswer::Yes) {
+    if (IsChanged() && services_.messages.Show({FromQString(windowTitle()), std::string(DiscardQuestion.In(language_)),
+                                                MessageIcon::Question, MessageButtons::YesNo, MessageAnswer::No}) !=
+                           MessageAnswer::Yes) {
         return;
     }
     QDialog::reject();

@@ -2,6 +2,8 @@
 
 #include <QDialog>
 
+#include "text/Language.h"
+
 class QKeyEvent;
 class QLabel;
 class QTableWidgetItem;
@@ -9,8 +11,8 @@ class QTableWidgetItem;
 namespace zelvor {
 
 class CellTextEditor;
+class Document;
 class EditGrid;
-class Session;
 class TextCellEdit;
 struct Services;
 
@@ -22,7 +24,7 @@ class CPUForm : public QDialog {
     Q_OBJECT
 
 public:
-    CPUForm(Session& session, Services& services, QWidget* parent = nullptr);
+    CPUForm(Document& document, Language language, Services& services, QWidget* parent = nullptr);
     /// An edit that is still open is dropped.
     ~CPUForm() override;
 
@@ -52,7 +54,8 @@ private:
     void OnEntered();
     void StoreText();
 
-    Session& session_;
+    Document& document_;
+    const Language language_;
     Services& services_;
     EditGrid* msgMemory_ = nullptr;
     CellTextEditor* txtMemory_ = nullptr;

@@ -51,9 +51,9 @@ SpinTextRules SteppedBy(std::function<std::optional<int>(const QString& text, bo
 
 } // namespace
 
-CorvaneForm::CorvaneForm(Session& session, Services& services, QWidget* parent)
-    : FieldForm(ChildWindow::Corvane, "CorvaneForm", WindowSize, "picCorvane", Text::CorvaneTitle, session, services,
-                parent) {
+CorvaneForm::CorvaneForm(Document& document, const WindowState& windows, Services& services, QWidget* parent)
+    : FieldForm(ChildWindow::Corvane, "CorvaneForm", WindowSize, "picCorvane", Text::CorvaneTitle, document, windows,
+                services, parent) {
     auto* tabs = new FieldTabs("SSTab1", Panel());
     tabs->setGeometry(Panel()->rect().adjusted(raster::Margin, raster::TabsTop, -raster::Margin, 0));
     BuildFields(*tabs->AddPage(LoadText(Text::CorvanePage)));
@@ -64,7 +64,7 @@ CorvaneForm::CorvaneForm(Session& session, Services& services, QWidget* parent)
 }
 
 void CorvaneForm::BuildFields(QWidget& page) {
-    BoundRows rows(page, TheSession(), raster::Margin, raster::RowSpacing);
+    BoundRows rows(page, TheDocument().Image, CurrentLanguage(), raster::Margin, raster::RowSpacing);
     fleet_ = rows.AddSpin("Fleet", corvane::OwnFleet,
                           SteppedBy([this](const QString& text, bool up) { return StepFleet(text, up); }));
     id_ = rows.AddSpin("ID", corvane::OwnId,
@@ -84,7 +84,7 @@ void CorvaneForm::BuildFields(QWidget& page) {
 int CorvaneForm::StepOwn(const BoundSpin& box, const NumberField& field, const QString& text, bool up) const {
     const int end = up ? field.last : FirstStep;
     const int otherEnd = up ? FirstStep : field.last;
-    if (text == ToQString(field.show(end, TheSession().LanguageFlag))) {
+    if (text == ToQString(field.show(end, CurrentLanguage()))) {
         return otherEnd;
     }
     return std::clamp(box.Value() + (up ? 1 : -1), FirstStep, field.last);
@@ -110,7 +110,7 @@ void CorvaneForm::OnOwnCommitted(int step, BoundSpin& other) {
     if (step == NoStep) {
         other.PutAndStore(NoStep);
     } else {
-        TheSession().OwnIdError = false;
+        TheDocument().Flags.OwnIdError = false;
     }
 }
 
@@ -122,7 +122,7 @@ void CorvaneForm::BuildFleetList(QWidget& page) {
     txtFleetList_->setObjectName("txtFleetList");
     txtFleetList_->SetFilter([this](QChar entered) { return AcceptInList(entered); });
     edit_ = new TextCellEdit(*msgFleetList_, *txtFleetList_);
-    auto* labHint = new QLabel(ToQString(HintText.In(TheSession().LanguageFlag)), &page);
+    auto* labHint = new QLabel(ToQString(HintText.In(CurrentLanguage())), &page);
     labHint->setObjectName("LabHint");
     labHint->setGeometry(LaidOut(HintPlace));
     labHint->setWordWrap(true);
@@ -136,7 +136,7 @@ void CorvaneForm::BuildFleetList(QWidget& page) {
 }
 
 void CorvaneForm::SetGridTexts() {
-    const Language language = TheSession().LanguageFlag;
+    const Language language = CurrentLanguage();
     msgFleetList_->SetCaptions({LoadText(Text::NumberHeading), ToQString(corvane::ListFleet.heading.In(language)),
                                 ToQString(corvane::ListId.heading.In(language))});
     const int eighth = msgFleetList_->width() / 8;
@@ -145,12 +145,11 @@ void CorvaneForm::SetGridTexts() {
 }
 
 void CorvaneForm::ShowFleetList() {
-    const Session& session = TheSession();
+    const DataImage& image = TheDocument().Image;
     for (int n = 1; n <= corvane::FleetListSize; ++n) {
         for (const int column : {FleetColumn, IdColumn}) {
-            msgFleetList_->SetText(
-                n, column,
-                ToQString(corvane::LoadListNumber(session.Image, n, NumberOf(column), session.LanguageFlag)));
+            msgFleetList_->SetText(n, column,
+                                   ToQString(corvane::LoadListNumber(image, n, NumberOf(column), CurrentLanguage())));
         }
     }
 }
@@ -197,26 +196,26 @@ void CorvaneForm::OnEntered() {
 /// Runs at every key, so the first digit typed into an empty cell becomes the lower limit already, on purpose: a number
 /// is entered by overtyping digits of one that is there.
 void CorvaneForm::WriteEntry() {
-    Session& session = TheSession();
+    DataImage& image = TheDocument().Image;
     const int row = edit_->Row();
     const int column = edit_->Column();
     const int other = OtherColumn(column);
     if (edit_->Text().isEmpty()) {
         msgFleetList_->SetText(row, other, QString());
-        corvane::EraseEntry(session.Image, row);
+        corvane::EraseEntry(image, row);
         return;
     }
     const int number = corvane::ReadListNumber(FromQString(edit_->Text()), NumberOf(column));
-    corvane::StoreListNumber(session.Image, row, NumberOf(column), number);
+    corvane::StoreListNumber(image, row, NumberOf(column), number);
     if (msgFleetList_->Text(row, other).isEmpty()) {
-        corvane::StoreListNumber(session.Image, row, NumberOf(other), corvane::AllNumbers);
+        corvane::StoreListNumber(image, row, NumberOf(other), corvane::AllNumbers);
         // The fleet of an ID that is entered as All is stored only: its cell shows it when the window is opened again.
         if (column == FleetColumn || number != corvane::AllNumbers) {
             msgFleetList_->SetText(row, other,
-                                   ToQString(corvane::ShowListNumber(corvane::AllNumbers, session.LanguageFlag)));
+                                   ToQString(corvane::ShowListNumber(corvane::AllNumbers, CurrentLanguage())));
         }
     }
-    edit_->PutText(ToQString(corvane::ShowListNumber(number, session.LanguageFlag)));
+    edit_->PutText(ToQString(corvane::ShowListNumber(number, CurrentLanguage())));
 }
 
 } // namespace zelvor

@@ -14,12 +14,12 @@ class TextCellEdit;
 
 /// Corvane signalling: the radio's own fleet and ID, which fill and empty each other, baud rate, timers and side tone,
 /// each stored when its control is left; and the list of eight fleets and IDs, stored with every key. Clears
-/// Session::OwnIdError when an own number is entered.
+/// OwnIdError when an own number is entered.
 class CorvaneForm : public FieldForm {
     Q_OBJECT
 
 public:
-    CorvaneForm(Session& session, Services& services, QWidget* parent = nullptr);
+    CorvaneForm(Document& document, const WindowState& windows, Services& services, QWidget* parent = nullptr);
 
     [[nodiscard]] std::string_view HelpPage() const override { return "corvane.htm"; }
 

@@ -68,8 +68,9 @@ QChar DigitOfKey(const QKeyEvent& event) {
 
 } // namespace
 
-DTMFForm::DTMFForm(Session& session, Services& services, QWidget* parent)
-    : FieldForm(ChildWindow::Dtmf, "DTMFForm", WindowSize, "picDTMF", Text::DtmfExplained, session, services, parent) {
+DTMFForm::DTMFForm(Document& document, const WindowState& windows, Services& services, QWidget* parent)
+    : FieldForm(ChildWindow::Dtmf, "DTMFForm", WindowSize, "picDTMF", Text::DtmfExplained, document, windows, services,
+                parent) {
     auto* tabs = new FieldTabs("SSTab1", Panel());
     tabs->setGeometry(Panel()->rect().adjusted(raster::Margin, raster::TabsTop, -raster::Margin, 0));
     BuildEncodePage(*tabs->AddPage(LoadText(Text::Encode)));
@@ -79,7 +80,7 @@ DTMFForm::DTMFForm(Session& session, Services& services, QWidget* parent)
 }
 
 void DTMFForm::BuildEncodePage(QWidget& page) {
-    BoundRows rows(page, TheSession(), raster::Margin, raster::RowSpacing);
+    BoundRows rows(page, TheDocument().Image, CurrentLanguage(), raster::Margin, raster::RowSpacing);
     StartAt(*rows.AddSpin("DTMFSpeed", dtmf::Speed, StepsThroughTexts(dtmf::Speed)));
     rows.AddSpin("FstDigitTime", dtmf::FirstDigitTime, StepsThroughTexts(dtmf::FirstDigitTime));
     rows.AddSpin("FstDigitDelay", dtmf::FirstDigitDelay);
@@ -90,7 +91,7 @@ void DTMFForm::BuildEncodePage(QWidget& page) {
 }
 
 void DTMFForm::BuildDecodePage(QWidget& page) {
-    BoundRows rows(page, TheSession(), raster::Margin, raster::RowSpacing);
+    BoundRows rows(page, TheDocument().Image, CurrentLanguage(), raster::Margin, raster::RowSpacing);
     txtIDCode_ = MakeCode("txtIDCode", dtmf::IdCode);
     rows.Add("lblIDCode", dtmf::IdCode.label, txtIDCode_);
     rows.AddList("GroupCode", dtmf::GroupCode);
@@ -105,7 +106,7 @@ void DTMFForm::BuildDecodePage(QWidget& page) {
 QWidget* DTMFForm::BuildStunFrame() {
     auto* fraStun = new QGroupBox(StunFrame);
     fraStun->setObjectName("fraStun");
-    BoundRows rows(*fraStun, TheSession(), raster::FrameMargin, raster::RowSpacing);
+    BoundRows rows(*fraStun, TheDocument().Image, CurrentLanguage(), raster::FrameMargin, raster::RowSpacing);
     txtStunCode_ = MakeCode("txtStunCode", dtmf::StunCode);
     rows.Add("lblStunCode", dtmf::StunCode.label, txtStunCode_);
     cboStunType_ = rows.AddList("StunType", dtmf::StunType);
@@ -145,19 +146,19 @@ void DTMFForm::Load() {
     txtStunCode_->Load();
     EnableStunType();
     for (int n = 1; n <= dtmf::AutodialCount; ++n) {
-        msgAutodial_->SetText(n, DigitsColumn, QString::fromStdU16String(LoadCode(TheSession().Image, Memory(n))));
+        msgAutodial_->SetText(n, DigitsColumn, QString::fromStdU16String(LoadCode(TheDocument().Image, Memory(n))));
     }
 }
 
 DtmfCodeBox* DTMFForm::MakeCode(const QString& name, const TextField& field) {
-    auto* made = new DtmfCodeBox(name, field, TheSession().Image);
+    auto* made = new DtmfCodeBox(name, field, TheDocument().Image);
     connect(made, &DtmfCodeBox::Invalid, this, &DTMFForm::OnInvalidCode);
     return made;
 }
 
 void DTMFForm::OnInvalidCode() {
     refused_ = true;
-    const Language language = TheSession().LanguageFlag;
+    const Language language = CurrentLanguage();
     TheServices().messages.Show({std::string(commontexts::Error.In(language)), std::string(InvalidData.In(language)),
                                  MessageIcon::Critical, MessageButtons::Ok});
 }
@@ -200,7 +201,7 @@ void DTMFForm::OnEntered() {
 /// Runs at every key, so Escape brings back the cell's text but not the memory: that keeps what was typed last, on
 /// purpose.
 void DTMFForm::StoreMemory() {
-    StoreCode(TheSession().Image, Memory(edit_->Row()), edit_->Text().toStdU16String());
+    StoreCode(TheDocument().Image, Memory(edit_->Row()), edit_->Text().toStdU16String());
 }
 
 } // namespace zelvor

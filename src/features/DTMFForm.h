@@ -19,7 +19,7 @@ class DTMFForm : public FieldForm {
     Q_OBJECT
 
 public:
-    DTMFForm(Session& session, Services& services, QWidget* parent = nullptr);
+    DTMFForm(Document& document, const WindowState& windows, Services& services, QWidget* parent = nullptr);
 
     [[nodiscard]] std::string_view HelpPage() const override { return "dtmf.htm"; }
 

@@ -15,11 +15,11 @@ constexpr QSize WindowSize{4905, 6600}; // twips
 
 } // namespace
 
-KeyAssign::KeyAssign(Session& session, Services& services, QWidget* parent)
-    : FieldForm(ChildWindow::KeyAssignment, "KeyAssign", WindowSize, "picKeyAssign", Text::KeyAssignment, session,
-                services, parent),
-      Pickey_(new RadioPicture(session.LanguageFlag, Panel())) {
-    BoundRows rows(*Panel(), session);
+KeyAssign::KeyAssign(Document& document, const WindowState& windows, Services& services, QWidget* parent)
+    : FieldForm(ChildWindow::KeyAssignment, "KeyAssign", WindowSize, "picKeyAssign", Text::KeyAssignment, document,
+                windows, services, parent),
+      Pickey_(new RadioPicture(windows.LanguageFlag, Panel())) {
+    BoundRows rows(*Panel(), document.Image, windows.LanguageFlag);
     pf1_ = rows.AddList("Key(0)", key_assignment::Keys[0]);
     pf2_ = rows.AddList("Key(1)", key_assignment::Keys[1]);
     rows.Add(Pickey_);

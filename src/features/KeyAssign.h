@@ -12,7 +12,7 @@ class KeyAssign : public FieldForm {
     Q_OBJECT
 
 public:
-    KeyAssign(Session& session, Services& services, QWidget* parent = nullptr);
+    KeyAssign(Document& document, const WindowState& windows, Services& services, QWidget* parent = nullptr);
 
     [[nodiscard]] std::string_view HelpPage() const override { return "keyassign.htm"; }
 

@@ -46,12 +46,12 @@ bool IsClick(const QEvent& event) {
 
 } // namespace
 
-OptionalForm::OptionalForm(Session& session, Services& services, QWidget* parent)
-    : FieldForm(ChildWindow::OptionalFeatures, "OptionalForm", WindowSize, "picOpt", Text::OptionalFeatures, session,
-                services, parent) {
-    BoundRows rows(*Panel(), session, raster::Margin, raster::RowSpacing);
+OptionalForm::OptionalForm(Document& document, const WindowState& windows, Services& services, QWidget* parent)
+    : FieldForm(ChildWindow::OptionalFeatures, "OptionalForm", WindowSize, "picOpt", Text::OptionalFeatures, document,
+                windows, services, parent) {
+    BoundRows rows(*Panel(), document.Image, windows.LanguageFlag, raster::Margin, raster::RowSpacing);
     BuildGeneral(rows);
-    auto* fraPTTID = MakeFrame("fraPTTID", ToQString(PttId.label.In(session.LanguageFlag)), Panel());
+    auto* fraPTTID = MakeFrame("fraPTTID", ToQString(PttId.label.In(windows.LanguageFlag)), Panel());
     rows.Add(fraPTTID);
     BuildPttId(*fraPTTID);
     fraVOX_ = MakeFrame("fraVOX", LoadText(Text::Vox), Panel());
@@ -59,7 +59,8 @@ OptionalForm::OptionalForm(Session& session, Services& services, QWidget* parent
     BuildVox(*fraVOX_);
     auto* fraMode = MakeFrame("fraMode", LoadText(Text::Mode), Panel());
     rows.Add(fraMode);
-    BoundRows(*fraMode, session, raster::FrameMargin, raster::RowSpacing).AddCheck("CloneMode", CloneMode);
+    BoundRows(*fraMode, document.Image, windows.LanguageFlag, raster::FrameMargin, raster::RowSpacing)
+        .AddCheck("CloneMode", CloneMode);
     rows.End();
     Connect();
     Load();
@@ -85,7 +86,7 @@ void OptionalForm::BuildGeneral(BoundRows& rows) {
 }
 
 void OptionalForm::BuildPttId(QWidget& frame) {
-    BoundRows rows(frame, TheSession(), raster::FrameMargin, raster::RowSpacing);
+    BoundRows rows(frame, TheDocument().Image, CurrentLanguage(), raster::FrameMargin, raster::RowSpacing);
     cboPTTIDType_ = rows.AddList("PTTIDType", PttIdType);
     cboPTTID_ = rows.AddList("PTTID", PttId);
     for (std::size_t code = 0; code < PttCodes.size(); ++code) {
@@ -104,7 +105,7 @@ void OptionalForm::BuildCode(BoundRows& rows, std::size_t code) {
 }
 
 void OptionalForm::BuildVox(QWidget& frame) {
-    BoundRows rows(frame, TheSession(), raster::FrameMargin, raster::RowSpacing);
+    BoundRows rows(frame, TheDocument().Image, CurrentLanguage(), raster::FrameMargin, raster::RowSpacing);
     chkVOXFunc_ = rows.MakeCheck("VOXFunc", VoxFunction);
     rows.AddPair(chkVOXFunc_, rows.MakeCheck("VOXInhibit", VoxInhibit));
     rows.AddSpin("VOXGainLevel", VoxGainLevel);
@@ -127,8 +128,8 @@ void OptionalForm::Connect() {
 }
 
 void OptionalForm::Load() {
-    Session& session = TheSession();
-    const DataImage& image = session.Image;
+    Document& document = TheDocument();
+    const DataImage& image = document.Image;
     LoadFields();
     // A time-out without a number of steps shows its seconds all the same, and is stepped from 0.
     const int steps = image.At(TimeOutTimer.address);
@@ -136,8 +137,8 @@ void OptionalForm::Load() {
     for (std::size_t code = 0; code < PTTCode.size(); ++code) {
         PTTCode[code].box->setText(QString::fromStdU16String(LoadCode(image, PttCodes[code])));
     }
-    if (session.IsOpen(ChildWindow::Channels)) {
-        session.Channels.RefreshPttIds(image, session.LanguageFlag);
+    if (TheWindows().IsOpen(ChildWindow::Channels)) {
+        document.Channels.RefreshPttIds(image, CurrentLanguage());
     }
     OnPttIdSelected();
     EnableVox();
@@ -172,7 +173,7 @@ void OptionalForm::OnPttIdSelected() {
     } else if (type == record::TypeDtmf && choice) {
         EnableCode(0, Sends(*choice, 0));
         EnableCode(1, Sends(*choice, 1));
-        TheSession().TxCodeErrorKind = MissingCodes(*choice, TheSession().Image);
+        TheDocument().Flags.TxCodeErrorKind = MissingCodes(*choice, TheDocument().Image);
     }
 }
 
@@ -186,22 +187,22 @@ void OptionalForm::OnTypeSelected() {
     } else {
         ChooseDtmf();
     }
-    TheSession().Image.Set(PttIdType.address, static_cast<std::uint8_t>(type));
-    if (TheSession().IsOpen(ChildWindow::Channels)) {
-        TheSession().Channels.ShowPttIdsOfType(TheSession().Image, TheSession().LanguageFlag);
+    TheDocument().Image.Set(PttIdType.address, static_cast<std::uint8_t>(type));
+    if (TheWindows().IsOpen(ChildWindow::Channels)) {
+        TheDocument().Channels.ShowPttIdsOfType(TheDocument().Image, CurrentLanguage());
     }
 }
 
 void OptionalForm::ChooseCorvane() {
-    TheSession().TxCodeError = false;
+    TheDocument().Flags.TxCodeError = false;
     EnableCode(0, false);
     EnableCode(1, false);
 }
 
 void OptionalForm::ChooseDtmf() {
-    Session& session = TheSession();
-    session.OwnIdError = false;
-    session.TxCodeError = true;
+    Document& document = TheDocument();
+    document.Flags.OwnIdError = false;
+    document.Flags.TxCodeError = true;
     const auto choice = ChoiceOf(cboPTTID_->currentIndex());
     if (!choice) {
         return;
@@ -212,14 +213,14 @@ void OptionalForm::ChooseDtmf() {
         }
     }
     // Unlike a choice of the PTT ID, this one does not take back a complaint: codes that are there leave it as it was.
-    if (const CodeErrorKind missing = MissingCodes(*choice, session.Image); missing != 0) {
-        session.TxCodeErrorKind = missing;
+    if (const CodeErrorKind missing = MissingCodes(*choice, document.Image); missing != 0) {
+        document.Flags.TxCodeErrorKind = missing;
     }
 }
 
 void OptionalForm::OnTypeLeft() {
     if (cboPTTIDType_->currentIndex() != ListField::NoEntry) {
-        TheSession().TxCodeError = cboPTTIDType_->currentIndex() == record::TypeDtmf;
+        TheDocument().Flags.TxCodeError = cboPTTIDType_->currentIndex() == record::TypeDtmf;
     }
 }
 
@@ -244,20 +245,20 @@ void OptionalForm::OnFocusMoved(QWidget* to) {
     const QPointer<QWidget> before = std::exchange(focused_, to);
     for (const CodeBox& code : PTTCode) {
         if (code.box == to && before != to) {
-            TheSession().TxCodeError = code.box->text().isEmpty();
+            TheDocument().Flags.TxCodeError = code.box->text().isEmpty();
         }
     }
 }
 
 /// A click into a box does the same as a change of it.
 void OptionalForm::OnCodeChanged(std::size_t code) {
-    Session& session = TheSession();
+    Document& document = TheDocument();
     const std::array missing{PTTCode[0].box->text().isEmpty(), PTTCode[1].box->text().isEmpty()};
-    session.TxCodeError = session.TxCodeError || missing[0] || missing[1];
+    document.Flags.TxCodeError = document.Flags.TxCodeError || missing[0] || missing[1];
     // By the image, where a choice that has not been left yet is not stored.
-    const auto choice = ChoiceOf(session.Image.At(PttId.address));
-    session.TxCodeErrorKind = choice ? MissingCodes(*choice, missing) : 0;
-    StoreCode(session.Image, PttCodes[code], PTTCode[code].box->text().toStdU16String());
+    const auto choice = ChoiceOf(document.Image.At(PttId.address));
+    document.Flags.TxCodeErrorKind = choice ? MissingCodes(*choice, missing) : 0;
+    StoreCode(document.Image, PttCodes[code], PTTCode[code].box->text().toStdU16String());
 }
 
 } // namespace zelvor

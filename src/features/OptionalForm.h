@@ -14,13 +14,13 @@ class BoundSpin;
 class FilteredLineEdit;
 
 /// The optional features: what the radio has besides its channels, each stored when its control is left, the PTT ID
-/// codes at every keystroke. Keeps Session::TxCodeError and TxCodeErrorKind, and the PTT ID of the open channel windows
+/// codes at every keystroke. Keeps TxCodeError and TxCodeErrorKind, and the PTT ID of the open channel windows
 /// in step with the PTT ID Type. Opening acts on them as a user who chooses what the image holds.
 class OptionalForm : public FieldForm {
     Q_OBJECT
 
 public:
-    OptionalForm(Session& session, Services& services, QWidget* parent = nullptr);
+    OptionalForm(Document& document, const WindowState& windows, Services& services, QWidget* parent = nullptr);
     ~OptionalForm() override;
 
     [[nodiscard]] std::string_view HelpPage() const override { return "optfeatures.htm"; }

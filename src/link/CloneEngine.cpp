@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "data/Document.h"
 #include "link/CloneFrames.h"
 #include "link/CloneTexts.h"
 #include "text/CommonTexts.h"
@@ -25,10 +26,10 @@ constexpr int AbandonWait = 30;
 
 } // namespace
 
-CloneEngine::CloneEngine(Session& session, SerialPort& port, Clock& clock, MessageBoxes& messages,
-                         CloneObserver& observer)
-    : session_(session), link_(session.Link), port_(session, port), clock_(clock), messages_(messages),
-      observer_(observer), ctrTimer_(clock.MakeTimer("ctrTimer")), messageTimer_(clock.MakeTimer("messageTimer")) {
+CloneEngine::CloneEngine(Document& document, const RadioLink& link, CloneObserver& observer)
+    : document_(document), link_(link.state), port_(link.state, link.port), clock_(link.clock),
+      messages_(link.messages), language_(link.language), observer_(observer), ctrTimer_(clock_.MakeTimer("ctrTimer")),
+      messageTimer_(clock_.MakeTimer("messageTimer")) {
     ctrTimer_->OnTick = [this] { OnSendTimer(); };
     messageTimer_->OnTick = [this] { OnTimeout(); };
     port_.Listen([this](ReceiveReason reason) { OnReceive(reason); });
@@ -169,7 +170,7 @@ void CloneEngine::SendData() {
         port_.ExpectBytes(wire::ReadReplyLength);
         port_.Send(ReadBlockCommand(link_));
     } else {
-        BuildWritePacket(link_, session_.Image);
+        BuildWritePacket(link_, document_.Image);
         port_.ExpectBytes(1);
         port_.SendBuffer();
     }
@@ -199,17 +200,16 @@ void CloneEngine::Complete(const TextPair& text) {
     port_.Close();
     clock_.Sleep(CompletedPause);
     messages_.Show({.title = "",
-                    .text = std::string(text.In(session_.LanguageFlag)),
+                    .text = std::string(text.In(language_)),
                     .icon = MessageIcon::Information,
                     .buttons = MessageButtons::Ok,
                     .defaultButton = MessageAnswer::Ok});
-    session_.Priority.SetError(false);
     if (reading) {
-        session_.CurrentFileName = Session::DefaultFileName;
+        document_.Priority.SetError(false);
+        document_.RenameToDefault();
         observer_.OnReadCompleted();
     } else {
-        session_.OwnIdError = false;
-        session_.TxCodeError = false;
+        document_.ClearWriteFlags();
         observer_.OnWriteCompleted();
     }
     state_.Finished = true;
@@ -226,7 +226,7 @@ void CloneEngine::PromptForConnection() {
     clock_.Sleep(PromptPause);
     deaf_ = true;
     state_.Prompting = true;
-    const bool again = port_.AsksToRetry(messages_, [this] { observer_.OnStandstill(); });
+    const bool again = port_.AsksToRetry(messages_, language_, [this] { observer_.OnStandstill(); });
     state_.Prompting = false;
     if (again) {
         Retry();

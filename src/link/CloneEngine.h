@@ -4,12 +4,15 @@
 #include <memory>
 #include <vector>
 
-#include "data/Session.h"
+#include "link/LinkState.h"
+#include "link/RadioLink.h"
 #include "link/RadioPort.h"
 #include "platform/Clock.h"
 #include "platform/MessageBoxes.h"
 
 namespace zelvor {
+
+class Document;
 
 /// The values of LinkState::CommState in a clone session: the state whose command is to be sent next.
 enum class ConnectState : std::uint8_t {
@@ -59,7 +62,7 @@ public:
         bool CancelPressed = false;
     };
 
-    CloneEngine(Session& session, SerialPort& port, Clock& clock, MessageBoxes& messages, CloneObserver& observer);
+    CloneEngine(Document& document, const RadioLink& link, CloneObserver& observer);
     CloneEngine(const CloneEngine&) = delete;
     CloneEngine& operator=(const CloneEngine&) = delete;
 
@@ -121,11 +124,12 @@ private:
     void Retry();
     void Abandon();
 
-    Session& session_;
+    Document& document_;
     LinkState& link_;
     RadioPort port_;
     Clock& clock_;
     MessageBoxes& messages_;
+    const Language language_;
     CloneObserver& observer_;
     std::unique_ptr<Timer> ctrTimer_;
     std::unique_ptr<Timer> messageTimer_;

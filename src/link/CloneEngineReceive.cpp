@@ -1,5 +1,6 @@
 // The receive half of CloneEngine: what each reply of the radio means, and where it leads.
 
+#include "data/Document.h"
 #include "data/MemoryMap.h"
 #include "link/CloneEngine.h"
 #include "link/CloneFrames.h"
@@ -66,8 +67,8 @@ void CloneEngine::ReceiveIdentity() {
     }
     if (IsReading()) {
         // Block 7 overwrites both with what the memory holds there.
-        session_.Image.Set(address::Market, identity[address::Market - address::Identity]);
-        session_.Image.Set(address::Family, identity[address::Family - address::Identity]);
+        document_.Image.Set(address::Market, identity[address::Market - address::Identity]);
+        document_.Image.Set(address::Family, identity[address::Family - address::Identity]);
     }
     Enter(ConnectState::ConfirmIdentity);
     MoveOn();
@@ -85,17 +86,16 @@ void CloneEngine::ReceiveConfirmation() {
 }
 
 void CloneEngine::CheckModel() {
-    if (!IsModelWrong(state_.RadioIdentity, session_.Image)) {
+    if (!IsModelWrong(state_.RadioIdentity, document_.Image)) {
         return;
     }
     messageTimer_->SetEnabled(false);
     deaf_ = true;
-    const MessageAnswer answer =
-        messages_.Show({.title = std::string(commontexts::Warning.In(session_.LanguageFlag)),
-                        .text = std::string(clonetexts::ModelTypeWrong.In(session_.LanguageFlag)),
-                        .icon = MessageIcon::Exclamation,
-                        .buttons = MessageButtons::OkCancel,
-                        .defaultButton = MessageAnswer::Cancel});
+    const MessageAnswer answer = messages_.Show({.title = std::string(commontexts::Warning.In(language_)),
+                                                 .text = std::string(clonetexts::ModelTypeWrong.In(language_)),
+                                                 .icon = MessageIcon::Exclamation,
+                                                 .buttons = MessageButtons::OkCancel,
+                                                 .defaultButton = MessageAnswer::Cancel});
     deaf_ = false;
     if (answer != MessageAnswer::Ok) {
         Enter(ConnectState::EndSession);
@@ -104,7 +104,7 @@ void CloneEngine::CheckModel() {
 
 void CloneEngine::ReceiveBlock() {
     const std::vector<std::uint8_t> reply = port_.Read(wire::ReadReplyLength);
-    StoreReadBlock(session_.Image, link_.StepCount, reply); // also of a reply that fails the test
+    StoreReadBlock(document_.Image, link_.StepCount, reply); // also of a reply that fails the test
     if (reply.empty() || reply.front() != wire::ReadReplyByte) {
         return FailFast();
     }

@@ -5,7 +5,7 @@
 #include <span>
 
 #include "data/DataImage.h"
-#include "data/Session.h"
+#include "link/LinkState.h"
 
 /// The bytes of the clone protocol. There is no checksum, no escape and no sequence number: a bare command is answered
 /// by a bare reply. docs/clone-engine.md draws the sessions.

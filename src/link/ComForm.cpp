@@ -12,6 +12,7 @@
 #include "help/HelpViewer.h"
 #include "platform/Clock.h"
 #include "platform/Toolkit.h"
+#include "text/StringTable.h"
 
 namespace zelvor {
 
@@ -41,12 +42,12 @@ QString DeviceText(const PortDescription& port, Language language) {
 
 } // namespace
 
-ComForm::ComForm(Session& session, Services& services, QWidget* parent)
-    : QDialog(parent), session_(session), services_(services), port_(services.ports.Make("MSComm1")) {
+ComForm::ComForm(LinkState& link, Language language, Services& services, QWidget* parent)
+    : QDialog(parent), link_(link), language_(language), services_(services), port_(services.ports.Make("MSComm1")) {
     services_.ports.NumberAnew();
     setObjectName("ComForm");
     setModal(true);
-    setWindowTitle(ToQString(session_.LoadText(Text::CommunicationPort)));
+    setWindowTitle(ToQString(TableText(language_, Text::CommunicationPort)));
     BuildControls();
     ProbePorts();
 }
@@ -72,7 +73,7 @@ void ComForm::BuildControls() {
         optPort_[static_cast<std::size_t>(index)] = option;
     }
 
-    const DialogButtons buttons = MakeDialogButtons(*this, session_);
+    const DialogButtons buttons = MakeDialogButtons(*this, language_);
     connect(buttons.cmdOK, &QPushButton::clicked, this, &ComForm::TakeChoice);
     connect(buttons.cmdCancel, &QPushButton::clicked, this, &ComForm::reject);
     connect(buttons.cmdHelp, &QPushButton::clicked, this, &ComForm::ShowHelp);
@@ -87,14 +88,14 @@ void ComForm::ProbePorts() {
     const WaitCursor cursor;
     for (int number = 1; number <= PortCount; ++number) {
         QRadioButton& option = *optPort_[static_cast<std::size_t>(number - 1)];
-        option.setText(ToQString(session_.LoadText(Text::Com)) + QString::number(number));
-        option.setToolTip(DeviceText(services_.ports.Describe(number), session_.LanguageFlag));
+        option.setText(ToQString(TableText(language_, Text::Com)) + QString::number(number));
+        option.setToolTip(DeviceText(services_.ports.Describe(number), language_));
         option.setAccessibleDescription(option.toolTip());
         option.setEnabled(ProbePort(*port_, services_.clock, number));
     }
     // Also where the probe has just disabled it.
-    if (session_.CommPortNumber >= 1 && session_.CommPortNumber <= PortCount) {
-        optPort_[static_cast<std::size_t>(session_.CommPortNumber - 1)]->setChecked(true);
+    if (link_.CommPortNumber >= 1 && link_.CommPortNumber <= PortCount) {
+        optPort_[static_cast<std::size_t>(link_.CommPortNumber - 1)]->setChecked(true);
     }
 }
 
@@ -104,13 +105,13 @@ void ComForm::TakeChoice() {
     while (index < PortCount && !optPort_[static_cast<std::size_t>(index)]->isChecked()) {
         ++index;
     }
-    session_.CommPortNumber = index + 1;
+    link_.CommPortNumber = index + 1;
     emit PortChosen();
     accept();
 }
 
 void ComForm::ShowHelp() {
-    services_.help.Show({session_.LanguageFlag, "commport.htm"});
+    services_.help.Show({language_, "commport.htm"});
 }
 
 } // namespace zelvor

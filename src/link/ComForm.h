@@ -4,10 +4,11 @@
 #include <array>
 #include <memory>
 
-#include "data/Session.h"
+#include "link/LinkState.h"
 #include "link/PortProbe.h"
 #include "platform/SerialPort.h"
 #include "platform/Services.h"
+#include "text/Language.h"
 
 class QRadioButton;
 
@@ -19,7 +20,7 @@ class ComForm : public QDialog {
     Q_OBJECT
 
 public:
-    ComForm(Session& session, Services& services, QWidget* parent = nullptr);
+    ComForm(LinkState& link, Language language, Services& services, QWidget* parent = nullptr);
     ~ComForm() override;
 
     void done(int result) override;
@@ -34,7 +35,8 @@ private:
     void TakeChoice();
     void ShowHelp();
 
-    Session& session_;
+    LinkState& link_;
+    const Language language_;
     Services& services_;
     std::unique_ptr<SerialPort> port_;
     std::array<QRadioButton*, PortCount> optPort_{};

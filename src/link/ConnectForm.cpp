@@ -13,6 +13,7 @@
 #include "link/TransferTexts.h"
 #include "platform/LayoutUnits.h"
 #include "platform/Toolkit.h"
+#include "text/StringTable.h"
 
 namespace zelvor {
 
@@ -28,15 +29,17 @@ constexpr int StatusLines = 3;
 
 } // namespace
 
-ConnectForm::ConnectForm(Session& session, Services& services, TransferDirection direction, QWidget* parent)
-    : QDialog(parent), session_(session), services_(services), direction_(direction),
-      port_(services.ports.Make("MSComm1")), engine_(session, *port_, services.clock, services.messages, *this),
+ConnectForm::ConnectForm(Document& document, LinkState& link, Language language, Services& services,
+                         TransferDirection direction, QWidget* parent)
+    : QDialog(parent), link_(link), language_(language), services_(services), direction_(direction),
+      port_(services.ports.Make("MSComm1")),
+      engine_(document, {link, *port_, services.clock, services.messages, language}, *this),
       progressTimer_(services.clock.MakeTimer("progressTimer")) {
     setObjectName("ConnectForm");
     setModal(true);
     const bool reading = direction_ == TransferDirection::Read;
-    session_.Link.TransferMode = reading ? transfer::Reading : transfer::Writing;
-    setWindowTitle(ToQString(session_.LoadText(reading ? Text::ReadDataFromRadio : Text::WriteDataToRadio)));
+    link.TransferMode = reading ? transfer::Reading : transfer::Writing;
+    setWindowTitle(ToQString(TableText(language_, reading ? Text::ReadDataFromRadio : Text::WriteDataToRadio)));
     BuildControls();
 
     progressTimer_->SetInterval(ProgressDelay);
@@ -111,7 +114,7 @@ void ConnectForm::BuildControls() {
     prgValue_->setMinimumWidth(PixelsOfTwips(BarWidthTwips));
     prgValue_->setAccessibleName(windowTitle());
 
-    buttons_ = MakeDialogButtons(*this, session_);
+    buttons_ = MakeDialogButtons(*this, language_);
     connect(buttons_.cmdOK, &QPushButton::clicked, this, [this] { engine_.Start(); });
     connect(buttons_.cmdCancel, &QPushButton::clicked, this, [this] { engine_.Cancel(); });
     connect(buttons_.cmdHelp, &QPushButton::clicked, this, &ConnectForm::ShowHelp);
@@ -127,7 +130,7 @@ void ConnectForm::BuildStatus() {
     labStatus_ = new QLabel(this);
     labStatus_->setObjectName("labStatus");
     labStatus_->setTextFormat(Qt::PlainText);
-    labStatus_->setText(ToQString(transfertexts::Ready.In(session_.LanguageFlag)));
+    labStatus_->setText(ToQString(transfertexts::Ready.In(language_)));
     labStatus_->setFixedWidth(std::max(labStatus_->sizeHint().width(), PixelsOfTwips(BarWidthTwips)));
     labStatus_->setWordWrap(true);
     labStatus_->setMinimumHeight(StatusLines * labStatus_->fontMetrics().lineSpacing());
@@ -141,30 +144,29 @@ void ConnectForm::ShowProgress() {
 
 QString ConnectForm::StatusText() const {
     const CloneEngine::TransferState& state = engine_.State();
-    const Language language = session_.LanguageFlag;
-    if (session_.Link.TransferMode == transfer::Done) {
-        return ToQString(transfertexts::Completed.In(language));
+    if (link_.TransferMode == transfer::Done) {
+        return ToQString(transfertexts::Completed.In(language_));
     }
     if (state.Pausing) {
-        return ToQString(transfertexts::Retrying.In(language));
+        return ToQString(transfertexts::Retrying.In(language_));
     }
     if (const PortFailure failure = engine_.Failure(); failure.fault != PortFault::None) {
-        return ToQString(transfertexts::CannotOpen(failure, session_.CommPortNumber, language));
+        return ToQString(transfertexts::CannotOpen(failure, link_.CommPortNumber, language_));
     }
     if (state.Prompting) {
-        return ToQString(transfertexts::NoAnswer(session_.CommPortNumber, language));
+        return ToQString(transfertexts::NoAnswer(link_.CommPortNumber, language_));
     }
     const bool reading = direction_ == TransferDirection::Read;
     const TextPair& text = !state.Running            ? transfertexts::Ready
                            : engine_.Progress() == 0 ? transfertexts::Connecting
                            : reading                 ? transfertexts::Reading
                                                      : transfertexts::Writing;
-    return ToQString(text.In(language));
+    return ToQString(text.In(language_));
 }
 
 void ConnectForm::ShowHelp() {
     const bool reading = direction_ == TransferDirection::Read;
-    services_.help.Show({session_.LanguageFlag, reading ? "readradio.htm" : "writeradio.htm"});
+    services_.help.Show({language_, reading ? "readradio.htm" : "writeradio.htm"});
 }
 
 void ConnectForm::Unload() {

@@ -20,7 +20,8 @@ class ConnectForm : public QDialog, private CloneObserver {
     Q_OBJECT
 
 public:
-    ConnectForm(Session& session, Services& services, TransferDirection direction, QWidget* parent = nullptr);
+    ConnectForm(Document& document, LinkState& link, Language language, Services& services, TransferDirection direction,
+                QWidget* parent = nullptr);
     ~ConnectForm() override;
 
     [[nodiscard]] const CloneEngine& Engine() const { return engine_; }
@@ -56,7 +57,8 @@ private:
     void Unload();
     [[nodiscard]] QString StatusText() const;
 
-    Session& session_;
+    const LinkState& link_;
+    const Language language_;
     Services& services_;
     const TransferDirection direction_;
     std::unique_ptr<SerialPort> port_; // MSComm1

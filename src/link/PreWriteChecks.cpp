@@ -3,6 +3,7 @@
 #include <initializer_list>
 #include <string>
 
+#include "data/Document.h"
 #include "data/MemoryMap.h"
 #include "text/CommonTexts.h"
 
@@ -18,7 +19,7 @@ constexpr TextPair BeginOfTxCode{"\"Begin of TX code\"", "\"发射开始代码\"
 constexpr TextPair EndOfTxCode{"\"End of TX code\"", "\"发射结束代码\""};
 constexpr std::string_view LineBreak = "\r\n";
 
-// Values of Session::TxCodeErrorKind.
+// Values of TxCodeErrorKind.
 constexpr int BeginCode = 1;
 constexpr int EndCode = 2;
 constexpr int BothCodes = 3;
@@ -76,22 +77,21 @@ std::optional<Message> TxCodeBox(Language language, int kind) {
 
 } // namespace
 
-std::optional<Message> CheckBeforeWrite(Session& session) {
-    const Language language = session.LanguageFlag;
-    if (session.Priority.PriorityChannelError()) {
+std::optional<Message> CheckBeforeWrite(Document& document, Language language) {
+    if (document.Priority.PriorityChannelError()) {
         return ErrorBox(language, EmptyLine::Yes, {PriorityChannel});
     }
-    if (session.OwnIdError) {
+    if (document.Flags.OwnIdError) {
         return ErrorBox(language, EmptyLine::Yes, {OwnFleet, OwnId});
     }
-    if (!session.TxCodeError) {
+    if (!document.Flags.TxCodeError) {
         return std::nullopt;
     }
-    if (!AnyChannelUsesCode(session.Image)) {
-        session.TxCodeError = false;
+    if (!AnyChannelUsesCode(document.Image)) {
+        document.Flags.TxCodeError = false;
         return std::nullopt;
     }
-    return TxCodeBox(language, session.TxCodeErrorKind);
+    return TxCodeBox(language, document.Flags.TxCodeErrorKind);
 }
 
 } // namespace zelvor

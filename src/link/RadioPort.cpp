@@ -10,7 +10,7 @@
 
 namespace zelvor {
 
-RadioPort::RadioPort(Session& session, SerialPort& port) : session_(session), link_(session.Link), port_(port) {}
+RadioPort::RadioPort(LinkState& link, SerialPort& port) : link_(link), port_(port) {}
 
 RadioPort::~RadioPort() {
     port_.OnReceive = nullptr;
@@ -34,7 +34,7 @@ bool RadioPort::Open() {
     if (port_.IsOpen()) {
         return true;
     }
-    port_.SetNumber(session_.CommPortNumber);
+    port_.SetNumber(link_.CommPortNumber);
     port_.SetSettings(RadioPortSettings);
     return port_.Open();
 }
@@ -69,18 +69,17 @@ bool RadioPort::ReadsAcknowledge() {
     return !reply.empty() && reply.front() == wire::AcknowledgeByte;
 }
 
-bool RadioPort::AsksToRetry(MessageBoxes& messages, const std::function<void()>& onLooked) {
+bool RadioPort::AsksToRetry(MessageBoxes& messages, Language language, const std::function<void()>& onLooked) {
     const bool wasGone = !IsOpen();
     Open(); // a port that stays closed leads back here after a retry
     if (onLooked) {
         onLooked();
     }
-    const MessageAnswer answer =
-        messages.Show({.title = std::string(commontexts::Error.In(session_.LanguageFlag)),
-                       .text = std::string(clonetexts::CheckConnections.In(session_.LanguageFlag)),
-                       .icon = MessageIcon::Critical,
-                       .buttons = MessageButtons::RetryCancel,
-                       .defaultButton = MessageAnswer::Retry});
+    const MessageAnswer answer = messages.Show({.title = std::string(commontexts::Error.In(language)),
+                                                .text = std::string(clonetexts::CheckConnections.In(language)),
+                                                .icon = MessageIcon::Critical,
+                                                .buttons = MessageButtons::RetryCancel,
+                                                .defaultButton = MessageAnswer::Retry});
     if (answer != MessageAnswer::Retry) {
         return false;
     }

@@ -6,18 +6,19 @@
 #include <span>
 #include <vector>
 
-#include "data/Session.h"
+#include "link/LinkState.h"
 #include "platform/SerialPort.h"
+#include "text/Language.h"
 
 namespace zelvor {
 
 class MessageBoxes;
 
-/// The radio at the end of the cable, as every exchange with it uses the port: the session's port number, one command
+/// The radio at the end of the cable, as every exchange with it uses the port: LinkState's port number, one command
 /// at a time through LinkState::TxBuffer, replies of known lengths.
 class RadioPort {
 public:
-    RadioPort(Session& session, SerialPort& port);
+    RadioPort(LinkState& link, SerialPort& port);
     ~RadioPort();
     RadioPort(const RadioPort&) = delete;
     RadioPort& operator=(const RadioPort&) = delete;
@@ -26,7 +27,7 @@ public:
 
     /// Buffer sizes, an open port and nothing waiting in it; sends nothing. False where the port cannot be opened.
     bool SetUp();
-    /// Opens the port under the session's number where it is not open yet.
+    /// Opens the port under LinkState's number where it is not open yet.
     bool Open();
     void Close();
     [[nodiscard]] bool IsOpen() const { return port_.IsOpen(); }
@@ -50,10 +51,10 @@ public:
 
     /// The connection prompt, for a radio that does not answer: true for Retry. A port that is gone is looked for
     /// before, and onLooked called; where it was gone, or is not the radio's any more, Retry opens it anew.
-    [[nodiscard]] bool AsksToRetry(MessageBoxes& messages, const std::function<void()>& onLooked = nullptr);
+    [[nodiscard]] bool AsksToRetry(MessageBoxes& messages, Language language,
+                                   const std::function<void()>& onLooked = nullptr);
 
 private:
-    Session& session_;
     LinkState& link_;
     SerialPort& port_;
 };

@@ -10,7 +10,7 @@
 
 #include "controls/DialogButtons.h"
 #include "controls/FitToScreen.h"
-#include "data/Session.h"
+#include "data/Document.h"
 #include "help/HelpViewer.h"
 #include "platform/Clock.h"
 #include "platform/MessageBoxes.h"
@@ -19,6 +19,7 @@
 #include "platform/Toolkit.h"
 #include "print/DataReport.h"
 #include "print/ReportOutput.h"
+#include "text/StringTable.h"
 
 namespace zelvor {
 
@@ -39,23 +40,21 @@ constexpr std::string_view NoPrinterText =
 
 } // namespace
 
-frmPrintList::frmPrintList(Session& session, Services& services, QWidget* parent)
-    : QDialog(parent), session_(session), services_(services) {
+frmPrintList::frmPrintList(const Document& document, Language language, Services& services, QWidget* parent)
+    : QDialog(parent), document_(document), language_(language), services_(services) {
     setObjectName("frmPrintList");
     setModal(true);
-    setWindowTitle(ToQString(session_.LoadText(Text::PrintOutList)));
+    setWindowTitle(ToQString(TableText(language_, Text::PrintOutList)));
 
     auto* choice = new QHBoxLayout;
     choice->addWidget(MakeItems(), 1);
     choice->addWidget(MakeSideButtons());
 
-    const DialogButtons buttons = MakeDialogButtons(*this, session_);
+    const DialogButtons buttons = MakeDialogButtons(*this, language_);
     cmdOK_ = buttons.cmdOK;
     connect(buttons.cmdOK, &QPushButton::clicked, this, &frmPrintList::AskBeforePrint);
     connect(buttons.cmdCancel, &QPushButton::clicked, this, &frmPrintList::reject);
-    connect(buttons.cmdHelp, &QPushButton::clicked, this, [this] {
-        services_.help.Show({session_.LanguageFlag, "print.htm"});
-    });
+    connect(buttons.cmdHelp, &QPushButton::clicked, this, [this] { services_.help.Show({language_, "print.htm"}); });
 
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(choice);
@@ -72,7 +71,7 @@ QWidget* frmPrintList::MakeItems() {
     auto* column = new QVBoxLayout(panel);
     column->setContentsMargins(0, 0, 0, 0);
     for (int index = 0; index < ReportSectionCount; ++index) {
-        const std::string_view title = SectionTitle(static_cast<ReportSection>(index), session_.LanguageFlag);
+        const std::string_view title = SectionTitle(static_cast<ReportSection>(index), language_);
         auto* item = new QCheckBox(ToQString(title), panel);
         item->setObjectName(QString("chkPrintItem(%1)").arg(index));
         connect(item, &QCheckBox::toggled, this, &frmPrintList::OnItemClicked);
@@ -83,10 +82,9 @@ QWidget* frmPrintList::MakeItems() {
 }
 
 QWidget* frmPrintList::MakeSideButtons() {
-    const Language language = session_.LanguageFlag;
-    auto* cmdSelectAll = MakeSideButton("cmdSelectAll", SelectAll.In(language));
-    auto* cmdClearAll = MakeSideButton("cmdClearAll", ClearAll.In(language));
-    auto* cmdPrintSetup = MakeSideButton("cmdPrintSetup", PrintSetup.In(language));
+    auto* cmdSelectAll = MakeSideButton("cmdSelectAll", SelectAll.In(language_));
+    auto* cmdClearAll = MakeSideButton("cmdClearAll", ClearAll.In(language_));
+    auto* cmdPrintSetup = MakeSideButton("cmdPrintSetup", PrintSetup.In(language_));
     connect(cmdSelectAll, &QPushButton::clicked, this, [this] { SetAll(true); });
     connect(cmdClearAll, &QPushButton::clicked, this, [this] { SetAll(false); });
     connect(cmdPrintSetup, &QPushButton::clicked, this, &frmPrintList::AskBeforeSetup);
@@ -106,7 +104,7 @@ QLabel* frmPrintList::MakeOutputLine() {
     lblOutput_->setObjectName("lblOutput");
     lblOutput_->setTextFormat(Qt::PlainText);
     lblOutput_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // a long name does not widen the dialog
-    const std::string longest = OutputText({PageTarget::Kind::NoAnswer, {}}, session_.LanguageFlag);
+    const std::string longest = OutputText({PageTarget::Kind::NoAnswer, {}}, language_);
     const double width = QFontMetricsF(lblOutput_->font()).horizontalAdvance(ToQString(longest));
     lblOutput_->setMinimumWidth(static_cast<int>(std::ceil(width))); // a rounded one may cost letters
     return lblOutput_;
@@ -138,7 +136,7 @@ void frmPrintList::OnItemClicked() {
 }
 
 void frmPrintList::ShowOutput() {
-    ShowOutputText(ToQString(AskingText(session_.LanguageFlag)));
+    ShowOutputText(ToQString(AskingText(language_)));
     services_.pages.FindTarget([form = QPointer(this)](const PageTarget& target) {
         if (form && !form->isAsking_) {
             form->ShowTarget(target);
@@ -147,7 +145,7 @@ void frmPrintList::ShowOutput() {
 }
 
 void frmPrintList::ShowTarget(const PageTarget& target) {
-    ShowOutputText(ToQString(OutputText(target, session_.LanguageFlag)), ToQString(target.name));
+    ShowOutputText(ToQString(OutputText(target, language_)), ToQString(target.name));
 }
 
 void frmPrintList::ShowOutputText(const QString& text, const QString& toolTip) {
@@ -171,7 +169,7 @@ void frmPrintList::AskBeforeSetup() {
         return;
     }
     isAsking_ = true;
-    ShowOutputText(ToQString(AskingText(session_.LanguageFlag)));
+    ShowOutputText(ToQString(AskingText(language_)));
     services_.pages.AskForPrinters([form = QPointer(this)](bool isAnswered) {
         if (form) {
             form->ShowSetup(isAnswered);
@@ -181,9 +179,8 @@ void frmPrintList::AskBeforeSetup() {
 
 void frmPrintList::ShowSetup(bool isAnswered) {
     const QPointer form(this);
-    const bool isWanted =
-        isVisible() && (isAnswered || WantsFileForWantOfAnswer(services_.messages, session_.LanguageFlag));
-    const bool isChosen = isWanted && services_.pages.ShowSetup(session_.CurrentFileName);
+    const bool isWanted = isVisible() && (isAnswered || WantsFileForWantOfAnswer(services_.messages, language_));
+    const bool isChosen = isWanted && services_.pages.ShowSetup(document_.FileName());
     if (!form) {
         return;
     }
@@ -203,7 +200,7 @@ void frmPrintList::AskBeforePrint() {
         return;
     }
     isAsking_ = true;
-    ShowOutputText(ToQString(AskingText(session_.LanguageFlag)));
+    ShowOutputText(ToQString(AskingText(language_)));
     services_.pages.FindTarget([form = QPointer(this)](const PageTarget& target) {
         if (form) {
             form->Print(target);
@@ -220,9 +217,9 @@ void frmPrintList::Print(const PageTarget& target) {
     }
     if (target.kind == PageTarget::Kind::None) {
         TellOfNoPrinter();
-    } else if (MayPrintTo(target, services_.messages, session_.LanguageFlag, agreedFile_)) {
-        PrintDataReport(services_.pages, BuildDataReport(session_.Image, Selection(), session_.CurrentFileName,
-                                                         session_.LanguageFlag, services_.clock.Now()));
+    } else if (MayPrintTo(target, services_.messages, language_, agreedFile_)) {
+        PrintDataReport(services_.pages, BuildDataReport(document_.Image, Selection(), document_.FileName(), language_,
+                                                         services_.clock.Now()));
     } else {
         if (form) {
             isAsking_ = false;

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "print/ReportSection.h"
+#include "text/Language.h"
 
 class QCheckBox;
 class QLabel;
@@ -13,7 +14,7 @@ class QPushButton;
 
 namespace zelvor {
 
-class Session;
+class Document;
 struct PageTarget;
 struct Services;
 
@@ -23,7 +24,7 @@ class frmPrintList : public QDialog {
     Q_OBJECT
 
 public:
-    frmPrintList(Session& session, Services& services, QWidget* parent = nullptr);
+    frmPrintList(const Document& document, Language language, Services& services, QWidget* parent = nullptr);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -47,7 +48,8 @@ private:
     void Print(const PageTarget& target);
     void TellOfNoPrinter();
 
-    Session& session_;
+    const Document& document_;
+    const Language language_;
     Services& services_;
     std::array<QCheckBox*, ReportSectionCount> chkPrintItem_{};
     QLabel* lblOutput_ = nullptr;

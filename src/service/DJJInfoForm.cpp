@@ -10,6 +10,7 @@
 #include <array>
 
 #include "controls/FitToScreen.h"
+#include "data/Document.h"
 #include "data/MemoryMap.h"
 #include "data/ModelCatalogue.h"
 #include "data/Windows1252.h"
@@ -17,6 +18,8 @@
 #include "platform/Services.h"
 #include "platform/Toolkit.h"
 #include "service/ServiceControls.h"
+#include "service/ServiceState.h"
+#include "text/StringTable.h"
 
 namespace zelvor {
 
@@ -50,15 +53,16 @@ ModelTexts TextsOf(const DataImage& image) {
 
 } // namespace
 
-DJJInfoForm::DJJInfoForm(Session& session, Services& services, QWidget* parent)
-    : QDialog(parent), session_(session), services_(services) {
+DJJInfoForm::DJJInfoForm(const Document& document, const ServiceState& service, Language language, Services& services,
+                         QWidget* parent)
+    : QDialog(parent), service_(service), language_(language), services_(services) {
     setObjectName("DJJInfoForm");
-    setWindowTitle(ToQString(session_.LoadText(Text::RadioInformation)));
+    setWindowTitle(ToQString(TableText(language_, Text::RadioInformation)));
 
     auto* fields = new QGridLayout;
     fields->setHorizontalSpacing(16);
     fields->setVerticalSpacing(10);
-    const ModelTexts model = TextsOf(session_.Image);
+    const ModelTexts model = TextsOf(document.Image);
     AddField(*fields, "lblModelType", Text::ModelType, "LabModel", ToQString(model.model));
     AddField(*fields, "lblFrequency", Text::FrequencyOfRadio, "LabFreq", ToQString(model.range));
     AddField(*fields, "lblSerialNum", Text::SerialNumber, "LabSN", SerialNumber());
@@ -67,7 +71,7 @@ DJJInfoForm::DJJInfoForm(Session& session, Services& services, QWidget* parent)
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
     const auto button = [&](const char* name, Text text) {
-        auto* made = new QPushButton(ToQString(session_.LoadText(text)), this);
+        auto* made = new QPushButton(ToQString(TableText(language_, text)), this);
         made->setObjectName(name);
         buttons->addWidget(made);
         return made;
@@ -91,7 +95,7 @@ DJJInfoForm::DJJInfoForm(Session& session, Services& services, QWidget* parent)
 
 void DJJInfoForm::AddField(QGridLayout& layout, const char* labelName, Text label, const char* name,
                            const QString& text) {
-    auto* caption = new QLabel(ToQString(session_.LoadText(label)), this);
+    auto* caption = new QLabel(ToQString(TableText(language_, label)), this);
     caption->setObjectName(labelName);
     auto* value = MakeDisplay(name, FieldWidth, this);
     ShowOn(*value, caption->text(), text);
@@ -102,7 +106,7 @@ void DJJInfoForm::AddField(QGridLayout& layout, const char* labelName, Text labe
 }
 
 QString DJJInfoForm::SerialNumber() const {
-    const auto& record = session_.Service.RadioInfoRecord;
+    const auto& record = service_.RadioInfoRecord;
     QString text(u' ');
     text += QChar(Windows1252Character(record[SerialPrefix]));
     text += u' ';
@@ -113,7 +117,7 @@ QString DJJInfoForm::SerialNumber() const {
 }
 
 void DJJInfoForm::ShowHelp() {
-    services_.help.Show({session_.LanguageFlag, "radioinfo.htm"});
+    services_.help.Show({language_, "radioinfo.htm"});
 }
 
 void DJJInfoForm::closeEvent(QCloseEvent* event) {

@@ -2,12 +2,15 @@
 
 #include <QDialog>
 
-#include "data/Session.h"
+#include "text/Language.h"
+#include "text/Text.h"
 
 class QGridLayout;
 
 namespace zelvor {
 
+class Document;
+struct ServiceState;
 struct Services;
 
 /// Radio information: the serial number that the radio told, and model and range of the document in memory.
@@ -15,7 +18,8 @@ class DJJInfoForm : public QDialog {
     Q_OBJECT
 
 public:
-    DJJInfoForm(Session& session, Services& services, QWidget* parent = nullptr);
+    DJJInfoForm(const Document& document, const ServiceState& service, Language language, Services& services,
+                QWidget* parent = nullptr);
 
 signals:
     /// The window is gone, whichever way it was closed.
@@ -30,7 +34,8 @@ private:
     [[nodiscard]] QString SerialNumber() const;
     void ShowHelp();
 
-    Session& session_;
+    const ServiceState& service_;
+    const Language language_;
     Services& services_;
 };
 

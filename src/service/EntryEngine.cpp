@@ -1,10 +1,12 @@
 #include "service/EntryEngine.h"
 
+#include "data/Document.h"
 #include "data/TestFrequencies.h"
 #include "data/TuneItems.h"
 #include "link/CloneFrames.h"
 #include "platform/MessageBoxes.h"
 #include "service/ServiceFrames.h"
+#include "service/ServiceState.h"
 #include "service/TestChannels.h"
 
 namespace zelvor {
@@ -34,9 +36,8 @@ constexpr TextPair MismatchText{"Test Frequency mismatch.\nExecute read data fro
 
 } // namespace
 
-EntryEngine::EntryEngine(Session& session, SerialPort& port, Clock& clock, MessageBoxes& messages,
-                         EntryObserver& observer)
-    : RadioExchange(session, port, clock, messages, "OverTimer", Timeout), observer_(observer) {}
+EntryEngine::EntryEngine(Document& document, ServiceState& service, const RadioLink& link, EntryObserver& observer)
+    : RadioExchange(link, "OverTimer", Timeout), document_(document), service_(service), observer_(observer) {}
 
 void EntryEngine::Start(bool infoMode) {
     Stop();
@@ -135,7 +136,7 @@ bool EntryEngine::TakeReply() {
             return TakeInformationRecord();
         }
         const std::vector<std::uint8_t> record = port_.Read(TuningRecordSize);
-        StoreTuningData(record, session_.Image, session_.Service.Values);
+        StoreTuningData(record, document_.Image, service_.Values);
         return record.size() == TuningRecordSize;
     }
     case AskNext:
@@ -165,8 +166,8 @@ void EntryEngine::TakeTestFrequency() {
     }
     const auto record = std::span(reply).first<address::TestFrequencyPairSize>();
     const int channel = link_.StepCount;
-    session_.Service.TestFrequencyText[static_cast<std::size_t>(channel - 1)] = TestFrequencyTextOf(record);
-    if (!AgreesWithImage(record, session_.Image, channel)) {
+    service_.TestFrequencyText[static_cast<std::size_t>(channel - 1)] = TestFrequencyTextOf(record);
+    if (!AgreesWithImage(record, document_.Image, channel)) {
         link_.StepCount = MismatchStep;
     }
 }
@@ -216,8 +217,8 @@ void EntryEngine::RefuseTestMode() {
     port_.Close();
     clock_.Sleep(RefusedPause);
     observer_.OnExchangeEnded();
-    messages_.Show({.title = std::string(MismatchTitle.In(session_.LanguageFlag)),
-                    .text = std::string(MismatchText.In(session_.LanguageFlag)),
+    messages_.Show({.title = std::string(MismatchTitle.In(language_)),
+                    .text = std::string(MismatchText.In(language_)),
                     .icon = MessageIcon::Critical,
                     .buttons = MessageButtons::Ok});
 }

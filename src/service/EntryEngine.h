@@ -6,6 +6,9 @@
 
 namespace zelvor {
 
+class Document;
+struct ServiceState;
+
 /// What the owner of an EntryEngine is told.
 class EntryObserver {
 public:
@@ -26,7 +29,10 @@ public:
 /// docs/service-engines.md draws both.
 class EntryEngine : public RadioExchange {
 public:
-    EntryEngine(Session& session, SerialPort& port, Clock& clock, MessageBoxes& messages, EntryObserver& observer);
+    EntryEngine(Document& document, ServiceState& service, const RadioLink& link, EntryObserver& observer);
+
+    /// The user has chosen another one; also while an exchange is under way.
+    void SetLanguage(Language language) { language_ = language; }
 
     /// Either starts anew where an exchange is under way.
     void StartInformation() { Start(true); }
@@ -69,6 +75,8 @@ private:
     void FinishTestMode();
     void RefuseTestMode();
 
+    Document& document_;
+    ServiceState& service_;
     EntryObserver& observer_;
     int replies_ = 0;
     bool InfoMode = false;

@@ -8,10 +8,9 @@ constexpr int NextTick = 1; // milliseconds
 
 } // namespace
 
-RadioExchange::RadioExchange(Session& session, SerialPort& port, Clock& clock, MessageBoxes& messages,
-                             std::string_view timeoutName, int timeoutMilliseconds)
-    : session_(session), link_(session.Link), port_(session, port), clock_(clock), messages_(messages),
-      ctrTimer_(clock.MakeTimer("ctrTimer")), timeoutTimer_(clock.MakeTimer(timeoutName)),
+RadioExchange::RadioExchange(const RadioLink& link, std::string_view timeoutName, int timeoutMilliseconds)
+    : link_(link.state), port_(link.state, link.port), clock_(link.clock), messages_(link.messages),
+      language_(link.language), ctrTimer_(clock_.MakeTimer("ctrTimer")), timeoutTimer_(clock_.MakeTimer(timeoutName)),
       timeout_(timeoutMilliseconds) {
     ctrTimer_->OnTick = [this] { OnSendTimer(); };
     timeoutTimer_->OnTick = [this] { OnTimeout(); };
@@ -69,7 +68,7 @@ void RadioExchange::OnTimeout() {
 void RadioExchange::Prompt() {
     ctrTimer_->SetEnabled(false);
     deaf_ = true;
-    const bool again = port_.AsksToRetry(messages_);
+    const bool again = port_.AsksToRetry(messages_, language_);
     deaf_ = false;
     awaiting_ = false;
     link_.SentState = NothingSent;

@@ -4,7 +4,8 @@
 #include <memory>
 #include <string_view>
 
-#include "data/Session.h"
+#include "link/LinkState.h"
+#include "link/RadioLink.h"
 #include "link/RadioPort.h"
 #include "platform/Clock.h"
 
@@ -31,8 +32,7 @@ public:
 
 protected:
     /// timeoutName and timeoutMilliseconds are those of the second timer.
-    RadioExchange(Session& session, SerialPort& port, Clock& clock, MessageBoxes& messages,
-                  std::string_view timeoutName, int timeoutMilliseconds);
+    RadioExchange(const RadioLink& link, std::string_view timeoutName, int timeoutMilliseconds);
 
     /// Sends the command of CommState.
     virtual void SendCommand() = 0;
@@ -55,11 +55,11 @@ protected:
     /// The connection prompt comes after so many milliseconds.
     void FailFast(int interval);
 
-    Session& session_;
     LinkState& link_;
     RadioPort port_;
     Clock& clock_;
     MessageBoxes& messages_;
+    Language language_; // of what the user is asked and told
 
 private:
     void Run(Timer& timer, int milliseconds);

@@ -1,5 +1,6 @@
 #include "service/TestEngine.h"
 
+#include "data/Document.h"
 #include "data/TuneItems.h"
 #include "link/CloneFrames.h"
 #include "service/ServiceFrames.h"
@@ -21,16 +22,16 @@ constexpr int LoopStep = 1;
 
 } // namespace
 
-TestEngine::TestEngine(Session& session, SerialPort& port, Clock& clock, MessageBoxes& messages, TestObserver& observer)
-    : CommandExchange(session, port, clock, messages, "tmrOverTime", Timeout), observer_(observer) {}
+TestEngine::TestEngine(Document& document, ServiceState& service, const RadioLink& link, TestObserver& observer)
+    : CommandExchange(link, "tmrOverTime", Timeout), document_(document), service_(service), observer_(observer) {}
 
 void TestEngine::Load() {
     link_.SentState = NothingSent;
     port_.SetUp();
     port_.Close();
-    session_.Service.TestAborted = false;
-    session_.Service.NarrowMode = false;
-    Ask(TestCommandKind::SetChannel, session_.Service.TestChannelNo, LoadInterval);
+    service_.TestAborted = false;
+    service_.NarrowMode = false;
+    Ask(TestCommandKind::SetChannel, service_.TestChannelNo, LoadInterval);
     Ask(TestCommandKind::SetSignalling, signalling_, CommandInterval);
 }
 
@@ -49,7 +50,7 @@ bool TestEngine::Replaces(const RadioCommand& later, const RadioCommand& earlier
 }
 
 void TestEngine::ChooseChannel(int number) {
-    session_.Service.TestChannelNo = number;
+    service_.TestChannelNo = number;
     Ask(TestCommandKind::SetChannel, number, ChannelInterval);
 }
 
@@ -69,14 +70,14 @@ void TestEngine::Tune() {
     if (!IsAwaitingReply()) {
         port_.Clear();
     }
-    Ask(TestCommandKind::Tune, session_.Service.TuneItem, CommandInterval);
+    Ask(TestCommandKind::Tune, service_.TuneItem, CommandInterval);
 }
 
 void TestEngine::Close() {
     if (RefusesCommands()) {
         return;
     }
-    if (!session_.Service.TestAborted) {
+    if (!service_.TestAborted) {
         CloseDone = false;
         CountAskedPttAsKeyed();
         Ask(TestCommandKind::Close, signalling_, CommandInterval);
@@ -123,11 +124,11 @@ void TestEngine::SendFirst() {
         port_.Send({service::ReadTuningData});
         break;
     case TestCommandKind::Wide:
-        session_.Service.NarrowMode = false;
+        service_.NarrowMode = false;
         port_.Send({service::Wide});
         break;
     case TestCommandKind::Narrow:
-        session_.Service.NarrowMode = true;
+        service_.NarrowMode = true;
         port_.Send({service::Narrow});
         break;
     case TestCommandKind::Ptt: // CommandExchange's
@@ -192,7 +193,7 @@ void TestEngine::ReceiveFirst() {
 
 void TestEngine::ReceiveTuningData() {
     const std::vector<std::uint8_t> record = port_.Read(TuningRecordSize);
-    StoreTuningData(record, session_.Image, session_.Service.Values);
+    StoreTuningData(record, document_.Image, service_.Values);
     if (record.size() == TuningRecordSize) {
         Enter(Confirm, CommandInterval);
     } else {
@@ -221,7 +222,7 @@ void TestEngine::ReceiveSelection() {
         FailFast(FailureInterval);
         return;
     }
-    session_.Service.TuneItem = Current().argument;
+    service_.TuneItem = Current().argument;
     Stop();
     ForgetCommands();
     port_.Close();
@@ -233,7 +234,7 @@ void TestEngine::GiveUp() {
     Stop();
     ForgetCommands();
     port_.Close();
-    session_.Service.TestAborted = true;
+    service_.TestAborted = true;
     CloseDone = true;
     observer_.OnUnloadRequested();
 }
@@ -243,7 +244,7 @@ bool TestEngine::EndsAtTimeout() {
         OnReceive(ReceiveReason::DataReceived);
         return true;
     }
-    return session_.Service.TestAborted || CloseDone;
+    return service_.TestAborted || CloseDone;
 }
 
 /// A radio that answers Set channel with one byte never reaches the threshold of its eight.

@@ -3,8 +3,11 @@
 #include <cstdint>
 
 #include "service/CommandExchange.h"
+#include "service/ServiceState.h"
 
 namespace zelvor {
+
+class Document;
 
 /// The kinds of TestEngine's commands.
 enum class TestCommandKind { SetChannel = 1, SetSignalling, Ptt, Tune, Wide, Narrow, Close };
@@ -15,7 +18,7 @@ public:
     virtual ~TestObserver() = default;
     /// The radio has acknowledged that its transmitter is keyed, or everything is idle again.
     virtual void OnLamps(bool transmitting) = 0;
-    /// The radio is ready to tune Session's TuneItem and the port is closed: this dialog is to be disabled and the
+    /// The radio is ready to tune TuneItem and the port is closed: this dialog is to be disabled and the
     /// item's tuning dialog to be opened.
     virtual void OnTuningReady() = 0;
     /// The user has given up at the connection prompt: the dialog is to be closed.
@@ -26,15 +29,15 @@ public:
 /// command of a kind replaces the earlier one; closing replaces all, and tuning is given up for whatever is asked next.
 class TestEngine : public CommandExchange {
 public:
-    TestEngine(Session& session, SerialPort& port, Clock& clock, MessageBoxes& messages, TestObserver& observer);
+    TestEngine(Document& document, ServiceState& service, const RadioLink& link, TestObserver& observer);
 
-    /// The dialog loads, Session's TestChannelNo being chosen: the radio gets channel and signalling 1.
+    /// The dialog loads, TestChannelNo being chosen: the radio gets channel and signalling 1.
     void Load();
 
     void ChooseChannel(int number);    // 1 to 16
     void ChooseSignalling(int number); // 1 to 9
     void ChooseWide(bool wide);
-    /// Starts tuning of Session's TuneItem.
+    /// Starts tuning of TuneItem.
     void Tune();
 
     /// Leaves test mode: keeps the event loop running until the radio has been told, unless the user has given up. The
@@ -62,6 +65,8 @@ private:
     [[nodiscard]] bool EndsAtTimeout() override;
     [[nodiscard]] bool IsShortChannelReply() const;
 
+    Document& document_;
+    ServiceState& service_;
     TestObserver& observer_;
     int signalling_ = 1;    // the last one chosen
     bool CloseDone = false; // ends the wait of Close

@@ -13,6 +13,7 @@
 
 #include "controls/FieldList.h"
 #include "controls/FitToScreen.h"
+#include "data/Document.h"
 #include "data/TuneItems.h"
 #include "platform/Services.h"
 #include "platform/Toolkit.h"
@@ -22,6 +23,7 @@
 #include "service/TestFrame.h"
 #include "service/TuningForm.h"
 #include "service/TuningReport.h"
+#include "text/StringTable.h"
 
 namespace zelvor {
 
@@ -65,9 +67,11 @@ constexpr int DialogPollMilliseconds = 50;
 
 } // namespace
 
-TestForm::TestForm(Session& session, Services& services, QWidget* parent)
-    : QDialog(parent), session_(session), services_(services), port_(services.ports.Make("MSComm1")),
-      engine_(session, *port_, services.clock, services.messages, *this) {
+TestForm::TestForm(Document& document, LinkState& link, ServiceState& service, Language language, Services& services,
+                   QWidget* parent)
+    : QDialog(parent), document_(document), link_(link), service_(service), language_(language), services_(services),
+      port_(services.ports.Make("MSComm1")),
+      engine_(document, service, {link, *port_, services.clock, services.messages, language}, *this) {
     setObjectName("TestForm");
     setWindowTitle(LoadText(Text::TestMode));
     BuildFrames();
@@ -99,7 +103,7 @@ TestForm::TestForm(Session& session, Services& services, QWidget* parent)
 TestForm::~TestForm() = default;
 
 QString TestForm::LoadText(Text name) const {
-    return ToQString(session_.LoadText(name));
+    return ToQString(TableText(language_, name));
 }
 
 void TestForm::BuildFrames() {
@@ -193,7 +197,8 @@ void TestForm::Print() {
     }
     const auto printing = std::make_shared<bool>(true);
     printing_ = printing;
-    PrintTuningReport(session_, services_, [form = QPointer(this), printing] { return form && !form->unloaded_; });
+    PrintTuningReport(document_, service_.Values, language_, services_,
+                      [form = QPointer(this), printing] { return form && !form->unloaded_; });
 }
 
 /// The channels that the radio has told, or none: then a single "1" stands in the list.
@@ -201,13 +206,13 @@ void TestForm::LoadChannels() {
     QStringList numbers;
     int first = 1;
     for (int channel = TestChannelCount; channel >= 1; --channel) {
-        if (IsTestChannelOffered(session_.Service.TestFrequencyText[static_cast<std::size_t>(channel - 1)])) {
+        if (IsTestChannelOffered(service_.TestFrequencyText[static_cast<std::size_t>(channel - 1)])) {
             numbers.prepend(QString::number(channel));
             first = channel;
         }
     }
     offersChannels_ = !numbers.isEmpty();
-    session_.Service.TestChannelNo = first;
+    service_.TestChannelNo = first;
     frmTestChannel_->List().SetEntries(offersChannels_ ? numbers : QStringList("1"));
     frmTestChannel_->List().ShowEntry(0);
     ShowChannel();
@@ -218,8 +223,7 @@ void TestForm::ShowChannel() {
         frmTestChannel_->ShowTexts(NoFrequency, LoadText(Text::None));
         return;
     }
-    const TestFrequencyTexts& texts =
-        session_.Service.TestFrequencyText[static_cast<std::size_t>(session_.Service.TestChannelNo - 1)];
+    const TestFrequencyTexts& texts = service_.TestFrequencyText[static_cast<std::size_t>(service_.TestChannelNo - 1)];
     frmTestChannel_->ShowTexts(ToQString(texts.receive + "MHz"), ToQString(texts.transmit + "MHz"));
 }
 
@@ -248,7 +252,7 @@ void TestForm::OnItemChosen() {
         LvwTuneSel_->currentItem()->setSelected(true);
         return;
     }
-    session_.Service.TuneItem = LvwTuneSel_->row(chosen.front()) + 1;
+    service_.TuneItem = LvwTuneSel_->row(chosen.front()) + 1;
     CmdTune_->setEnabled(true);
 }
 
@@ -270,9 +274,9 @@ void TestForm::OnTuningReady() {
         return;
     }
     tuning_ = true;
-    LvwTuneSel_->setCurrentRow(session_.Service.TuneItem - 1); // whatever was chosen while the radio was asked
+    LvwTuneSel_->setCurrentRow(service_.TuneItem - 1); // whatever was chosen while the radio was asked
     block_.Begin();
-    TuningForm* dialog = MakeTuningForm(session_, services_, this);
+    TuningForm* dialog = MakeTuningForm(document_, link_, service_, language_, services_, this);
     connect(dialog, &TuningForm::Unloaded, this, [this] {
         tuning_ = false;
         block_.End();

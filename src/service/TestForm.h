@@ -4,9 +4,10 @@
 #include <memory>
 
 #include "controls/WindowBlock.h"
-#include "data/Session.h"
 #include "platform/SerialPort.h"
 #include "service/TestEngine.h"
+#include "text/Language.h"
+#include "text/Text.h"
 
 class QHBoxLayout;
 class QListWidget;
@@ -16,6 +17,7 @@ namespace zelvor {
 
 class Lamp;
 class TestFrame;
+class Document;
 struct Services;
 
 /// Test mode: puts the radio on a test channel with a test signalling, keys it, and opens the tuning dialogs. Keeps the
@@ -24,7 +26,8 @@ class TestForm : public QDialog, private TestObserver {
     Q_OBJECT
 
 public:
-    TestForm(Session& session, Services& services, QWidget* parent = nullptr);
+    TestForm(Document& document, LinkState& link, ServiceState& service, Language language, Services& services,
+             QWidget* parent = nullptr);
     ~TestForm() override;
 
     [[nodiscard]] const TestEngine& Engine() const { return engine_; }
@@ -63,7 +66,10 @@ private:
     void OnItemChosen();
     void OnWidthPressed(bool wide);
 
-    Session& session_;
+    Document& document_;
+    LinkState& link_;
+    ServiceState& service_;
+    const Language language_;
     Services& services_;
     std::unique_ptr<SerialPort> port_; // MSComm1
     TestEngine engine_;

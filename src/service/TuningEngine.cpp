@@ -27,14 +27,14 @@ constexpr int Third = 3;
 
 } // namespace
 
-TuningEngine::TuningEngine(Session& session, SerialPort& port, Clock& clock, MessageBoxes& messages, TuningPlan plan,
-                           TuningSource& source, TuningObserver& observer)
-    : CommandExchange(session, port, clock, messages, "tmrOverTime", Timeout), plan_(std::move(plan)), source_(source),
+TuningEngine::TuningEngine(ServiceState& service, const RadioLink& link, TuningPlan plan, TuningSource& source,
+                           TuningObserver& observer)
+    : CommandExchange(link, "tmrOverTime", Timeout), service_(service), plan_(std::move(plan)), source_(source),
       observer_(observer) {}
 
 void TuningEngine::Load() {
     link_.SentState = NothingSent;
-    session_.Service.TestAborted = false;
+    service_.TestAborted = false;
     port_.SetUp();
     port_.Close();
 }
@@ -62,7 +62,7 @@ void TuningEngine::Close(Ending ending) {
     if (RefusesCommands()) {
         return;
     }
-    if (!session_.Service.TestAborted) {
+    if (!service_.TestAborted) {
         Done = false;
         measuring_ = false;
         CountAskedPttAsKeyed();
@@ -254,7 +254,7 @@ void TuningEngine::End() {
 
 void TuningEngine::GiveUp() {
     End();
-    session_.Service.TestAborted = true;
+    service_.TestAborted = true;
     observer_.OnUnloadRequested();
 }
 

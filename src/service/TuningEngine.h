@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "service/CommandExchange.h"
+#include "service/ServiceState.h"
 
 namespace zelvor {
 
@@ -41,8 +42,8 @@ public:
 /// the radio; OK comes behind them, Cancel at once.
 class TuningEngine : public CommandExchange {
 public:
-    TuningEngine(Session& session, SerialPort& port, Clock& clock, MessageBoxes& messages, TuningPlan plan,
-                 TuningSource& source, TuningObserver& observer);
+    TuningEngine(ServiceState& service, const RadioLink& link, TuningPlan plan, TuningSource& source,
+                 TuningObserver& observer);
 
     /// The dialog loads; nothing is sent.
     void Load();
@@ -88,8 +89,9 @@ private:
     void ReceiveEnding();
     void End();
     void GiveUp() override;
-    [[nodiscard]] bool EndsAtTimeout() override { return session_.Service.TestAborted || Done; }
+    [[nodiscard]] bool EndsAtTimeout() override { return service_.TestAborted || Done; }
 
+    ServiceState& service_;
     const TuningPlan plan_;
     TuningSource& source_;
     TuningObserver& observer_;

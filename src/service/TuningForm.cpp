@@ -9,12 +9,14 @@
 #include <QVBoxLayout>
 
 #include "controls/FitToScreen.h"
+#include "data/Document.h"
 #include "platform/Clock.h"
 #include "platform/Services.h"
 #include "platform/Toolkit.h"
 #include "service/Lamp.h"
 #include "service/ServiceControls.h"
 #include "service/TuningPage.h"
+#include "text/StringTable.h"
 
 namespace zelvor {
 
@@ -36,15 +38,17 @@ constexpr int Spacing = 12;
 
 } // namespace
 
-TuningForm* MakeTuningForm(Session& session, Services& services, QWidget* parent) {
-    return new TuningForm(session, services, TuningDialogOf(session.Service.TuneItem, session.Service.NarrowMode),
-                          parent);
+TuningForm* MakeTuningForm(const Document& document, LinkState& link, ServiceState& service, Language language,
+                           Services& services, QWidget* parent) {
+    return new TuningForm(document, link, service, language, services,
+                          TuningDialogOf(service.TuneItem, service.NarrowMode), parent);
 }
 
-TuningForm::TuningForm(Session& session, Services& services, const TuningDialog& dialog, QWidget* parent)
-    : QDialog(parent), session_(session), services_(services), kind_(dialog.kind),
-      frequencies_(FrequencyPointsOf(session.Image)), port_(services.ports.Make("MSComm1")),
-      engine_(session, *port_, services.clock, services.messages, PlanOf(dialog), *this, *this) {
+TuningForm::TuningForm(const Document& document, LinkState& link, ServiceState& service, Language language,
+                       Services& services, const TuningDialog& dialog, QWidget* parent)
+    : QDialog(parent), document_(document), service_(service), language_(language), services_(services),
+      kind_(dialog.kind), frequencies_(FrequencyPointsOf(document.Image)), port_(services.ports.Make("MSComm1")),
+      engine_(service, {link, *port_, services.clock, services.messages, language}, PlanOf(dialog), *this, *this) {
     setObjectName(ToQString(dialog.formName));
     setWindowTitle(LoadText(dialog.caption));
     (new QVBoxLayout(this))->setSpacing(Spacing);
@@ -64,20 +68,20 @@ TuningForm::TuningForm(Session& session, Services& services, const TuningDialog&
 TuningForm::~TuningForm() = default;
 
 QString TuningForm::LoadText(Text name) const {
-    return ToQString(session_.LoadText(name));
+    return ToQString(TableText(language_, name));
 }
 
 /// The first values are those of the tuning record; TestPointCurrent is the item's test value.
 void TuningForm::LoadValues(const TuningDialog& dialog) {
     const TuneItemRow& item = TuneItemOf(dialog.tuneItem);
-    TuneValues& kept = session_.Service.Values;
+    TuneValues& kept = service_.Values;
     if (item.testPoint != nullptr) {
         kept.TestPointCurrent = kept.*item.testPoint;
     }
     std::vector<std::uint8_t> values;
     std::vector<std::int64_t> frequencies;
     for (const TunePoint point : dialog.points) {
-        values.push_back(static_cast<std::uint8_t>(TuneValueOf(item, point, session_.Image, kept)));
+        values.push_back(static_cast<std::uint8_t>(TuneValueOf(item, point, document_.Image, kept)));
         if (kind_ == TuningKind::Points && point != TunePoint::Test && frequencies_) {
             frequencies.push_back(frequencies_->At(point).transmit);
         }
@@ -89,8 +93,7 @@ PointFrequency TuningForm::FrequencyAt(TunePoint point) const {
     if (point != TunePoint::Test && point != TunePoint::Narrow) {
         return frequencies_ ? frequencies_->At(point) : PointFrequency{0, 0};
     }
-    const TestFrequencyTexts& texts =
-        session_.Service.TestFrequencyText[static_cast<std::size_t>(session_.Service.TestChannelNo - 1)];
+    const TestFrequencyTexts& texts = service_.TestFrequencyText[static_cast<std::size_t>(service_.TestChannelNo - 1)];
     return {FrequencyOfText(texts.receive), FrequencyOfText(texts.transmit)};
 }
 
@@ -120,7 +123,7 @@ void TuningForm::AddPage(TunePoint point, int index) {
     const QString name = LoadText(PageNameOf(point));
     auto* page = new TuningPage(index, {LoadText(Text::Rx), LoadText(Text::Tx), FrequencyText(point, false),
                                         FrequencyText(point, true), windowTitle() + u' ' + name,
-                                        ToQString(SteppedTip.In(session_.LanguageFlag))});
+                                        ToQString(SteppedTip.In(language_))});
     SSTabTune_->addTab(page, name);
     pages_.push_back(page);
     connect(page, &TuningPage::SliderMoved, this, [this, index](int value) { Change(index, value, Source::Slider); });
@@ -131,7 +134,7 @@ void TuningForm::AddPage(TunePoint point, int index) {
 void TuningForm::BuildMeasure() {
     txtTuneValue_ = MakeTuneValueBox("txtTuneValue", this);
     txtTuneValue_->setAccessibleName(windowTitle());
-    txtTuneValue_->setToolTip(ToQString(MeasuredTip.In(session_.LanguageFlag)));
+    txtTuneValue_->setToolTip(ToQString(MeasuredTip.In(language_)));
     PrgValue_ = MakeTuneValueBar("PrgValue", this);
     PrgValue_->setMinimumWidth(BarWidth);
     PrgValue_->setAccessibleName(windowTitle());
@@ -260,7 +263,7 @@ void TuningForm::closeEvent(QCloseEvent* event) {
     unloaded_ = true;
     setEnabled(false);
     engine_.Close(ending_);
-    session_.Service.TestAborted = false;
+    service_.TestAborted = false;
     services_.clock.Sleep(ClosedPause);
     deleteLater();
     emit Unloaded();

@@ -5,12 +5,13 @@
 #include <optional>
 #include <vector>
 
-#include "data/Session.h"
 #include "platform/SerialPort.h"
 #include "service/FrequencyPoints.h"
 #include "service/LinkedValues.h"
 #include "service/TuningDialogs.h"
 #include "service/TuningEngine.h"
+#include "text/Language.h"
+#include "text/Text.h"
 
 class QHBoxLayout;
 class QLineEdit;
@@ -22,6 +23,7 @@ namespace zelvor {
 
 class Lamp;
 class TuningPage;
+class Document;
 struct Services;
 
 /// The four tuning dialogs: one design in four sizes. Adjusts one item on the live radio; its values go to the radio
@@ -30,7 +32,8 @@ class TuningForm : public QDialog, private TuningObserver, private TuningSource 
     Q_OBJECT
 
 public:
-    TuningForm(Session& session, Services& services, const TuningDialog& dialog, QWidget* parent = nullptr);
+    TuningForm(const Document& document, LinkState& link, ServiceState& service, Language language, Services& services,
+               const TuningDialog& dialog, QWidget* parent = nullptr);
     ~TuningForm() override;
 
     /// Escape: the same as CmdCancel.
@@ -69,7 +72,9 @@ private:
     void OnPageChanged(int page);
     void EnableSlider(int page);
 
-    Session& session_;
+    const Document& document_;
+    ServiceState& service_;
+    const Language language_;
     Services& services_;
     const TuningKind kind_;
     std::optional<FrequencyPoints> frequencies_;
@@ -86,7 +91,8 @@ private:
     bool unloaded_ = false;
 };
 
-/// The dialog of Session's TuneItem and NarrowMode.
-[[nodiscard]] TuningForm* MakeTuningForm(Session& session, Services& services, QWidget* parent);
+/// The dialog of the service mode's TuneItem and NarrowMode.
+[[nodiscard]] TuningForm* MakeTuningForm(const Document& document, LinkState& link, ServiceState& service,
+                                         Language language, Services& services, QWidget* parent);
 
 } // namespace zelvor

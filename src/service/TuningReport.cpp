@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "data/Session.h"
+#include "data/Document.h"
 #include "platform/Clock.h"
 #include "platform/MessageBoxes.h"
 #include "platform/PageDevice.h"
@@ -85,15 +85,13 @@ std::vector<CellText> BuildTuningReport(const DataImage& image, const TuneValues
 
 namespace {
 
-void PrintPage(Session& session, PageDevice& device) {
-    const Language language = session.LanguageFlag;
+void PrintPage(const Document& document, const TuneValues& values, Language language, PageDevice& device) {
     if (!device.BeginDocument(ReportTitle.In(language))) {
         return;
     }
     const PageGrid grid(device, PageGrid::Units::Exact);
     PrintTitle(device, grid, TitleRow, ReportTitle.In(language));
-    PrintCells(device, grid,
-               BuildTuningReport(session.Image, session.Service.Values, session.CurrentFileName, language),
+    PrintCells(device, grid, BuildTuningReport(document.Image, values, document.FileName(), language),
                grid.PageWidth());
     PrintFoot(device, grid, 1);
     device.EndDocument();
@@ -101,8 +99,8 @@ void PrintPage(Session& session, PageDevice& device) {
 
 } // namespace
 
-void PrintTuningReport(Session& session, Services& services, const std::function<bool()>& isStillWanted) {
-    const Language language = session.LanguageFlag;
+void PrintTuningReport(const Document& document, const TuneValues& values, Language language, Services& services,
+                       const std::function<bool()>& isStillWanted) {
     services.clock.WaitProcessingEvents(QuestionWait);
     if (!isStillWanted()) {
         return;
@@ -115,9 +113,9 @@ void PrintTuningReport(Session& session, Services& services, const std::function
     if (answer != MessageAnswer::Ok) {
         return;
     }
-    services.pages.FindTarget([&session, &services, isStillWanted](const PageTarget& target) {
-        if (isStillWanted() && MayPrintTo(target, services.messages, session.LanguageFlag)) {
-            PrintPage(session, services.pages);
+    services.pages.FindTarget([&document, &values, language, &services, isStillWanted](const PageTarget& target) {
+        if (isStillWanted() && MayPrintTo(target, services.messages, language)) {
+            PrintPage(document, values, language, services.pages);
         }
     });
 }

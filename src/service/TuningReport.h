@@ -11,7 +11,7 @@
 
 namespace zelvor {
 
-class Session;
+class Document;
 struct Services;
 
 /// The texts of the tuning report below its title: head and table, at their cells.
@@ -21,6 +21,7 @@ struct Services;
 /// Prints one page with all tuning data, after a question. A failing printer ends it without a word. The event loop
 /// runs for a moment before the question, and again, behind this call, while the printing system is asked:
 /// isStillWanted tells whether it is to go on then. It is kept as long as the printing is under way.
-void PrintTuningReport(Session& session, Services& services, const std::function<bool()>& isStillWanted);
+void PrintTuningReport(const Document& document, const TuneValues& values, Language language, Services& services,
+                       const std::function<bool()>& isStillWanted);
 
 } // namespace zelvor

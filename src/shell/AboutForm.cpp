@@ -6,9 +6,9 @@
 #include <QPushButton>
 
 #include "controls/FitToScreen.h"
-#include "data/Session.h"
 #include "platform/Toolkit.h"
 #include "shell/Icons.h"
+#include "text/StringTable.h"
 
 namespace zelvor {
 
@@ -31,16 +31,16 @@ constexpr int Margin = 20;
 
 } // namespace
 
-AboutForm::AboutForm(const Session& session, QWidget* parent) : QDialog(parent) {
+AboutForm::AboutForm(Language language, QWidget* parent) : QDialog(parent) {
     setObjectName("AboutForm");
-    setWindowTitle(ToQString(Caption.In(session.LanguageFlag)));
+    setWindowTitle(ToQString(Caption.In(language)));
     setWindowIcon(MakeIcon(IconShape::Application));
 
     auto* picture = new QLabel(this);
     picture->setPixmap(MakeIcon(IconShape::Application).pixmap(QSize(PictureSize, PictureSize), devicePixelRatioF()));
-    auto* lblAbout = new QLabel(ToQString(About.In(session.LanguageFlag)), this);
+    auto* lblAbout = new QLabel(ToQString(About.In(language)), this);
     lblAbout->setObjectName("LblAbout");
-    auto* cmdClose = new QPushButton(ToQString(session.LoadText(Text::CloseButton)), this);
+    auto* cmdClose = new QPushButton(ToQString(TableText(language, Text::CloseButton)), this);
     cmdClose->setObjectName("cmdClose");
     cmdClose->setDefault(true);
     connect(cmdClose, &QPushButton::clicked, this, &QDialog::accept);

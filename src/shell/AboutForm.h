@@ -2,16 +2,16 @@
 
 #include <QDialog>
 
-namespace zelvor {
+#include "text/Language.h"
 
-class Session;
+namespace zelvor {
 
 /// Name, models and version of the program. Shown modally.
 class AboutForm : public QDialog {
     Q_OBJECT
 
 public:
-    explicit AboutForm(const Session& session, QWidget* parent = nullptr);
+    explicit AboutForm(Language language, QWidget* parent = nullptr);
 };
 
 } // namespace zelvor

@@ -2,11 +2,13 @@
 
 #include <array>
 
+#include "channels/ChannelCaption.h"
 #include "channels/ChannelEditForm.h"
 #include "channels/ChannelForm.h"
 #include "channels/EmbedInfoForm.h"
 #include "channels/ScanForm.h"
 #include "channels/TestChannelForm.h"
+#include "data/Document.h"
 #include "features/CorvaneForm.h"
 #include "features/DTMFForm.h"
 #include "features/KeyAssign.h"
@@ -20,11 +22,11 @@ namespace {
 
 template<typename Form>
 ChildForm* Make(const ChildWindowParts& parts) {
-    return new Form(parts.session, parts.services);
+    return new Form(parts.document, parts.windows, parts.services);
 }
 
 ChildForm* MakeGrid(const ChildWindowParts& parts) {
-    auto* grid = new ChannelForm(parts.session, parts.services);
+    auto* grid = new ChannelForm(parts.document, parts.windows, parts.services);
     ChildWindows* children = &parts.children;
     QObject::connect(grid, &ChannelForm::ChannelEditRequested, children, [children] {
         children->OpenChildWindow(ChildWindow::ChannelEdit);
@@ -36,24 +38,24 @@ ChildForm* MakeGrid(const ChildWindowParts& parts) {
                      [children] { children->CloseByUnloading(ChildWindow::ChannelEdit); });
     // A grid that is made again after a cancelled exit must show the document that is there.
     if (parts.isStarted) {
-        parts.session.Channels.DecodeImageToGrid(parts.session.Image, parts.session.LanguageFlag);
+        parts.document.Channels.DecodeImageToGrid(parts.document.Image, parts.windows.LanguageFlag);
     }
     return grid;
 }
 
 ChildForm* MakeNavigator(const ChildWindowParts& parts) {
-    auto* navigator = new TreeViewForm(parts.session, parts.services);
+    auto* navigator = new TreeViewForm(parts.document, parts.windows, parts.services);
     QObject::connect(navigator, &TreeViewForm::WindowChosen, &parts.children, &ChildWindows::OpenChildWindow);
     return navigator;
 }
 
-std::string GridCaption(const Session& session) {
-    return ChannelCaption(session.LanguageFlag, session.Cursor.CurrentChannel());
+std::string GridCaption(const WindowState& windows) {
+    return ChannelCaption(windows.LanguageFlag, windows.Cursor.CurrentChannel());
 }
 
 template<Text Name>
-std::string Caption(const Session& session) {
-    return std::string(session.LoadText(Name));
+std::string Caption(const WindowState& windows) {
+    return std::string(windows.LoadText(Name));
 }
 
 constexpr std::array<ChildWindowRow, ChildWindowCount> Rows{{

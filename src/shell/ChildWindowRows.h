@@ -5,18 +5,20 @@
 #include <string>
 #include <string_view>
 
-#include "data/Session.h"
+#include "controls/WindowState.h"
 #include "text/Text.h"
 
 namespace zelvor {
 
 class ChildForm;
 class ChildWindows;
+class Document;
 struct Services;
 
 /// What child windows are made with.
 struct ChildWindowParts {
-    Session& session;
+    Document& document;
+    WindowState& windows;
     Services& services;
     ChildWindows& children;
     bool isStarted; // the program has its first document and window
@@ -40,12 +42,13 @@ struct ChildWindowRow {
     ChildWindow window{};
     std::optional<EditMenuEntry> menu = {};
     std::optional<NavigatorNode> node = {};
-    std::string (*listCaption)(const Session& session) = nullptr; // as it opens; without, the window is not in the list
-    bool staysOpen = false;                                       // when the document is replaced
+    std::string (*listCaption)(const WindowState& windows) =
+        nullptr;            // as it opens; without, the window is not in the list
+    bool staysOpen = false; // when the document is replaced
     ChildForm* (*make)(const ChildWindowParts& parts) = nullptr;
 };
 
-/// A row for each window, in the order of ChildOpen. That is the order of the window list, of the Edit menu, of the
+/// A row for each window, in the order of ChildWindow. That is the order of the window list, of the Edit menu, of the
 /// navigator's nodes and of unloading, too.
 [[nodiscard]] std::span<const ChildWindowRow> ChildWindowRows();
 

@@ -23,8 +23,8 @@ void SetToNormal(QWidget& frame) {
 
 } // namespace
 
-ChildWindows::ChildWindows(Session& session, QMdiArea& area, WindowList& list, Factory make)
-    : session_(session), area_(area), list_(list), make_(std::move(make)) {
+ChildWindows::ChildWindows(WindowState& windows, QMdiArea& area, WindowList& list, Factory make)
+    : windows_(windows), area_(area), list_(list), make_(std::move(make)) {
     connect(&area, &QMdiArea::subWindowActivated, this, &ChildWindows::OnActivated);
     connect(&list, &WindowList::Chosen, this, &ChildWindows::GoTo);
 }
@@ -70,7 +70,7 @@ ChildForm* ChildWindows::ActiveForm() const {
 
 void ChildWindows::OpenChildWindow(ChildWindow window) {
     list_.SetMenuShown(true);
-    session_.SetOpen(window, true);
+    windows_.SetOpen(window, true);
     if (list_.IsShown(window)) {
         keepMarks_ = true;
         BringToFront(window);
@@ -78,7 +78,7 @@ void ChildWindows::OpenChildWindow(ChildWindow window) {
         return;
     }
     if (window == ChildWindow::Channels) {
-        session_.Cursor.SetCurrentChannel(1);
+        windows_.Cursor.SetCurrentChannel(1);
     }
     ListAsOpened(RowOf(window));
     BringToFront(window);
@@ -86,7 +86,7 @@ void ChildWindows::OpenChildWindow(ChildWindow window) {
 
 void ChildWindows::ListAsOpened(const ChildWindowRow& row) {
     if (row.listCaption != nullptr) {
-        list_.Show(row.window, row.listCaption(session_));
+        list_.Show(row.window, row.listCaption(windows_));
         list_.Mark(row.window);
     }
 }
@@ -97,7 +97,7 @@ void ChildWindows::GoTo(ChildWindow window) {
 }
 
 void ChildWindows::Show(ChildWindow window) {
-    session_.SetOpen(window, true);
+    windows_.SetOpen(window, true);
     if (!IsVisible(window)) {
         BringToFront(window);
     }
@@ -147,7 +147,7 @@ void ChildWindows::Unload(ChildWindow window) {
 }
 
 void ChildWindows::LeaveList(ChildWindow window) {
-    session_.SetOpen(window, false);
+    windows_.SetOpen(window, false);
     list_.Hide(window);
     UpdateWindowMenu();
 }
@@ -164,7 +164,7 @@ void ChildWindows::CloseByUnloading(ChildWindow window) {
 
 void ChildWindows::UnloadEditors() {
     for (const ChildWindowRow& row : ChildWindowRows()) {
-        if (!row.staysOpen && session_.IsOpen(row.window)) {
+        if (!row.staysOpen && windows_.IsOpen(row.window)) {
             CloseByUnloading(row.window);
         }
     }
@@ -187,7 +187,7 @@ void ChildWindows::DropEditors() {
 void ChildWindows::CloseAll() {
     for (const bool isListed : {true, false}) {
         for (const ChildWindowRow& row : ChildWindowRows()) {
-            if ((row.listCaption != nullptr) == isListed && session_.IsOpen(row.window)) {
+            if ((row.listCaption != nullptr) == isListed && windows_.IsOpen(row.window)) {
                 HideFrame(row.window);
                 list_.Hide(row.window);
             }
@@ -197,7 +197,7 @@ void ChildWindows::CloseAll() {
 }
 
 void ChildWindows::UpdateWindowMenu() {
-    if (!session_.IsAnyChildOpen()) {
+    if (!windows_.IsAnyChildOpen()) {
         list_.SetMenuShown(false);
     }
 }

@@ -5,7 +5,7 @@
 #include <array>
 #include <functional>
 
-#include "data/Session.h"
+#include "controls/WindowState.h"
 
 class QMdiArea;
 class QMdiSubWindow;
@@ -19,8 +19,8 @@ struct ChildWindowRow;
 
 enum class Arrangement { Cascade, TileHorizontally, TileVertically, Icons };
 
-/// The child windows: one instance of each, made at first use and hosted in a frame of the area. Keeps ChildOpen, the
-/// window list and the visibility of MnuWindow in step with what is opened, hidden, closed and activated.
+/// The child windows: one instance of each, made at first use and hosted in a frame of the area. Keeps what is open,
+/// the window list and the visibility of MnuWindow in step with what is opened, hidden, closed and activated.
 class ChildWindows : public QObject {
     Q_OBJECT
 
@@ -28,7 +28,7 @@ public:
     /// Makes the form of a row's window.
     using Factory = std::function<ChildForm*(const ChildWindowRow& row)>;
 
-    ChildWindows(Session& session, QMdiArea& area, WindowList& list, Factory make);
+    ChildWindows(WindowState& windows, QMdiArea& area, WindowList& list, Factory make);
 
     /// The window's form, made where it does not exist. Not yet shown where it is new.
     ChildForm& Load(ChildWindow window);
@@ -52,7 +52,7 @@ public:
     void UnloadEditors();
     /// The same for those that are only hidden, too; what is being edited in them is dropped.
     void DropEditors();
-    /// Close All: hides what is open, and clears no ChildOpen entry.
+    /// Close All: hides what is open, and all of it still counts as open.
     void CloseAll();
     /// Hides MnuWindow when nothing is open, the navigator included.
     void UpdateWindowMenu();
@@ -70,7 +70,7 @@ private:
     void LeaveList(ChildWindow window);
     void OnActivated(QMdiSubWindow* frame);
 
-    Session& session_;
+    WindowState& windows_;
     QMdiArea& area_;
     WindowList& list_;
     const Factory make_;

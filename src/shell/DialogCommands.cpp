@@ -3,7 +3,7 @@
 #include <QWidget>
 
 #include "controls/ChildForm.h"
-#include "data/Session.h"
+#include "controls/WindowState.h"
 #include "help/HelpTopic.h"
 #include "help/HelpViewer.h"
 #include "link/ComForm.h"
@@ -20,21 +20,22 @@ constexpr std::string_view FirstPage = "general.htm";
 
 } // namespace
 
-DialogCommands::DialogCommands(Session& session, Services& services, const ChildWindows& children, QWidget& mainWindow)
-    : session_(session), services_(services), children_(children), mainWindow_(mainWindow) {}
+DialogCommands::DialogCommands(const ProgramState& state, Services& services, const ChildWindows& children,
+                               QWidget& mainWindow)
+    : state_(state), services_(services), children_(children), mainWindow_(mainWindow) {}
 
 void DialogCommands::ShowCommunicationPort() {
-    ComForm dialog(session_, services_, &mainWindow_);
+    ComForm dialog(state_.link, state_.windows.LanguageFlag, services_, &mainWindow_);
     connect(&dialog, &ComForm::PortChosen, this, &DialogCommands::PortChosen);
     dialog.exec();
 }
 
 void DialogCommands::ShowPrintList() {
-    frmPrintList(session_, services_, &mainWindow_).exec();
+    frmPrintList(state_.document, state_.windows.LanguageFlag, services_, &mainWindow_).exec();
 }
 
 void DialogCommands::ShowAbout() {
-    AboutForm(session_, &mainWindow_).exec();
+    AboutForm(state_.windows.LanguageFlag, &mainWindow_).exec();
 }
 
 void DialogCommands::ShowHelpTopics() {
@@ -47,7 +48,7 @@ void DialogCommands::ShowHelpOfActiveWindow() {
 }
 
 void DialogCommands::ShowHelpPage(std::string_view page) {
-    services_.help.Show({session_.LanguageFlag, page});
+    services_.help.Show({state_.windows.LanguageFlag, page});
 }
 
 } // namespace zelvor

@@ -3,12 +3,13 @@
 #include <QObject>
 #include <string_view>
 
+#include "shell/ProgramState.h"
+
 class QWidget;
 
 namespace zelvor {
 
 class ChildWindows;
-class Session;
 struct Services;
 
 /// The commands that show a dialog of the main window or a page of the help, and do nothing else.
@@ -16,7 +17,7 @@ class DialogCommands : public QObject {
     Q_OBJECT
 
 public:
-    DialogCommands(Session& session, Services& services, const ChildWindows& children, QWidget& mainWindow);
+    DialogCommands(const ProgramState& state, Services& services, const ChildWindows& children, QWidget& mainWindow);
 
     void ShowCommunicationPort();
     void ShowPrintList();
@@ -33,7 +34,7 @@ signals:
 private:
     void ShowHelpPage(std::string_view page);
 
-    Session& session_;
+    const ProgramState state_;
     Services& services_;
     const ChildWindows& children_;
     QWidget& mainWindow_;

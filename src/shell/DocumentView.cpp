@@ -2,9 +2,10 @@
 
 #include <QWidget>
 
+#include "channels/ChannelCaption.h"
 #include "channels/ChannelForm.h"
+#include "data/Document.h"
 #include "data/ModelCatalogue.h"
-#include "data/Session.h"
 #include "features/CPUForm.h"
 #include "platform/Toolkit.h"
 #include "shell/ChildWindows.h"
@@ -13,9 +14,10 @@
 
 namespace zelvor {
 
-DocumentView::DocumentView(Session& session, Services& services, ChildWindows& children, WindowList& list,
-                           QWidget& mainWindow)
-    : session_(session), services_(services), children_(children), list_(list), mainWindow_(mainWindow) {}
+DocumentView::DocumentView(Document& document, WindowState& windows, Services& services, ChildWindows& children,
+                           WindowList& list, QWidget& mainWindow)
+    : document_(document), windows_(windows), services_(services), children_(children), list_(list),
+      mainWindow_(mainWindow) {}
 
 ChannelForm& DocumentView::Grid() {
     return static_cast<ChannelForm&>(children_.Load(ChildWindow::Channels));
@@ -36,7 +38,7 @@ void DocumentView::ResetGrid() {
 }
 
 void DocumentView::ShowGridIfClosed() {
-    if (!session_.IsOpen(ChildWindow::Channels)) {
+    if (!windows_.IsOpen(ChildWindow::Channels)) {
         ShowGrid();
     }
 }
@@ -46,39 +48,39 @@ void DocumentView::PlaceGrid() {
 }
 
 void DocumentView::DecodeImageToGrid() {
-    session_.Channels.DecodeImageToGrid(session_.Image, session_.LanguageFlag);
+    document_.Channels.DecodeImageToGrid(document_.Image, windows_.LanguageFlag);
 }
 
 void DocumentView::ListNewDocument() {
     list_.SetMenuShown(true);
     // The cursor first: it writes the other form of the caption.
     Grid().SelectFirstCell();
-    list_.Show(ChildWindow::Channels, NewDocumentChannelCaption(session_.LanguageFlag));
+    list_.Show(ChildWindow::Channels, NewDocumentChannelCaption(windows_.LanguageFlag));
 }
 
 void DocumentView::ListGrid() {
     list_.SetMenuShown(true);
     if (!list_.IsShown(ChildWindow::Channels)) {
-        session_.Cursor.SetCurrentChannel(1);
-        list_.Show(ChildWindow::Channels, ChannelCaption(session_.LanguageFlag, session_.Cursor.CurrentChannel()));
+        windows_.Cursor.SetCurrentChannel(1);
+        list_.Show(ChildWindow::Channels, ChannelCaption(windows_.LanguageFlag, windows_.Cursor.CurrentChannel()));
         list_.ClearMark(ChildWindow::Channels);
     }
 }
 
 void DocumentView::ShowTitle() {
-    QString title = ToQString(BuildMainTitle(session_.Image, session_.BaseName(), session_.LanguageFlag));
+    QString title = ToQString(BuildMainTitle(document_.Image, document_.BaseName(), windows_.LanguageFlag));
     // The toolkit's mark for changed documents, where a file is named so.
     title.replace("[*]", "[*][*]");
     mainWindow_.setWindowTitle(title);
 }
 
 void DocumentView::ChooseModel() {
-    ModelTypeForm dialog(session_, services_, &mainWindow_);
+    ModelTypeForm dialog(document_, windows_.LanguageFlag, services_, &mainWindow_);
     dialog.exec();
 }
 
 void DocumentView::EditMemory() {
-    CPUForm(session_, services_, &mainWindow_).exec();
+    CPUForm(document_, windows_.LanguageFlag, services_, &mainWindow_).exec();
 }
 
 void DocumentView::ResetAfterTransfer() {
@@ -87,7 +89,7 @@ void DocumentView::ResetAfterTransfer() {
 }
 
 void DocumentView::MarkGrid() {
-    session_.SetOpen(ChildWindow::Channels, true);
+    windows_.SetOpen(ChildWindow::Channels, true);
     list_.Mark(ChildWindow::Channels);
     ListGrid();
 }

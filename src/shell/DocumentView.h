@@ -8,14 +8,16 @@ namespace zelvor {
 
 class ChannelForm;
 class ChildWindows;
-class Session;
+class Document;
 class WindowList;
+class WindowState;
 struct Services;
 
 /// The windows as the session's commands see them.
 class DocumentView : public DocumentWindows {
 public:
-    DocumentView(Session& session, Services& services, ChildWindows& children, WindowList& list, QWidget& mainWindow);
+    DocumentView(Document& document, WindowState& windows, Services& services, ChildWindows& children, WindowList& list,
+                 QWidget& mainWindow);
 
     void UnloadEditors() override;
     void ResetGrid() override;
@@ -37,7 +39,8 @@ public:
     void ShowGrid();
 
 private:
-    Session& session_;
+    Document& document_;
+    WindowState& windows_;
     Services& services_;
     ChildWindows& children_;
     WindowList& list_;

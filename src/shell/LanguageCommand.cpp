@@ -4,15 +4,17 @@
 #include <QPointer>
 #include <QWidget>
 
+#include "data/Document.h"
 #include "shell/ChildWindows.h"
 #include "shell/DocumentView.h"
 #include "shell/LanguageForm.h"
 
 namespace zelvor {
 
-LanguageCommand::LanguageCommand(Session& session, Services& services, ChildWindows& children, DocumentView& view,
-                                 QWidget& mainWindow)
-    : session_(session), services_(services), children_(children), view_(view), mainWindow_(mainWindow) {}
+LanguageCommand::LanguageCommand(Document& document, WindowState& windows, Services& services, ChildWindows& children,
+                                 DocumentView& view, QWidget& mainWindow)
+    : document_(document), windows_(windows), services_(services), children_(children), view_(view),
+      mainWindow_(mainWindow) {}
 
 void LanguageCommand::Choose() {
     // No control keeps the focus that would commit by losing it in another language than it was filled in. The main
@@ -28,7 +30,7 @@ void LanguageCommand::Choose() {
 }
 
 bool LanguageCommand::AskLanguage() {
-    LanguageForm dialog(session_, services_, &mainWindow_);
+    LanguageForm dialog(windows_, services_, &mainWindow_);
     dialog.exec();
     return dialog.LanguageChanged();
 }
@@ -38,7 +40,7 @@ void LanguageCommand::Switch() {
     view_.PlaceGrid();
     view_.ShowTitle();
     emit Switched();
-    session_.Channels.Translate(session_.Image, session_.LanguageFlag);
+    document_.Channels.Translate(document_.Image, windows_.LanguageFlag);
 }
 
 } // namespace zelvor

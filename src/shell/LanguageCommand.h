@@ -7,8 +7,9 @@ class QWidget;
 namespace zelvor {
 
 class ChildWindows;
+class Document;
 class DocumentView;
-class Session;
+class WindowState;
 struct Services;
 
 /// The choice of the language, and the switch of what is on screen where it has changed: the editors close, and the
@@ -17,8 +18,8 @@ class LanguageCommand : public QObject {
     Q_OBJECT
 
 public:
-    LanguageCommand(Session& session, Services& services, ChildWindows& children, DocumentView& view,
-                    QWidget& mainWindow);
+    LanguageCommand(Document& document, WindowState& windows, Services& services, ChildWindows& children,
+                    DocumentView& view, QWidget& mainWindow);
 
     void Choose();
 
@@ -31,7 +32,8 @@ private:
     [[nodiscard]] bool AskLanguage();
     void Switch();
 
-    Session& session_;
+    Document& document_;
+    WindowState& windows_;
     Services& services_;
     ChildWindows& children_;
     DocumentView& view_;

@@ -8,7 +8,7 @@ class QComboBox;
 
 namespace zelvor {
 
-class Session;
+class WindowState;
 struct Services;
 
 /// Choice of the program's language. Shown modally; OK sets LanguageFlag, and any other end leaves it.
@@ -16,7 +16,7 @@ class LanguageForm : public QDialog {
     Q_OBJECT
 
 public:
-    LanguageForm(Session& session, Services& services, QWidget* parent = nullptr);
+    LanguageForm(WindowState& windows, Services& services, QWidget* parent = nullptr);
 
     void accept() override;
     /// For who shows the dialog: whether there is anything to switch.
@@ -25,7 +25,7 @@ public:
 private:
     void BuildControls();
 
-    Session& session_;
+    WindowState& windows_;
     Services& services_;
     const Language oldLanguage_;
     QComboBox* comLanguage_ = nullptr;

@@ -7,12 +7,15 @@
 #include <algorithm>
 
 #include "controls/PendingEdit.h"
+#include "controls/WindowState.h"
 #include "data/BlankImage.h"
-#include "data/Session.h"
+#include "data/Document.h"
+#include "link/LinkState.h"
 #include "platform/Clock.h"
 #include "platform/LayoutUnits.h"
 #include "platform/ScreenRoom.h"
 #include "platform/Services.h"
+#include "service/ServiceState.h"
 #include "shell/ChildWindowRows.h"
 #include "shell/ChildWindows.h"
 #include "shell/DialogCommands.h"
@@ -40,8 +43,8 @@ constexpr int StatusBarMilliseconds = 1000;
 
 } // namespace
 
-MDIForm1::MDIForm1(Session& session, Services& services)
-    : session_(session), services_(services), menuTree_(MenuTree()), keyCommands_(KeyCommands()) {
+MDIForm1::MDIForm1(const ProgramState& state, Services& services)
+    : state_(state), services_(services), menuTree_(MenuTree()), keyCommands_(KeyCommands()) {
     SetUpWindow();
     RestoreSession();
     isStarted_ = true;
@@ -77,26 +80,27 @@ void MDIForm1::BuildBars(QMdiArea& area) {
     toolbar1_ = new Toolbar1(*this, menuTree_, run);
     statusBar1_ = new StatusBar1(this);
     setStatusBar(statusBar1_);
-    children_ = std::make_unique<ChildWindows>(session_, area, *windowList_, [this](const ChildWindowRow& row) {
-        return row.make({session_, services_, *children_, isStarted_});
+    children_ = std::make_unique<ChildWindows>(state_.windows, area, *windowList_, [this](const ChildWindowRow& row) {
+        return row.make({state_.document, state_.windows, services_, *children_, isStarted_});
     });
 }
 
 void MDIForm1::BuildCommands() {
-    view_ = std::make_unique<DocumentView>(session_, services_, *children_, *windowList_, *this);
-    commands_ = std::make_unique<SessionCommands>(session_, services_, *view_);
-    transfers_ = std::make_unique<TransferCommands>(session_, services_, *view_, *this);
-    service_ = std::make_unique<ServiceCommands>(session_, services_, *this);
+    view_ = std::make_unique<DocumentView>(state_.document, state_.windows, services_, *children_, *windowList_, *this);
+    commands_ = std::make_unique<SessionCommands>(state_.document, state_.windows, services_, *view_);
+    transfers_ = std::make_unique<TransferCommands>(state_, services_, *view_, *this);
+    service_ = std::make_unique<ServiceCommands>(state_, services_, *this);
     connect(service_.get(), &ServiceCommands::InformationRead, this, &MDIForm1::GetDJJInfo);
     // Test mode has no entry of its own in the window list.
     connect(service_.get(), &ServiceCommands::TestModeActivated, this,
             [this] { windowList_->Mark(ChildWindow::TestFrequency); });
     connect(service_.get(), &ServiceCommands::ExchangeTold, statusBar1_, &StatusBar1::ShowExchange);
-    language_ = std::make_unique<LanguageCommand>(session_, services_, *children_, *view_, *this);
+    language_ =
+        std::make_unique<LanguageCommand>(state_.document, state_.windows, services_, *children_, *view_, *this);
     connect(language_.get(), &LanguageCommand::Switched, this, &MDIForm1::ApplyLanguage);
-    dialogs_ = std::make_unique<DialogCommands>(session_, services_, *children_, *this);
+    dialogs_ = std::make_unique<DialogCommands>(state_, services_, *children_, *this);
     connect(dialogs_.get(), &DialogCommands::PortChosen, this,
-            [this] { statusBar1_->ShowPort(session_.CommPortNumber); });
+            [this] { statusBar1_->ShowPort(state_.link.CommPortNumber); });
     program_.emplace(Program{*this, *toolbar1_, *statusBar1_, *commands_, *transfers_, *service_, *language_, *dialogs_,
                              *children_});
 }
@@ -111,23 +115,20 @@ void MDIForm1::ConnectKeys() {
 }
 
 void MDIForm1::RestoreSession() {
-    session_.Priority.SetError(false);
-    session_.OwnIdError = false;
-    session_.TxCodeError = false;
-    session_.ExitConfirmed = false;
-    session_.SaveCancelled = false;
-    session_.Link.SentState = NothingSent;
-    session_.CommPortNumber = 1;
-    statusBar1_->ShowPort(session_.CommPortNumber);
+    state_.document.ClearWriteFlags();
+    state_.windows.ExitConfirmed = false;
+    state_.link.SentState = NothingSent;
+    state_.link.CommPortNumber = 1;
+    statusBar1_->ShowPort(state_.link.CommPortNumber);
     StartClock();
-    RestoreModel(session_, services_.settings);
-    RestoreLanguage(session_, services_.settings);
+    RestoreModel(state_.document.Image, services_.settings);
+    state_.windows.LanguageFlag = RestoreLanguage(services_.settings);
     ApplyLanguage();
-    session_.SetOpen(ChildWindow::Channels, true);
+    state_.windows.SetOpen(ChildWindow::Channels, true);
     view_->ListGrid();
     InitAllFrameData();
-    session_.TakeSnapshot();
-    session_.CurrentFileName = Session::DefaultFileName;
+    state_.document.TakeSnapshot();
+    state_.document.RenameToDefault();
     view_->ShowTitle();
     view_->ShowGrid();
     view_->PlaceGrid();
@@ -146,21 +147,22 @@ void MDIForm1::TileMDIBkgd() {
 }
 
 void MDIForm1::InitAllFrameData() {
-    zelvor::InitAllFrameData(session_.Image);
+    zelvor::InitAllFrameData(state_.document.Image);
 }
 
 void MDIForm1::ApplyMenuCaptions() {
-    menus_->ApplyCaptions(session_);
-    toolbar1_->ApplyToolTips(session_);
+    menus_->ApplyCaptions(state_.windows.LanguageFlag);
+    toolbar1_->ApplyToolTips(state_.windows.LanguageFlag);
 }
 
 void MDIForm1::ApplyLanguage() {
-    toolkitLanguage_.Use(session_.LanguageFlag);
+    toolkitLanguage_.Use(state_.windows.LanguageFlag);
+    service_->UseLanguage();
     ApplyMenuCaptions();
 }
 
 void MDIForm1::GetDJJInfo(const std::string& record) {
-    auto& kept = session_.Service.RadioInfoRecord;
+    auto& kept = state_.service.RadioInfoRecord;
     std::copy_n(record.begin(), std::min(record.size(), kept.size()), kept.begin());
 }
 
@@ -188,7 +190,7 @@ void MDIForm1::closeEvent(QCloseEvent* event) {
         event->ignore();
         return;
     }
-    StoreSettings(session_, services_.settings);
+    StoreSettings(state_.document.Image, state_.windows.LanguageFlag, services_.settings);
     tmrStatusBar_->SetEnabled(false);
     event->accept();
     emit Ended();

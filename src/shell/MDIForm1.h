@@ -8,6 +8,7 @@
 #include "platform/QtLanguage.h"
 #include "shell/Command.h"
 #include "shell/MenuTree.h"
+#include "shell/ProgramState.h"
 
 class QMdiArea;
 
@@ -19,7 +20,6 @@ class DocumentView;
 class LanguageCommand;
 class Menus;
 class ServiceCommands;
-class Session;
 class SessionCommands;
 class StatusBar1;
 class Timer;
@@ -34,9 +34,11 @@ class MDIForm1 : public QMainWindow {
     Q_OBJECT
 
 public:
-    /// Both must outlive the window.
-    MDIForm1(Session& session, Services& services);
+    /// What both refer to must outlive the window.
+    MDIForm1(const ProgramState& state, Services& services);
     ~MDIForm1() override;
+
+    [[nodiscard]] const SessionCommands& DocumentCommands() const { return *commands_; }
 
     /// Tiles the picture of bakGdForm over the client area.
     void TileMDIBkgd();
@@ -64,7 +66,7 @@ private:
     void ApplyLanguage();
     void Run(const Command& command);
 
-    Session& session_;
+    const ProgramState state_;
     Services& services_;
     QtLanguage toolkitLanguage_;
     const std::vector<MenuDescription> menuTree_;

@@ -4,9 +4,9 @@
 #include <QMenu>
 #include <QMenuBar>
 
-#include "data/Session.h"
 #include "platform/Toolkit.h"
 #include "shell/MenuTree.h"
+#include "text/StringTable.h"
 
 namespace zelvor {
 
@@ -47,12 +47,12 @@ void Menus::AddEntry(QMenu& menu, const Command& command, const RunCommand& run)
     QObject::connect(action, &QAction::triggered, &bar_, [run, &command] { run(command); });
 }
 
-void Menus::ApplyCaptions(const Session& session) {
+void Menus::ApplyCaptions(Language language) {
     for (const MenuDescription& description : menus_) {
-        Menu(description.name).setTitle(ToQString(session.LoadText(description.text)));
+        Menu(description.name).setTitle(ToQString(TableText(language, description.text)));
     }
     for (const Command* command : CommandsOf(menus_)) {
-        bar_.findChild<QAction*>(ToQString(command->name))->setText(ToQString(session.LoadText(*command->text)));
+        bar_.findChild<QAction*>(ToQString(command->name))->setText(ToQString(TableText(language, *command->text)));
     }
 }
 

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "shell/Command.h"
+#include "text/Language.h"
 
 class QAction;
 class QMenu;
@@ -11,7 +12,6 @@ class QMenuBar;
 
 namespace zelvor {
 
-class Session;
 struct MenuDescription;
 
 /// The menus of the main window, made of their descriptions: one QMenu and QAction per entry, named as the entry.
@@ -20,8 +20,8 @@ public:
     /// The descriptions must outlive the menus. run: what choosing an entry calls.
     Menus(QMenuBar& bar, std::span<const MenuDescription> menus, const RunCommand& run);
 
-    /// Sets every text but those of separators and of the window list, in the current language.
-    void ApplyCaptions(const Session& session);
+    /// Sets every text but those of separators and of the window list.
+    void ApplyCaptions(Language language);
 
     /// The menu of that control name; it must exist.
     [[nodiscard]] QMenu& Menu(std::string_view name) const;

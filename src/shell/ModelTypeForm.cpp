@@ -8,15 +8,16 @@
 
 #include "controls/DialogButtons.h"
 #include "controls/FitToScreen.h"
+#include "data/Document.h"
 #include "data/MemoryMap.h"
 #include "data/ModelCatalogue.h"
-#include "data/Session.h"
 #include "help/HelpViewer.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Services.h"
 #include "platform/Toolkit.h"
 #include "shell/Icons.h"
 #include "text/CommonTexts.h"
+#include "text/StringTable.h"
 
 namespace zelvor {
 
@@ -43,18 +44,18 @@ QLabel* MakeLabel(QDialog& dialog, const char* name, const QString& text) {
 
 } // namespace
 
-ModelTypeForm::ModelTypeForm(Session& session, Services& services, QWidget* parent)
-    : QDialog(parent), session_(session), services_(services) {
+ModelTypeForm::ModelTypeForm(Document& document, Language language, Services& services, QWidget* parent)
+    : QDialog(parent), document_(document), language_(language), services_(services) {
     setObjectName("ModelTypeForm");
-    setWindowTitle(ToQString(session.LoadText(Text::ModelInformation)));
+    setWindowTitle(ToQString(TableText(language, Text::ModelInformation)));
     setWindowIcon(MakeIcon(IconShape::Application));
     BuildControls();
     SelectVariantOfImage();
 }
 
 void ModelTypeForm::BuildControls() {
-    const QString model = ToQString(session_.LoadText(Text::ModelType));
-    const QString frequency = ToQString(session_.LoadText(Text::Frequency));
+    const QString model = ToQString(TableText(language_, Text::ModelType));
+    const QString frequency = ToQString(TableText(language_, Text::Frequency));
     cboModelType_ = MakeList(*this, "cboModelType", model);
     cboFreq_ = MakeList(*this, "cboFreq", frequency);
     for (const std::string_view entry : ModelEntries()) {
@@ -65,11 +66,11 @@ void ModelTypeForm::BuildControls() {
     connect(cboModelType_, &QComboBox::activated, this, &ModelTypeForm::FillRanges);
     connect(cboModelType_, &QComboBox::currentIndexChanged, this, &ModelTypeForm::FillRanges);
 
-    const DialogButtons buttons = MakeDialogButtons(*this, session_);
+    const DialogButtons buttons = MakeDialogButtons(*this, language_);
     connect(buttons.cmdOK, &QPushButton::clicked, this, &ModelTypeForm::TakeChoice);
     connect(buttons.cmdCancel, &QPushButton::clicked, this, &ModelTypeForm::reject);
     connect(buttons.cmdHelp, &QPushButton::clicked, this, [this] {
-        services_.help.Show({session_.LanguageFlag, "modelinfo.htm"});
+        services_.help.Show({language_, "modelinfo.htm"});
     });
 
     auto* layout = new QFormLayout(this);
@@ -80,7 +81,7 @@ void ModelTypeForm::BuildControls() {
 }
 
 void ModelTypeForm::SelectVariantOfImage() {
-    const ModelVariant* variant = FindVariant(session_.Image.At(address::Family), session_.Image.At(address::Market));
+    const ModelVariant* variant = FindVariant(document_.Image.At(address::Family), document_.Image.At(address::Market));
     if (variant != nullptr) {
         cboModelType_->setCurrentIndex(variant->modelIndex);
         // Market C7 has no entry: nothing is selected.
@@ -118,9 +119,8 @@ void ModelTypeForm::TakeChoice() {
 }
 
 bool ModelTypeForm::ConfirmClearing() {
-    const Language language = session_.LanguageFlag;
-    return services_.messages.Show({std::string(commontexts::Warning.In(language)),
-                                    std::string(ClearedText.In(language)), MessageIcon::Exclamation,
+    return services_.messages.Show({std::string(commontexts::Warning.In(language_)),
+                                    std::string(ClearedText.In(language_)), MessageIcon::Exclamation,
                                     MessageButtons::OkCancel, MessageAnswer::Cancel}) == MessageAnswer::Ok;
 }
 
@@ -128,19 +128,19 @@ void ModelTypeForm::StoreVariant() {
     const auto ranges = RangeEntries(cboModelType_->currentIndex());
     const auto range = static_cast<std::size_t>(cboFreq_->currentIndex());
     if (range < ranges.size()) {
-        session_.Image.Set(address::Market, ranges[range].market);
+        document_.Image.Set(address::Market, ranges[range].market);
     }
     // The seventh character is the band's first letter in every entry, so the family never changes here: the dialog
     // chooses the market only. Intended.
     switch (cboModelType_->currentText().at(6).toLatin1()) {
     case '3':
-        session_.Image.Set(address::Family, Family4613);
+        document_.Image.Set(address::Family, Family4613);
         break;
     case '7':
-        session_.Image.Set(address::Family, Family4617);
+        document_.Image.Set(address::Family, Family4617);
         break;
     case '8':
-        session_.Image.Set(address::Family, Family4618);
+        document_.Image.Set(address::Family, Family4618);
         break;
     }
 }

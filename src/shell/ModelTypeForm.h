@@ -2,12 +2,14 @@
 
 #include <QDialog>
 
+#include "text/Language.h"
+
 class QComboBox;
 class QLayout;
 
 namespace zelvor {
 
-class Session;
+class Document;
 struct Services;
 
 /// Choice of the document's variant. Shown modally; OK changes the market byte of the image and nothing else:
@@ -16,7 +18,7 @@ class ModelTypeForm : public QDialog {
     Q_OBJECT
 
 public:
-    ModelTypeForm(Session& session, Services& services, QWidget* parent = nullptr);
+    ModelTypeForm(Document& document, Language language, Services& services, QWidget* parent = nullptr);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -29,7 +31,8 @@ private:
     [[nodiscard]] bool ConfirmClearing();
     void StoreVariant();
 
-    Session& session_;
+    Document& document_;
+    const Language language_;
     Services& services_;
     QComboBox* cboModelType_ = nullptr;
     QComboBox* cboFreq_ = nullptr;

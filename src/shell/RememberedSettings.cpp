@@ -1,8 +1,8 @@
 #include "shell/RememberedSettings.h"
 
+#include "data/DataImage.h"
 #include "data/MemoryMap.h"
 #include "data/ModelCatalogue.h"
-#include "data/Session.h"
 #include "platform/SettingsStore.h"
 #include "text/Decimal.h"
 
@@ -18,7 +18,7 @@ void CreateIfMissing(SettingsStore& settings) {
 
 } // namespace
 
-void RestoreModel(Session& session, SettingsStore& settings) {
+void RestoreModel(DataImage& image, SettingsStore& settings) {
     FamilyAndMarket model{DefaultIdentity[6], DefaultIdentity[5]};
     if (settings.Exists()) {
         model = ParseIdentityText(settings.Read(LastModelEntry)).value_or(model);
@@ -26,24 +26,24 @@ void RestoreModel(Session& session, SettingsStore& settings) {
         settings.Create();
         settings.Write(LastModelEntry, IdentityToText(DefaultIdentity));
     }
-    session.Image.Set(address::Market, model.market);
-    session.Image.Set(address::Family, model.family);
+    image.Set(address::Market, model.market);
+    image.Set(address::Family, model.family);
 }
 
-void RestoreLanguage(Session& session, SettingsStore& settings) {
+Language RestoreLanguage(SettingsStore& settings) {
     if (!settings.Exists()) {
         settings.Create();
         settings.Write(LanguageEntry, "0");
     }
     const bool isChinese = !Decimal::Leading(settings.Read(LanguageEntry)).IsZero();
-    session.LanguageFlag = isChinese ? Language::Chinese : Language::English;
+    return isChinese ? Language::Chinese : Language::English;
 }
 
-void StoreSettings(const Session& session, SettingsStore& settings) {
+void StoreSettings(const DataImage& image, Language language, SettingsStore& settings) {
     CreateIfMissing(settings);
-    settings.Write(LastModelEntry, IdentityToText(IdentityOf(session.Image)));
+    settings.Write(LastModelEntry, IdentityToText(IdentityOf(image)));
     CreateIfMissing(settings);
-    settings.Write(LanguageEntry, session.LanguageFlag == Language::Chinese ? "1" : "0");
+    settings.Write(LanguageEntry, language == Language::Chinese ? "1" : "0");
 }
 
 } // namespace zelvor

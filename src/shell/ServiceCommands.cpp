@@ -4,6 +4,7 @@
 #include <QWidget>
 #include <utility>
 
+#include "controls/WindowState.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Services.h"
 #include "platform/Toolkit.h"
@@ -43,8 +44,8 @@ const TaskTexts& TextsOf(RadioTask task) {
 
 } // namespace
 
-ServiceCommands::ServiceCommands(Session& session, Services& services, QWidget& mainWindow)
-    : session_(session), services_(services), mainWindow_(mainWindow), block_(mainWindow),
+ServiceCommands::ServiceCommands(const ProgramState& state, Services& services, QWidget& mainWindow)
+    : state_(state), services_(services), mainWindow_(mainWindow), block_(mainWindow),
       notice_(services.clock.MakeTimer("tmrNotice")) {
     dialogPoll_.setSingleShot(true);
     dialogPoll_.setInterval(DialogPoll);
@@ -74,7 +75,7 @@ void ServiceCommands::EndForAnother() {
     }
     engine_->Abort();
     dialogPoll_.stop();
-    Say(ToQString(TextsOf(std::exchange(task_, RadioTask::None)).ended.In(session_.LanguageFlag)));
+    Say(ToQString(TextsOf(std::exchange(task_, RadioTask::None)).ended.In(CurrentLanguage())));
     notice_->SetEnabled(true);
 }
 
@@ -87,10 +88,20 @@ void ServiceCommands::Say(const QString& text) {
 EntryEngine& ServiceCommands::Engine() {
     if (!engine_) {
         port_ = services_.ports.Make("MSComm1");
-        engine_ =
-            std::unique_ptr<EntryEngine>(new EntryEngine(session_, *port_, services_.clock, services_.messages, *this));
+        const RadioLink link{state_.link, *port_, services_.clock, services_.messages, CurrentLanguage()};
+        engine_ = std::unique_ptr<EntryEngine>(new EntryEngine(state_.document, state_.service, link, *this));
     }
     return *engine_;
+}
+
+void ServiceCommands::UseLanguage() {
+    if (engine_) {
+        engine_->SetLanguage(CurrentLanguage());
+    }
+}
+
+Language ServiceCommands::CurrentLanguage() const {
+    return state_.windows.LanguageFlag;
 }
 
 void ServiceCommands::OnInformation(const std::string& record) {
@@ -113,7 +124,7 @@ void ServiceCommands::OnTestModeReady() {
 }
 
 void ServiceCommands::OnProgress(int replies, int all) {
-    const std::string_view text = TextsOf(task_).running.In(session_.LanguageFlag);
+    const std::string_view text = TextsOf(task_).running.In(CurrentLanguage());
     Say(ToQString(text) + QStringLiteral("%1 %").arg(replies * Percent / all));
 }
 
@@ -136,10 +147,11 @@ void ServiceCommands::ShowWindowWhenNoDialogIsUp() {
 void ServiceCommands::ShowWindow(RadioTask task) {
     openTask_ = task;
     if (task == RadioTask::Information) {
-        ShowOver(new DJJInfoForm(session_, services_, &mainWindow_));
+        ShowOver(new DJJInfoForm(state_.document, state_.service, CurrentLanguage(), services_, &mainWindow_));
         return;
     }
-    auto* window = new TestForm(session_, services_, &mainWindow_);
+    auto* window =
+        new TestForm(state_.document, state_.link, state_.service, CurrentLanguage(), services_, &mainWindow_);
     connect(window, &TestForm::Activated, this, &ServiceCommands::TestModeActivated);
     ShowOver(window);
 }
@@ -159,7 +171,7 @@ bool ServiceCommands::KeepsProgramOpen() {
     if (!open_) {
         return false;
     }
-    const Language language = session_.LanguageFlag;
+    const Language language = CurrentLanguage();
     services_.messages.Show({.title = std::string(commontexts::Warning.In(language)),
                              .text = std::string(TextsOf(openTask_).open.In(language)),
                              .icon = MessageIcon::Exclamation,

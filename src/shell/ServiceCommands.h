@@ -11,6 +11,7 @@
 #include "platform/Clock.h"
 #include "platform/SerialPort.h"
 #include "service/EntryEngine.h"
+#include "shell/ProgramState.h"
 
 class QWidget;
 
@@ -26,7 +27,7 @@ class ServiceCommands : public QObject, private EntryObserver {
     Q_OBJECT
 
 public:
-    ServiceCommands(Session& session, Services& services, QWidget& mainWindow);
+    ServiceCommands(const ProgramState& state, Services& services, QWidget& mainWindow);
     ~ServiceCommands() override;
 
     /// An exchange for the same that is under way goes on; one for the other is ended.
@@ -35,6 +36,9 @@ public:
     /// For a command that replaces the document or wants the port: ends what is under way, so that its window does not
     /// open on another document, and says so.
     void EndForAnother();
+
+    /// The user has chosen another language: what is still to be asked and told is in that.
+    void UseLanguage();
 
     /// For the end of the program: refused, and said why, while a window of these commands is open.
     [[nodiscard]] bool KeepsProgramOpen();
@@ -56,6 +60,7 @@ private:
     void OnProgress(int replies, int all) override;
     void OnExchangeEnded() override;
 
+    [[nodiscard]] Language CurrentLanguage() const;
     [[nodiscard]] EntryEngine& Engine();
     void Say(const QString& text);
     void ShowWindowWhenNoDialogIsUp();
@@ -64,7 +69,7 @@ private:
     template<typename Window>
     void ShowOver(Window* window);
 
-    Session& session_;
+    const ProgramState state_;
     Services& services_;
     QWidget& mainWindow_;
     WindowBlock block_;

@@ -5,9 +5,10 @@
 #include <system_error>
 #include <utility>
 
+#include "controls/WindowState.h"
 #include "data/BlankImage.h"
+#include "data/Document.h"
 #include "data/MemoryMap.h"
-#include "data/Session.h"
 #include "platform/DataFiles.h"
 #include "platform/FileDialogs.h"
 #include "platform/MessageBoxes.h"
@@ -38,27 +39,27 @@ std::optional<std::string> ProcessDirectory() {
     return error ? std::nullopt : std::optional(std::string(directory.begin(), directory.end()));
 }
 
-std::pair<std::uint8_t, std::uint8_t> ModelOf(const Session& session) {
-    return {session.Image.At(address::Market), session.Image.At(address::Family)};
+std::pair<std::uint8_t, std::uint8_t> ModelOf(const DataImage& image) {
+    return {image.At(address::Market), image.At(address::Family)};
 }
 
 /// A document with its own fleet and ID, or without Corvane PTT ID, removes the pending complaint about them.
-void ReviewOwnIdError(Session& session) {
-    const int fleet = session.Image.At(address::CorvaneOwnFleet);
-    const int id = session.Image.At(address::CorvaneOwnId);
-    const int pttIdType = session.Image.At(address::PttIdType);
+void ReviewOwnIdError(Document& document) {
+    const int fleet = document.Image.At(address::CorvaneOwnFleet);
+    const int id = document.Image.At(address::CorvaneOwnId);
+    const int pttIdType = document.Image.At(address::PttIdType);
     if ((fleet != 0 && fleet != 0xFF && id < 0xFF) || pttIdType != 1) {
-        session.OwnIdError = false;
+        document.Flags.OwnIdError = false;
     }
 }
 
 } // namespace
 
-SessionCommands::SessionCommands(Session& session, Services& services, DocumentWindows& windows)
-    : session_(session), services_(services), windows_(windows) {}
+SessionCommands::SessionCommands(Document& document, WindowState& windows, Services& services, DocumentWindows& view)
+    : document_(document), windows_(windows), services_(services), view_(view) {}
 
 void SessionCommands::New() {
-    const Language language = session_.LanguageFlag;
+    const Language language = windows_.LanguageFlag;
     const MessageAnswer answer =
         services_.messages.Show({std::string(commontexts::Warning.In(language)), std::string(ClearedText.In(language)),
                                  MessageIcon::Exclamation, MessageButtons::OkCancel, MessageAnswer::Cancel});
@@ -66,17 +67,16 @@ void SessionCommands::New() {
         return;
     }
     ResetWindows();
-    InitAllFrameData(session_.Image);
-    session_.TakeSnapshot();
-    windows_.DecodeImageToGrid();
+    InitAllFrameData(document_.Image);
+    document_.TakeSnapshot();
+    view_.DecodeImageToGrid();
     BecomeDefaultDocument();
-    windows_.ListNewDocument();
+    view_.ListNewDocument();
 }
 
 void SessionCommands::Open() {
-    const Language language = session_.LanguageFlag;
-    const auto name =
-        services_.files.Open({std::string(), std::string(FileFilter.In(language)), session_.CurrentDirectory});
+    const Language language = windows_.LanguageFlag;
+    const auto name = services_.files.Open({std::string(), std::string(FileFilter.In(language)), CurrentDirectory});
     if (!name) {
         return;
     }
@@ -90,121 +90,120 @@ void SessionCommands::Open() {
     if (file.error != DataFileError::None) {
         return;
     }
-    session_.Image = file.image;
-    session_.CurrentDirectory = ProcessDirectory().value_or(session_.CurrentDirectory);
-    ReviewOwnIdError(session_);
-    session_.TakeSnapshot();
-    windows_.DecodeImageToGrid();
-    session_.CurrentFileName = *name;
-    windows_.ShowTitle();
-    windows_.ListNewDocument();
+    document_.Image = file.image;
+    CurrentDirectory = ProcessDirectory().value_or(CurrentDirectory);
+    ReviewOwnIdError(document_);
+    document_.TakeSnapshot();
+    view_.DecodeImageToGrid();
+    document_.Rename(*name);
+    view_.ShowTitle();
+    view_.ListNewDocument();
 }
 
 void SessionCommands::Save() {
-    if (session_.HasFile()) {
+    if (document_.HasFile()) {
         if (ConfirmOverwrite()) {
             WriteFile();
         }
         return;
     }
-    const auto name =
-        services_.files.Save({std::string(Session::DefaultFileName), std::string(FileFilter.In(session_.LanguageFlag)),
-                              session_.CurrentDirectory});
+    const auto name = services_.files.Save(
+        {std::string(Document::DefaultFileName), std::string(FileFilter.In(windows_.LanguageFlag)), CurrentDirectory});
     if (name) {
-        session_.CurrentFileName = *name;
+        document_.Rename(*name);
         WriteFile();
     }
 }
 
 bool SessionCommands::ConfirmOverwrite() {
-    const Language language = session_.LanguageFlag;
+    const Language language = windows_.LanguageFlag;
     return services_.messages.Show({std::string(commontexts::Warning.In(language)),
-                                    std::string(OverwriteText.In(language)) + session_.BaseName(),
+                                    std::string(OverwriteText.In(language)) + document_.BaseName(),
                                     MessageIcon::Exclamation, MessageButtons::OkCancel, MessageAnswer::Cancel}) ==
            MessageAnswer::Ok;
 }
 
 void SessionCommands::SaveAs() {
     const auto name = services_.files.Save(
-        {session_.CurrentFileName, std::string(FileFilter.In(session_.LanguageFlag)), session_.CurrentDirectory});
+        {document_.FileName(), std::string(FileFilter.In(windows_.LanguageFlag)), CurrentDirectory});
     if (!name) {
-        session_.SaveCancelled = true;
+        SaveCancelled = true;
         return;
     }
-    session_.CurrentFileName = *name;
-    session_.CurrentDirectory = ProcessDirectory().value_or(session_.CurrentDirectory);
+    document_.Rename(*name);
+    CurrentDirectory = ProcessDirectory().value_or(CurrentDirectory);
     // A document that could not be written must not be lost by the exit that asked for it.
-    session_.SaveCancelled = !WriteFile();
+    SaveCancelled = !WriteFile();
 }
 
 bool SessionCommands::WriteFile() {
-    if (!WriteDataFile(services_.store, session_.CurrentFileName, session_.Image)) {
+    if (!WriteDataFile(services_.store, document_.FileName(), document_.Image)) {
         return false;
     }
-    session_.TakeSnapshot();
-    windows_.ShowTitle();
+    document_.TakeSnapshot();
+    view_.ShowTitle();
     return true;
 }
 
 void SessionCommands::ChangeModel() {
-    const auto before = ModelOf(session_);
-    windows_.ChooseModel();
-    if (ModelOf(session_) != before) {
-        InitAllFrameData(session_.Image);
-        session_.TakeSnapshot();
-        windows_.UnloadEditors();
-        windows_.ShowGridIfClosed();
-        windows_.PlaceGrid();
-        windows_.DecodeImageToGrid();
+    const auto before = ModelOf(document_.Image);
+    view_.ChooseModel();
+    if (ModelOf(document_.Image) != before) {
+        InitAllFrameData(document_.Image);
+        document_.TakeSnapshot();
+        view_.UnloadEditors();
+        view_.ShowGridIfClosed();
+        view_.PlaceGrid();
+        view_.DecodeImageToGrid();
         BecomeDefaultDocument();
     }
-    windows_.ListGrid();
+    view_.ListGrid();
 }
 
 void SessionCommands::EditMemoryMap() {
-    const auto before = ModelOf(session_);
+    const auto before = ModelOf(document_.Image);
     // Before the dialog shows: no window may write into the image behind it.
-    windows_.UnloadEditors();
-    windows_.PlaceGrid();
-    windows_.EditMemory();
-    if (ModelOf(session_) != before) {
-        InitAllFrameData(session_.Image);
-        session_.TakeSnapshot();
-        windows_.DecodeImageToGrid();
+    view_.UnloadEditors();
+    view_.PlaceGrid();
+    view_.EditMemory();
+    if (ModelOf(document_.Image) != before) {
+        InitAllFrameData(document_.Image);
+        document_.TakeSnapshot();
+        view_.DecodeImageToGrid();
         BecomeDefaultDocument();
     }
 }
 
 void SessionCommands::ResetWindows() {
-    windows_.UnloadEditors();
-    windows_.ResetGrid();
+    view_.UnloadEditors();
+    view_.ResetGrid();
 }
 
 void SessionCommands::BecomeDefaultDocument() {
-    session_.CurrentFileName = Session::DefaultFileName;
-    windows_.ShowTitle();
+    document_.RenameToDefault();
+    view_.ShowTitle();
 }
 
 bool SessionCommands::QueryExit() {
-    const Language language = session_.LanguageFlag;
+    const Language language = windows_.LanguageFlag;
     const MessageAnswer answer =
         services_.messages.Show({std::string(ConfirmationTitle.In(language)), std::string(ExitText.In(language)),
                                  MessageIcon::Question, MessageButtons::YesNo, MessageAnswer::Yes});
     if (answer != MessageAnswer::Yes) {
         return false;
     }
-    session_.ExitConfirmed = true;
-    return !session_.IsDocumentChanged() || SaveBeforeExit();
+    windows_.ExitConfirmed = true;
+    return !document_.IsChanged() || SaveBeforeExit();
 }
 
 bool SessionCommands::SaveBeforeExit() {
-    const Language language = session_.LanguageFlag;
+    const Language language = windows_.LanguageFlag;
     const MessageAnswer answer =
         services_.messages.Show({std::string(ChangedTitle.In(language)), std::string(ChangedText.In(language)),
                                  MessageIcon::Exclamation, MessageButtons::YesNoCancel, MessageAnswer::Yes});
     if (answer == MessageAnswer::Yes) {
         SaveAs();
-        return !session_.SaveCancelled;
+        return !SaveCancelled;
     }
     return answer == MessageAnswer::No;
 }

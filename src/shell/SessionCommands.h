@@ -4,15 +4,16 @@
 
 namespace zelvor {
 
+class Document;
 class DocumentWindows;
-class Session;
+class WindowState;
 struct Services;
 
 /// The commands on the document: what the File and Model menus do, and the question at the end. A failing file
 /// operation is silent and leaves image and snapshot as they were.
 class SessionCommands {
 public:
-    SessionCommands(Session& session, Services& services, DocumentWindows& windows);
+    SessionCommands(Document& document, WindowState& windows, Services& services, DocumentWindows& view);
 
     void New();
     void Open();
@@ -24,6 +25,11 @@ public:
     /// The exit question, and the offer to save a changed document. Returns whether the program may end.
     [[nodiscard]] bool QueryExit();
 
+    /// For the file dialogs: empty until an Open or a Save As.
+    [[nodiscard]] const std::string& LastDirectory() const { return CurrentDirectory; }
+    /// Whether the last Save As was cancelled or failed.
+    [[nodiscard]] bool IsSaveCancelled() const { return SaveCancelled; }
+
 private:
     void ResetWindows();
     void BecomeDefaultDocument();
@@ -31,9 +37,12 @@ private:
     bool WriteFile();
     [[nodiscard]] bool SaveBeforeExit();
 
-    Session& session_;
+    Document& document_;
+    WindowState& windows_;
     Services& services_;
-    DocumentWindows& windows_;
+    DocumentWindows& view_;
+    std::string CurrentDirectory;
+    bool SaveCancelled = false;
 };
 
 } // namespace zelvor

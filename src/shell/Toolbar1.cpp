@@ -8,12 +8,12 @@
 #include <QToolButton>
 #include <optional>
 
-#include "data/Session.h"
 #include "platform/LayoutUnits.h"
 #include "platform/Toolkit.h"
 #include "shell/Icons.h"
 #include "shell/MenuTree.h"
 #include "shell/ToolbarGrip.h"
+#include "text/StringTable.h"
 
 namespace zelvor {
 
@@ -72,9 +72,9 @@ void Toolbar1::AddButton(const Command& command, const RunCommand& run) {
     toolTips_.emplace_back(action, button.toolTip);
 }
 
-void Toolbar1::ApplyToolTips(const Session& session) {
+void Toolbar1::ApplyToolTips(Language language) {
     for (const auto& [action, text] : toolTips_) {
-        const QString toolTip = ToQString(session.LoadText(text));
+        const QString toolTip = ToQString(TableText(language, text));
         action->setText(toolTip);
         action->setToolTip(toolTip);
         widgetForAction(action)->setAccessibleName(toolTip);

@@ -9,13 +9,13 @@
 
 #include "shell/Command.h"
 #include "shell/DockingRule.h"
+#include "text/Language.h"
 
 class QMainWindow;
 class QRubberBand;
 
 namespace zelvor {
 
-class Session;
 struct MenuDescription;
 
 /// The toolbar: the buttons that commands of the menus have, Toolbar1(1), (2) and so on; gaps in the numbers are
@@ -28,7 +28,7 @@ public:
     /// The menus must outlive the toolbar. run: what a click on a button calls.
     Toolbar1(QMainWindow& mainWindow, std::span<const MenuDescription> menus, const RunCommand& run);
 
-    void ApplyToolTips(const Session& session);
+    void ApplyToolTips(Language language);
 
     [[nodiscard]] ToolbarAlignment Alignment() const { return alignment_; }
     /// A drop at that point of the main window's client area, in logical pixels.

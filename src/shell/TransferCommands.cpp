@@ -2,7 +2,8 @@
 
 #include <QObject>
 
-#include "data/Session.h"
+#include "controls/WindowState.h"
+#include "data/Document.h"
 #include "link/ConnectForm.h"
 #include "link/PreWriteChecks.h"
 #include "platform/MessageBoxes.h"
@@ -11,15 +12,16 @@
 
 namespace zelvor {
 
-TransferCommands::TransferCommands(Session& session, Services& services, DocumentView& view, QWidget& mainWindow)
-    : session_(session), services_(services), view_(view), mainWindow_(mainWindow) {}
+TransferCommands::TransferCommands(const ProgramState& state, Services& services, DocumentView& view,
+                                   QWidget& mainWindow)
+    : state_(state), services_(services), view_(view), mainWindow_(mainWindow) {}
 
 void TransferCommands::Read() {
     ShowTransfer(false);
 }
 
 void TransferCommands::Write() {
-    if (const auto complaint = CheckBeforeWrite(session_)) {
+    if (const auto complaint = CheckBeforeWrite(state_.document, state_.windows.LanguageFlag)) {
         services_.messages.Show(*complaint);
         return;
     }
@@ -27,11 +29,11 @@ void TransferCommands::Write() {
 }
 
 void TransferCommands::ShowTransfer(bool isWrite) {
-    ConnectForm dialog(session_, services_, isWrite ? TransferDirection::Write : TransferDirection::Read, &mainWindow_);
+    ConnectForm dialog(state_.document, state_.link, state_.windows.LanguageFlag, services_,
+                       isWrite ? TransferDirection::Write : TransferDirection::Read, &mainWindow_);
     QObject::connect(&dialog, &ConnectForm::ReadCompleted, &dialog, [this] {
         // What the editors complained of was in the document before.
-        session_.OwnIdError = false;
-        session_.TxCodeError = false;
+        state_.document.Flags.Clear();
         view_.DecodeImageToGrid();
         view_.ShowTitle();
     });

@@ -1,17 +1,18 @@
 #pragma once
 
+#include "shell/ProgramState.h"
+
 class QWidget;
 
 namespace zelvor {
 
 class DocumentView;
-class Session;
 struct Services;
 
 /// Read from Radio and Write to Radio.
 class TransferCommands {
 public:
-    TransferCommands(Session& session, Services& services, DocumentView& view, QWidget& mainWindow);
+    TransferCommands(const ProgramState& state, Services& services, DocumentView& view, QWidget& mainWindow);
 
     void Read();
     /// Refused with a message box while an editor's setting is incorrect.
@@ -20,7 +21,7 @@ public:
 private:
     void ShowTransfer(bool isWrite);
 
-    Session& session_;
+    const ProgramState state_;
     Services& services_;
     DocumentView& view_;
     QWidget& mainWindow_;

@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QTreeWidget>
 
+#include "data/Document.h"
 #include "data/MemoryMap.h"
 #include "data/ModelCatalogue.h"
 #include "help/HelpViewer.h"
@@ -33,9 +34,10 @@ constexpr int TreeWidth = FormTwips.width() / TwipsPerPixel - 2 * Margin;
 
 } // namespace
 
-TreeViewForm::TreeViewForm(const Session& session, Services& services, QWidget* parent)
-    : ChildForm(ChildWindow::Navigator, "TreeViewForm", FormTwips, parent), session_(session), services_(services) {
-    SetCaption(ToQString(session.LoadText(Text::TreeView)));
+TreeViewForm::TreeViewForm(const Document& document, const WindowState& windows, Services& services, QWidget* parent)
+    : ChildForm(ChildWindow::Navigator, "TreeViewForm", FormTwips, parent), document_(document), windows_(windows),
+      services_(services) {
+    SetCaption(ToQString(windows.LoadText(Text::TreeView)));
     BuildControls();
     BuildTree();
     NodeClickTick = services_.clock.TickCount();
@@ -55,23 +57,23 @@ void TreeViewForm::BuildControls() {
     QPushButton* cmdClose = MakeButton("cmdClose", Text::CloseButton, Margin);
     QPushButton* cmdHelp = MakeButton("cmdHelp", Text::HelpButton, Margin + TreeWidth - ButtonWidth);
     connect(cmdClose, &QPushButton::clicked, this, &TreeViewForm::UnloadRequested);
-    connect(cmdHelp, &QPushButton::clicked, this, [this] { services_.help.Show({session_.LanguageFlag, HelpPage()}); });
+    connect(cmdHelp, &QPushButton::clicked, this, [this] { services_.help.Show({windows_.LanguageFlag, HelpPage()}); });
 }
 
 QPushButton* TreeViewForm::MakeButton(const char* name, Text text, int left) {
-    auto* button = new QPushButton(ToQString(session_.LoadText(text)), Content());
+    auto* button = new QPushButton(ToQString(windows_.LoadText(text)), Content());
     button->setObjectName(name);
     button->setGeometry(LaidOut(QRect(left, ButtonTop, ButtonWidth, ButtonHeight)));
     return button;
 }
 
 void TreeViewForm::BuildTree() {
-    const auto model = NavigatorModelText(session_.Image.At(address::Family), session_.Image.At(address::Market));
+    const auto model = NavigatorModelText(document_.Image.At(address::Family), document_.Image.At(address::Market));
     auto* root = new QTreeWidgetItem(treView_, {ToQString(model)});
     root->setData(0, KeyRole, RootKey);
     for (const ChildWindowRow& row : ChildWindowRows()) {
         if (row.node) {
-            auto* item = new QTreeWidgetItem(root, {ToQString(session_.LoadText(row.node->text))});
+            auto* item = new QTreeWidgetItem(root, {ToQString(windows_.LoadText(row.node->text))});
             item->setData(0, KeyRole, ToQString(row.node->key));
         }
     }
@@ -111,7 +113,7 @@ void TreeViewForm::ActivateSelectedNode() {
         return;
     }
     for (const ChildWindowRow& row : ChildWindowRows()) {
-        if (row.node && selected->text(0) == ToQString(session_.LoadText(row.node->text))) {
+        if (row.node && selected->text(0) == ToQString(windows_.LoadText(row.node->text))) {
             emit WindowChosen(row.window);
             return;
         }

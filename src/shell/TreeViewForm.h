@@ -9,6 +9,7 @@ class QTreeWidget;
 
 namespace zelvor {
 
+class Document;
 struct Services;
 
 /// The navigator: a tree with the model as its root and a node per child window.
@@ -16,7 +17,7 @@ class TreeViewForm : public ChildForm {
     Q_OBJECT
 
 public:
-    TreeViewForm(const Session& session, Services& services, QWidget* parent = nullptr);
+    TreeViewForm(const Document& document, const WindowState& windows, Services& services, QWidget* parent = nullptr);
 
     [[nodiscard]] std::string_view HelpPage() const override { return "treeview.htm"; }
     [[nodiscard]] bool IsToolWindow() const override { return true; }
@@ -36,7 +37,8 @@ private:
     void OnDoubleClick(const QPoint& position);
     void ActivateSelectedNode();
 
-    const Session& session_;
+    const Document& document_;
+    const WindowState& windows_;
     Services& services_;
     QTreeWidget* treView_ = nullptr;
     bool NodeClicked = false;

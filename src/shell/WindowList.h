@@ -6,7 +6,7 @@
 #include <array>
 #include <string_view>
 
-#include "data/Session.h"
+#include "controls/WindowState.h"
 
 namespace zelvor {
 

@@ -4,7 +4,7 @@
 
 namespace zelvor {
 
-/// The two languages of the program. The state that chooses one is Session::LanguageFlag.
+/// The two languages of the program. The state that chooses one is WindowState::LanguageFlag.
 enum class Language { English, Chinese };
 
 /// A text that is not in the numbered table: both languages side by side, chosen at the place of use. UTF-8.

@@ -11,13 +11,13 @@ TEST_F(ChannelEditTest, OpeningAndClosingLeavesAConsistentImageAsItWas) {
     for (const auto& record : {SimplexRecord, OtherRecord}) {
         for (const Language language : {Language::English, Language::Chinese}) {
             PutAll(record);
-            session.Image.Set(0x17E, 0xA5);
-            session.Image.Set(0x17F, 0x3C);
-            const DataImage before = session.Image;
+            document.Image.Set(0x17E, 0xA5);
+            document.Image.Set(0x17F, 0x3C);
+            const DataImage before = document.Image;
             for (int k = 1; k <= 16; ++k) {
                 ShowBoth(k, language);
                 Close();
-                ASSERT_EQ(session.Image, before) << k;
+                ASSERT_EQ(document.Image, before) << k;
             }
             EXPECT_EQ(unloads, 16);
             Restart();
@@ -32,15 +32,15 @@ TEST_F(ChannelEditTest, OpeningNeverChangesAByteWhateverTheRecordHolds) {
         PutRecord(2, SimplexWith(13, value));
         PutRecord(3, SimplexWith(14, value));
         PutRecord(4, SimplexWith(15, value));
-        const DataImage before = session.Image;
+        const DataImage before = document.Image;
         if (value == 0) {
             ShowBoth();
         }
-        session.Channels.DecodeImageToGrid(session.Image, session.LanguageFlag);
+        document.Channels.DecodeImageToGrid(document.Image, windows.LanguageFlag);
         for (int k = 1; k <= 4; ++k) {
             dialog->GoToChannel(k);
         }
-        ASSERT_EQ(session.Image, before) << value;
+        ASSERT_EQ(document.Image, before) << value;
     }
 }
 
@@ -64,14 +64,14 @@ TEST_F(ChannelEditTest, ClosingOnABlankChannelWritesItsEmptyTexts) {
     // mark goes.
     PutAll(SimplexRecord);
     PutRecord(2, {0x12, 0x34, 0x56, 0xFF, 0x11, 0x22, 0x33, 0x44, 0xE8, 0x03, 0x13, 0xA8, 0xFF, 0xFF, 0xFF, 0xFF});
-    session.Image.Set(0x17E, 0xFF);
-    const DataImage before = session.Image;
+    document.Image.Set(0x17E, 0xFF);
+    const DataImage before = document.Image;
     ShowBoth(2);
-    EXPECT_EQ(session.Image, before);
+    EXPECT_EQ(document.Image, before);
     Close();
     EXPECT_EQ(Record(2), (std::vector<int>{0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0x00, 0x00, 0x00, 0x00, 0x19,
                                            0xFF, 0xB0, 0xFF}));
-    EXPECT_EQ(session.Image.At(0x17E), 0xFD);
+    EXPECT_EQ(document.Image.At(0x17E), 0xFD);
     EXPECT_EQ(Row(2), Cells(9, ""));
 }
 
@@ -84,7 +84,7 @@ TEST_F(ChannelEditTest, TheButtonCommitsAnEditThatIsStillOpen) {
     EXPECT_EQ(unloads, 1);
     EXPECT_EQ(Cell(1, 2), "146.00000");
     EXPECT_EQ(Byte(1, 6), 0x60);
-    EXPECT_FALSE(session.IsOpen(ChildWindow::ChannelEdit));
+    EXPECT_FALSE(windows.IsOpen(ChildWindow::ChannelEdit));
 }
 
 TEST_F(ChannelEditTest, ClosingTheFrameCommitsTheOpenEditAndNothingElse) {
@@ -100,11 +100,11 @@ TEST_F(ChannelEditTest, ClosingTheFrameCommitsTheOpenEditAndNothingElse) {
 TEST_F(ChannelEditTest, AnEditThatIsOpenWhenTheDialogIsUnloadedIsDropped) {
     PutAll(SimplexRecord);
     ShowBoth();
-    const DataImage before = session.Image;
+    const DataImage before = document.Image;
     Enter("txtRxFreq");
     Type("9");
     dialog.reset();
-    EXPECT_EQ(session.Image, before);
+    EXPECT_EQ(document.Image, before);
 }
 
 TEST_F(ChannelEditTest, ADialogThatNoLongerCountsAsOpenStoresNothing) {
@@ -112,16 +112,16 @@ TEST_F(ChannelEditTest, ADialogThatNoLongerCountsAsOpenStoresNothing) {
     ShowBoth();
     Enter("txtRxFreq");
     Type("9");
-    const DataImage before = session.Image;
-    session.SetOpen(ChildWindow::ChannelEdit, false); // as the main window does before it hides the dialog
+    const DataImage before = document.Image;
+    windows.SetOpen(ChildWindow::ChannelEdit, false); // as the main window does before it hides the dialog
     dialog->hide();
-    EXPECT_EQ(session.Image, before);
+    EXPECT_EQ(document.Image, before);
 }
 
 TEST_F(ChannelEditTest, TheDialogGoesWithTheGrid) {
     ShowBoth();
     const QSignalSpy unloaded(form.get(), &ChannelForm::ChannelEditUnloadRequested);
-    session.ExitConfirmed = true;
+    windows.ExitConfirmed = true;
     form->CloseFromFrame();
     EXPECT_EQ(unloaded.count(), 1);
 }

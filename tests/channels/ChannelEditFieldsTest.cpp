@@ -32,7 +32,7 @@ TEST_F(ChannelEditTest, RemovingTheSignallingTakesOptionSignallingBackToOff) {
     EXPECT_EQ(Combo("ComBusyLock").count(), 3);
     EXPECT_EQ(Combo("ComBusyLock").currentIndex(), 0);
     EXPECT_EQ(Byte(1, 12) & 0x18, 0x00);
-    EXPECT_EQ(session.Channels.Texts().BusyLockText, "Off");
+    EXPECT_EQ(document.Channels.Texts().BusyLockText, "Off");
 }
 
 TEST_F(ChannelEditTest, OptionSignallingWithoutAToneIsStoredLikeQtDqtWithOne) {
@@ -56,7 +56,7 @@ TEST_F(ChannelEditTest, SpUnmuteIsStoredByItsPlace) {
         Pick("ComSPMute", entry);
         EXPECT_EQ(Byte(1, 12), stored[entry]);
     }
-    EXPECT_EQ(session.Channels.Texts().SpMuteText, "QT/DQT");
+    EXPECT_EQ(document.Channels.Texts().SpMuteText, "QT/DQT");
 }
 
 TEST_F(ChannelEditTest, BusyLockIsStoredByItsPlace) {
@@ -69,7 +69,7 @@ TEST_F(ChannelEditTest, BusyLockIsStoredByItsPlace) {
     for (const int entry : {1, 2, 3, 0}) {
         Pick("ComBusyLock", entry);
         EXPECT_EQ(Byte(1, 12), stored[entry]);
-        EXPECT_EQ(session.Channels.Texts().BusyLockText, texts[entry]);
+        EXPECT_EQ(document.Channels.Texts().BusyLockText, texts[entry]);
     }
 }
 
@@ -103,7 +103,7 @@ TEST_F(ChannelEditTest, AutodialIs248PlusItsPlace) {
         Pick("ComAutoDial", entry);
         EXPECT_EQ(Byte(1, 15), stored[entry]);
     }
-    EXPECT_EQ(session.Channels.Texts().AutoDialText, "1");
+    EXPECT_EQ(document.Channels.Texts().AutoDialText, "1");
     Combo("ComAutoDial").setCurrentIndex(-1);
     EXPECT_EQ(Byte(1, 15), 0xF8);
 }
@@ -114,14 +114,14 @@ TEST_F(ChannelEditTest, BeatShiftAndCompanderAreOneBitEach) {
     Enter("ChkShift");
     Key(Qt::Key_Space);
     EXPECT_EQ(Byte(1, 13), 0xFF);
-    EXPECT_TRUE(session.Channels.Texts().BeatShiftFlag);
+    EXPECT_TRUE(document.Channels.Texts().BeatShiftFlag);
     Key(Qt::Key_Space);
     EXPECT_EQ(Byte(1, 13), 0xBF);
-    EXPECT_FALSE(session.Channels.Texts().BeatShiftFlag);
+    EXPECT_FALSE(document.Channels.Texts().BeatShiftFlag);
     Enter("ChkYaKuo");
     Key(Qt::Key_Space);
     EXPECT_EQ(Byte(1, 12), 0x01);
-    EXPECT_TRUE(session.Channels.Texts().CompanderFlag);
+    EXPECT_TRUE(document.Channels.Texts().CompanderFlag);
     Key(Qt::Key_Space);
     EXPECT_EQ(Byte(1, 12), 0x00);
 }
@@ -139,10 +139,10 @@ TEST_F(ChannelEditTest, ScanAddIsTheChannelsBitAndTheGridsColumn) {
         GoToChannel(row.k);
         Enter("ChkScanAdd");
         Key(Qt::Key_Space);
-        EXPECT_EQ(session.Image.At(row.address) & row.bit, row.bit) << row.k;
+        EXPECT_EQ(document.Image.At(row.address) & row.bit, row.bit) << row.k;
         EXPECT_EQ(Cell(row.k, 7), "Yes");
         Key(Qt::Key_Space);
-        EXPECT_EQ(session.Image.At(row.address) & row.bit, 0) << row.k;
+        EXPECT_EQ(document.Image.At(row.address) & row.bit, 0) << row.k;
         EXPECT_EQ(Cell(row.k, 7), "No");
     }
 }
@@ -160,7 +160,7 @@ TEST_F(ChannelEditTest, PowerWidthAndPttIdReachTheRecordWithTheNextCommit) {
     Close();
     EXPECT_EQ(Byte(1, 13), 0x8F);
     EXPECT_EQ(Byte(1, 14), 0xB1);
-    EXPECT_TRUE(session.TxCodeError);
+    EXPECT_TRUE(document.Flags.TxCodeError);
 }
 
 TEST_F(ChannelEditTest, LeavingTheSignallingCommitsIt) {
@@ -194,7 +194,7 @@ TEST_F(ChannelEditTest, AnEmptyDtmfPttIdShowsOnWhenItTakesTheFocus) {
 }
 
 TEST_F(ChannelEditTest, ACorvanePttIdShowsTheRecordWhenItTakesTheFocus) {
-    session.Image.Set(0x133, 1);
+    document.Image.Set(0x133, 1);
     ShowBoth();
     const char* shown[] = {"Off",          "Own",          "Fleet List 1", "Fleet List 2",
                            "Fleet List 3", "Fleet List 4", "Fleet List 5", "Fleet List 6",
@@ -202,9 +202,9 @@ TEST_F(ChannelEditTest, ACorvanePttIdShowsTheRecordWhenItTakesTheFocus) {
                            "Off",          "Off",          "Off",          "Off"};
     for (int nibble = 0; nibble < 16; ++nibble) {
         PutAll(SimplexWith(14, 0xB0));
-        session.Channels.DecodeImageToGrid(session.Image, session.LanguageFlag);
+        document.Channels.DecodeImageToGrid(document.Image, windows.LanguageFlag);
         Enter("txtChannel");
-        session.Image.Set(0x1E, static_cast<std::uint8_t>(0xB0 + nibble));
+        document.Image.Set(0x1E, static_cast<std::uint8_t>(0xB0 + nibble));
         Enter("ComPTTID");
         EXPECT_EQ(Shown("ComPTTID"), shown[nibble]);
         EXPECT_EQ(Combo("ComPTTID").count(), 10);
@@ -214,7 +214,7 @@ TEST_F(ChannelEditTest, ACorvanePttIdShowsTheRecordWhenItTakesTheFocus) {
 
 TEST_F(ChannelEditTest, AnUnknownPttIdTypeEmptiesTheList) {
     PutAll(SimplexRecord);
-    session.Image.Set(0x133, 7);
+    document.Image.Set(0x133, 7);
     ShowBoth();
     Enter("ComPTTID");
     EXPECT_EQ(Combo("ComPTTID").count(), 0);
@@ -224,38 +224,38 @@ TEST_F(ChannelEditTest, AnUnknownPttIdTypeEmptiesTheList) {
 
 TEST_F(ChannelEditTest, MarkingAnotherPriorityChannelMovesTheMark) {
     PutAll(SimplexRecord);
-    session.Priority.SetMode(true, session.Image);
-    session.Priority.SetError(true);
-    session.Image.Set(0x161, 0x09);
+    document.Priority.SetMode(true, document.Image);
+    document.Priority.SetError(true);
+    document.Image.Set(0x161, 0x09);
     ShowBoth(3);
     ASSERT_TRUE(Check("ChkPriorityChannel").isEnabled());
     Enter("ChkPriorityChannel");
     Key(Qt::Key_Space);
-    EXPECT_EQ(session.Priority.PriorityChannelNo(), 3);
-    EXPECT_FALSE(session.Priority.PriorityChannelError());
+    EXPECT_EQ(document.Priority.PriorityChannelNo(), 3);
+    EXPECT_FALSE(document.Priority.PriorityChannelError());
     GoToChannel(5);
     EXPECT_FALSE(Check("ChkPriorityChannel").isChecked());
-    EXPECT_EQ(session.Priority.PriorityChannelNo(), 3);
+    EXPECT_EQ(document.Priority.PriorityChannelNo(), 3);
     Enter("ChkPriorityChannel");
     Key(Qt::Key_Space);
-    EXPECT_EQ(session.Priority.PriorityChannelNo(), 5);
+    EXPECT_EQ(document.Priority.PriorityChannelNo(), 5);
     GoToChannel(3);
     EXPECT_FALSE(Check("ChkPriorityChannel").isChecked());
     GoToChannel(5);
     EXPECT_TRUE(Check("ChkPriorityChannel").isChecked());
     Enter("ChkPriorityChannel");
     Key(Qt::Key_Space);
-    EXPECT_EQ(session.Priority.PriorityChannelNo(), 0);
+    EXPECT_EQ(document.Priority.PriorityChannelNo(), 0);
     // With the scan window closed the image's byte stays.
-    EXPECT_EQ(session.Image.At(0x161), 0x09);
+    EXPECT_EQ(document.Image.At(0x161), 0x09);
 }
 
 TEST_F(ChannelEditTest, AnOpenScanWindowShowsTheMarkedChannelAndKeepsTheByteUntilItsBoxIsLeft) {
     PutAll(SimplexRecord);
-    session.Image.Set(0x160, 1);
-    session.Image.Set(0x161, 7);
-    ScanForm scan(session, services.Get());
-    session.SetOpen(ChildWindow::Scan, true);
+    document.Image.Set(0x160, 1);
+    document.Image.Set(0x161, 7);
+    ScanForm scan(document, windows, services.Get());
+    windows.SetOpen(ChildWindow::Scan, true);
     ShowBoth(7);
     const auto& box = *scan.findChild<QLineEdit*>("txtPriorityCH");
     EXPECT_EQ(box.text(), "7");
@@ -269,7 +269,7 @@ TEST_F(ChannelEditTest, AnOpenScanWindowShowsTheMarkedChannelAndKeepsTheByteUnti
     EXPECT_EQ(box.text(), "3");
     Key(Qt::Key_Space);
     EXPECT_EQ(box.text(), "");
-    EXPECT_EQ(session.Image.At(0x161), 7);
+    EXPECT_EQ(document.Image.At(0x161), 7);
 }
 
 TEST_F(ChannelEditTest, AKeyInScanAddCommitsTheChannel) {
@@ -280,25 +280,25 @@ TEST_F(ChannelEditTest, AKeyInScanAddCommitsTheChannel) {
     EXPECT_EQ(Byte(1, 13), 0xBF);
     Type("x");
     EXPECT_EQ(Byte(1, 13), 0x9F);
-    EXPECT_EQ(session.Image.At(0x17E), 0x00);
+    EXPECT_EQ(document.Image.At(0x17E), 0x00);
 }
 
 TEST_F(ChannelEditTest, OnlyAProgrammedChannelInFixedModeCanBeMarked) {
     PutRecord(1, SimplexRecord);
-    session.Priority.Enter(1);
+    document.Priority.Enter(1);
     ShowBoth();
     EXPECT_FALSE(Check("ChkPriorityChannel").isEnabled());
     EXPECT_FALSE(Check("ChkPriorityChannel").isChecked());
-    session.Priority.SetMode(true, session.Image);
+    document.Priority.SetMode(true, document.Image);
     EXPECT_TRUE(Check("ChkPriorityChannel").isEnabled());
     EXPECT_TRUE(Check("ChkPriorityChannel").isChecked());
     GoToChannel(2);
     EXPECT_FALSE(Check("ChkPriorityChannel").isEnabled());
-    EXPECT_EQ(session.Priority.PriorityChannelNo(), 1);
+    EXPECT_EQ(document.Priority.PriorityChannelNo(), 1);
     GoToChannel(1);
-    session.Priority.Enter(2);
+    document.Priority.Enter(2);
     EXPECT_FALSE(Check("ChkPriorityChannel").isChecked());
-    EXPECT_EQ(session.Priority.PriorityChannelNo(), 2); // no click
+    EXPECT_EQ(document.Priority.PriorityChannelNo(), 2); // no click
 }
 
 } // namespace

@@ -21,12 +21,12 @@ protected:
     /// The grid alone, over the image as it is now.
     void ShowGrid(Language language = Language::English) {
         CloseAll();
-        session.LanguageFlag = language;
+        windows.LanguageFlag = language;
         host = std::make_unique<QWidget>();
         host->resize(1400, 700);
-        form = std::make_unique<ChannelForm>(session, services.Get());
+        form = std::make_unique<ChannelForm>(document, windows, services.Get());
         form->setParent(host.get(), Qt::SubWindow);
-        session.Channels.DecodeImageToGrid(session.Image, session.LanguageFlag);
+        document.Channels.DecodeImageToGrid(document.Image, windows.LanguageFlag);
         QObject::connect(form.get(), &ChannelForm::ChannelEditRequested, form.get(), [this] { LoadDialog(); });
         form->show();
         host->show();
@@ -45,7 +45,8 @@ protected:
     /// A new document of the same kind, with nothing open.
     void Restart() {
         CloseAll();
-        session = Session();
+        document = Document();
+        windows = WindowState();
         ChannelFormTest::SetUp();
     }
 
@@ -96,7 +97,7 @@ protected:
         Text("txtChannel").selectAll();
         Type(std::to_string(n).c_str());
     }
-    int Byte(int k, int j) { return session.Image.At(16 * k + j); }
+    int Byte(int k, int j) { return document.Image.At(16 * k + j); }
     void Close() { QTest::mouseClick(&In<QPushButton>("cmdOK"), Qt::LeftButton); }
 
     /// Puts the record into all sixteen channels, so that the encoder carries nothing over from another one.
@@ -113,16 +114,16 @@ protected:
 private:
     void LoadDialog() {
         if (!dialog) {
-            dialog = std::make_unique<ChannelEditForm>(session, services.Get());
+            dialog = std::make_unique<ChannelEditForm>(document, windows, services.Get());
             dialog->setParent(host.get(), Qt::SubWindow);
             dialog->move(820, 0);
             QObject::connect(dialog.get(), &ChildForm::UnloadRequested, dialog.get(), [this] {
                 ++unloads;
-                session.SetOpen(ChildWindow::ChannelEdit, false);
+                windows.SetOpen(ChildWindow::ChannelEdit, false);
                 dialog->hide();
             });
         }
-        session.SetOpen(ChildWindow::ChannelEdit, true);
+        windows.SetOpen(ChildWindow::ChannelEdit, true);
         dialog->show();
         dialog->OpenOnEditChannel();
     }

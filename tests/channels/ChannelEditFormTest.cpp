@@ -47,7 +47,7 @@ TEST_F(ChannelEditTest, TheDialogHasItsSizeTitleAndCaptionsInBothLanguages) {
             EXPECT_EQ(In<QAbstractButton>(button.name).text(), english ? button.english : button.chinese);
         }
         EXPECT_NE(dialog->findChild<QWidget*>("Frame1"), nullptr);
-        EXPECT_TRUE(session.IsOpen(ChildWindow::ChannelEdit));
+        EXPECT_TRUE(windows.IsOpen(ChildWindow::ChannelEdit));
         Restart();
     }
 }
@@ -124,7 +124,7 @@ TEST_F(ChannelEditTest, ThePttIdListFollowsThePttIdType) {
         {255, Language::English, {}},
     };
     for (const Row& row : rows) {
-        session.Image.Set(0x133, static_cast<std::uint8_t>(row.type));
+        document.Image.Set(0x133, static_cast<std::uint8_t>(row.type));
         ShowBoth(1, row.language);
         EXPECT_EQ(Entries("ComPTTID"), row.entries) << row.type;
         Restart();
@@ -133,7 +133,7 @@ TEST_F(ChannelEditTest, ThePttIdListFollowsThePttIdType) {
 
 TEST_F(ChannelEditTest, AProgrammedChannelShowsEveryFieldOfItsRecord) {
     PutRecord(3, OtherRecord);
-    session.Image.Set(0x17E, 0x04);
+    document.Image.Set(0x17E, 0x04);
     ShowBoth(3);
     EXPECT_EQ(Text("txtChannel").text(), "3");
     EXPECT_EQ(Text("txtChannel").selectedText(), "3");
@@ -233,13 +233,13 @@ TEST_F(ChannelEditTest, EveryStoredValueOfTheListsIsShown) {
     ShowBoth();
     for (const Row& row : rows) {
         PutRecord(1, SimplexWith(row.j, row.value));
-        session.Channels.DecodeImageToGrid(session.Image, session.LanguageFlag);
+        document.Channels.DecodeImageToGrid(document.Image, windows.LanguageFlag);
         EXPECT_EQ(Shown(row.list), row.shown) << row.list << " " << row.value;
     }
 }
 
 TEST_F(ChannelEditTest, CorvanePttIdsAreShownByTheirLowNibble) {
-    session.Image.Set(0x133, 1);
+    document.Image.Set(0x133, 1);
     ShowBoth();
     const char* shown[] = {"Off",          "Own",          "Fleet List 1", "Fleet List 2",
                            "Fleet List 3", "Fleet List 4", "Fleet List 5", "Fleet List 6",
@@ -247,7 +247,7 @@ TEST_F(ChannelEditTest, CorvanePttIdsAreShownByTheirLowNibble) {
                            "Off",          "Off",          "Off",          "Off"};
     for (int nibble = 0; nibble < 16; ++nibble) {
         PutRecord(1, SimplexWith(14, 0xB0 + nibble));
-        session.Channels.DecodeImageToGrid(session.Image, session.LanguageFlag);
+        document.Channels.DecodeImageToGrid(document.Image, windows.LanguageFlag);
         EXPECT_EQ(Shown("ComPTTID"), shown[nibble]);
     }
 }

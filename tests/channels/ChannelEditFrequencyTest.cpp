@@ -29,7 +29,7 @@ TEST_F(ChannelEditTest, AFrequencyTypedIntoABlankChannelGivesTheDefaultsAndScanA
     // Bits 5 to 7 of byte 12 are carried over from the blank channel 16.
     EXPECT_EQ(Record(2), (std::vector<int>{0x00, 0x05, 0x50, 0x14, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xE0,
                                            0xBF, 0xB0, 0xF8}));
-    EXPECT_EQ(session.Image.At(0x17E), 0x02);
+    EXPECT_EQ(document.Image.At(0x17E), 0x02);
     EXPECT_EQ(Find<QLabel>("LabBlankChannel").text(), "240");
 }
 
@@ -44,7 +44,7 @@ TEST_F(ChannelEditTest, TheDefaultsAreChineseWordsInChinese) {
 }
 
 TEST_F(ChannelEditTest, WithAnUnknownPttIdTypeTheDefaultPttIdIsEmpty) {
-    session.Image.Set(0x133, 3);
+    document.Image.Set(0x133, 3);
     ShowBoth();
     Enter("txtRxFreq");
     Type("145");
@@ -65,8 +65,8 @@ TEST_F(ChannelEditTest, TheFocusGoesFromANewReceiveFrequencyToTheTransmitFrequen
     Key(Qt::Key_Return);
     EXPECT_TRUE(Combo("ComDecode").hasFocus());
     EXPECT_EQ(Row(1), (Cells{"145.00000", "145.60000", "None", "None", "High", "Wide", "Yes", "None", "Off"}));
-    EXPECT_EQ(session.Image.At(0x17), 0x14);
-    EXPECT_EQ(session.Image.At(0x16), 0x56);
+    EXPECT_EQ(document.Image.At(0x17), 0x14);
+    EXPECT_EQ(document.Image.At(0x16), 0x56);
 }
 
 TEST_F(ChannelEditTest, FrequenciesTakeDigitsAndThePointUpToNineCharacters) {
@@ -129,7 +129,7 @@ TEST_F(ChannelEditTest, AFrequencyOutOfRangeIsReportedAndMovedAndTheFocusGoesOn)
 
 TEST_F(ChannelEditTest, AnImageWithoutModelDataKeepsWhatItReports) {
     PutAll(SimplexRecord);
-    session.Image.Set(0x1BE, 0x00);
+    document.Image.Set(0x1BE, 0x00);
     ShowBoth(1, Language::Chinese);
     services.messages.Expect(
         {"注意", "频率超出范围。", MessageIcon::Exclamation, MessageButtons::Ok, MessageAnswer::Ok}, MessageAnswer::Ok);
@@ -142,20 +142,20 @@ TEST_F(ChannelEditTest, AnImageWithoutModelDataKeepsWhatItReports) {
 
 TEST_F(ChannelEditTest, RetypingTheReceiveFrequencyKeepsTheOtherFields) {
     PutAll(OtherRecord);
-    session.Image.Set(0x17E, 0x00);
+    document.Image.Set(0x17E, 0x00);
     ShowBoth();
     Enter("txtRxFreq");
     Type("146.5");
     Key(Qt::Key_Return);
     EXPECT_EQ(Record(1), (std::vector<int>{0x00, 0x00, 0x65, 0x14, 0x00, 0x00, 0x01, 0x15, 0xE8, 0x03, 0x13, 0xA8, 0x3B,
                                            0xCF, 0xB1, 0xFB}));
-    EXPECT_EQ(session.Image.At(0x17E), 0x00);
+    EXPECT_EQ(document.Image.At(0x17E), 0x00);
     EXPECT_EQ(Row(1), (Cells{"146.50000", "150.10000", "100.0", "D023I", "Low", "Narrow", "No", "DTMF", "On"}));
 }
 
 TEST_F(ChannelEditTest, DeletingTheReceiveFrequencyBlanksTheDialogAndClosingStoresIt) {
     PutAll(OtherRecord);
-    session.Image.Set(0x17E, 0xFF);
+    document.Image.Set(0x17E, 0xFF);
     ShowBoth(2);
     Enter("txtRxFreq");
     Key(Qt::Key_Delete);
@@ -168,7 +168,7 @@ TEST_F(ChannelEditTest, DeletingTheReceiveFrequencyBlanksTheDialogAndClosingStor
     EXPECT_EQ(Row(2), Cells(9, ""));
     const std::vector<int> bytes = Record(2);
     EXPECT_EQ(std::vector<int>(bytes.begin(), bytes.begin() + 8), std::vector<int>(8, 0xFF));
-    EXPECT_EQ(session.Image.At(0x17E), 0xFD);
+    EXPECT_EQ(document.Image.At(0x17E), 0xFD);
 }
 
 TEST_F(ChannelEditTest, DeletingTheTransmitFrequencyMakesTheChannelReceiveOnly) {
@@ -201,12 +201,12 @@ TEST_F(ChannelEditTest, TheReceiveFrequencyNeverSetsTheTransmitFrequency) {
 
 TEST_F(ChannelEditTest, PassingABlankReceiveFrequencyStoresNothing) {
     ShowBoth();
-    const DataImage before = session.Image;
+    const DataImage before = document.Image;
     Enter("txtRxFreq");
     Key(Qt::Key_Tab);
     Enter("txtChannel");
     Key(Qt::Key_Up);
-    EXPECT_EQ(session.Image, before);
+    EXPECT_EQ(document.Image, before);
 }
 
 TEST_F(ChannelEditTest, ABlankVisitDoesNotResetTheProgrammedChannelVisitedNext) {

@@ -68,14 +68,14 @@ TEST_F(ChannelEditGridTest, RetypingAFrequencyBesideTheDialogClearsTheHiddenFiel
 
 TEST_F(ChannelEditGridTest, DeletingAFrequencyInTheGridBlanksTheDialog) {
     PutAll(OtherRecord);
-    session.Image.Set(0x17E, 0xFF);
+    document.Image.Set(0x17E, 0xFF);
     ShowBoth();
     EditCell(1, 1, "");
     EXPECT_EQ(Rx().text(), "");
     EXPECT_FALSE(Tx().isEnabled());
     EXPECT_FALSE(Combo("ComSPMute").isEnabled());
     EXPECT_EQ(Record(1), std::vector<int>(16, 0xFF));
-    EXPECT_EQ(session.Image.At(0x17E), 0xFF);
+    EXPECT_EQ(document.Image.At(0x17E), 0xFF);
 }
 
 TEST_F(ChannelEditGridTest, TheTransmitColumnAndTheDialogStayInStep) {
@@ -119,7 +119,7 @@ TEST_F(ChannelEditGridTest, EveryListColumnShowsItsChoiceInTheDialog) {
 }
 
 TEST_F(ChannelEditGridTest, CorvanePttIdsOfTheGridShowInTheDialog) {
-    session.Image.Set(0x133, 1);
+    document.Image.Set(0x133, 1);
     PutAll(SimplexRecord);
     ShowBoth();
     const char* shown[] = {"Own",          "Fleet List 1", "Fleet List 2", "Fleet List 3", "Fleet List 4",
@@ -173,7 +173,7 @@ TEST_F(ChannelEditGridTest, BothWindowsAreTypedIntoInTurnAndStayInStep) {
     EXPECT_EQ(Record(3), (std::vector<int>{0x00, 0x00, 0x56, 0x14, 0x00, 0x00, 0x60, 0x14, 0x98, 0x28, 0x9E, 0x02, 0x1B,
                                            0x8F, 0xB0, 0xF8}));
     EXPECT_EQ(Record(4), std::vector<int>(16, 0xFF));
-    EXPECT_EQ(session.Image.At(0x17E), 0x04);
+    EXPECT_EQ(document.Image.At(0x17E), 0x04);
 }
 
 TEST_F(ChannelEditGridTest, TheDialogsEditStaysInItsChannelWhileTheGridsCursorIsElsewhere) {

@@ -28,15 +28,15 @@ TEST_F(ChannelEditTest, TheArrowsStepThroughAllChannelsAndShowEach) {
     }
     const char* autoDial[] = {"2", "3", "4", "5", "6", "7", "8", "1", "2", "3", "4", "5", "6", "7", "8", "1"};
     ShowBoth();
-    const DataImage before = session.Image;
+    const DataImage before = document.Image;
     for (int k = 1; k <= 16; ++k) {
         EXPECT_EQ(Text("txtChannel").text(), QString::number(k));
         EXPECT_EQ(Shown("ComAutoDial"), autoDial[k - 1]);
-        EXPECT_EQ(session.Cursor.EditChannel(), k);
+        EXPECT_EQ(windows.Cursor.EditChannel(), k);
         Key(Qt::Key_Up);
     }
     EXPECT_EQ(Text("txtChannel").text(), "1");
-    EXPECT_EQ(session.Image, before);
+    EXPECT_EQ(document.Image, before);
 }
 
 TEST_F(ChannelEditTest, TheSpinButtonsWrapToo) {

@@ -42,7 +42,7 @@ TEST_F(ChannelEditTest, ATypedToneIsEncoded) {
     Key(Qt::Key_Tab);
     EXPECT_EQ(Byte(2, ToneByte), 0xE8);
     EXPECT_EQ(Byte(2, ToneByte + 1), 0x03);
-    EXPECT_EQ(session.Cursor.CurrentChannel(), 2);
+    EXPECT_EQ(windows.Cursor.CurrentChannel(), 2);
 }
 
 TEST_F(ChannelEditTest, TheToneListsTakeTheSameKeysAsTheGridsEditor) {

@@ -14,8 +14,9 @@
 
 #include "channels/ChannelForm.h"
 #include "controls/EditGrid.h"
+#include "controls/WindowState.h"
 #include "data/BlankImage.h"
-#include "data/Session.h"
+#include "data/Document.h"
 #include "fakes/FakeServices.h"
 #include "platform/Toolkit.h"
 
@@ -25,16 +26,16 @@ namespace zelvor {
 class ChannelFormTest : public testing::Test {
 protected:
     void SetUp() override {
-        session.Image.Set(0x1BD, 0x01);
-        session.Image.Set(0x1BE, 0xF8);
-        InitAllFrameData(session.Image);
+        document.Image.Set(0x1BD, 0x01);
+        document.Image.Set(0x1BE, 0xF8);
+        InitAllFrameData(document.Image);
     }
 
     /// Shows the window over the image as it is now.
     void Show(Language language = Language::English) {
-        session.LanguageFlag = language;
-        form = std::make_unique<ChannelForm>(session, services.Get());
-        session.Channels.DecodeImageToGrid(session.Image, session.LanguageFlag);
+        windows.LanguageFlag = language;
+        form = std::make_unique<ChannelForm>(document, windows, services.Get());
+        document.Channels.DecodeImageToGrid(document.Image, windows.LanguageFlag);
         form->show();
         form->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
@@ -79,13 +80,13 @@ protected:
 
     void PutRecord(int k, const std::array<std::uint8_t, 16>& record) {
         for (int j = 0; j < 16; ++j) {
-            session.Image.Set(k * 16 + j, record[static_cast<std::size_t>(j)]);
+            document.Image.Set(k * 16 + j, record[static_cast<std::size_t>(j)]);
         }
     }
     std::vector<int> Record(int k) {
         std::vector<int> bytes;
         for (int j = 0; j < 16; ++j) {
-            bytes.push_back(session.Image.At(k * 16 + j));
+            bytes.push_back(document.Image.At(k * 16 + j));
         }
         return bytes;
     }
@@ -96,7 +97,8 @@ protected:
     }
 
     FakeServices services;
-    Session session;
+    Document document;
+    WindowState windows;
     std::unique_ptr<ChannelForm> form;
 };
 

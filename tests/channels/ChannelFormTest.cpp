@@ -7,7 +7,7 @@ namespace zelvor {
 namespace {
 
 TEST_F(ChannelFormTest, TheWindowHasItsSizeTitleAndTexts) {
-    form = std::make_unique<ChannelForm>(session, services.Get());
+    form = std::make_unique<ChannelForm>(document, windows, services.Get());
     EXPECT_EQ(form->objectName(), "ChannelForm");
     EXPECT_EQ(form->size(), QSize(800, 433));
     EXPECT_EQ(form->windowTitle(), " Channel Information [ Channel - 1 ]");
@@ -21,8 +21,8 @@ TEST_F(ChannelFormTest, TheWindowHasItsSizeTitleAndTexts) {
 }
 
 TEST_F(ChannelFormTest, TheWindowSpeaksChinese) {
-    session.LanguageFlag = Language::Chinese;
-    form = std::make_unique<ChannelForm>(session, services.Get());
+    windows.LanguageFlag = Language::Chinese;
+    form = std::make_unique<ChannelForm>(document, windows, services.Get());
     EXPECT_EQ(form->windowTitle(), " 信道信息 [信道-1]");
     EXPECT_EQ(Find<QPushButton>("cmdChannelEdit").text(), "信道编辑(&E)");
     EXPECT_EQ(Find<QLabel>("LabFreeArea").text(), "空位(Bytes):");
@@ -34,7 +34,7 @@ TEST_F(ChannelFormTest, TheWindowSpeaksChinese) {
 }
 
 TEST_F(ChannelFormTest, TheGridHasNineColumnsAndSixteenNumberedRows) {
-    form = std::make_unique<ChannelForm>(session, services.Get());
+    form = std::make_unique<ChannelForm>(document, windows, services.Get());
     const char* headers[] = {"RX Frequency", "TX Frequency", "QT/DQT Dec", "QT/DQT Enc", "TX Power",
                              "W/N",          "Scan Add",     "Opt Signal", "PTT ID"};
     const int widths[] = {78, 78, 78, 78, 57, 50, 57, 71, 85};
@@ -78,9 +78,9 @@ TEST_F(ChannelFormTest, TheCursorNamesItsChannelInTheTitle) {
     Key(Qt::Key_Right);
     EXPECT_EQ(form->windowTitle(), " Channel Information [ Channel - 3 ]");
     EXPECT_EQ(captions.last().first().toString(), " Channel Information [ Channel - 3 ]");
-    EXPECT_EQ(session.Cursor.CurrentChannel(), 3);
-    EXPECT_EQ(session.Cursor.EditChannel(), 3);
-    EXPECT_EQ(session.Cursor.CurrentCol(), 2);
+    EXPECT_EQ(windows.Cursor.CurrentChannel(), 3);
+    EXPECT_EQ(windows.Cursor.EditChannel(), 3);
+    EXPECT_EQ(windows.Cursor.CurrentCol(), 2);
     EXPECT_EQ(Grid().property("HelpContextID").toInt(), 4102);
 }
 
@@ -99,7 +99,7 @@ TEST_F(ChannelFormTest, ClosingTheFrameHidesUntilTheProgramsExitWasConfirmed) {
     EXPECT_EQ(hidden.count(), 1);
     EXPECT_EQ(dialogHidden.count(), 1);
     EXPECT_EQ(unloaded.count(), 0);
-    session.ExitConfirmed = true;
+    windows.ExitConfirmed = true;
     form->CloseFromFrame();
     EXPECT_EQ(hidden.count(), 1);
     EXPECT_EQ(unloaded.count(), 1);
@@ -113,7 +113,7 @@ TEST_F(ChannelFormTest, TheCloseButtonCommitsHidesAndClosesTheDialog) {
     QTest::mouseClick(&Find<QPushButton>("cmdClose"), Qt::LeftButton);
     EXPECT_EQ(hidden.count(), 1);
     EXPECT_EQ(dialogUnloaded.count(), 1);
-    EXPECT_EQ(session.Image.At(0x13), 0x14);
+    EXPECT_EQ(document.Image.At(0x13), 0x14);
 }
 
 TEST_F(ChannelFormTest, TheHelpButtonOpensTheGridsPage) {
@@ -146,15 +146,15 @@ TEST_F(ChannelFormTest, RandomImagesOpenAndAreWalkedWithoutChangingAByte) {
     std::srand(seed);
     for (int round = 0; round < 200; ++round) {
         for (int a = 0; a < 1024; ++a) {
-            session.Image.Set(a, static_cast<std::uint8_t>(round == 0 ? 0x00 : round == 1 ? 0xFF : std::rand()));
+            document.Image.Set(a, static_cast<std::uint8_t>(round == 0 ? 0x00 : round == 1 ? 0xFF : std::rand()));
         }
-        const DataImage before = session.Image;
-        form = std::make_unique<ChannelForm>(session, services.Get());
-        session.Channels.DecodeImageToGrid(session.Image, session.LanguageFlag);
+        const DataImage before = document.Image;
+        form = std::make_unique<ChannelForm>(document, windows, services.Get());
+        document.Channels.DecodeImageToGrid(document.Image, windows.LanguageFlag);
         for (int k = 1; k <= 16; ++k) {
             form->SelectCell(k, 1 + round % 9);
         }
-        ASSERT_EQ(session.Image, before) << "seed " << seed << ", round " << round;
+        ASSERT_EQ(document.Image, before) << "seed " << seed << ", round " << round;
         form.reset();
     }
 }

@@ -18,7 +18,7 @@ TEST_F(ChannelFormTest, TypingAShortFrequencyIntoABlankRowGivesAllDefaults) {
     // 145.00000, no transmit frequency, no tones; bits 3 to 7 of byte 12 keep the erased record's.
     EXPECT_EQ(Record(1), (std::vector<int>{0x00, 0x00, 0x50, 0x14, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xF8,
                                            0xBF, 0xB0, 0xF8}));
-    EXPECT_EQ(session.Image.At(0x17E), 0x01);
+    EXPECT_EQ(document.Image.At(0x17E), 0x01);
 }
 
 TEST_F(ChannelFormTest, DefaultsInChineseAreChineseWords) {
@@ -75,7 +75,7 @@ TEST_F(ChannelFormTest, OutOfRangeMessageIsChineseInChinese) {
 }
 
 TEST_F(ChannelFormTest, AnImageWithoutModelDataTakes136To174AndKeepsWhatItReports) {
-    session.Image.Set(0x1BE, 0xFF);
+    document.Image.Set(0x1BE, 0xFF);
     Show();
     services.messages.Expect(OutOfRange(), MessageAnswer::Ok);
     Type("120");
@@ -91,11 +91,11 @@ TEST_F(ChannelFormTest, AnImageWithoutModelDataTakes136To174AndKeepsWhatItReport
 TEST_F(ChannelFormTest, ANinthCharacterCommitsWithoutLeaving) {
     Show();
     Type("145.1250");
-    EXPECT_EQ(session.Image.At(0x13), 0xFF);
+    EXPECT_EQ(document.Image.At(0x13), 0xFF);
     Type("0");
     EXPECT_TRUE(TextBox().isVisible());
-    EXPECT_EQ(session.Image.At(0x13), 0x14);
-    EXPECT_EQ(session.Image.At(0x12), 0x51);
+    EXPECT_EQ(document.Image.At(0x13), 0x14);
+    EXPECT_EQ(document.Image.At(0x12), 0x51);
 }
 
 TEST_F(ChannelFormTest, ACompleteFrequencyOnTheRasterLeavesTheOtherColumnsAlone) {
@@ -116,21 +116,21 @@ TEST_F(ChannelFormTest, RetypingTheFrequencyOfAProgrammedChannelKeepsItsColumnsA
     Type("145.13750");
     Key(Qt::Key_Return);
     EXPECT_EQ(Row(3), (Cells{"145.13750", "145.12500", "None", "None", "High", "Narrow", "No", "None", "Off"}));
-    EXPECT_EQ(session.Image.At(0x3C) & 0x01, 0x01);
-    EXPECT_EQ(session.Image.At(0x3D), 0xEF);
-    EXPECT_EQ(session.Image.At(0x3F), 0xFB);
+    EXPECT_EQ(document.Image.At(0x3C) & 0x01, 0x01);
+    EXPECT_EQ(document.Image.At(0x3D), 0xEF);
+    EXPECT_EQ(document.Image.At(0x3F), 0xFB);
 }
 
 TEST_F(ChannelFormTest, DeletingTheReceiveFrequencyBlanksRowAndRecordButNotScanAdd) {
     PutRecord(1, SimplexRecord);
-    session.Image.Set(0x17E, 0x01);
+    document.Image.Set(0x17E, 0x01);
     Show();
     Key(Qt::Key_Return);
     Key(Qt::Key_Delete);
     Key(Qt::Key_Return);
     EXPECT_EQ(Row(1), Cells(9, ""));
     EXPECT_EQ(Record(1), std::vector<int>(16, 0xFF));
-    EXPECT_EQ(session.Image.At(0x17E), 0x01);
+    EXPECT_EQ(document.Image.At(0x17E), 0x01);
     EXPECT_EQ(Find<QLabel>("LabBlankChannel").text(), "256");
 }
 
@@ -159,10 +159,10 @@ TEST_F(ChannelFormTest, TransmitFrequenciesAreNormalisedToo) {
     Type("150.0031");
     Key(Qt::Key_Return);
     EXPECT_EQ(Cell(1, 2), "150.00500");
-    EXPECT_EQ(session.Image.At(0x14), 0x00);
-    EXPECT_EQ(session.Image.At(0x15), 0x05);
-    EXPECT_EQ(session.Image.At(0x16), 0x00);
-    EXPECT_EQ(session.Image.At(0x17), 0x15);
+    EXPECT_EQ(document.Image.At(0x14), 0x00);
+    EXPECT_EQ(document.Image.At(0x15), 0x05);
+    EXPECT_EQ(document.Image.At(0x16), 0x00);
+    EXPECT_EQ(document.Image.At(0x17), 0x15);
 }
 
 TEST_F(ChannelFormTest, OnlyDigitsAndThePointEnterTheTextBoxTypedOrPasted) {
@@ -188,8 +188,8 @@ TEST_F(ChannelFormTest, EscapeBringsTheTextBackAndMovesRight) {
     EXPECT_FALSE(TextBox().isVisible());
     EXPECT_TRUE(Grid().hasFocus());
     ExpectCursor(1, 2);
-    EXPECT_EQ(session.Image.At(0x12), 0x51);
-    EXPECT_EQ(session.Image.At(0x13), 0x14);
+    EXPECT_EQ(document.Image.At(0x12), 0x51);
+    EXPECT_EQ(document.Image.At(0x13), 0x14);
 }
 
 TEST_F(ChannelFormTest, TheLetterLEndsAnEditLikeEnter) {
@@ -273,16 +273,16 @@ TEST_F(ChannelFormTest, OpeningAnEditorChangesNoByte) {
     record[12] = 0x46;
     PutRecord(1, record);
     Show();
-    const DataImage before = session.Image;
+    const DataImage before = document.Image;
     for (int column = 1; column <= 9; ++column) {
         GoTo(1, column);
         Key(Qt::Key_Return);
         EXPECT_TRUE(TextBox().isVisible() || List().isVisible()) << column;
-        EXPECT_EQ(session.Image, before) << column;
+        EXPECT_EQ(document.Image, before) << column;
         form->HideEditors();
         Grid().setFocus();
     }
-    EXPECT_EQ(session.Image, before);
+    EXPECT_EQ(document.Image, before);
 }
 
 TEST_F(ChannelFormTest, ChannelSixteenIsWrittenToTheLastRecord) {
@@ -290,9 +290,9 @@ TEST_F(ChannelFormTest, ChannelSixteenIsWrittenToTheLastRecord) {
     GoTo(16, 1);
     Type("145");
     Key(Qt::Key_Return);
-    EXPECT_EQ(session.Image.At(0x103), 0x14);
-    EXPECT_EQ(session.Image.At(0x102), 0x50);
-    EXPECT_EQ(session.Image.At(0x17F), 0x80);
+    EXPECT_EQ(document.Image.At(0x103), 0x14);
+    EXPECT_EQ(document.Image.At(0x102), 0x50);
+    EXPECT_EQ(document.Image.At(0x17F), 0x80);
 }
 
 } // namespace

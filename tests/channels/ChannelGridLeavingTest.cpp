@@ -128,12 +128,12 @@ TEST_F(ChannelGridLeavingTest, ALeftClickElsewhereStillCommits) {
 TEST_F(ChannelGridLeavingTest, TheDialogMayBeGoneBehindTheMessage) {
     PutRecord(1, SimplexRecord);
     Show();
-    auto dialog = std::make_unique<ChannelEditForm>(session, services.Get());
-    session.SetOpen(ChildWindow::ChannelEdit, true);
+    auto dialog = std::make_unique<ChannelEditForm>(document, windows, services.Get());
+    windows.SetOpen(ChildWindow::ChannelEdit, true);
     GoTo(1, 1);
     Type("1");
     services.messages.Expect(OutOfRange(), [&] {
-        session.SetOpen(ChildWindow::ChannelEdit, false);
+        windows.SetOpen(ChildWindow::ChannelEdit, false);
         dialog.reset();
         return MessageAnswer::Ok;
     });

@@ -32,8 +32,8 @@ TEST_F(ChannelGridToneTest, LeavingTheToneEditorNormalisesItsText) {
     EXPECT_EQ(TypeTone("100.0"), "100.0");
     EXPECT_EQ(TypeTone(""), "None");
     EXPECT_EQ(TypeTone("d754i"), "D754I");
-    EXPECT_EQ(session.Image.At(0x18), 0xEC);
-    EXPECT_EQ(session.Image.At(0x19), 0xA9);
+    EXPECT_EQ(document.Image.At(0x18), 0xEC);
+    EXPECT_EQ(document.Image.At(0x19), 0xA9);
 }
 
 TEST_F(ChannelGridToneTest, TheTonesBoxTakesFiveCharactersOfItsAlphabet) {
@@ -89,7 +89,7 @@ TEST_F(ChannelGridToneTest, EnterInTheDecodeColumnSkipsADeadEncodeCell) {
     auto record = SimplexRecord;
     record[7] = 0x00;
     PutRecord(1, record);
-    session.Channels.DecodeImageToGrid(session.Image, session.LanguageFlag);
+    document.Channels.DecodeImageToGrid(document.Image, windows.LanguageFlag);
     TypeTone("100");
     ExpectCursor(1, 5);
 }
@@ -148,7 +148,7 @@ TEST_F(ChannelGridToneTest, ArrowsStepTheValueOfEveryListColumnIntoTheImage) {
         Key(Qt::Key_Return);
         Key(step.key);
         EXPECT_EQ(Cell(1, step.column), step.text) << step.column;
-        EXPECT_EQ(session.Image.At(step.address), step.value) << step.column;
+        EXPECT_EQ(document.Image.At(step.address), step.value) << step.column;
         Key(Qt::Key_Return);
     }
 }
@@ -158,23 +158,23 @@ TEST_F(ChannelGridToneTest, OptionSignallingStepsThroughItsThreeTexts) {
     GoTo(1, 8);
     Key(Qt::Key_Return);
     Key(Qt::Key_Down);
-    EXPECT_EQ(session.Image.At(0x1C) & 0x06, 0x02);
+    EXPECT_EQ(document.Image.At(0x1C) & 0x06, 0x02);
     Key(Qt::Key_Down);
-    EXPECT_EQ(session.Image.At(0x1C) & 0x06, 0x04);
+    EXPECT_EQ(document.Image.At(0x1C) & 0x06, 0x04);
     Key(Qt::Key_Down);
     EXPECT_EQ(Cell(1, 8), "Corvane");
     Key(Qt::Key_Up);
     Key(Qt::Key_Up);
-    EXPECT_EQ(session.Image.At(0x1C) & 0x06, 0x00);
+    EXPECT_EQ(document.Image.At(0x1C) & 0x06, 0x00);
 }
 
 TEST_F(ChannelGridToneTest, ChoosingPttIdOnAsksForTheCodesToBeChecked) {
     Show();
-    EXPECT_FALSE(session.TxCodeError);
+    EXPECT_FALSE(document.Flags.TxCodeError);
     GoTo(1, 9);
     Key(Qt::Key_Return);
     Key(Qt::Key_Down);
-    EXPECT_TRUE(session.TxCodeError);
+    EXPECT_TRUE(document.Flags.TxCodeError);
 }
 
 TEST_F(ChannelGridToneTest, AnEntryTakenFromTheListIsStored) {
@@ -184,8 +184,8 @@ TEST_F(ChannelGridToneTest, AnEntryTakenFromTheListIsStored) {
     List().setCurrentIndex(39);
     emit List().activated(39);
     EXPECT_EQ(Cell(1, 3), "D023N");
-    EXPECT_EQ(session.Image.At(0x18), 0x13);
-    EXPECT_EQ(session.Image.At(0x19), 0x28);
+    EXPECT_EQ(document.Image.At(0x18), 0x13);
+    EXPECT_EQ(document.Image.At(0x19), 0x28);
 }
 
 TEST_F(ChannelGridToneTest, TheListOpensAndAClickOnAnEntryStoresIt) {
@@ -202,7 +202,7 @@ TEST_F(ChannelGridToneTest, TheListOpensAndAClickOnAnEntryStoresIt) {
     QTest::mouseMove(entries.viewport(), low);
     QTest::mouseClick(entries.viewport(), Qt::LeftButton, {}, low);
     EXPECT_EQ(Cell(1, 5), "Low");
-    EXPECT_EQ(session.Image.At(0x1D), 0x9F);
+    EXPECT_EQ(document.Image.At(0x1D), 0x9F);
     EXPECT_TRUE(List().isVisible());
 }
 
@@ -212,7 +212,7 @@ TEST_F(ChannelGridToneTest, NoEntryOfAnyListIsCutOff) {
         std::uint8_t pttIdType;
     };
     for (const Case& shown : {Case{Language::English, 0}, Case{Language::English, 1}, Case{Language::Chinese, 1}}) {
-        session.Image.Set(0x133, shown.pttIdType);
+        document.Image.Set(0x133, shown.pttIdType);
         Show(shown.language);
         for (int column = 3; column <= 9; ++column) {
             GoTo(1, column);
@@ -265,17 +265,17 @@ TEST_F(ChannelGridToneTest, KeysTypedInColumnsFiveToNineAreRefused) {
 }
 
 TEST_F(ChannelGridToneTest, AnUnknownPttIdTypeHasAnEmptyListAndAnEmptyCell) {
-    session.Image.Set(0x133, 2);
+    document.Image.Set(0x133, 2);
     Show();
     EXPECT_EQ(Cell(1, 9), "");
     GoTo(1, 9);
     Key(Qt::Key_Return);
     EXPECT_TRUE(List().isVisible());
     EXPECT_EQ(List().count(), 0);
-    const int before = session.Image.At(0x1E);
+    const int before = document.Image.At(0x1E);
     Key(Qt::Key_Down);
     Key(Qt::Key_Return);
-    EXPECT_EQ(session.Image.At(0x1E), before);
+    EXPECT_EQ(document.Image.At(0x1E), before);
 }
 
 TEST_F(ChannelGridToneTest, EditingACellKeepsTheChannelsBusyChannelLockout) {
@@ -287,7 +287,7 @@ TEST_F(ChannelGridToneTest, EditingACellKeepsTheChannelsBusyChannelLockout) {
         GoTo(2, 5);
         Key(Qt::Key_Return);
         Key(Qt::Key_Down);
-        EXPECT_EQ(session.Image.At(0x2C) & 0x18, bits);
+        EXPECT_EQ(document.Image.At(0x2C) & 0x18, bits);
         form.reset();
     }
 }

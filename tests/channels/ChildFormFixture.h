@@ -14,7 +14,8 @@
 #include <vector>
 
 #include "controls/ChildForm.h"
-#include "data/Session.h"
+#include "controls/WindowState.h"
+#include "data/Document.h"
 #include "fakes/FakeServices.h"
 #include "platform/Toolkit.h"
 #include "support/QtPrinting.h"
@@ -27,9 +28,9 @@ class ChildFormTest : public testing::Test {
 protected:
     /// Makes the window over the image as it is now, without showing it.
     void Load(Language language = Language::English) {
-        session.LanguageFlag = language;
+        windows.LanguageFlag = language;
         form.reset();
-        form = std::make_unique<Form>(session, services.Get());
+        form = std::make_unique<Form>(document, windows, services.Get());
     }
     /// The same, active, with the focus where the window puts it.
     void Show(Language language = Language::English) {
@@ -86,10 +87,10 @@ protected:
         return entries;
     }
 
-    int At(int address) const { return session.Image.At(address); }
+    int At(int address) const { return document.Image.At(address); }
     void Put(int address, std::initializer_list<int> bytes) {
         for (const int byte : bytes) {
-            session.Image.Set(address++, static_cast<std::uint8_t>(byte));
+            document.Image.Set(address++, static_cast<std::uint8_t>(byte));
         }
     }
     static DataImage RandomImage(std::mt19937& random) {
@@ -126,7 +127,8 @@ protected:
     }
 
     FakeServices services;
-    Session session;
+    Document document;
+    WindowState windows;
     std::unique_ptr<Form> form;
 };
 

@@ -115,22 +115,22 @@ TEST_F(EmbedInfoFormTest, AnEmptyLineIsThirtyTwoErasedBytes) {
     EXPECT_EQ(Field(0x320), Filled("WORLD"));
     Enter("txtMsg(1)", "");
     EXPECT_EQ(Field(0x320), Bytes(32, 0xFF));
-    EXPECT_EQ(session.Image, DataImage());
+    EXPECT_EQ(document.Image, DataImage());
 }
 
 TEST_F(EmbedInfoFormTest, ALineOfThirtyTwoBytesShowsThemAllAndSurvivesACommit) {
     for (const int base : {0x300, 0x320}) {
         for (int i = 0; i < 32; ++i) {
-            session.Image.Set(base + i, static_cast<std::uint8_t>('a' + i % 26));
+            document.Image.Set(base + i, static_cast<std::uint8_t>('a' + i % 26));
         }
     }
-    const DataImage before = session.Image;
+    const DataImage before = document.Image;
     Show();
     EXPECT_EQ(Text("txtMsg(0)"), "abcdefghijklmnopqrstuvwxyzabcdef");
     EXPECT_EQ(Text("txtMsg(1)"), "abcdefghijklmnopqrstuvwxyzabcdef");
     Leave("txtMsg(0)");
     Leave("txtMsg(1)");
-    EXPECT_EQ(session.Image, before);
+    EXPECT_EQ(document.Image, before);
 }
 
 TEST_F(EmbedInfoFormTest, EveryByteShowsAsACharacterOfItsOwnAndComesBack) {
@@ -154,7 +154,7 @@ TEST_F(EmbedInfoFormTest, BytesAboveAsciiAreWindows1252) {
 
 TEST_F(EmbedInfoFormTest, AnErasedByteEndsTheLineAndTheCommitErasesWhatIsBehindIt) {
     Put(0x300, {'A', 'B', 0xFF, 'C', 'D'});
-    session.Image.Set(0x31F, 'Z');
+    document.Image.Set(0x31F, 'Z');
     Show();
     EXPECT_EQ(Text("txtMsg(0)"), "AB");
     EXPECT_EQ(Field(0x300, 5), (Bytes{'A', 'B', 0xFF, 'C', 'D'}));
@@ -184,7 +184,7 @@ TEST_F(EmbedInfoFormTest, WhatAnInputMethodComposesCountsAsTyped) {
 
 TEST_F(EmbedInfoFormTest, TypingReplacesASelectionHoweverLongTheTextIs) {
     for (int i = 0; i < 32; ++i) {
-        session.Image.Set(0x300 + i, 'x');
+        document.Image.Set(0x300 + i, 'x');
     }
     Show();
     Box("txtMsg(0)").deselect();
@@ -243,7 +243,7 @@ TEST_F(EmbedInfoFormTest, ALongTextOfLine1RunsOnIntoTheFieldOfLine2) {
 
 TEST_F(EmbedInfoFormTest, ATextThatIsTooLongForBothFieldsEndsBehindTheLastByte) {
     for (int address = 0x340; address < 0x350; ++address) {
-        session.Image.Set(address, 0x11);
+        document.Image.Set(address, 0x11);
     }
     Show();
     EnterPasted("txtMsg(0)", QString(70, u'q'));
@@ -377,11 +377,11 @@ TEST_F(EmbedInfoFormTest, AWindowThatIsDestroyedDropsWhatIsBeingEdited) {
 }
 
 TEST_F(EmbedInfoFormTest, OpeningAndClosingChangesNothing) {
-    const DataImage before = session.Image;
+    const DataImage before = document.Image;
     Show();
     Click("cmdClose");
     form.reset();
-    EXPECT_EQ(session.Image, before);
+    EXPECT_EQ(document.Image, before);
 }
 
 // Opening changes no byte. Leaving a line erases what stands behind its first erased byte, and nothing else.
@@ -397,10 +397,10 @@ TEST_F(EmbedInfoFormTest, OpensOnAnyImageAndACommitErasesOnlyTheTailOfItsLine) {
         }
     }
     for (std::size_t i = 0; i < images.size(); ++i) {
-        session.Image = images[i];
+        document.Image = images[i];
         Load(i % 3 == 0 ? Language::Chinese : Language::English);
         form->CloseFromFrame();
-        ASSERT_EQ(Differences(session.Image, images[i]), Bytes{}) << "seed " << seed << ", image " << i;
+        ASSERT_EQ(Differences(document.Image, images[i]), Bytes{}) << "seed " << seed << ", image " << i;
         if (i % 20 == 0) {
             Show();
             Leave("txtMsg(0)");
@@ -413,7 +413,7 @@ TEST_F(EmbedInfoFormTest, OpensOnAnyImageAndACommitErasesOnlyTheTailOfItsLine) {
                     expected.Set(address, erased ? 0xFF : expected.At(address));
                 }
             }
-            ASSERT_EQ(Differences(session.Image, expected), Bytes{}) << "seed " << seed << ", image " << i;
+            ASSERT_EQ(Differences(document.Image, expected), Bytes{}) << "seed " << seed << ", image " << i;
         }
     }
 }

@@ -16,7 +16,7 @@ protected:
     }
     void Program(std::initializer_list<int> channels) {
         for (const int channel : channels) {
-            session.Image.Set(channel * 16, 0x00);
+            document.Image.Set(channel * 16, 0x00);
         }
     }
     std::vector<int> Block() const {

@@ -29,12 +29,12 @@ protected:
 
 TEST_F(ScanFormModeTest, NoneEmptiesThePriorityChannelAndDisablesLookBack) {
     Show();
-    session.Priority.Enter(5);
-    session.Priority.SetError(true);
+    document.Priority.Enter(5);
+    document.Priority.SetError(true);
     Choose("cboPriority", 0);
-    EXPECT_FALSE(session.Priority.PriorityFixedMode());
-    EXPECT_EQ(session.Priority.PriorityChannelNo(), 0);
-    EXPECT_FALSE(session.Priority.PriorityChannelError());
+    EXPECT_FALSE(document.Priority.PriorityFixedMode());
+    EXPECT_EQ(document.Priority.PriorityChannelNo(), 0);
+    EXPECT_FALSE(document.Priority.PriorityChannelError());
     EXPECT_EQ(Text("txtPriorityCH"), "");
     ExpectEnabled(false, false);
     EXPECT_EQ(Entries("cboRevertCH"), (QStringList{"Selected", "Selected + Talk Back"}));
@@ -45,12 +45,12 @@ TEST_F(ScanFormModeTest, NoneEmptiesThePriorityChannelAndDisablesLookBack) {
 }
 
 TEST_F(ScanFormModeTest, FixedOpensThePriorityChannelAndAllRevertChannels) {
-    session.Image.Set(0x160, 0);
+    document.Image.Set(0x160, 0);
     Show();
     EXPECT_EQ(At(0x161), 0xFF);
     Choose("cboPriority", 1);
-    EXPECT_TRUE(session.Priority.PriorityFixedMode());
-    EXPECT_TRUE(session.Priority.PriorityChannelError()); // no channel yet
+    EXPECT_TRUE(document.Priority.PriorityFixedMode());
+    EXPECT_TRUE(document.Priority.PriorityChannelError()); // no channel yet
     EXPECT_EQ(Text("txtPriorityCH"), "");
     ExpectEnabled(true, true);
     EXPECT_EQ(Entries("cboRevertCH"),
@@ -62,12 +62,12 @@ TEST_F(ScanFormModeTest, FixedOpensThePriorityChannelAndAllRevertChannels) {
 
 TEST_F(ScanFormModeTest, SelectedEmptiesThePriorityChannelAndKeepsLookBack) {
     Show();
-    session.Priority.Enter(5);
-    session.Priority.SetError(true);
+    document.Priority.Enter(5);
+    document.Priority.SetError(true);
     Choose("cboPriority", 2);
-    EXPECT_FALSE(session.Priority.PriorityFixedMode());
-    EXPECT_EQ(session.Priority.PriorityChannelNo(), 0);
-    EXPECT_FALSE(session.Priority.PriorityChannelError());
+    EXPECT_FALSE(document.Priority.PriorityFixedMode());
+    EXPECT_EQ(document.Priority.PriorityChannelNo(), 0);
+    EXPECT_FALSE(document.Priority.PriorityChannelError());
     EXPECT_EQ(Text("txtPriorityCH"), "");
     EXPECT_EQ(At(0x161), 0xFF);
     ExpectEnabled(false, true);
@@ -97,10 +97,10 @@ TEST_F(ScanFormModeTest, SelectingByCodeIsASelectionOfTheUsers) {
 
 TEST_F(ScanFormModeTest, InFixedModeThePriorityChannelErrorFollowsTheByte) {
     for (int byte = 0; byte <= 255; ++byte) {
-        session.Image.Set(0x161, static_cast<std::uint8_t>(byte));
+        document.Image.Set(0x161, static_cast<std::uint8_t>(byte));
         Load();
-        EXPECT_EQ(session.Priority.PriorityChannelError(), !(byte >= 1 && byte <= 16)) << byte;
-        EXPECT_TRUE(session.Priority.PriorityFixedMode());
+        EXPECT_EQ(document.Priority.PriorityChannelError(), !(byte >= 1 && byte <= 16)) << byte;
+        EXPECT_TRUE(document.Priority.PriorityFixedMode());
         EXPECT_EQ(At(0x161), byte);
         EXPECT_EQ(Text("txtPriorityCH"), byte == 255 ? "" : std::to_string(byte));
     }
@@ -108,12 +108,12 @@ TEST_F(ScanFormModeTest, InFixedModeThePriorityChannelErrorFollowsTheByte) {
 
 TEST_F(ScanFormModeTest, EveryByteOfTheModeShowsAsItsEntryAndGoesBackUntouched) {
     for (int byte = 0; byte <= 255; ++byte) {
-        session.Image.Set(0x160, static_cast<std::uint8_t>(byte));
-        session.Image.Set(0x161, 5);
+        document.Image.Set(0x160, static_cast<std::uint8_t>(byte));
+        document.Image.Set(0x161, 5);
         Show();
         const int shown = byte <= 2 ? byte : byte == 255 ? 0 : -1;
         EXPECT_EQ(List("cboPriority").currentIndex(), shown) << byte;
-        EXPECT_EQ(session.Priority.PriorityFixedMode(), byte == 1) << byte;
+        EXPECT_EQ(document.Priority.PriorityFixedMode(), byte == 1) << byte;
         EXPECT_EQ(At(0x160), byte);
         Find<QPushButton>("cmdHelp").setFocus();
         EXPECT_EQ(At(0x160), byte == 255 ? 0 : byte);
@@ -121,16 +121,16 @@ TEST_F(ScanFormModeTest, EveryByteOfTheModeShowsAsItsEntryAndGoesBackUntouched) 
 }
 
 TEST_F(ScanFormModeTest, AModeThatDoesNotExistShowsTheBlockAsItIsAndIsNotFixed) {
-    session.Image.Set(0x160, 7);
-    session.Priority.SetError(true);
-    session.Priority.Enter(3);
+    document.Image.Set(0x160, 7);
+    document.Priority.SetError(true);
+    document.Priority.Enter(3);
     Show();
     EXPECT_EQ(List("cboPriority").currentIndex(), -1);
     EXPECT_EQ(Text("txtPriorityCH"), "5");
     ExpectEnabled(false, true);
     EXPECT_EQ(Chosen("cboRevertCH"), "Priority");
-    EXPECT_FALSE(session.Priority.PriorityChannelError());
-    EXPECT_EQ(session.Priority.PriorityChannelNo(), 0);
+    EXPECT_FALSE(document.Priority.PriorityChannelError());
+    EXPECT_EQ(document.Priority.PriorityChannelNo(), 0);
     EXPECT_EQ(Block(), (Bytes{7, 5, 1, 15, 2, 3, 0, 0x2B, 1}));
 }
 
@@ -155,8 +155,8 @@ TEST_F(ScanFormModeTest, TheRevertByteSelectsTheEntryOfItsModesListAndStaysUntil
         {2, 4, -1, "", 4},        {2, 255, -1, "", 255},
     };
     for (const Revert& revert : reverts) {
-        session.Image.Set(0x160, static_cast<std::uint8_t>(revert.mode));
-        session.Image.Set(0x164, static_cast<std::uint8_t>(revert.byte));
+        document.Image.Set(0x160, static_cast<std::uint8_t>(revert.mode));
+        document.Image.Set(0x164, static_cast<std::uint8_t>(revert.byte));
         Show();
         EXPECT_EQ(List("cboRevertCH").currentIndex(), revert.index) << revert.mode << ' ' << revert.byte;
         EXPECT_EQ(Chosen("cboRevertCH"), revert.text) << revert.mode << ' ' << revert.byte;
@@ -170,7 +170,7 @@ TEST_F(ScanFormModeTest, TheRevertByteSelectsTheEntryOfItsModesListAndStaysUntil
 TEST_F(ScanFormModeTest, EveryOtherRevertByteShowsNoSelectionAndGoesBackUntouched) {
     Show();
     for (int byte = 4; byte <= 255; ++byte) {
-        session.Image.Set(0x164, static_cast<std::uint8_t>(byte));
+        document.Image.Set(0x164, static_cast<std::uint8_t>(byte));
         Show();
         EXPECT_EQ(List("cboRevertCH").currentIndex(), -1) << byte;
         List("cboRevertCH").setFocus();
@@ -181,7 +181,7 @@ TEST_F(ScanFormModeTest, EveryOtherRevertByteShowsNoSelectionAndGoesBackUntouche
 
 TEST_F(ScanFormModeTest, ChoosingARevertChannelStoresItOnLeavingInBothLanguages) {
     for (const Language language : {Language::English, Language::Chinese}) {
-        session.Image.Set(0x164, 2);
+        document.Image.Set(0x164, 2);
         Show(language);
         for (int index = 0; index < 4; ++index) {
             const int before = At(0x164);
@@ -222,7 +222,7 @@ TEST_F(ScanFormModeTest, AModeThatHasTheLastChosenRevertTextFindsItAgain) {
 }
 
 TEST_F(ScanFormModeTest, WithoutARevertTextTheLastEntryIsSelected) {
-    session.Image.Set(0x164, 0xFF);
+    document.Image.Set(0x164, 0xFF);
     Show();
     List("cboPriority").setCurrentIndex(0);
     EXPECT_EQ(Chosen("cboRevertCH"), "Selected + Talk Back");
@@ -236,19 +236,19 @@ protected:
         ScanFormTest::SetUp();
         Put(0x10, {0x00, 0x25, 0x51, 0x14, 0x00, 0x25, 0x51, 0x14});
         Put(0x50, {0x00, 0x25, 0x51, 0x14, 0x00, 0x25, 0x51, 0x14});
-        session.SetOpen(ChildWindow::Channels, true);
-        grid = std::make_unique<ChannelForm>(session, services.Get());
-        session.Channels.DecodeImageToGrid(session.Image, session.LanguageFlag);
+        windows.SetOpen(ChildWindow::Channels, true);
+        grid = std::make_unique<ChannelForm>(document, windows, services.Get());
+        document.Channels.DecodeImageToGrid(document.Image, windows.LanguageFlag);
     }
     void OpenDialog(int channel) {
-        session.SetOpen(ChildWindow::ChannelEdit, true);
-        session.Cursor.SetEditChannel(channel);
-        dialog = std::make_unique<ChannelEditForm>(session, services.Get());
+        windows.SetOpen(ChildWindow::ChannelEdit, true);
+        windows.Cursor.SetEditChannel(channel);
+        dialog = std::make_unique<ChannelEditForm>(document, windows, services.Get());
         dialog->show();
         dialog->OpenOnEditChannel();
     }
     void OpenScan() {
-        session.SetOpen(ChildWindow::Scan, true);
+        windows.SetOpen(ChildWindow::Scan, true);
         Show();
     }
     QCheckBox& Mark() { return *dialog->findChild<QCheckBox*>("ChkPriorityChannel"); }
@@ -285,10 +285,10 @@ TEST_F(ScanFormAndDialogTest, ACommittedChannelSetsAndClearsTheMarkWithoutAnEcho
     OpenScan();
     Enter("txtPriorityCH", "1");
     EXPECT_TRUE(Mark().isChecked());
-    EXPECT_EQ(session.Priority.PriorityChannelNo(), 1);
+    EXPECT_EQ(document.Priority.PriorityChannelNo(), 1);
     Enter("txtPriorityCH", "5");
     EXPECT_FALSE(Mark().isChecked());
-    EXPECT_EQ(session.Priority.PriorityChannelNo(), 5);
+    EXPECT_EQ(document.Priority.PriorityChannelNo(), 5);
     EXPECT_EQ(Text("txtPriorityCH"), "5");
     EXPECT_EQ(At(0x161), 5);
 }
@@ -297,7 +297,7 @@ TEST_F(ScanFormAndDialogTest, TheMarkShowsInTheBoxAndReachesTheImageWhenTheBoxIs
     OpenDialog(1);
     OpenScan();
     Mark().click();
-    EXPECT_EQ(session.Priority.PriorityChannelNo(), 1);
+    EXPECT_EQ(document.Priority.PriorityChannelNo(), 1);
     EXPECT_EQ(Text("txtPriorityCH"), "1");
     EXPECT_EQ(At(0x161), 5);
     form->activateWindow();
@@ -313,7 +313,7 @@ TEST_F(ScanFormAndDialogTest, TheMarkShowsInTheBoxAndReachesTheImageWhenTheBoxIs
 TEST_F(ScanFormAndDialogTest, ADialogThatDoesNotCountAsOpenIsLeftAlone) {
     OpenDialog(1);
     OpenScan();
-    session.SetOpen(ChildWindow::ChannelEdit, false);
+    windows.SetOpen(ChildWindow::ChannelEdit, false);
     List("cboPriority").setCurrentIndex(0);
     EXPECT_TRUE(Mark().isEnabled());
 }

@@ -3,7 +3,7 @@
 namespace zelvor {
 namespace {
 
-/// What the priority channel looks like in box, image and session.
+/// What the priority channel looks like in box, image and document.
 struct Priority {
     std::string box;
     int byte;
@@ -21,8 +21,8 @@ void PrintTo(const Priority& priority, std::ostream* out) {
 class ScanFormPriorityTest : public ScanFormTest {
 protected:
     Priority Now() {
-        return {Text("txtPriorityCH"), At(0x161), session.Priority.PriorityChannelError(),
-                session.Priority.PriorityChannelNo()};
+        return {Text("txtPriorityCH"), At(0x161), document.Priority.PriorityChannelError(),
+                document.Priority.PriorityChannelNo()};
     }
 };
 
@@ -47,7 +47,7 @@ TEST_F(ScanFormPriorityTest, ZeroGivesChannel1WhereItIsProgrammed) {
 }
 
 TEST_F(ScanFormPriorityTest, ZeroIsRefusedAndEmptiesTheBoxWhereChannel1IsBlank) {
-    session.Image.Set(0x10, 0xFF);
+    document.Image.Set(0x10, 0xFF);
     Show();
     ExpectError();
     Enter("txtPriorityCH", "00");
@@ -79,7 +79,7 @@ TEST_F(ScanFormPriorityTest, ABlankChannelIsRefusedForTheOldText) {
 }
 
 TEST_F(ScanFormPriorityTest, ARefusalWithoutAnOldTextEmptiesTheBox) {
-    session.Image.Set(0x161, 0xFF);
+    document.Image.Set(0x161, 0xFF);
     Show();
     for (const char* refused : {"3", "17"}) {
         ExpectError();
@@ -114,7 +114,7 @@ TEST_F(ScanFormPriorityTest, NoChannelIsNoErrorInAnotherMode) {
 
 TEST_F(ScanFormPriorityTest, TheOldChannelComesBackEvenIfItIsBlankByNow) {
     Show();
-    session.Image.Set(0x50, 0xFF);
+    document.Image.Set(0x50, 0xFF);
     ExpectError();
     Enter("txtPriorityCH", "3");
     EXPECT_EQ(Now(), (Priority{"5", 5, false, 5}));
@@ -151,7 +151,7 @@ TEST_F(ScanFormPriorityTest, UpAndDownDoNotStepTheBox) {
 TEST_F(ScanFormPriorityTest, EveryByteOfAChannelThatIsProgrammedGoesBackToItselfAndOthersAreCorrected) {
     Program({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16});
     for (int byte = 0; byte <= 255; ++byte) {
-        session.Image.Set(0x161, static_cast<std::uint8_t>(byte));
+        document.Image.Set(0x161, static_cast<std::uint8_t>(byte));
         Show();
         Box("txtPriorityCH").setFocus();
         Key(Qt::Key_Tab);
@@ -161,7 +161,7 @@ TEST_F(ScanFormPriorityTest, EveryByteOfAChannelThatIsProgrammedGoesBackToItself
 }
 
 TEST_F(ScanFormPriorityTest, AStoredChannelThatIsNoChannelComesBackWhereChannel16IsBlank) {
-    session.Image.Set(0x161, 200);
+    document.Image.Set(0x161, 200);
     Show();
     ExpectError();
     Box("txtPriorityCH").setFocus();
@@ -172,13 +172,13 @@ TEST_F(ScanFormPriorityTest, AStoredChannelThatIsNoChannelComesBackWhereChannel1
 
 TEST_F(ScanFormPriorityTest, TheBoxCanBeSetFromOutsideAndStoresItWhenItIsLeft) {
     Show();
-    session.SetOpen(ChildWindow::Scan, true);
-    session.Priority.Mark(12);
+    windows.SetOpen(ChildWindow::Scan, true);
+    document.Priority.Mark(12);
     EXPECT_EQ(Text("txtPriorityCH"), "12");
     EXPECT_EQ(At(0x161), 5);
-    session.Priority.Mark(0);
+    document.Priority.Mark(0);
     EXPECT_EQ(Text("txtPriorityCH"), "");
-    session.Priority.Mark(12);
+    document.Priority.Mark(12);
     Box("txtPriorityCH").setFocus();
     Key(Qt::Key_Tab);
     EXPECT_EQ(At(0x161), 12);
@@ -189,7 +189,7 @@ TEST_F(ScanFormPriorityTest, TheErrorOutlivesTheWindow) {
     Enter("txtPriorityCH", "");
     Click("cmdClose");
     form.reset();
-    EXPECT_TRUE(session.Priority.PriorityChannelError());
+    EXPECT_TRUE(document.Priority.PriorityChannelError());
 }
 
 } // namespace

@@ -22,7 +22,7 @@ TEST_F(ScanFormTest, ShowsEveryFieldOfTheBlock) {
 }
 
 TEST_F(ScanFormTest, AnErasedImageShowsNoneAndEmptyBoxes) {
-    session.Image.Fill(0xFF);
+    document.Image.Fill(0xFF);
     Show();
     EXPECT_EQ(Chosen("cboPriority"), "None");
     EXPECT_EQ(Text("txtPriorityCH"), "");
@@ -162,31 +162,31 @@ TEST_F(ScanFormTest, AWindowThatIsDestroyedDropsWhatIsBeingEdited) {
 
 TEST_F(ScanFormTest, TheWindowListensOnlyWhileItLives) {
     Load();
-    session.SetOpen(ChildWindow::Scan, true);
-    session.Priority.Mark(7);
+    windows.SetOpen(ChildWindow::Scan, true);
+    document.Priority.Mark(7);
     EXPECT_EQ(Text("txtPriorityCH"), "7");
     form.reset();
-    session.Priority.Mark(8);
-    EXPECT_EQ(session.Priority.PriorityChannelNo(), 8);
+    document.Priority.Mark(8);
+    EXPECT_EQ(document.Priority.PriorityChannelNo(), 8);
 }
 
 TEST_F(ScanFormTest, OpeningAndClosingAWindowOfLegalValuesChangesNothing) {
-    const DataImage before = session.Image;
+    const DataImage before = document.Image;
     Show();
     Click("cmdClose");
     Show();
     form->CloseFromFrame();
     form.reset();
-    EXPECT_EQ(Differences(session.Image, before), Bytes{});
+    EXPECT_EQ(Differences(document.Image, before), Bytes{});
 }
 
 TEST_F(ScanFormTest, ClosingAnErasedWindowStoresTheModeThatWasShownForIt) {
-    session.Image.Fill(0xFF);
+    document.Image.Fill(0xFF);
     Show(); // the focus is on cboPriority, which commits on leaving
     Click("cmdClose");
     EXPECT_EQ(At(0x160), 0);
-    session.Image.Set(0x160, 0xFF);
-    EXPECT_EQ(session.Image, DataImage());
+    document.Image.Set(0x160, 0xFF);
+    EXPECT_EQ(document.Image, DataImage());
 }
 
 // Scan blocks of random bytes, some with a mode that exists. What opening may change: with the mode None, Selected or
@@ -203,17 +203,17 @@ TEST_F(ScanFormTest, OpensOnAnyImageAndChangesNothingButThePriorityChannelOfAMod
         }
     }
     for (const DataImage& image : images) {
-        session.Image = image;
+        document.Image = image;
         Load(random() % 2 == 0 ? Language::English : Language::Chinese);
         DataImage expected = image;
         const int mode = image.At(0x160);
         if (mode == 0 || mode == 2 || mode == 0xFF) {
             expected.Set(0x161, 0xFF);
         }
-        ASSERT_EQ(Differences(session.Image, expected), Bytes{}) << "seed " << seed;
+        ASSERT_EQ(Differences(document.Image, expected), Bytes{}) << "seed " << seed;
         form->CloseFromFrame();
         form.reset();
-        ASSERT_EQ(Differences(session.Image, expected), Bytes{}) << "seed " << seed;
+        ASSERT_EQ(Differences(document.Image, expected), Bytes{}) << "seed " << seed;
     }
 }
 
@@ -228,7 +228,7 @@ TEST_F(ScanFormTest, WalkingThroughTheFieldsOfAnyImageSettlesAtOnceAndStaysInThe
         for (int channel = 1; channel <= 16; ++channel) {
             image.Set(channel * 16, 0x00); // so that no message comes
         }
-        session.Image = image;
+        document.Image = image;
         Show();
         DataImage settled = image;
         for (int walk = 0; walk < 2; ++walk) {
@@ -236,10 +236,10 @@ TEST_F(ScanFormTest, WalkingThroughTheFieldsOfAnyImageSettlesAtOnceAndStaysInThe
                 Key(Qt::Key_Tab);
             }
             if (walk == 0) {
-                settled = session.Image;
+                settled = document.Image;
             }
         }
-        EXPECT_EQ(Differences(session.Image, settled), Bytes{}) << "seed " << seed << ", image " << i;
+        EXPECT_EQ(Differences(document.Image, settled), Bytes{}) << "seed " << seed << ", image " << i;
         for (const int address : Differences(settled, image)) {
             EXPECT_TRUE(address >= 0x160 && address <= 0x168) << address << ", seed " << seed << ", image " << i;
         }

@@ -50,7 +50,7 @@ TEST_F(ScanFormTest, ALookBackTimeIsCutDownToTheStepAndKeptToItsRange) {
 TEST_F(ScanFormTest, EveryByteOfALookBackTimeShowsItsSecondsAndLegalOnesGoBackToThemselves) {
     for (const LookBack& field : LookBacks) {
         for (int byte = 0; byte <= 255; ++byte) {
-            session.Image.Set(field.address, static_cast<std::uint8_t>(byte));
+            document.Image.Set(field.address, static_cast<std::uint8_t>(byte));
             Show();
             const bool empty = byte == 0 || byte == 255;
             char seconds[16];
@@ -62,7 +62,7 @@ TEST_F(ScanFormTest, EveryByteOfALookBackTimeShowsItsSecondsAndLegalOnesGoBackTo
             Key(Qt::Key_Tab);
             EXPECT_EQ(At(field.address), empty ? 1 : std::min(byte, 91)) << byte;
         }
-        session.Image.Set(field.address, 1);
+        document.Image.Set(field.address, 1);
     }
 }
 
@@ -102,8 +102,8 @@ TEST_F(ScanFormTest, StepsStartFromWhatWasTyped) {
 }
 
 TEST_F(ScanFormTest, StepsOfAnEmptyBoxStartFromTheUpDown) {
-    session.Image.Fill(0xFF);
-    session.Image.Set(0x160, 2);
+    document.Image.Fill(0xFF);
+    document.Image.Set(0x160, 2);
     Show();
     Box("txtLookBackTimeA").setFocus();
     Key(Qt::Key_Up);
@@ -154,8 +154,8 @@ TEST_F(ScanFormTest, LowAndHighByteOfADelayLieLowFirst) {
 TEST_F(ScanFormTest, EveryDelayOfTheRangeGoesBackToItself) {
     for (const Delay& field : Delays) {
         for (int seconds = 0; seconds <= 300; ++seconds) {
-            session.Image.Set(field.low, static_cast<std::uint8_t>(seconds % 256));
-            session.Image.Set(field.high, static_cast<std::uint8_t>(seconds / 256));
+            document.Image.Set(field.low, static_cast<std::uint8_t>(seconds % 256));
+            document.Image.Set(field.high, static_cast<std::uint8_t>(seconds / 256));
             Show();
             EXPECT_EQ(Text(field.box), std::to_string(seconds));
             EXPECT_EQ(Spin(field.upDown), seconds);
@@ -169,8 +169,8 @@ TEST_F(ScanFormTest, EveryDelayOfTheRangeGoesBackToItself) {
 TEST_F(ScanFormTest, EveryHighByteOfADelayShowsAsItIsAndIsKeptTo300OnLeaving) {
     for (const Delay& field : Delays) {
         for (int high = 0; high <= 255; ++high) {
-            session.Image.Set(field.low, 0x30);
-            session.Image.Set(field.high, static_cast<std::uint8_t>(high));
+            document.Image.Set(field.low, 0x30);
+            document.Image.Set(field.high, static_cast<std::uint8_t>(high));
             Show();
             const int seconds = high * 256 + 48;
             EXPECT_EQ(Text(field.box), high == 255 ? "" : std::to_string(seconds));

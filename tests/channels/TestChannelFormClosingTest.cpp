@@ -27,8 +27,8 @@ TEST_F(TestChannelFormTest, TheWarningIsChineseInChinese) {
 TEST_F(TestChannelFormTest, TheCloseButtonSaysNothingOfUnchangedFrequencies) {
     PutPair(1, "0025511400005015");
     Show();
-    session.Image.Set(0x27F, 0x12); // other windows' bytes, either side of the table
-    session.Image.Set(0x300, 0x12);
+    document.Image.Set(0x27F, 0x12); // other windows' bytes, either side of the table
+    document.Image.Set(0x300, 0x12);
     const QSignalSpy unloaded(form.get(), &ChildForm::UnloadRequested);
     Click("cmdClose");
     EXPECT_EQ(unloaded.count(), 1);
@@ -49,7 +49,7 @@ TEST_F(TestChannelFormTest, AnyByteOfTheTableCountsAsAChange) {
     for (const int address : {0x280, 0x2FF}) {
         PutPair(1, "0025511400005015");
         Show();
-        session.Image.Set(address, 0x01);
+        document.Image.Set(address, 0x01);
         ExpectMessage("Warning", "Test Frequency data have changed.\n"
                                  "please execute write to radio before entering into Test Mode.");
         Click("cmdClose");
@@ -80,10 +80,10 @@ TEST_F(TestChannelFormTest, TheFrameClosesWithoutComparingOrWarning) {
 
 TEST_F(TestChannelFormTest, AnEditStillOpenWhenTheWindowGoesIsDropped) {
     Show();
-    const DataImage before = session.Image;
+    const DataImage before = document.Image;
     Type("145");
     form.reset();
-    EXPECT_EQ(session.Image, before);
+    EXPECT_EQ(document.Image, before);
 }
 
 TEST_F(TestChannelFormTest, ANewWindowComparesWithTheFrequenciesOfItsOwnOpening) {

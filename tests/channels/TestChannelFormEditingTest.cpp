@@ -83,7 +83,7 @@ TEST_F(TestChannelFormTest, TheRangeReportIsChineseInChinese) {
 
 TEST_F(TestChannelFormTest, AnImageWithoutModelDataReports120AndKeepsIt) {
     for (const int family : {0x00, 0xFF}) {
-        session.Image.Set(0x1BE, static_cast<std::uint8_t>(family));
+        document.Image.Set(0x1BE, static_cast<std::uint8_t>(family));
         PutPair(1, NoBytes);
         Show();
         ExpectOutOfRange();
@@ -112,7 +112,7 @@ TEST_F(TestChannelFormTest, EmptyingEitherSideEmptiesThePair) {
 TEST_F(TestChannelFormTest, EmptyingTheLastPairBringsTheDefaultPairsBack) {
     for (const int row : {1, 4, 16}) {
         for (const int column : {1, 2}) {
-            session.Image.Fill(0xFF);
+            document.Image.Fill(0xFF);
             SetUp();
             PutPair(row, "0025511400005015");
             Show();
@@ -175,8 +175,8 @@ TEST_F(TestChannelFormTest, TheDefaultPairsOfEachMarketAreShown) {
     };
     for (const Market& market : markets) {
         for (const int byte : market.bytes) {
-            session.Image.Fill(0xFF);
-            session.Image.Set(0x1BD, static_cast<std::uint8_t>(byte));
+            document.Image.Fill(0xFF);
+            document.Image.Set(0x1BD, static_cast<std::uint8_t>(byte));
             PutPair(5, "0025511400005015");
             Show();
             Empty(5, 1);
@@ -228,7 +228,7 @@ TEST_F(TestChannelFormTest, EscapeBringsTheTextBack) {
     PutPair(2, "0025511400005015");
     Show();
     Grid().MoveTo(2, 1);
-    const DataImage before = session.Image;
+    const DataImage before = document.Image;
     Type("14");
     EXPECT_EQ(Cell(2, 1), "14");
     Key(Qt::Key_Escape);
@@ -236,7 +236,7 @@ TEST_F(TestChannelFormTest, EscapeBringsTheTextBack) {
     EXPECT_FALSE(Editor().isVisible());
     EXPECT_TRUE(Grid().hasFocus());
     ExpectCursor(2, 1);
-    EXPECT_EQ(session.Image, before);
+    EXPECT_EQ(document.Image, before);
 }
 
 TEST_F(TestChannelFormTest, TheEditorTakesNineDigitsAndPoints) {
@@ -303,12 +303,12 @@ TEST_F(TestChannelFormTest, LeavingACellAsItWasChangesNoByte) {
     for (const int row : {1, 2}) {
         for (const int column : {1, 2}) {
             Show();
-            const DataImage before = session.Image;
+            const DataImage before = document.Image;
             ClickCell(row, column);
             EXPECT_TRUE(Editor().isVisible());
             Key(Qt::Key_Tab);
             EXPECT_FALSE(Editor().isVisible());
-            EXPECT_EQ(session.Image, before) << row << " " << column;
+            EXPECT_EQ(document.Image, before) << row << " " << column;
         }
     }
 }

@@ -14,7 +14,8 @@
 
 #include "channels/TestChannelForm.h"
 #include "controls/EditGrid.h"
-#include "data/Session.h"
+#include "controls/WindowState.h"
+#include "data/Document.h"
 #include "fakes/FakeServices.h"
 #include "platform/Toolkit.h"
 
@@ -27,29 +28,30 @@ protected:
     using Pair = std::vector<std::string>;
 
     void SetUp() override {
-        session.Image.Set(0x1BD, 0x01);
-        session.Image.Set(0x1BE, 0xF8);
+        document.Image.Set(0x1BD, 0x01);
+        document.Image.Set(0x1BE, 0xF8);
     }
 
     /// Puts the eight bytes of a pair, in hexadecimal, into the image.
     void PutPair(int channel, std::string_view hex) {
         for (int i = 0; i < 8; ++i) {
             const std::string digits(hex.substr(static_cast<std::size_t>(i) * 2, 2));
-            session.Image.Set(0x280 + 8 * (channel - 1) + i, static_cast<std::uint8_t>(std::stoi(digits, nullptr, 16)));
+            document.Image.Set(0x280 + 8 * (channel - 1) + i,
+                               static_cast<std::uint8_t>(std::stoi(digits, nullptr, 16)));
         }
     }
     /// The eight bytes of a channel in hexadecimal.
     std::string PairBytes(int channel) {
         QByteArray bytes;
         for (int i = 0; i < 8; ++i) {
-            bytes.append(static_cast<char>(session.Image.At(0x280 + 8 * (channel - 1) + i)));
+            bytes.append(static_cast<char>(document.Image.At(0x280 + 8 * (channel - 1) + i)));
         }
         return bytes.toHex().toUpper().toStdString();
     }
 
     void Show(Language language = Language::English) {
-        session.LanguageFlag = language;
-        form = std::make_unique<TestChannelForm>(session, services.Get());
+        windows.LanguageFlag = language;
+        form = std::make_unique<TestChannelForm>(document, windows, services.Get());
         form->show();
         form->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
@@ -112,7 +114,8 @@ protected:
     void ExpectOutOfRange() { ExpectMessage("Warning", "Frequency is out of range."); }
 
     FakeServices services;
-    Session session;
+    Document document;
+    WindowState windows;
     std::unique_ptr<TestChannelForm> form;
 };
 

@@ -11,7 +11,7 @@ class TestChannelFormRandomTest : public TestChannelFormTest {
 protected:
     void Randomise() {
         for (int address = 0; address < 1024; ++address) {
-            session.Image.Set(address, static_cast<std::uint8_t>(random() & 0xFF));
+            document.Image.Set(address, static_cast<std::uint8_t>(random() & 0xFF));
         }
     }
     int Below(int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); }
@@ -23,14 +23,14 @@ TEST_F(TestChannelFormRandomTest, AnyImageOpensIsWalkedAndClosedWithoutChangingA
     for (int round = 0; round < 2002; ++round) {
         Randomise();
         if (round < 2) {
-            session.Image.Fill(round == 0 ? 0x00 : 0xFF);
+            document.Image.Fill(round == 0 ? 0x00 : 0xFF);
         }
-        session.LanguageFlag = round % 2 == 0 ? Language::English : Language::Chinese;
-        const DataImage before = session.Image;
-        form = std::make_unique<TestChannelForm>(session, services.Get());
+        windows.LanguageFlag = round % 2 == 0 ? Language::English : Language::Chinese;
+        const DataImage before = document.Image;
+        form = std::make_unique<TestChannelForm>(document, windows, services.Get());
         const QSignalSpy unloaded(form.get(), &ChildForm::UnloadRequested);
         for (int row = 1; row <= 16; ++row) {
-            const bool empty = session.Image.At(0x280 + 8 * (row - 1)) == 0xFF;
+            const bool empty = document.Image.At(0x280 + 8 * (row - 1)) == 0xFF;
             ASSERT_EQ(Cell(row, 1).size(), empty ? 0U : 9U) << "seed " << Seed << ", round " << round;
             ASSERT_EQ(Cell(row, 2).size(), empty ? 0U : 9U) << "seed " << Seed << ", round " << round;
             Grid().MoveTo(row, 1 + round % 2);
@@ -38,7 +38,7 @@ TEST_F(TestChannelFormRandomTest, AnyImageOpensIsWalkedAndClosedWithoutChangingA
         Find<QPushButton>("cmdClose").click();
         ASSERT_EQ(unloaded.count(), 1);
         form.reset();
-        ASSERT_EQ(session.Image, before) << "seed " << Seed << ", round " << round;
+        ASSERT_EQ(document.Image, before) << "seed " << Seed << ", round " << round;
     }
     EXPECT_TRUE(services.messages.Shown().empty());
 }
@@ -46,7 +46,7 @@ TEST_F(TestChannelFormRandomTest, AnyImageOpensIsWalkedAndClosedWithoutChangingA
 TEST_F(TestChannelFormRandomTest, LookingIntoCellsOfAnyImageChangesNoByte) {
     for (int round = 0; round < 150; ++round) {
         Randomise();
-        const DataImage before = session.Image;
+        const DataImage before = document.Image;
         Show();
         for (int look = 0; look < 4; ++look) {
             Grid().setFocus();
@@ -60,7 +60,7 @@ TEST_F(TestChannelFormRandomTest, LookingIntoCellsOfAnyImageChangesNoByte) {
             }
             ASSERT_FALSE(Editor().isVisible());
         }
-        ASSERT_EQ(session.Image, before) << "seed " << Seed << ", round " << round;
+        ASSERT_EQ(document.Image, before) << "seed " << Seed << ", round " << round;
     }
 }
 
@@ -68,10 +68,10 @@ TEST_F(TestChannelFormRandomTest, AnyEntryLeavesWholePairsAndTouchesOnlyItsOwn) 
     const char* const entries[] = {"1", "145", "145.0031", "599.9", ".", "..5", "999999999", "100.00001", "0", "453.2"};
     for (int round = 0; round < 2000; ++round) {
         Randomise();
-        session.Image.Set(0x280, 0x00); // never the last pair
-        session.Image.Set(0x288, 0x00);
-        form = std::make_unique<TestChannelForm>(session, services.Get());
-        DataImage expected = session.Image;
+        document.Image.Set(0x280, 0x00); // never the last pair
+        document.Image.Set(0x288, 0x00);
+        form = std::make_unique<TestChannelForm>(document, windows, services.Get());
+        DataImage expected = document.Image;
         const int row = 1 + Below(16);
         const int column = 1 + Below(2);
         const bool erases = Below(4) == 0;
@@ -79,7 +79,7 @@ TEST_F(TestChannelFormRandomTest, AnyEntryLeavesWholePairsAndTouchesOnlyItsOwn) 
         form->ShowTestEditor(row, column);
         Editor().setText(erases ? QString() : QString(entry));
         const int megahertz = QString(entry).toDouble() > 0 ? static_cast<int>(QString(entry).toDouble()) : 0;
-        const bool erasedModel = session.Image.At(0x1BE) == 0x00 || session.Image.At(0x1BE) == 0xFF;
+        const bool erasedModel = document.Image.At(0x1BE) == 0x00 || document.Image.At(0x1BE) == 0xFF;
         if (!erases && (megahertz < (erasedModel ? 136 : 100) || megahertz >= (erasedModel ? 174 : 550))) {
             ExpectOutOfRange();
         }
@@ -87,19 +87,19 @@ TEST_F(TestChannelFormRandomTest, AnyEntryLeavesWholePairsAndTouchesOnlyItsOwn) 
         ASSERT_EQ(services.messages.Pending(), 0) << "seed " << Seed << ", round " << round;
 
         const int first = 0x280 + 8 * (row - 1);
-        ASSERT_EQ(session.Image.At(first) == 0xFF, erases) << "seed " << Seed << ", round " << round;
+        ASSERT_EQ(document.Image.At(first) == 0xFF, erases) << "seed " << Seed << ", round " << round;
         ASSERT_EQ(Cell(row, 1).empty(), erases) << "seed " << Seed << ", round " << round;
         ASSERT_EQ(Cell(row, 2).empty(), erases) << "seed " << Seed << ", round " << round;
         for (int i = 0; i < 8; ++i) {
             if (erases) {
-                ASSERT_EQ(session.Image.At(first + i), 0xFF);
+                ASSERT_EQ(document.Image.At(first + i), 0xFF);
             } else {
-                ASSERT_LE(session.Image.At(first + i) & 0x0F, 9) << "seed " << Seed << ", round " << round;
-                ASSERT_LE(session.Image.At(first + i) >> 4, 9) << "seed " << Seed << ", round " << round;
+                ASSERT_LE(document.Image.At(first + i) & 0x0F, 9) << "seed " << Seed << ", round " << round;
+                ASSERT_LE(document.Image.At(first + i) >> 4, 9) << "seed " << Seed << ", round " << round;
             }
-            expected.Set(first + i, session.Image.At(first + i));
+            expected.Set(first + i, document.Image.At(first + i));
         }
-        ASSERT_EQ(session.Image, expected) << "seed " << Seed << ", round " << round;
+        ASSERT_EQ(document.Image, expected) << "seed " << Seed << ", round " << round;
     }
 }
 

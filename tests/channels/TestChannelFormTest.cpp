@@ -79,8 +79,8 @@ TEST_F(TestChannelFormTest, PairsOfTheImageAreShown) {
 }
 
 TEST_F(TestChannelFormTest, ABlankDocumentShowsItsSixDefaultPairs) {
-    session.Image.Set(0x1BD, 0x21);
-    InitAllFrameData(session.Image);
+    document.Image.Set(0x1BD, 0x21);
+    InitAllFrameData(document.Image);
     Show();
     EXPECT_EQ(Row(1), (Pair{"470.05000", "470.10000"}));
     EXPECT_EQ(Row(2), (Pair{"450.05000", "450.10000"}));

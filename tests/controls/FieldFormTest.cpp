@@ -43,10 +43,10 @@ constexpr CheckField OtherCheck{.key = "test.othercheck", .label = Text::Battery
 
 class TestForm : public FieldForm {
 public:
-    TestForm(Session& session, Services& services)
-        : FieldForm(ChildWindow::Scan, "TestForm", {4500, 4500}, "picTest", Text::OptionalFeatures, session, services,
-                    nullptr) {
-        BoundRows rows(*Panel(), session, 8, 4);
+    TestForm(Document& document, const WindowState& windows, Services& services)
+        : FieldForm(ChildWindow::Scan, "TestForm", {4500, 4500}, "picTest", Text::OptionalFeatures, document, windows,
+                    services, nullptr) {
+        BoundRows rows(*Panel(), document.Image, windows.LanguageFlag, 8, 4);
         rows.AddSpin("Number", Number);
         rows.AddList("List", List, "lblOther");
         rows.AddList("Own", OwnLabel);
@@ -63,11 +63,11 @@ class FieldFormTest : public testing::Test {
 protected:
     void SetUp() override { Show(Language::English); }
     void Show(Language language) {
-        session.LanguageFlag = language;
+        windows.LanguageFlag = language;
         for (int address = 0x100; address <= 0x104; ++address) {
-            session.Image.Set(address, 1);
+            document.Image.Set(address, 1);
         }
-        form = std::make_unique<TestForm>(session, services.Get());
+        form = std::make_unique<TestForm>(document, windows, services.Get());
         form->show();
         form->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
@@ -84,7 +84,8 @@ protected:
     }
 
     FakeServices services;
-    Session session;
+    Document document;
+    WindowState windows;
     std::unique_ptr<TestForm> form;
 };
 
@@ -134,18 +135,18 @@ TEST_F(FieldFormTest, ClosingEitherWayStoresWhatIsBeingEditedAndAsksToBeUnloaded
     const QSignalSpy unload(form.get(), &ChildForm::UnloadRequested);
     TypeNumber("7");
     QTest::mouseClick(&Find<QPushButton>("cmdClose"), Qt::LeftButton);
-    EXPECT_EQ(session.Image.At(0x100), 7);
+    EXPECT_EQ(document.Image.At(0x100), 7);
     EXPECT_EQ(unload.count(), 1);
     TypeNumber("8");
     form->CloseFromFrame();
-    EXPECT_EQ(session.Image.At(0x100), 8);
+    EXPECT_EQ(document.Image.At(0x100), 8);
     EXPECT_EQ(unload.count(), 2);
 }
 
 TEST_F(FieldFormTest, UnloadingDropsWhatIsBeingEdited) {
     TypeNumber("7");
     form.reset();
-    EXPECT_EQ(session.Image.At(0x100), 1);
+    EXPECT_EQ(document.Image.At(0x100), 1);
 }
 
 TEST_F(FieldFormTest, HelpAsksForThePageOfTheWindowInTheLanguage) {

@@ -10,7 +10,7 @@ namespace {
 class CPUFormChangesTest : public CPUFormTest {
 protected:
     void SetUp() override {
-        session.Image.Set(0x011, 0x5C);
+        document.Image.Set(0x011, 0x5C);
         Show();
         Grid().MoveTo(2, 2);
     }
@@ -40,7 +40,7 @@ TEST_F(CPUFormChangesTest, EscapeInACellCancelsTheCellAndTheNextOneLeaves) {
 }
 
 TEST_F(CPUFormChangesTest, EscapeAsksWhereAByteWasChanged) {
-    const DataImage before = session.Image;
+    const DataImage before = document.Image;
     Type("A1");
     Key(Qt::Key_Return);
     services.messages.Expect(Question(), MessageAnswer::No);
@@ -51,7 +51,7 @@ TEST_F(CPUFormChangesTest, EscapeAsksWhereAByteWasChanged) {
     Key(Qt::Key_Escape);
     EXPECT_FALSE(form->isVisible());
     EXPECT_EQ(form->result(), QDialog::Rejected);
-    EXPECT_EQ(session.Image, before);
+    EXPECT_EQ(document.Image, before);
 }
 
 TEST_F(CPUFormChangesTest, AsksInChinese) {
@@ -126,7 +126,7 @@ TEST_F(CPUFormChangesTest, TheMarkIsToBeSeen) {
     Type("A1");
     Key(Qt::Key_Return);
     const QImage changed = picture();
-    session.Image.Set(0x004, 0xA1);
+    document.Image.Set(0x004, 0xA1);
     Show();
     EXPECT_NE(picture(), changed);
     EXPECT_EQ(Grid().Text(1, 5), "A1");

@@ -257,7 +257,7 @@ TEST_F(CPUFormEditingTest, OkTakesTheTextThatIsBeingEdited) {
     Grid().MoveTo(28, 14);
     Type("A");
     Click("cmdOK");
-    EXPECT_EQ(session.Image.At(0x1BD), 0x0A);
+    EXPECT_EQ(document.Image.At(0x1BD), 0x0A);
     EXPECT_FALSE(form->isVisible());
 }
 
@@ -265,20 +265,20 @@ TEST_F(CPUFormEditingTest, OkByItsAccessKeyDoesTheSame) {
     Type("A");
     Key(Qt::Key_O, Qt::AltModifier);
     QTRY_VERIFY(!form->isVisible());
-    EXPECT_EQ(session.Image.At(0x000), 0x0A);
+    EXPECT_EQ(document.Image.At(0x000), 0x0A);
 }
 
 TEST_F(CPUFormEditingTest, CancelDropsTheTextThatIsBeingEdited) {
     Type("A");
     Click("cmdCancel");
     EXPECT_FALSE(form->isVisible());
-    EXPECT_EQ(session.Image, DataImage());
+    EXPECT_EQ(document.Image, DataImage());
 }
 
 TEST_F(CPUFormEditingTest, ADialogDestroyedWhileACellIsEditedStoresNothing) {
     Type("A");
     form.reset();
-    EXPECT_EQ(session.Image, DataImage());
+    EXPECT_EQ(document.Image, DataImage());
 }
 
 } // namespace

@@ -11,7 +11,7 @@
 
 #include "controls/CellTextEditor.h"
 #include "controls/EditGrid.h"
-#include "data/Session.h"
+#include "data/Document.h"
 #include "fakes/FakeServices.h"
 #include "features/CPUForm.h"
 #include "support/QtPrinting.h"
@@ -22,9 +22,9 @@ namespace zelvor {
 class CPUFormTest : public testing::Test {
 protected:
     void Load(Language language = Language::English) {
-        session.LanguageFlag = language;
+        language_ = language;
         form.reset();
-        form = std::make_unique<CPUForm>(session, services.Get());
+        form = std::make_unique<CPUForm>(document, language, services.Get());
     }
     void Show(Language language = Language::English) {
         Load(language);
@@ -56,7 +56,7 @@ protected:
     int VisibleRows() { return Grid().viewport()->height() / Grid().rowHeight(0); }
     /// The question before typed bytes are thrown away.
     Message Question() const {
-        if (session.LanguageFlag == Language::Chinese) {
+        if (language_ == Language::Chinese) {
             return {"内存指针图", "放弃已更改的字节吗？", MessageIcon::Question, MessageButtons::YesNo,
                     MessageAnswer::No};
         }
@@ -69,8 +69,11 @@ protected:
     }
 
     FakeServices services;
-    Session session;
+    Document document;
     std::unique_ptr<CPUForm> form;
+
+private:
+    Language language_ = Language::English;
 };
 
 } // namespace zelvor

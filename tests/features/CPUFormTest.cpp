@@ -110,7 +110,7 @@ TEST_F(CPUFormTest, TheEditorStaysOverItsCellWhenTheWindowGrows) {
 
 TEST_F(CPUFormTest, EveryByteShowsAtItsAddressInTwoCapitalDigits) {
     for (int address = 0; address < 1024; ++address) {
-        session.Image.Set(address, static_cast<std::uint8_t>(address * 7 + address / 256));
+        document.Image.Set(address, static_cast<std::uint8_t>(address * 7 + address / 256));
     }
     Load();
     for (int address = 0; address < 1024; ++address) {
@@ -189,13 +189,13 @@ TEST_F(CPUFormTest, OkStoresEveryCell) {
         }
     }
     Click("cmdOK");
-    EXPECT_EQ(session.Image, expected);
+    EXPECT_EQ(document.Image, expected);
     EXPECT_FALSE(form->isVisible());
     EXPECT_EQ(form->result(), QDialog::Accepted);
 }
 
 TEST_F(CPUFormTest, NothingIsStoredBeforeOkAndNothingAtAnyOtherEnd) {
-    const DataImage before = session.Image;
+    const DataImage before = document.Image;
     const auto expectQuestion = [this] { services.messages.Expect(Question(), MessageAnswer::Yes); };
     const std::function<void()> ends[] = {[this] { Click("cmdCancel"); }, [&] { expectQuestion(), form->close(); },
                                           [&] { expectQuestion(), Key(Qt::Key_Escape); }};
@@ -204,10 +204,10 @@ TEST_F(CPUFormTest, NothingIsStoredBeforeOkAndNothingAtAnyOtherEnd) {
         Type("12");
         Key(Qt::Key_Return);
         EXPECT_EQ(Grid().Text(1, 1), "12");
-        EXPECT_EQ(session.Image, before);
+        EXPECT_EQ(document.Image, before);
         end();
         EXPECT_FALSE(form->isVisible());
-        EXPECT_EQ(session.Image, before);
+        EXPECT_EQ(document.Image, before);
     }
 }
 
@@ -216,13 +216,13 @@ TEST_F(CPUFormTest, OkLeavesEveryImageThatWasNotEditedAsItIs) {
     std::mt19937 random(seed);
     for (int round = 0; round < 2000; ++round) {
         for (int address = 0; address < 1024; ++address) {
-            session.Image.Set(address, static_cast<std::uint8_t>(random()));
+            document.Image.Set(address, static_cast<std::uint8_t>(random()));
         }
-        const DataImage before = session.Image;
+        const DataImage before = document.Image;
         Load();
-        ASSERT_EQ(session.Image, before) << "seed " << seed << " round " << round;
+        ASSERT_EQ(document.Image, before) << "seed " << seed << " round " << round;
         Button("cmdOK").click();
-        ASSERT_EQ(session.Image, before) << "seed " << seed << " round " << round;
+        ASSERT_EQ(document.Image, before) << "seed " << seed << " round " << round;
     }
 }
 

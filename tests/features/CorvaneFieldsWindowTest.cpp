@@ -26,7 +26,7 @@ TEST_F(CorvaneFormTest, EveryNumberWrapsInBothDirectionsByKeyAndByButton) {
     Put(0x170, {250, 0xA0, 0x0F, 0x70, 0x17, 0, 0x2C, 0x01});
     for (const Wrap& wrap : Wraps) {
         for (const bool byKey : {true, false}) {
-            const DataImage before = session.Image;
+            const DataImage before = document.Image;
             Show();
             Focus(wrap.box);
             const auto step = [&](bool up) {
@@ -50,7 +50,7 @@ TEST_F(CorvaneFormTest, EveryNumberWrapsInBothDirectionsByKeyAndByButton) {
             step(true);
             step(true);
             EXPECT_EQ(Text(wrap.box), wrap.aboveFirst);
-            EXPECT_EQ(session.Image, before);
+            EXPECT_EQ(document.Image, before);
             form.reset();
         }
     }

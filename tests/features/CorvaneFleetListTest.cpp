@@ -70,7 +70,7 @@ TEST_F(CorvaneFormTest, ANumberIsEnteredAsTheHintTells) {
 
 TEST_F(CorvaneFormTest, OtherButtonsAndKeysDoNotOpenTheEditor) {
     ShowList();
-    const DataImage before = session.Image;
+    const DataImage before = document.Image;
     ClickCell(2, 2, Qt::RightButton);
     EXPECT_FALSE(Editor().isVisible());
     Type("bBzD#*+-. !");
@@ -78,7 +78,7 @@ TEST_F(CorvaneFormTest, OtherButtonsAndKeysDoNotOpenTheEditor) {
     QTest::keyClick(&Grid(), Qt::Key_1, Qt::ControlModifier);
     QTest::keyClick(&Grid(), Qt::Key_A, Qt::ControlModifier);
     EXPECT_FALSE(Editor().isVisible());
-    EXPECT_EQ(session.Image, before);
+    EXPECT_EQ(document.Image, before);
     EXPECT_EQ(Cell(2, 1), "150");
 }
 
@@ -246,22 +246,22 @@ TEST_F(CorvaneFormTest, TheLetterAIsTakenForAnEmptyText) {
 TEST_F(CorvaneFormTest, EmptyingEitherCellErasesTheEntry) {
     for (int row = 1; row <= 8; ++row) {
         for (int column = 1; column <= 2; ++column) {
-            session.Image.Fill(0x55);
+            document.Image.Fill(0x55);
             PutEntry(row, {51, 235, 0});
-            DataImage expected = session.Image;
+            DataImage expected = document.Image;
             const int addresses[] = {0x1C0, 0x1C3, 0x1C6, 0x1C9, 0x1D0, 0x1D3, 0x1D6, 0x1D9};
             for (int i = 0; i < 3; ++i) {
                 expected.Set(addresses[row - 1] + i, 0xFF);
             }
             ShowList();
-            expected.Set(0x170, session.Image.At(0x170)); // the focus was on the fleet when the tab was changed
+            expected.Set(0x170, document.Image.At(0x170)); // the focus was on the fleet when the tab was changed
             Open(row, column);
             Key(Qt::Key_Backspace);
             EXPECT_EQ(Cell(row, 1), "");
             EXPECT_EQ(Cell(row, 2), "");
-            EXPECT_EQ(Differences(session.Image, expected), Bytes{}) << row;
+            EXPECT_EQ(Differences(document.Image, expected), Bytes{}) << row;
             Key(Qt::Key_Return);
-            EXPECT_EQ(Differences(session.Image, expected), Bytes{}) << row;
+            EXPECT_EQ(Differences(document.Image, expected), Bytes{}) << row;
         }
     }
 }
@@ -342,13 +342,13 @@ TEST_F(CorvaneFormTest, EveryLegalEntryStaysAsItIsWhenItsCellsAreEnteredAndLeft)
         for (const auto& bytes : {Bytes{0, 0, 0}, Bytes{1, 1, 0}, Bytes{250, 0xA0, 0x0F}, Bytes{77, 0, 0},
                                   Bytes{0, 0xFF, 0}, Bytes{0xFF, 0xFF, 0xFF}}) {
             PutEntry(row, {bytes[0], bytes[1], bytes[2]});
-            const DataImage before = session.Image;
+            const DataImage before = document.Image;
             ShowList();
             Open(row, 1);
             Key(Qt::Key_Tab);
             Open(row, 2);
             Key(Qt::Key_Return);
-            EXPECT_EQ(session.Image, before) << row << ", " << bytes[0];
+            EXPECT_EQ(document.Image, before) << row << ", " << bytes[0];
         }
     }
 }

@@ -13,7 +13,7 @@ namespace zelvor {
 namespace {
 
 TEST_F(CorvaneFormTest, ShowsEveryFieldOfTheBlock) {
-    const DataImage before = session.Image;
+    const DataImage before = document.Image;
     Show();
     EXPECT_EQ(Text("txtFleet"), "149");
     EXPECT_EQ(Spin("updFleet"), 50);
@@ -25,12 +25,12 @@ TEST_F(CorvaneFormTest, ShowsEveryFieldOfTheBlock) {
     EXPECT_EQ(Text("txtMsgModeTimer"), "10");
     EXPECT_EQ(Spin("updMsgModeTimer"), 10);
     EXPECT_TRUE(Find<QCheckBox>("chkSideTone").isChecked());
-    EXPECT_EQ(session.Image, before);
+    EXPECT_EQ(document.Image, before);
 }
 
 TEST_F(CorvaneFormTest, ANewDocumentShowsNoOwnNumberAndItsDefaults) {
     Put(0x1BD, {0x01, 0xF8});
-    InitAllFrameData(session.Image);
+    InitAllFrameData(document.Image);
     Load();
     EXPECT_EQ(Text("txtFleet"), "");
     EXPECT_EQ(Spin("updFleet"), 0);
@@ -47,7 +47,7 @@ TEST_F(CorvaneFormTest, ANewDocumentShowsNoOwnNumberAndItsDefaults) {
 }
 
 TEST_F(CorvaneFormTest, AnErasedImageShowsTheFieldsOwnBlanks) {
-    session.Image.Fill(0xFF);
+    document.Image.Fill(0xFF);
     Load();
     EXPECT_EQ(Text("txtFleet"), "");
     EXPECT_EQ(Spin("updFleet"), 0);
@@ -59,7 +59,7 @@ TEST_F(CorvaneFormTest, AnErasedImageShowsTheFieldsOwnBlanks) {
     EXPECT_EQ(Text("txtMsgModeTimer"), "300");
     EXPECT_EQ(Spin("updMsgModeTimer"), 300);
     EXPECT_FALSE(Find<QCheckBox>("chkSideTone").isChecked());
-    EXPECT_EQ(session.Image, DataImage());
+    EXPECT_EQ(document.Image, DataImage());
 }
 
 TEST_F(CorvaneFormTest, TextsAreEnglishInEnglish) {
@@ -143,7 +143,7 @@ TEST_F(CorvaneFormTest, EveryControlHasAnAccessibleName) {
 
 TEST_F(CorvaneFormTest, EnterAndTabMoveThroughAllFieldsInOrderAndSelectTheirTexts) {
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Tab}) {
-        const DataImage before = session.Image;
+        const DataImage before = document.Image;
         Show();
         EXPECT_TRUE(Box("txtFleet").hasFocus());
         EXPECT_EQ(Box("txtFleet").selectedText(), "149");
@@ -168,7 +168,7 @@ TEST_F(CorvaneFormTest, EnterAndTabMoveThroughAllFieldsInOrderAndSelectTheirText
         EXPECT_TRUE(Tabs().tabBar()->hasFocus());
         Key(key);
         EXPECT_TRUE(Box("txtFleet").hasFocus());
-        EXPECT_EQ(session.Image, before);
+        EXPECT_EQ(document.Image, before);
     }
 }
 
@@ -177,7 +177,7 @@ TEST_F(CorvaneFormTest, InTheMainWindowTheFocusStartsOnTheFirstFieldAndNotOnItsT
     area.resize(700, 500);
     area.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&area));
-    auto* frame = new ChildFrame(new CorvaneForm(session, services.Get()));
+    auto* frame = new ChildFrame(new CorvaneForm(document, windows, services.Get()));
     area.addSubWindow(frame);
     frame->show();
     const QWidget* first = frame->findChild<QWidget*>("txtFleet");
@@ -232,15 +232,15 @@ TEST_F(CorvaneFormTest, BothWaysToCloseStoreWhatIsBeingEditedAndAskToBeUnloaded)
 
 TEST_F(CorvaneFormTest, AWindowThatIsDestroyedDropsWhatIsBeingEdited) {
     for (const char* name : {"txtFleet", "txtID", "txtDelayTime", "txtMsgModeTimer"}) {
-        const DataImage before = session.Image;
+        const DataImage before = document.Image;
         Show();
         Focus(name);
         Type("9");
         Focus(name);
-        const DataImage typed = session.Image;
+        const DataImage typed = document.Image;
         form.reset();
-        EXPECT_EQ(session.Image, typed) << name;
-        EXPECT_EQ(session.Image, before) << name;
+        EXPECT_EQ(document.Image, typed) << name;
+        EXPECT_EQ(document.Image, before) << name;
     }
 }
 

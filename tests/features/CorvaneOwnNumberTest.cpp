@@ -150,13 +150,13 @@ TEST_F(CorvaneFormTest, AnEnteredOwnNumberEndsTheComplaintOverIt) {
     for (const char* name : {"txtFleet", "txtID"}) {
         SetUp();
         Put(0x170, {0xFF, 0, 0});
-        session.OwnIdError = true;
+        document.Flags.OwnIdError = true;
         Show();
         Focus(name);
         Key(Qt::Key_Tab);
-        EXPECT_TRUE(session.OwnIdError) << name;
+        EXPECT_TRUE(document.Flags.OwnIdError) << name;
         Enter(name, "1500");
-        EXPECT_FALSE(session.OwnIdError) << name;
+        EXPECT_FALSE(document.Flags.OwnIdError) << name;
     }
 }
 

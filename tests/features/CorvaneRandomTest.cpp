@@ -31,24 +31,24 @@ TEST_F(CorvaneFormTest, OpensOnAnyImageAndWalkingThroughItSettlesAtOnceAndStaysI
         }
     };
     for (int i = 0; i < 2000; ++i) {
-        session.Image = RandomImage(random);
+        document.Image = RandomImage(random);
         if (i < 2) {
-            session.Image.Fill(i == 0 ? 0x00 : 0xFF);
+            document.Image.Fill(i == 0 ? 0x00 : 0xFF);
         }
         for (int n = 1; i % 2 == 0 && n <= 8; ++n) {
             PutEntry(n, {static_cast<int>(random() % 3), 255 - static_cast<int>(random() % 3) * 127, 0});
         }
-        session.LanguageFlag = i % 2 == 0 ? Language::English : Language::Chinese;
-        const DataImage before = session.Image;
-        CorvaneForm window(session, services.Get(), &host);
-        ASSERT_EQ(session.Image, before) << "seed " << seed << ", image " << i;
+        windows.LanguageFlag = i % 2 == 0 ? Language::English : Language::Chinese;
+        const DataImage before = document.Image;
+        CorvaneForm window(document, windows, services.Get(), &host);
+        ASSERT_EQ(document.Image, before) << "seed " << seed << ", image " << i;
         window.show();
         const bool whole = i % 20 < 2;
         walk(window, whole ? 0 : i % 16, whole ? 16 : 1);
-        const DataImage settled = session.Image;
+        const DataImage settled = document.Image;
         if (whole) {
             walk(window, 0, 16);
-            ASSERT_EQ(Differences(session.Image, settled), Bytes{}) << "seed " << seed << ", image " << i;
+            ASSERT_EQ(Differences(document.Image, settled), Bytes{}) << "seed " << seed << ", image " << i;
         }
         for (const int address : Differences(settled, before)) {
             const bool ofBlock = address >= 0x170 && address <= 0x178;

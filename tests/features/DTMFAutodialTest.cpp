@@ -94,7 +94,7 @@ TEST_F(DTMFAutodialTest, ShiftWithThreeAndEightOpensTheEditorWithHashAndStar) {
 }
 
 TEST_F(DTMFAutodialTest, NothingElseOpensTheEditor) {
-    const DataImage before = session.Image;
+    const DataImage before = document.Image;
     for (const Qt::Key key : {Qt::Key_0, Qt::Key_1, Qt::Key_2, Qt::Key_4, Qt::Key_5, Qt::Key_6, Qt::Key_7, Qt::Key_9}) {
         QTest::keyClick(&Grid(), key, Qt::ShiftModifier);
         EXPECT_FALSE(Editor().isVisible()) << key;
@@ -117,7 +117,7 @@ TEST_F(DTMFAutodialTest, NothingElseOpensTheEditor) {
     ClickCell(1, Qt::RightButton);
     ClickCell(1, Qt::MiddleButton);
     EXPECT_FALSE(Editor().isVisible());
-    EXPECT_EQ(session.Image, before);
+    EXPECT_EQ(document.Image, before);
 }
 
 TEST_F(DTMFAutodialTest, EnterAndAClickOpenTheEditorWithTheTextSelected) {
@@ -199,10 +199,10 @@ TEST_F(DTMFAutodialTest, EscapeBringsTheCellBackButTheImageKeepsWhatWasTypedLast
 TEST_F(DTMFAutodialTest, EscapeWithoutAKeyChangesNothing) {
     Put(0x210, {'5', ' ', '6'});
     ShowAt(2, "msgAutodial");
-    const DataImage before = session.Image;
+    const DataImage before = document.Image;
     Open(2);
     Key(Qt::Key_Escape);
-    EXPECT_EQ(session.Image, before);
+    EXPECT_EQ(document.Image, before);
 }
 
 TEST_F(DTMFAutodialTest, LeavingTheEditorStoresTheCellAndHidesIt) {
@@ -235,7 +235,7 @@ TEST_F(DTMFAutodialTest, EmptyingACellErasesTheMemory) {
 }
 
 TEST_F(DTMFAutodialTest, EachRowStoresToItsOwnMemory) {
-    DataImage expected = session.Image;
+    DataImage expected = document.Image;
     const char* digits[] = {"1", "2", "3", "4", "5", "6", "7", "8"};
     for (const char* digit : digits) {
         Type(digit);
@@ -248,7 +248,7 @@ TEST_F(DTMFAutodialTest, EachRowStoresToItsOwnMemory) {
             expected.Set(addresses[i] + rest, 0x20);
         }
     }
-    EXPECT_EQ(session.Image, expected);
+    EXPECT_EQ(document.Image, expected);
 }
 
 TEST_F(DTMFAutodialTest, ClosingStoresAnOpenEditAndUnloadingAddsNothing) {
@@ -258,9 +258,9 @@ TEST_F(DTMFAutodialTest, ClosingStoresAnOpenEditAndUnloadingAddsNothing) {
     EXPECT_EQ(unloaded.count(), 1);
     EXPECT_EQ(Memory(1), "12              ");
     Open(2);
-    const DataImage before = session.Image;
+    const DataImage before = document.Image;
     form.reset();
-    EXPECT_EQ(session.Image, before);
+    EXPECT_EQ(document.Image, before);
 }
 
 TEST_F(DTMFAutodialTest, AnyCharactersOfAMemoryAreShownWithoutItsSpaces) {

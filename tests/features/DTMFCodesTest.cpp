@@ -109,7 +109,7 @@ TEST_F(DTMFCodesTest, TheFrameClosesAfterTheMessage) {
 
 TEST_F(DTMFCodesTest, ClicksOnOtherFieldsAndTabsDoNothingWithAnIllegalCode) {
     ShowAt(1, "txtIDCode");
-    const DataImage before = session.Image;
+    const DataImage before = document.Image;
     Put(0x119, {7}); // what a list without a selection would store 0xFF over
     const auto refuse = [this](QWidget& control, QPoint at) {
         Retype("12");
@@ -128,7 +128,7 @@ TEST_F(DTMFCodesTest, ClicksOnOtherFieldsAndTabsDoNothingWithAnIllegalCode) {
     EXPECT_EQ(Tabs().currentIndex(), 1);
     EXPECT_EQ(At(0x119), 7);
     Put(0x119, {2});
-    EXPECT_EQ(session.Image, before);
+    EXPECT_EQ(document.Image, before);
 }
 
 TEST_F(DTMFCodesTest, AnImagesOwnIllegalIdCodeIsTheOneThatComesBack) {
@@ -250,12 +250,12 @@ TEST_F(DTMFCodesTest, ARefusedFirstStunCodeLeavesStunTypeDisabled) {
 
 TEST_F(DTMFCodesTest, AStunCodeOfOtherCharactersIsShownAndStoredBackAsItIs) {
     Put(0x1F0, {0x00, 'z', 0x80, 0x81, ' ', 0x0A, 0xFE});
-    const DataImage before = session.Image;
+    const DataImage before = document.Image;
     ShowAt(1, "txtStunCode");
     EXPECT_EQ(Box("txtStunCode").text().size(), 7);
     ExpectStunType(true);
     Key(Qt::Key_Tab);
-    EXPECT_EQ(session.Image, before);
+    EXPECT_EQ(document.Image, before);
 }
 
 } // namespace

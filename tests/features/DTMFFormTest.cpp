@@ -11,7 +11,7 @@ namespace zelvor {
 namespace {
 
 TEST_F(DTMFFormTest, ShowsEveryFieldAndChangesNothingByOpening) {
-    const DataImage before = session.Image;
+    const DataImage before = document.Image;
     Show();
     EXPECT_EQ(Text("txtDTMFSpeed"), "8");
     EXPECT_EQ(Spin("updDTMFSpeed"), 1);
@@ -35,12 +35,12 @@ TEST_F(DTMFFormTest, ShowsEveryFieldAndChangesNothingByOpening) {
     EXPECT_EQ(List("cboStunType").currentText(), "TX/RX Inhibit");
     EXPECT_EQ(Cell(1), "");
     EXPECT_EQ(Cell(2), "55512");
-    EXPECT_EQ(session.Image, before);
+    EXPECT_EQ(document.Image, before);
 }
 
 TEST_F(DTMFFormTest, ANewDocumentShowsItsDefaults) {
     Put(0x1BD, {0x01, 0xF8});
-    InitAllFrameData(session.Image);
+    InitAllFrameData(document.Image);
     Load();
     EXPECT_EQ(Text("txtDTMFSpeed"), "6");
     EXPECT_EQ(Text("txtFstDigitTime"), "0");
@@ -62,7 +62,7 @@ TEST_F(DTMFFormTest, ANewDocumentShowsItsDefaults) {
 }
 
 TEST_F(DTMFFormTest, AnErasedImageShowsTheFieldsOwnBlanks) {
-    session.Image.Fill(0xFF);
+    document.Image.Fill(0xFF);
     Load();
     EXPECT_EQ(Text("txtDTMFSpeed"), "6");
     EXPECT_EQ(Text("txtFstDigitTime"), "0");
@@ -80,7 +80,7 @@ TEST_F(DTMFFormTest, AnErasedImageShowsTheFieldsOwnBlanks) {
     EXPECT_FALSE(Check("chkClear").isChecked());
     EXPECT_EQ(Text("txtStunCode"), "");
     EXPECT_EQ(List("cboStunType").currentIndex(), 0);
-    EXPECT_EQ(session.Image, DataImage());
+    EXPECT_EQ(document.Image, DataImage());
 }
 
 TEST_F(DTMFFormTest, TextsAreEnglishInEnglish) {
@@ -254,7 +254,7 @@ TEST_F(DTMFFormTest, HelpOpensThePageOfTheLanguage) {
 
 TEST_F(DTMFFormTest, BothWaysToCloseStoreWhatIsBeingEditedAndAskToBeUnloaded) {
     for (const bool byButton : {true, false}) {
-        session.Image.Set(0x110, 1);
+        document.Image.Set(0x110, 1);
         Show();
         const QSignalSpy unloaded(form.get(), &ChildForm::UnloadRequested);
         Retype("15");
@@ -269,14 +269,14 @@ TEST_F(DTMFFormTest, BothWaysToCloseStoreWhatIsBeingEditedAndAskToBeUnloaded) {
 }
 
 TEST_F(DTMFFormTest, AnEditStillOpenWhenTheWindowGoesIsDropped) {
-    const DataImage before = session.Image;
+    const DataImage before = document.Image;
     Show();
     Retype("15");
     form.reset();
     ShowAt(1, "txtIDCode");
     Retype("9");
     form.reset();
-    EXPECT_EQ(session.Image, before);
+    EXPECT_EQ(document.Image, before);
     EXPECT_TRUE(services.messages.Shown().empty());
 }
 

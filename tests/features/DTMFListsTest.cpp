@@ -22,12 +22,12 @@ TEST_F(DTMFListsTest, EachLegalByteSelectsItsEntryAndCommitsBackToItself) {
     for (const ListCase& list : Lists) {
         for (std::size_t entry = 0; entry < list.codes.size(); ++entry) {
             Put(list.address, {list.codes[entry]});
-            const DataImage before = session.Image;
+            const DataImage before = document.Image;
             Show();
             ClickTab(1);
             EXPECT_EQ(List(list.name).currentIndex(), static_cast<int>(entry)) << list.name;
             PassThrough(list.name);
-            EXPECT_EQ(session.Image, before) << list.name;
+            EXPECT_EQ(document.Image, before) << list.name;
         }
     }
 }
@@ -74,9 +74,9 @@ TEST_F(DTMFListsTest, AChosenEntryIsStoredWhenTheListIsLeft) {
         for (std::size_t entry = 0; entry < list.codes.size(); ++entry) {
             Show();
             ClickTab(1);
-            const DataImage before = session.Image;
+            const DataImage before = document.Image;
             Choose(list.name, static_cast<int>(entry));
-            EXPECT_EQ(session.Image, before);
+            EXPECT_EQ(document.Image, before);
             Key(Qt::Key_Tab);
             EXPECT_EQ(At(list.address), list.codes[entry]) << list.name;
         }

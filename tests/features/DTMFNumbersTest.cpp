@@ -70,22 +70,22 @@ TEST_F(DTMFNumbersTest, EachLegalByteShowsAsToldAndCommitsBackToItself) {
           {15, "15"}}}};
     for (const auto& [field, values] : fields) {
         for (const auto& [byte, text] : values) {
-            session.Image.Set(field.address, static_cast<std::uint8_t>(byte));
-            const DataImage before = session.Image;
+            document.Image.Set(field.address, static_cast<std::uint8_t>(byte));
+            const DataImage before = document.Image;
             Show();
             ClickTab(field.tab);
             EXPECT_EQ(Text(field.Txt().c_str()), text);
             EXPECT_EQ(Spin(field.Upd().c_str()), byte);
             PassThrough(field.Txt().c_str());
             EXPECT_EQ(Text(field.Txt().c_str()), text);
-            EXPECT_EQ(session.Image, before) << field.name << " " << byte;
+            EXPECT_EQ(document.Image, before) << field.name << " " << byte;
         }
     }
 }
 
 TEST_F(DTMFNumbersTest, EachLegalDelayShowsTenTimesItsByteAndCommitsBackExceptBelowOneHundredFifty) {
     for (int byte = 10; byte <= 100; ++byte) {
-        session.Image.Set(0x112, static_cast<std::uint8_t>(byte));
+        document.Image.Set(0x112, static_cast<std::uint8_t>(byte));
         Show();
         EXPECT_EQ(Text("txtFstDigitDelay"), std::to_string(byte) + "0");
         EXPECT_EQ(Spin("updFstDigitDelay"), byte);
@@ -160,9 +160,9 @@ TEST_F(DTMFNumbersTest, ATypedTextIsBroughtIntoFormWhenTheBoxIsLeft) {
     };
     for (const Typed& typed : cases) {
         ShowAt(typed.field.tab, typed.field.Txt().c_str());
-        const DataImage before = session.Image;
+        const DataImage before = document.Image;
         Retype(typed.text);
-        EXPECT_EQ(session.Image, before); // not before the box is left
+        EXPECT_EQ(document.Image, before); // not before the box is left
         Key(Qt::Key_Tab);
         EXPECT_EQ(Text(typed.field.Txt().c_str()), typed.becomes) << typed.field.name << " " << typed.text;
         EXPECT_EQ(At(typed.field.address), typed.byte) << typed.field.name << " " << typed.text;
@@ -187,7 +187,7 @@ TEST_F(DTMFNumbersTest, StepsGoRoundByKeyAndByButton) {
     Put(0x117, {0});
     for (const auto& [field, texts] : circles) {
         ShowAt(field.tab, field.Txt().c_str());
-        const DataImage before = session.Image;
+        const DataImage before = document.Image;
         for (const bool byButton : {false, true}) {
             for (std::size_t i = 1; i <= texts.size(); ++i) {
                 byButton ? Step(field.Upd().c_str(), true) : Key(Qt::Key_Up);
@@ -200,7 +200,7 @@ TEST_F(DTMFNumbersTest, StepsGoRoundByKeyAndByButton) {
                 ASSERT_EQ(Text(field.Txt().c_str()), texts[i]) << field.name;
             }
         }
-        EXPECT_EQ(session.Image, before) << field.name; // a step stores nothing
+        EXPECT_EQ(document.Image, before) << field.name; // a step stores nothing
     }
 }
 

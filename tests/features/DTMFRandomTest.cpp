@@ -11,13 +11,13 @@ class DTMFRandomTest : public DTMFFormTest {
 protected:
     /// Random bytes, or in some rounds few enough different ones that codes and memories are often legal.
     void Randomise(int round) {
-        session.Image = RandomImage(random);
+        document.Image = RandomImage(random);
         constexpr std::uint8_t likely[] = {'0', '5', 'A', '#', ' ', 0xFF, 0x00, 0x01, 0x02};
         for (int address = 0x110; round % 2 == 1 && address < 0x280; ++address) {
-            session.Image.Set(address, likely[random() % 9]);
+            document.Image.Set(address, likely[random() % 9]);
         }
         if (round < 2) {
-            session.Image.Fill(round == 0 ? 0x00 : 0xFF);
+            document.Image.Fill(round == 0 ? 0x00 : 0xFF);
         }
     }
     static Language LanguageOf(int round) { return round % 3 == 0 ? Language::Chinese : Language::English; }
@@ -42,22 +42,22 @@ TEST_F(DTMFRandomTest, AnyImageOpensUnchangedAndWhatTheFieldsStoreWhenPassedThro
     };
     for (int round = 0; round < 2000; ++round) {
         Randomise(round);
-        const DataImage before = session.Image;
+        const DataImage before = document.Image;
         Load(LanguageOf(round));
-        ASSERT_EQ(session.Image, before) << "seed " << Seed << ", round " << round;
+        ASSERT_EQ(document.Image, before) << "seed " << Seed << ", round " << round;
         pass();
-        for (const int address : Differences(before, session.Image)) {
+        for (const int address : Differences(before, document.Image)) {
             ASSERT_TRUE((address >= 0x110 && address <= 0x11A) || address == 0x1FA)
                 << "seed " << Seed << ", round " << round << ", address " << address;
         }
         for (const auto& [address, greatest] : last) {
             ASSERT_LE(At(address), greatest) << "seed " << Seed << ", round " << round;
         }
-        const DataImage stored = session.Image;
+        const DataImage stored = document.Image;
         if (round % 10 == 0) {
             pass();
         }
-        ASSERT_EQ(session.Image, stored) << "seed " << Seed << ", round " << round;
+        ASSERT_EQ(document.Image, stored) << "seed " << Seed << ", round " << round;
     }
     form.reset();
 }
@@ -66,7 +66,7 @@ TEST_F(DTMFRandomTest, CodesAndMemoriesOfAnyImageAreWalkedThroughByKey) {
     int refused = 0;
     for (int round = 0; round < 150; ++round) {
         Randomise(round);
-        const DataImage before = session.Image;
+        const DataImage before = document.Image;
         ShowAt(1, "txtIDCode", LanguageOf(round));
         const auto tab = [&](const char* name) {
             const int length = static_cast<int>(Box(name).text().size());
@@ -93,7 +93,7 @@ TEST_F(DTMFRandomTest, CodesAndMemoriesOfAnyImageAreWalkedThroughByKey) {
             Key(Qt::Key_Return);
         }
         ASSERT_EQ(services.messages.Pending(), 0) << "seed " << Seed << ", round " << round;
-        for (const int address : Differences(before, session.Image)) {
+        for (const int address : Differences(before, document.Image)) {
             ASSERT_TRUE((address >= 0x110 && address <= 0x11A) || (address >= 0x120 && address <= 0x129) ||
                         (address >= 0x1F0 && address <= 0x1FA) || (address >= 0x200 && address <= 0x27F))
                 << "seed " << Seed << ", round " << round << ", address " << address;

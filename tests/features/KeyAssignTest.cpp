@@ -96,7 +96,7 @@ TEST_F(KeyAssignTest, EveryControlHasAnAccessibleName) {
 
 TEST_F(KeyAssignTest, ANewDocumentHasNoFunctionAndSquelchOffMomentary) {
     Put(0x1BD, {0x01, 0xF8});
-    InitAllFrameData(session.Image);
+    InitAllFrameData(document.Image);
     EXPECT_EQ(At(0x11D), 0xFF);
     EXPECT_EQ(At(0x11E), 10);
     Load();
@@ -118,7 +118,7 @@ TEST_F(KeyAssignTest, EveryByteShowsItsFunctionAndOneWithoutAFunctionNone) {
 TEST_F(KeyAssignTest, EachFunctionIsStoredForItsOwnKeyWhenTheListIsLeft) {
     for (int entry = 0; entry < 12; ++entry) {
         Put(0x11D, {6, 9});
-        const DataImage before = session.Image;
+        const DataImage before = document.Image;
         Show();
         Choose("cboKey(0)", entry);
         EXPECT_EQ(At(0x11D), 6) << entry;
@@ -128,7 +128,7 @@ TEST_F(KeyAssignTest, EachFunctionIsStoredForItsOwnKeyWhenTheListIsLeft) {
         Choose("cboKey(1)", entry);
         Key(Qt::Key_Return);
         EXPECT_EQ(At(0x11E), FunctionBytes[entry]) << entry;
-        for (const int address : Differences(session.Image, before)) {
+        for (const int address : Differences(document.Image, before)) {
             EXPECT_TRUE(address == 0x11D || address == 0x11E) << address;
         }
     }
@@ -247,16 +247,16 @@ TEST_F(KeyAssignTest, OpensOnAnyImageAndAPassOfTheFocusChangesTheTwoBytesAlone) 
     host.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&host));
     for (int i = 0; i < 2000; ++i) {
-        session.Image = RandomImage(random);
-        session.LanguageFlag = i % 2 == 0 ? Language::English : Language::Chinese;
-        const DataImage before = session.Image;
-        KeyAssign window(session, services.Get(), &host);
+        document.Image = RandomImage(random);
+        windows.LanguageFlag = i % 2 == 0 ? Language::English : Language::Chinese;
+        const DataImage before = document.Image;
+        KeyAssign window(document, windows, services.Get(), &host);
         window.show();
-        ASSERT_EQ(session.Image, before) << "seed " << seed << ", image " << i;
+        ASSERT_EQ(document.Image, before) << "seed " << seed << ", image " << i;
         window.setFocus();
         Key(Qt::Key_Tab);
         Key(Qt::Key_Tab);
-        for (const int address : Differences(session.Image, before)) {
+        for (const int address : Differences(document.Image, before)) {
             ASSERT_TRUE(address == 0x11D || address == 0x11E) << address << ", seed " << seed << ", image " << i;
         }
         for (const int address : {0x11D, 0x11E}) {

@@ -6,7 +6,7 @@ namespace {
 TEST_F(OptionalFormPttIdTest, ACodeIsReadOverItsGapsAndShowsAnyCharacter) {
     Put(Dtmf, Both, "", "");
     for (const auto& [address, byte] : {std::pair(0x140, 0x31), {0x143, 0x41}, {0x14F, 0x80}, {0x151, 0xFE}}) {
-        session.Image.Set(address, static_cast<std::uint8_t>(byte));
+        document.Image.Set(address, static_cast<std::uint8_t>(byte));
     }
     Load();
     EXPECT_EQ(Text(Begin), "1A€");

@@ -42,7 +42,7 @@ constexpr SpinRow WithOff[] = {{"txtTOTPreAlert", "updTOTPreAlert", 0x131, 0, 10
 TEST_F(OptionalFormTest, EveryByteOfEveryFieldShowsAsTold) {
     for (int byte = 0; byte <= 255; ++byte) {
         for (int address = 0x12C; address <= 0x13E; ++address) {
-            session.Image.Set(address, static_cast<std::uint8_t>(byte));
+            document.Image.Set(address, static_cast<std::uint8_t>(byte));
         }
         Load();
         for (const CheckRow& row : Checks) {
@@ -68,7 +68,7 @@ TEST_F(OptionalFormTest, EveryListStoresItsEntryWhenItIsLeft) {
     Put(0x139, {1}); // VOX
     for (const ListRow& row : Lists) {
         for (int byte = 0; byte < static_cast<int>(row.entries.size()); ++byte) {
-            session.Image.Set(row.address, static_cast<std::uint8_t>(byte));
+            document.Image.Set(row.address, static_cast<std::uint8_t>(byte));
             Show();
             PassThrough(row.name);
             EXPECT_EQ(At(row.address), byte) << row.name;
@@ -88,13 +88,13 @@ TEST_F(OptionalFormTest, AListThatShowsNothingStoresThatButForTheVoice) {
     Put(0x139, {1});
     for (const ListRow& row : Lists) {
         const int unknown = 77;
-        session.Image.Set(row.address, unknown);
+        document.Image.Set(row.address, unknown);
         Show();
         EXPECT_EQ(At(row.address), unknown);
         PassThrough(row.name);
         const bool stays = std::string(row.name) == "cboVoiceAnnu";
         EXPECT_EQ(At(row.address), stays ? unknown : row.otherwise == 0 ? 0 : 255) << row.name;
-        session.Image.Set(row.address, 255);
+        document.Image.Set(row.address, 255);
         Show();
         PassThrough(row.name);
         EXPECT_EQ(At(row.address), 255) << row.name;
@@ -125,12 +125,12 @@ TEST_F(OptionalFormTest, EveryCheckBoxStoresZeroOrOneWhenItIsLeft) {
     for (const CheckRow& row : Checks) {
         const int before = At(row.address);
         for (const int byte : {0, 1, 2, 254, 255}) {
-            session.Image.Set(row.address, static_cast<std::uint8_t>(byte));
+            document.Image.Set(row.address, static_cast<std::uint8_t>(byte));
             Show();
             PassThrough(row.name);
             EXPECT_EQ(At(row.address), byte == 0 ? 0 : 1) << row.name << ' ' << byte;
         }
-        session.Image.Set(row.address, static_cast<std::uint8_t>(before));
+        document.Image.Set(row.address, static_cast<std::uint8_t>(before));
         Show();
         Check(row.name).setFocus();
         Key(Qt::Key_Space);
@@ -138,7 +138,7 @@ TEST_F(OptionalFormTest, EveryCheckBoxStoresZeroOrOneWhenItIsLeft) {
         Key(Qt::Key_Return);
         EXPECT_FALSE(Check(row.name).hasFocus()) << row.name;
         EXPECT_EQ(At(row.address), 1 - before) << row.name;
-        session.Image.Set(row.address, static_cast<std::uint8_t>(before));
+        document.Image.Set(row.address, static_cast<std::uint8_t>(before));
     }
 }
 
@@ -146,7 +146,7 @@ TEST_F(OptionalFormTest, EveryLegalNumberGoesBackToItself) {
     Put(0x139, {1});
     for (const SpinRow& row : {TimeOut, Squelch, WithOff[0], WithOff[1]}) {
         for (int byte = row.first; byte <= row.last; ++byte) {
-            session.Image.Set(row.address, static_cast<std::uint8_t>(byte));
+            document.Image.Set(row.address, static_cast<std::uint8_t>(byte));
             Show();
             const std::string text = Text(row.box);
             PassThrough(row.box);
@@ -169,7 +169,7 @@ TEST_F(OptionalFormTest, AnIllegalNumberIsCorrectedWhenItsBoxIsLeft) {
                  {WithOff[0], 11, "10", 10}, {WithOff[0], 254, "10", 10}, {WithOff[0], 255, "Off", 0},
                  {WithOff[1], 11, "10", 10}, {WithOff[1], 254, "10", 10}, {WithOff[1], 255, "Off", 0}};
     for (const auto& c : cases) {
-        session.Image.Set(c.row.address, static_cast<std::uint8_t>(c.byte));
+        document.Image.Set(c.row.address, static_cast<std::uint8_t>(c.byte));
         Show();
         EXPECT_EQ(At(c.row.address), c.byte);
         PassThrough(c.row.box);
@@ -240,7 +240,7 @@ TEST_F(OptionalFormTest, NumbersWrapBothWaysByKeyAndByButton) {
                  {WithOff[1], 9, {"10", "Off", "1"}, {"Off", "10", "9"}}};
     for (const auto& c : cases) {
         for (const bool byKey : {true, false}) {
-            session.Image.Set(c.row.address, static_cast<std::uint8_t>(c.start));
+            document.Image.Set(c.row.address, static_cast<std::uint8_t>(c.start));
             Show();
             if (byKey) {
                 Box(c.row.box).setFocus();

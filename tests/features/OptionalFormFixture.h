@@ -45,7 +45,7 @@ protected:
     }
     void PutCode(int address, const char* digits) {
         for (int i = 0; i < 16; ++i) {
-            session.Image.Set(address + i, *digits == '\0' ? 0xFF : static_cast<std::uint8_t>(*digits++));
+            document.Image.Set(address + i, *digits == '\0' ? 0xFF : static_cast<std::uint8_t>(*digits++));
         }
     }
     /// The code's bytes as text, '.' for 0xFF.

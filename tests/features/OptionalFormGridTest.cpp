@@ -16,15 +16,15 @@ class OptionalFormGridTest : public OptionalFormTest {
 protected:
     void SetUp() override {
         OptionalFormTest::SetUp();
-        session.Image.Set(0x1BD, 0x01);
-        session.Image.Set(0x1BE, 0xF8);
+        document.Image.Set(0x1BD, 0x01);
+        document.Image.Set(0x1BE, 0xF8);
         for (int k = 1; k <= 16; ++k) {
             const int nibble = k - 1;
             Put(k * 16, {0x00, 0x25, 0x51, 0x14, 0x00, 0x25, 0x51, 0x14, 0xFF, 0xFF, 0xFF, 0xFF, 0x00, 0xBF,
                          0xB0 + nibble, 0xF8});
         }
         for (int address = 14 * 16; address < 14 * 16 + 14; ++address) {
-            session.Image.Set(address, 0xFF);
+            document.Image.Set(address, 0xFF);
         }
     }
     void TearDown() override {
@@ -34,22 +34,22 @@ protected:
     }
     void OpenGrid(int type, Language language = Language::English) {
         TearDown();
-        session.LanguageFlag = language;
-        session.Image.Set(0x133, static_cast<std::uint8_t>(type));
-        grid = std::make_unique<ChannelForm>(session, services.Get());
-        session.Channels.DecodeImageToGrid(session.Image, session.LanguageFlag);
-        session.SetOpen(ChildWindow::Channels, true);
-        before = session.Image;
+        windows.LanguageFlag = language;
+        document.Image.Set(0x133, static_cast<std::uint8_t>(type));
+        grid = std::make_unique<ChannelForm>(document, windows, services.Get());
+        document.Channels.DecodeImageToGrid(document.Image, windows.LanguageFlag);
+        windows.SetOpen(ChildWindow::Channels, true);
+        before = document.Image;
     }
     /// The channel edit dialog on a channel, beside the grid.
     void OpenDialog(int k) {
-        session.Cursor.SetEditChannel(k);
-        dialog = std::make_unique<ChannelEditForm>(session, services.Get());
+        windows.Cursor.SetEditChannel(k);
+        dialog = std::make_unique<ChannelEditForm>(document, windows, services.Get());
         dialog->OpenOnEditChannel();
     }
     void FillColumn(const char* text) {
         for (int k = 1; k <= 16; ++k) {
-            session.Channels.SetCellText(k, 9, text);
+            document.Channels.SetCellText(k, 9, text);
         }
     }
     std::string CellText(int k) { return grid->findChild<EditGrid*>("ChannelGrid")->Text(k, 9).toStdString(); }
@@ -69,7 +69,7 @@ protected:
         return entries;
     }
     void ExpectNothingStoredButTheType() {
-        for (const int address : Differences(session.Image, before)) {
+        for (const int address : Differences(document.Image, before)) {
             EXPECT_EQ(address, 0x133);
         }
     }
@@ -137,7 +137,7 @@ TEST_F(OptionalFormGridTest, OpeningWithoutALegalTypeLeavesTheColumn) {
 TEST_F(OptionalFormGridTest, AGridThatIsNotOpenIsLeftAlone) {
     OpenGrid(Dtmf);
     FillColumn("?");
-    session.SetOpen(ChildWindow::Channels, false);
+    windows.SetOpen(ChildWindow::Channels, false);
     Load();
     List("cboPTTIDType").setCurrentIndex(Corvane);
     EXPECT_EQ(Column(), Texts(16, "?"));
@@ -167,7 +167,7 @@ TEST_F(OptionalFormGridTest, TheDialogOffersTheEntriesOfTheType) {
 TEST_F(OptionalFormGridTest, TheDialogShowsWhatTheLastProgrammedChannelHas) {
     for (const int last : {0, 1, 10, 11, 15}) {
         const bool isOn = last == 1 || last == 10;
-        session.Image.Set(16 * 16 + 14, static_cast<std::uint8_t>(0xB0 + last));
+        document.Image.Set(16 * 16 + 14, static_cast<std::uint8_t>(0xB0 + last));
         OpenGrid(Dtmf);
         OpenDialog(16);
         Load();
@@ -206,7 +206,7 @@ TEST_F(OptionalFormGridTest, TheDialogStoresThePttIdThatTheGridShows) {
 TEST_F(OptionalFormGridTest, ADialogThatIsNotOpenIsLeftAlone) {
     OpenGrid(Dtmf);
     OpenDialog(2);
-    session.SetOpen(ChildWindow::ChannelEdit, false);
+    windows.SetOpen(ChildWindow::ChannelEdit, false);
     Load();
     List("cboPTTIDType").setCurrentIndex(Corvane);
     EXPECT_EQ(DialogEntries(), (QStringList{"Off", "On"}));

@@ -17,8 +17,8 @@ inline constexpr const char* End = "txtPTTCode(1)";
 class OptionalFormPttIdTest : public OptionalFormTest {
 protected:
     void Put(int type, int pttId, const char* begin, const char* end) {
-        session.Image.Set(0x133, static_cast<std::uint8_t>(type));
-        session.Image.Set(0x132, static_cast<std::uint8_t>(pttId));
+        document.Image.Set(0x133, static_cast<std::uint8_t>(type));
+        document.Image.Set(0x132, static_cast<std::uint8_t>(pttId));
         PutCode(0x140, begin);
         PutCode(0x150, end);
     }
@@ -29,8 +29,8 @@ protected:
         EXPECT_EQ(IsEnabled("lblPTTCode(1)"), end);
     }
     void ExpectError(bool set, int kind) {
-        EXPECT_EQ(session.TxCodeError, set);
-        EXPECT_EQ(session.TxCodeErrorKind, kind);
+        EXPECT_EQ(document.Flags.TxCodeError, set);
+        EXPECT_EQ(document.Flags.TxCodeErrorKind, kind);
     }
 };
 

@@ -31,17 +31,17 @@ TEST_F(OptionalFormPttIdTest, TheChoiceOfThePttIdEnablesItsCodesAndTellsWhichIsM
         for (const Codes& codes : row.codes) {
             Put(Dtmf, (row.pttId + 1) % 3, codes.begin, codes.end);
             Show();
-            session.TxCodeErrorKind = 77;
+            document.Flags.TxCodeErrorKind = 77;
             Take("cboPTTID", row.pttId);
             ExpectEnabled(row.begin, row.end);
-            EXPECT_EQ(session.TxCodeErrorKind, codes.kind) << row.pttId << codes.begin << codes.end;
+            EXPECT_EQ(document.Flags.TxCodeErrorKind, codes.kind) << row.pttId << codes.begin << codes.end;
             EXPECT_EQ(At(0x132), (row.pttId + 1) % 3); // stored when left
             Key(Qt::Key_Tab);
             EXPECT_EQ(At(0x132), row.pttId);
             // And the same on opening.
             Show();
             ExpectEnabled(row.begin, row.end);
-            EXPECT_EQ(session.TxCodeErrorKind, codes.kind);
+            EXPECT_EQ(document.Flags.TxCodeErrorKind, codes.kind);
         }
     }
 }
@@ -51,10 +51,10 @@ TEST_F(OptionalFormPttIdTest, UnderCorvaneNoCodeIsEnabledAndTheKindStays) {
         Put(Corvane, pttId, "", "");
         Show();
         ExpectEnabled(false, false);
-        session.TxCodeErrorKind = 77;
+        document.Flags.TxCodeErrorKind = 77;
         Take("cboPTTID", (pttId + 1) % 3);
         ExpectEnabled(false, false);
-        EXPECT_EQ(session.TxCodeErrorKind, 77);
+        EXPECT_EQ(document.Flags.TxCodeErrorKind, 77);
     }
 }
 
@@ -62,10 +62,10 @@ TEST_F(OptionalFormPttIdTest, WithoutATypeTheChoiceOfThePttIdChangesNothing) {
     Put(2, Bot, "", "");
     Show();
     ExpectEnabled(true, true);
-    session.TxCodeErrorKind = 77;
+    document.Flags.TxCodeErrorKind = 77;
     Take("cboPTTID", Eot);
     ExpectEnabled(true, true);
-    EXPECT_EQ(session.TxCodeErrorKind, 77);
+    EXPECT_EQ(document.Flags.TxCodeErrorKind, 77);
 }
 
 // --- PTT ID Type -----------------------------------------------------------------------------------------------------
@@ -73,12 +73,12 @@ TEST_F(OptionalFormPttIdTest, WithoutATypeTheChoiceOfThePttIdChangesNothing) {
 TEST_F(OptionalFormPttIdTest, ChoosingCorvaneStoresItAtOnceAndDisarmsTheCheckOfTheCodes) {
     Put(Dtmf, Both, "1", "");
     Show();
-    session.OwnIdError = true;
-    session.TxCodeErrorKind = 77;
+    document.Flags.OwnIdError = true;
+    document.Flags.TxCodeErrorKind = 77;
     Take("cboPTTIDType", Corvane);
     EXPECT_EQ(At(0x133), 1);
     ExpectError(false, 77);
-    EXPECT_TRUE(session.OwnIdError);
+    EXPECT_TRUE(document.Flags.OwnIdError);
     ExpectEnabled(false, false);
 }
 
@@ -97,13 +97,13 @@ TEST_F(OptionalFormPttIdTest, ChoosingDtmfArmsTheCheckAndTakesBackNoComplaint) {
         for (const Codes& codes : row.codes) {
             Put(Corvane, row.pttId, codes.begin, codes.end);
             Show();
-            session.OwnIdError = true;
-            session.TxCodeError = false;
-            session.TxCodeErrorKind = 77;
+            document.Flags.OwnIdError = true;
+            document.Flags.TxCodeError = false;
+            document.Flags.TxCodeErrorKind = 77;
             Take("cboPTTIDType", Dtmf);
             EXPECT_EQ(At(0x133), 0);
             ExpectError(true, codes.kind);
-            EXPECT_FALSE(session.OwnIdError);
+            EXPECT_FALSE(document.Flags.OwnIdError);
             ExpectEnabled(row.begin, row.end);
         }
     }
@@ -120,9 +120,9 @@ TEST_F(OptionalFormPttIdTest, LeavingTheTypeArmsOrDisarmsTheCheckByWhatIsShown) 
     for (const auto& row : rows) {
         Put(row.type, Bot, "1", "");
         Show();
-        session.TxCodeError = row.before;
+        document.Flags.TxCodeError = row.before;
         PassThrough("cboPTTIDType");
-        EXPECT_EQ(session.TxCodeError, row.after) << row.type;
+        EXPECT_EQ(document.Flags.TxCodeError, row.after) << row.type;
         EXPECT_EQ(At(0x133), row.stored);
     }
 }
@@ -144,19 +144,19 @@ TEST_F(OptionalFormPttIdTest, OpeningArmsTheCheckUnderDtmfAndByCodesThatLackTheO
     };
     for (const auto& row : rows) {
         Put(row.type, row.pttId, row.codes.begin, row.codes.end);
-        session.TxCodeError = false;
-        session.TxCodeErrorKind = 77;
-        session.OwnIdError = true;
+        document.Flags.TxCodeError = false;
+        document.Flags.TxCodeErrorKind = 77;
+        document.Flags.OwnIdError = true;
         Load();
         ExpectError(row.armed, row.codes.kind);
-        EXPECT_EQ(session.OwnIdError, row.type != Dtmf);
+        EXPECT_EQ(document.Flags.OwnIdError, row.type != Dtmf);
     }
 }
 
 TEST_F(OptionalFormPttIdTest, TakingTheFocusACodeArmsTheCheckIfItIsEmptyAndElseDisarmsIt) {
     Put(Dtmf, Both, "1", "");
     Show();
-    session.TxCodeErrorKind = 77;
+    document.Flags.TxCodeErrorKind = 77;
     Box(Begin).setFocus();
     ExpectError(false, 77);
     Box(End).setFocus();
@@ -199,9 +199,9 @@ TEST_F(OptionalFormPttIdTest, ACodeThatHasTheFocusBackFromElsewhereThanAControlD
 TEST_F(OptionalFormPttIdTest, AClickIntoADisabledCodeDoesNothing) {
     Put(Corvane, Both, "", "1");
     Show();
-    session.TxCodeError = false;
-    session.TxCodeErrorKind = 77;
-    session.Image.Set(0x141, 0x31); // an empty box would clear it
+    document.Flags.TxCodeError = false;
+    document.Flags.TxCodeErrorKind = 77;
+    document.Image.Set(0x141, 0x31); // an empty box would clear it
     for (const char* name : {Begin, End}) {
         QTest::mouseClick(&Box(name), Qt::LeftButton);
         ExpectError(false, 77);
@@ -217,22 +217,22 @@ TEST_F(OptionalFormPttIdTest, AChangeOfACodeArmsTheCheckWhileOneIsEmptyAndNamesT
     for (const auto& row : rows) {
         Put(Dtmf, Both, "", "");
         Show();
-        session.Image.Set(0x132, static_cast<std::uint8_t>(row.pttId));
+        document.Image.Set(0x132, static_cast<std::uint8_t>(row.pttId));
         Box(Begin).setFocus();
-        session.TxCodeError = false;
+        document.Flags.TxCodeError = false;
         Type("1");
         ExpectError(true, row.onlyBegin);
         Key(Qt::Key_Backspace);
         ExpectError(true, row.none);
         Box(End).setFocus();
-        session.TxCodeError = false;
+        document.Flags.TxCodeError = false;
         Type("1");
         ExpectError(true, row.onlyEnd);
         Box(Begin).setFocus();
-        session.TxCodeErrorKind = 77;
+        document.Flags.TxCodeErrorKind = 77;
         Type("2");
         ExpectError(true, 0); // armed by the focus of the empty box, and left so
-        session.TxCodeError = false;
+        document.Flags.TxCodeError = false;
         Type("3");
         ExpectError(false, 0);
     }
@@ -242,13 +242,13 @@ TEST_F(OptionalFormPttIdTest, AClickIntoACodeDoesWhatAChangeDoes) {
     Put(Dtmf, Both, "1", "");
     Show();
     Box(Begin).setFocus();
-    session.TxCodeErrorKind = 77;
+    document.Flags.TxCodeErrorKind = 77;
     ExpectError(false, 77);
     QTest::mouseClick(&Box(Begin), Qt::RightButton);
     ExpectError(false, 77);
     QTest::mouseClick(&Box(Begin), Qt::LeftButton);
     ExpectError(true, 2);
-    session.Image.Set(0x150, 0x31); // behind the window's back
+    document.Image.Set(0x150, 0x31); // behind the window's back
     QTest::mouseClick(&Box(End), Qt::LeftButton);
     EXPECT_EQ(Code(0x150), "................");
 }
@@ -260,19 +260,19 @@ constexpr const char* Head = "The following setting is incorrect.";
 TEST_F(OptionalFormPttIdTest, AMissingCodeStopsTheWriteOnlyIfAChannelSendsIt) {
     Put(Dtmf, Bot, "", "");
     Show();
-    EXPECT_FALSE(CheckBeforeWrite(session).has_value());
-    EXPECT_FALSE(session.TxCodeError);
-    session.Image.Set(0x05E, 0xB1); // channel 5
+    EXPECT_FALSE(CheckBeforeWrite(document, windows.LanguageFlag).has_value());
+    EXPECT_FALSE(document.Flags.TxCodeError);
+    document.Image.Set(0x05E, 0xB1); // channel 5
     Take("cboPTTIDType", Corvane);
     Take("cboPTTIDType", Dtmf);
-    const auto complaint = CheckBeforeWrite(session);
+    const auto complaint = CheckBeforeWrite(document, windows.LanguageFlag);
     ASSERT_TRUE(complaint.has_value());
     EXPECT_EQ(complaint->text, "The following setting is incorrect.\r\n\"Begin of TX code\"");
-    EXPECT_TRUE(session.TxCodeError);
+    EXPECT_TRUE(document.Flags.TxCodeError);
 }
 
 TEST_F(OptionalFormPttIdTest, TheWriteNamesTheCodesThatAreMissing) {
-    session.Image.Set(0x01E, 0xB1);
+    document.Image.Set(0x01E, 0xB1);
     const struct {
         int pttId;
         Codes codes;
@@ -284,14 +284,14 @@ TEST_F(OptionalFormPttIdTest, TheWriteNamesTheCodesThatAreMissing) {
     for (const auto& row : rows) {
         Put(Dtmf, row.pttId, row.codes.begin, row.codes.end);
         Load();
-        const auto complaint = CheckBeforeWrite(session);
+        const auto complaint = CheckBeforeWrite(document, windows.LanguageFlag);
         ASSERT_TRUE(complaint.has_value());
         EXPECT_EQ(complaint->text, std::string(Head) + row.names);
     }
     Put(Dtmf, Both, "1", "1");
     Load();
-    EXPECT_FALSE(CheckBeforeWrite(session).has_value());
-    EXPECT_TRUE(session.TxCodeError);
+    EXPECT_FALSE(CheckBeforeWrite(document, windows.LanguageFlag).has_value());
+    EXPECT_TRUE(document.Flags.TxCodeError);
 }
 
 } // namespace

@@ -36,7 +36,7 @@ TEST_F(OptionalFormTest, ShowsTheValuesOfANewDocument) {
 }
 
 TEST_F(OptionalFormTest, AnErasedImageShowsTicksEmptyBoxesAndNoEntries) {
-    session.Image.Fill(0xFF);
+    document.Image.Fill(0xFF);
     Show();
     EXPECT_EQ(Text("txtTOT"), "3825");
     EXPECT_EQ(Spin("updTOT"), 0);
@@ -54,7 +54,7 @@ TEST_F(OptionalFormTest, AnErasedImageShowsTicksEmptyBoxesAndNoEntries) {
     }
     EXPECT_EQ(Text("txtPTTCode(0)"), "");
     EXPECT_EQ(Text("txtPTTCode(1)"), "");
-    EXPECT_EQ(session.Image, DataImage());
+    EXPECT_EQ(document.Image, DataImage());
 }
 
 struct Caption {
@@ -196,7 +196,7 @@ TEST_F(OptionalFormTest, EnterAndTabMoveThroughAllFieldsInOrder) {
         "cboPTTID",        "txtPTTCode(0)",   "txtPTTCode(1)",   "chkVOXFunc",         "chkVOXInhibit",
         "txtVOXGainLevel", "cboVOXDelayTime", "chkCancel",       "chkVOXProceedTone",  "chkCloneMode",
         "cmdClose",        "cmdHelp",         "txtTOT"};
-    const DataImage before = session.Image;
+    const DataImage before = document.Image;
     for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Return}) {
         Show();
         for (const char* name : order) {
@@ -208,7 +208,7 @@ TEST_F(OptionalFormTest, EnterAndTabMoveThroughAllFieldsInOrder) {
             }
             Key(isButton ? Qt::Key_Tab : key);
         }
-        EXPECT_EQ(Differences(session.Image, before), Addresses{});
+        EXPECT_EQ(Differences(document.Image, before), Addresses{});
     }
 }
 
@@ -274,15 +274,15 @@ TEST_F(OptionalFormTest, OpensOnAnyImageAndStoresNothingButCodesWithoutTheirGaps
         }
     }
     for (std::size_t i = 0; i < images.size(); ++i) {
-        session.Image = images[i];
+        document.Image = images[i];
         Load(i % 2 == 0 ? Language::English : Language::Chinese);
         DataImage expected = images[i];
         CloseUp(expected, 0x140);
         CloseUp(expected, 0x150);
-        ASSERT_EQ(Differences(session.Image, expected), Addresses{}) << "seed " << seed << ", image " << i;
+        ASSERT_EQ(Differences(document.Image, expected), Addresses{}) << "seed " << seed << ", image " << i;
         form->CloseFromFrame();
         form.reset();
-        ASSERT_EQ(Differences(session.Image, expected), Addresses{}) << "seed " << seed << ", image " << i;
+        ASSERT_EQ(Differences(document.Image, expected), Addresses{}) << "seed " << seed << ", image " << i;
     }
 }
 
@@ -293,16 +293,16 @@ TEST_F(OptionalFormTest, WalkingThroughTheFieldsOfAnyImageSettlesAtOnceAndStaysI
         DataImage image = RandomImage(random);
         image.Set(0x133, static_cast<std::uint8_t>(i % 3));
         image.Set(0x132, static_cast<std::uint8_t>(i / 3 % 4));
-        session.Image = image;
+        document.Image = image;
         Show();
         for (int step = 0; step < 23; ++step) {
             Key(Qt::Key_Tab);
         }
-        const DataImage settled = session.Image;
+        const DataImage settled = document.Image;
         for (int step = 0; step < 23; ++step) {
             Key(Qt::Key_Tab);
         }
-        EXPECT_EQ(Differences(session.Image, settled), Addresses{}) << "seed " << seed << ", image " << i;
+        EXPECT_EQ(Differences(document.Image, settled), Addresses{}) << "seed " << seed << ", image " << i;
         for (const int address : Differences(settled, image)) {
             EXPECT_TRUE(address >= 0x12C && address <= 0x15F && address != 0x12E && address != 0x13F)
                 << address << ", seed " << seed << ", image " << i;

@@ -41,7 +41,7 @@ protected:
     static void Prepare(EngineRig& rig) {
         rig.UsePattern();
         if (GetParam().direction == Read) {
-            rig.session.Image.Fill(0xEE);
+            rig.document.Image.Fill(0xEE);
         } else {
             rig.radio.Memory.fill(0xDD);
         }
@@ -66,7 +66,7 @@ protected:
     static void ExpectTransferred(const EngineRig& rig) {
         if (GetParam().direction == Read) {
             for (int address = 0; address < 1024; ++address) {
-                EXPECT_EQ(rig.session.Image.At(address), PatternAt(address)) << address;
+                EXPECT_EQ(rig.document.Image.At(address), PatternAt(address)) << address;
             }
         } else {
             EXPECT_EQ(rig.radio.Memory[0x335], PatternAt(0x335));

@@ -41,8 +41,8 @@ TEST_P(ModelCheck, AsksExactlyWhereTold) {
 TEST_P(ModelCheck, ShowsThePromptInTheWriteDirection) {
     const ModelCase& c = GetParam();
     EngineRig rig(Write);
-    rig.session.Image.SetIndex(982, c.image6);
-    rig.session.Image.SetIndex(998, c.image7);
+    rig.document.Image.SetIndex(982, c.image6);
+    rig.document.Image.SetIndex(998, c.image7);
     if (c.asks) {
         rig.messages.Expect(ModelPrompt(), MessageAnswer::Ok);
     }
@@ -57,8 +57,8 @@ TEST_P(ModelCheck, ShowsThePromptInTheWriteDirection) {
 TEST_P(ModelCheck, NeverShowsThePromptInTheReadDirection) {
     const ModelCase& c = GetParam();
     EngineRig rig(Read);
-    rig.session.Image.SetIndex(982, c.image6);
-    rig.session.Image.SetIndex(998, c.image7);
+    rig.document.Image.SetIndex(982, c.image6);
+    rig.document.Image.SetIndex(998, c.image7);
     rig.ToIdentity();
     rig.Answer({0x50, 0x34, 0x36, 0x31, 0x38, c.radio6, c.radio7, 0xFF});
     rig.TakeSent();
@@ -119,17 +119,17 @@ TEST_F(RefusedModel, LeavesTheImageUntouched) {
     Refuse();
     rig.clock.Advance(500);
     for (int address = 0; address < 1024; ++address) {
-        EXPECT_EQ(rig.session.Image.At(address), PatternAt(address)) << address;
+        EXPECT_EQ(rig.document.Image.At(address), PatternAt(address)) << address;
     }
 }
 
 TEST_F(RefusedModel, ShowsNoCompletionAndKeepsTheFlags) {
-    rig.session.Priority.SetError(true);
+    rig.document.Priority.SetError(true);
     Refuse();
     rig.clock.Advance(500);
     EXPECT_EQ(rig.messages.Shown().size(), 1U);
     EXPECT_EQ(rig.Count("write completed"), 0);
-    EXPECT_TRUE(rig.session.Priority.PriorityChannelError());
+    EXPECT_TRUE(rig.document.Priority.PriorityChannelError());
 }
 
 TEST_F(RefusedModel, HasBothTimersDisabledWhileThePromptIsUp) {
@@ -171,7 +171,7 @@ TEST_F(RefusedModel, MayBeClosedByTheUserInsideTheWait) {
 
 TEST(ModelPromptInTheOtherLanguage, HasItsOwnTexts) {
     EngineRig rig(Write);
-    rig.session.LanguageFlag = Language::Chinese;
+    rig.UseLanguage(Language::Chinese);
     rig.messages.Expect(
         {"警告", "机型类型错误。是否改写？", MessageIcon::Exclamation, MessageButtons::OkCancel, MessageAnswer::Cancel},
         MessageAnswer::Cancel);

@@ -106,7 +106,7 @@ TEST_P(SilentRadio, MayNotBeClosedBeforeTheAnswer) {
 
 TEST(ConnectionPromptText, IsChineseWhereTheLanguageIs) {
     EngineRig rig(Read);
-    rig.session.LanguageFlag = Language::Chinese;
+    rig.UseLanguage(Language::Chinese);
     rig.messages.Expect({"错误", "检查所有连接及通信端口设置。", MessageIcon::Critical, MessageButtons::RetryCancel,
                          MessageAnswer::Retry},
                         MessageAnswer::Cancel);
@@ -239,7 +239,7 @@ TEST(Retry, IsUnlimited) {
 TEST(FailedRead, KeepsTheBlocksThatArrivedAndDecodesNothing) {
     EngineRig rig(Read);
     rig.UsePattern();
-    rig.session.Image.Fill(0xEE);
+    rig.document.Image.Fill(0xEE);
     rig.radio.Spoil(3 + 2 * 3 + 1, Fault::Drop); // the fourth block
     rig.ConnectRadio();
     const PromptWatch watch(rig, MessageAnswer::Cancel);
@@ -247,9 +247,9 @@ TEST(FailedRead, KeepsTheBlocksThatArrivedAndDecodesNothing) {
     rig.clock.Advance(2000);
     EXPECT_EQ(rig.radio.FaultsFired(), 1);
     for (int address = 0; address < 192; ++address) {
-        EXPECT_EQ(rig.session.Image.At(address), PatternAt(address)) << address;
+        EXPECT_EQ(rig.document.Image.At(address), PatternAt(address)) << address;
     }
-    EXPECT_EQ(rig.session.Image.At(192), 0xEE);
+    EXPECT_EQ(rig.document.Image.At(192), 0xEE);
     EXPECT_EQ(rig.Count("read completed"), 0);
 }
 

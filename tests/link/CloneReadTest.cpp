@@ -9,7 +9,7 @@ class CloneRead : public testing::Test {
 protected:
     CloneRead() {
         rig.UsePattern();
-        rig.session.Image.Fill(0xEE);
+        rig.document.Image.Fill(0xEE);
         rig.ConnectRadio();
     }
     void Run() {
@@ -59,7 +59,7 @@ TEST_F(CloneRead, ExchangesTwelveHundredAndSeventyEightBytesBothWaysTogether) {
 TEST_F(CloneRead, ReplacesAllBytesOfTheImage) {
     Run();
     for (int address = 0; address < 1024; ++address) {
-        EXPECT_EQ(rig.session.Image.At(address), PatternAt(address)) << address;
+        EXPECT_EQ(rig.document.Image.At(address), PatternAt(address)) << address;
     }
 }
 
@@ -70,7 +70,7 @@ TEST_F(CloneRead, WorksTheSameWithRepliesInSingleBytes) {
     rig.clock.Advance(3000);
     EXPECT_EQ(rig.radio.Commands().size(), 38U);
     for (int address = 0; address < 1024; ++address) {
-        EXPECT_EQ(rig.session.Image.At(address), PatternAt(address)) << address;
+        EXPECT_EQ(rig.document.Image.At(address), PatternAt(address)) << address;
     }
 }
 
@@ -99,9 +99,9 @@ TEST_F(CloneRead, CompletesInOrder) {
         EXPECT_EQ(rig.Link().TransferMode, 55);
         return MessageAnswer::Ok;
     });
-    rig.session.CurrentFileName = "/home/dealer/radio.dat";
+    rig.document.Rename("/home/dealer/radio.dat");
     rig.WhenReadCompleted = [&] {
-        EXPECT_EQ(rig.session.CurrentFileName, "Zelvor.dat");
+        EXPECT_EQ(rig.document.FileName(), "Zelvor.dat");
         EXPECT_FALSE(rig.engine->MayUnload());
     };
     rig.engine->Start();
@@ -122,12 +122,12 @@ TEST_F(CloneRead, CompletesInOrder) {
 }
 
 TEST_F(CloneRead, ClearsTheComplaintAboutThePriorityChannelAlone) {
-    rig.session.Priority.SetError(true);
-    rig.session.OwnIdError = rig.session.TxCodeError = true;
+    rig.document.Priority.SetError(true);
+    rig.document.Flags.OwnIdError = rig.document.Flags.TxCodeError = true;
     Run();
-    EXPECT_FALSE(rig.session.Priority.PriorityChannelError());
-    EXPECT_TRUE(rig.session.OwnIdError);
-    EXPECT_TRUE(rig.session.TxCodeError);
+    EXPECT_FALSE(rig.document.Priority.PriorityChannelError());
+    EXPECT_TRUE(rig.document.Flags.OwnIdError);
+    EXPECT_TRUE(rig.document.Flags.TxCodeError);
 }
 
 TEST_F(CloneRead, RaisesTheBarSixteenTimesAndNotForTheRepeatedBlock) {
@@ -147,7 +147,7 @@ TEST_F(CloneRead, RaisesTheBarSixteenTimesAndNotForTheRepeatedBlock) {
 }
 
 TEST_F(CloneRead, SpeaksChineseWhereTheLanguageIs) {
-    rig.session.LanguageFlag = Language::Chinese;
+    rig.UseLanguage(Language::Chinese);
     rig.messages.Expect({"", "读取完毕", MessageIcon::Information, MessageButtons::Ok, MessageAnswer::Ok},
                         MessageAnswer::Ok);
     rig.engine->Start();
@@ -166,7 +166,7 @@ TEST_F(CloneRead, AcceptsAReplyWithAWrongEchoOfAddressAndLength) {
     byHand.Answer(reply);
     EXPECT_EQ(byHand.TakeSent(), "06");
     EXPECT_EQ(byHand.Link().CommState, 5);
-    EXPECT_EQ(byHand.session.Image.At(0x3F), PatternAt(0x3F));
+    EXPECT_EQ(byHand.document.Image.At(0x3F), PatternAt(0x3F));
 }
 
 TEST_F(CloneRead, OpensThePortAtNineSixHundredWithTheSizesTold) {
@@ -180,7 +180,7 @@ TEST_F(CloneRead, OpensThePortAtNineSixHundredWithTheSizesTold) {
 }
 
 TEST_F(CloneRead, UsesTheChosenPort) {
-    rig.session.CommPortNumber = 13;
+    rig.link.CommPortNumber = 13;
     Run();
     EXPECT_EQ(rig.Port().Number(), 13);
 }
@@ -198,7 +198,7 @@ TEST_F(CloneRead, CanBeFollowedByAnother) {
     rig.radio.ClearCommands();
     rig.LoadAgain(Read);
     Run();
-    EXPECT_EQ(rig.session.Image.At(0x123), 0x5C);
+    EXPECT_EQ(rig.document.Image.At(0x123), 0x5C);
     EXPECT_EQ(rig.radio.Commands().size(), 38U);
 }
 

@@ -126,8 +126,8 @@ TEST_P(CloneSteps, StateThreeAcknowledges) {
 }
 
 TEST_P(CloneSteps, StateThreeGoodReplyLeadsToStateFour) {
-    rig.session.Image.Set(0x1BD, 0x01);
-    rig.session.Image.Set(0x1BE, 0xF8);
+    rig.document.Image.Set(0x1BD, 0x01);
+    rig.document.Image.Set(0x1BE, 0xF8);
     rig.ToConfirmation();
     rig.Port().Deliver({0x06});
     EXPECT_EQ(rig.Port().ReadLength(), 1);
@@ -174,14 +174,14 @@ TEST_P(CloneSteps, OtherReasonsOfTheReceiveEventAreIgnored) {
 
 TEST(CloneStepsReading, TheIdentityGoesToTheImageAtOnce) {
     EngineRig rig(Read);
-    rig.session.Image.Fill(0xEE);
+    rig.document.Image.Fill(0xEE);
     rig.ToIdentity();
     rig.Port().Deliver({1, 2, 3, 4, 5, 0xA6, 0xA7, 8});
-    EXPECT_EQ(rig.session.Image.AtIndex(982), 0xA6);
-    EXPECT_EQ(rig.session.Image.AtIndex(998), 0xA7);
+    EXPECT_EQ(rig.document.Image.AtIndex(982), 0xA6);
+    EXPECT_EQ(rig.document.Image.AtIndex(998), 0xA7);
     int changed = 0;
     for (int index = 0; index < 1024; ++index) {
-        changed += rig.session.Image.AtIndex(index) != 0xEE;
+        changed += rig.document.Image.AtIndex(index) != 0xEE;
     }
     EXPECT_EQ(changed, 2);
 }
@@ -190,10 +190,10 @@ TEST(CloneStepsReading, BlockSevenOverwritesTheIdentityInTheImage) {
     EngineRig rig(Read);
     rig.ToData();
     rig.AnswerUntilStep(7);
-    EXPECT_EQ(rig.session.Image.At(0x1BD), 0x01);
+    EXPECT_EQ(rig.document.Image.At(0x1BD), 0x01);
     rig.AnswerUntilStep(9);
-    EXPECT_EQ(rig.session.Image.At(0x1BD), PatternAt(0x1BD));
-    EXPECT_EQ(rig.session.Image.At(0x1BE), PatternAt(0x1BE));
+    EXPECT_EQ(rig.document.Image.At(0x1BD), PatternAt(0x1BD));
+    EXPECT_EQ(rig.document.Image.At(0x1BE), PatternAt(0x1BE));
 }
 
 TEST(CloneStepsReading, StateFourAsksForABlockWithAThresholdOfItsReply) {
@@ -217,7 +217,7 @@ TEST(CloneStepsReading, StateFourGoodReplyLeadsToStateFive) {
 
 TEST(CloneStepsReading, StateFourBadReplyHasChangedTheImageAndFailsInThreeMilliseconds) {
     EngineRig rig(Read);
-    rig.session.Image.Fill(0xEE);
+    rig.document.Image.Fill(0xEE);
     rig.ToData();
     Bytes reply = BlockReply(1);
     reply[0] = 0x56;
@@ -225,7 +225,7 @@ TEST(CloneStepsReading, StateFourBadReplyHasChangedTheImageAndFailsInThreeMillis
     EXPECT_EQ(Timers(rig), "off 3");
     EXPECT_EQ(rig.Link().CommState, 4);
     for (int address = 0; address < 64; ++address) {
-        EXPECT_EQ(rig.session.Image.At(address), PatternAt(address)) << address;
+        EXPECT_EQ(rig.document.Image.At(address), PatternAt(address)) << address;
     }
 }
 
@@ -233,11 +233,11 @@ TEST(CloneStepsReading, TheRepeatedBlockIsThrownAwayAfterTheTestOfItsFirstByte) 
     EngineRig rig(Read);
     rig.ToData();
     rig.AnswerUntilStep(17);
-    const DataImage before = rig.session.Image;
+    const DataImage before = rig.document.Image;
     Bytes reply(68, 0xAB);
     rig.Port().Deliver(reply);
     EXPECT_EQ(Timers(rig), "off 3");
-    EXPECT_EQ(rig.session.Image, before);
+    EXPECT_EQ(rig.document.Image, before);
 }
 
 TEST(CloneStepsReading, StateFiveAcknowledgesTheBlock) {

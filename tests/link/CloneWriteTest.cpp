@@ -90,9 +90,9 @@ TEST_F(CloneWrite, WorksTheSameWithRepliesInSingleBytes) {
 
 TEST_F(CloneWrite, ChangesTheImageAsPacketBuildingDoes) {
     Run();
-    EXPECT_EQ(rig.session.Image.AtIndex(192), 0xFF);
+    EXPECT_EQ(rig.document.Image.AtIndex(192), 0xFF);
     for (const int index : {193, 194, 195, 196, 448, 449, 450, 451, 704, 705, 706, 707, 960, 961, 962, 963}) {
-        EXPECT_EQ(rig.session.Image.AtIndex(index), 0x00) << index;
+        EXPECT_EQ(rig.document.Image.AtIndex(index), 0x00) << index;
     }
 }
 
@@ -100,7 +100,7 @@ TEST_F(CloneWrite, DoesNotTakeTheIdentityIntoTheImage) {
     rig.radio.Identity[5] = PatternAt(0x1BD);
     rig.radio.Identity[6] = 0x33; // accepted whatever the image holds
     Run();
-    EXPECT_EQ(rig.session.Image.AtIndex(998), PatternAt(0x1BE));
+    EXPECT_EQ(rig.document.Image.AtIndex(998), PatternAt(0x1BE));
     EXPECT_EQ(rig.radio.Memory[0x1BE], PatternAt(0x1BE));
 }
 
@@ -125,14 +125,14 @@ TEST_F(CloneWrite, SendsEndInTheTickThatEndsIt) {
 }
 
 TEST_F(CloneWrite, ClearsAllThreeFlagsAndKeepsTheFileName) {
-    rig.session.Priority.SetError(true);
-    rig.session.OwnIdError = rig.session.TxCodeError = true;
-    rig.session.CurrentFileName = "/home/dealer/radio.dat";
+    rig.document.Priority.SetError(true);
+    rig.document.Flags.OwnIdError = rig.document.Flags.TxCodeError = true;
+    rig.document.Rename("/home/dealer/radio.dat");
     Run();
-    EXPECT_FALSE(rig.session.Priority.PriorityChannelError());
-    EXPECT_FALSE(rig.session.OwnIdError);
-    EXPECT_FALSE(rig.session.TxCodeError);
-    EXPECT_EQ(rig.session.CurrentFileName, "/home/dealer/radio.dat");
+    EXPECT_FALSE(rig.document.Priority.PriorityChannelError());
+    EXPECT_FALSE(rig.document.Flags.OwnIdError);
+    EXPECT_FALSE(rig.document.Flags.TxCodeError);
+    EXPECT_EQ(rig.document.FileName(), "/home/dealer/radio.dat");
     EXPECT_EQ(rig.Count("read completed"), 0);
 }
 
@@ -178,7 +178,7 @@ TEST_F(CloneWrite, ReadsNothingOfALateByteBehindEnd) {
 }
 
 TEST_F(CloneWrite, SpeaksChineseWhereTheLanguageIs) {
-    rig.session.LanguageFlag = Language::Chinese;
+    rig.UseLanguage(Language::Chinese);
     rig.messages.Expect({"", "写入完毕", MessageIcon::Information, MessageButtons::Ok, MessageAnswer::Ok},
                         MessageAnswer::Ok);
     rig.engine->Start();
@@ -188,7 +188,7 @@ TEST_F(CloneWrite, SpeaksChineseWhereTheLanguageIs) {
 
 TEST_F(CloneWrite, BuildsEachPacketAtItsSendTime) {
     // A byte changed while the transfer runs is sent if its packet is still to come.
-    rig.clock.At(50, [this] { rig.session.Image.Set(0x335, 0x42); });
+    rig.clock.At(50, [this] { rig.document.Image.Set(0x335, 0x42); });
     Run();
     EXPECT_EQ(rig.radio.Memory[0x335], 0x42);
 }

@@ -13,7 +13,7 @@ namespace {
 class ComFormTest : public testing::Test {
 protected:
     ComForm& Load() {
-        form = std::make_unique<ComForm>(session, fakes.Get());
+        form = std::make_unique<ComForm>(link, language_, fakes.Get());
         chosen = std::make_unique<QSignalSpy>(form.get(), &ComForm::PortChosen);
         return *form;
     }
@@ -21,7 +21,8 @@ protected:
         return Find<QRadioButton>(*form, ("optPort(" + std::to_string(index) + ")").c_str());
     }
 
-    Session session;
+    LinkState link;
+    Language language_ = Language::English;
     FakeServices fakes;
     std::unique_ptr<ComForm> form;
     std::unique_ptr<QSignalSpy> chosen;
@@ -41,7 +42,7 @@ TEST_F(ComFormTest, HasItsTextsInEnglish) {
 }
 
 TEST_F(ComFormTest, HasItsTextsInChinese) {
-    session.LanguageFlag = Language::Chinese;
+    language_ = Language::Chinese;
     Load();
     EXPECT_EQ(FromQString(form->windowTitle()), "通信端口");
     EXPECT_EQ(FromQString(Find<QGroupBox>(*form, "frmPort").title()), "通信端口");
@@ -101,7 +102,7 @@ TEST_F(ComFormTest, EnablesExactlyThePortsThatOpen) {
 
 TEST_F(ComFormTest, OfAMachineWithNoPortsShowsTwentyDisabledButtonsWithTheCurrentOneSet) {
     fakes.ports.AllMissing();
-    session.CommPortNumber = 7;
+    link.CommPortNumber = 7;
     Load();
     for (int index = 0; index < 20; ++index) {
         EXPECT_FALSE(OptPort(index).isEnabled()) << index;
@@ -111,7 +112,7 @@ TEST_F(ComFormTest, OfAMachineWithNoPortsShowsTwentyDisabledButtonsWithTheCurren
 }
 
 TEST_F(ComFormTest, StartsWithPortOneAtEveryStartOfTheProgram) {
-    EXPECT_EQ(Session().CommPortNumber, 1);
+    EXPECT_EQ(LinkState().CommPortNumber, 1);
     Load();
     EXPECT_TRUE(OptPort(0).isChecked());
 }
@@ -119,30 +120,30 @@ TEST_F(ComFormTest, StartsWithPortOneAtEveryStartOfTheProgram) {
 TEST_F(ComFormTest, OkTakesTheSetButtonAndSaysSo) {
     ShowActive(Load());
     QTest::mouseClick(&OptPort(11), Qt::LeftButton);
-    EXPECT_EQ(session.CommPortNumber, 1);
+    EXPECT_EQ(link.CommPortNumber, 1);
     Click(*form, "cmdOK");
-    EXPECT_EQ(session.CommPortNumber, 12);
+    EXPECT_EQ(link.CommPortNumber, 12);
     EXPECT_EQ(chosen->count(), 1);
     EXPECT_FALSE(form->isVisible());
 }
 
 TEST_F(ComFormTest, OkTakesADisabledButtonThatIsSet) {
     fakes.ports.AllMissing();
-    session.CommPortNumber = 3;
+    link.CommPortNumber = 3;
     ShowActive(Load());
     Click(*form, "cmdOK");
-    EXPECT_EQ(session.CommPortNumber, 3);
+    EXPECT_EQ(link.CommPortNumber, 3);
 }
 
 TEST_F(ComFormTest, OkWithNoButtonSetGivesTwentyOne) {
-    session.CommPortNumber = 21;
+    link.CommPortNumber = 21;
     ShowActive(Load());
     for (int index = 0; index < 20; ++index) {
         EXPECT_FALSE(OptPort(index).isChecked());
     }
-    session.CommPortNumber = 1;
+    link.CommPortNumber = 1;
     Click(*form, "cmdOK");
-    EXPECT_EQ(session.CommPortNumber, 21);
+    EXPECT_EQ(link.CommPortNumber, 21);
     EXPECT_EQ(chosen->count(), 1);
 }
 
@@ -150,7 +151,7 @@ TEST_F(ComFormTest, EnterIsOk) {
     ShowActive(Load());
     QTest::mouseClick(&OptPort(4), Qt::LeftButton);
     QTest::keyClick(&OptPort(4), Qt::Key_Return);
-    EXPECT_EQ(session.CommPortNumber, 5);
+    EXPECT_EQ(link.CommPortNumber, 5);
     EXPECT_FALSE(form->isVisible());
 }
 
@@ -158,7 +159,7 @@ TEST_F(ComFormTest, CancelChangesNothing) {
     ShowActive(Load());
     QTest::mouseClick(&OptPort(4), Qt::LeftButton);
     Click(*form, "cmdCancel");
-    EXPECT_EQ(session.CommPortNumber, 1);
+    EXPECT_EQ(link.CommPortNumber, 1);
     EXPECT_EQ(chosen->count(), 0);
     EXPECT_FALSE(form->isVisible());
 }
@@ -167,7 +168,7 @@ TEST_F(ComFormTest, EscapeIsCancel) {
     ShowActive(Load());
     QTest::mouseClick(&OptPort(4), Qt::LeftButton);
     QTest::keyClick(form.get(), Qt::Key_Escape);
-    EXPECT_EQ(session.CommPortNumber, 1);
+    EXPECT_EQ(link.CommPortNumber, 1);
     EXPECT_EQ(chosen->count(), 0);
     EXPECT_FALSE(form->isVisible());
 }
@@ -191,7 +192,7 @@ TEST_F(ComFormTest, ShowsTheDeviceBehindANumberInItsToolTip) {
 }
 
 TEST_F(ComFormTest, SaysInChineseThatThereIsNoDevice) {
-    session.LanguageFlag = Language::Chinese;
+    language_ = Language::Chinese;
     fakes.ports.Missing(3);
     Load();
     EXPECT_EQ(FromQString(OptPort(2).toolTip()), "无设备");
@@ -220,7 +221,7 @@ TEST_F(ComFormTest, HelpOpensItsTopic) {
 }
 
 TEST_F(ComFormTest, HelpOpensItsTopicInChinese) {
-    session.LanguageFlag = Language::Chinese;
+    language_ = Language::Chinese;
     ShowActive(Load());
     Click(*form, "cmdHelp");
     EXPECT_EQ(fakes.help.Topics(), std::vector<std::string>{ProgramFolder() + "\\Zelvor_c.chm::/html/commport.htm"});

@@ -6,6 +6,7 @@
 #include <QSignalSpy>
 #include <QTimer>
 
+#include "data/Document.h"
 #include "link/EngineRig.h"
 #include "link/LinkFormRig.h"
 
@@ -16,11 +17,11 @@ class ConnectFormTest : public testing::Test {
 protected:
     ConnectFormTest() {
         fakes.ports.OnMake = [this](FakeSerialPort& port) { radio.Attach(port); };
-        session.Image.Set(0x1BD, 0x01);
-        session.Image.Set(0x1BE, 0xF8);
+        document.Image.Set(0x1BD, 0x01);
+        document.Image.Set(0x1BE, 0xF8);
     }
     ConnectForm& Load(TransferDirection direction) {
-        form = std::make_unique<ConnectForm>(session, fakes.Get(), direction);
+        form = std::make_unique<ConnectForm>(document, link, language_, fakes.Get(), direction);
         QObject::connect(form.get(), &ConnectForm::ReadCompleted, [this] { Note("read completed"); });
         QObject::connect(form.get(), &ConnectForm::WriteCompleted, [this] { Note("write completed"); });
         QObject::connect(form.get(), &ConnectForm::Unloaded,
@@ -32,7 +33,9 @@ protected:
     [[nodiscard]] std::string Status() const { return FromQString(Find<QLabel>(*form, "labStatus").text()); }
     [[nodiscard]] bool IsEnabled(const char* button) const { return Find<QPushButton>(*form, button).isEnabled(); }
 
-    Session session;
+    Document document;
+    LinkState link;
+    Language language_ = Language::English;
     FakeServices fakes;
     ScriptedRadio radio{fakes.clock, fakes.ports};
     std::unique_ptr<ConnectForm> form;
@@ -52,7 +55,7 @@ TEST_F(ConnectFormTest, HasItsTextsInEnglish) {
 }
 
 TEST_F(ConnectFormTest, HasItsTextsInChinese) {
-    session.LanguageFlag = Language::Chinese;
+    language_ = Language::Chinese;
     Load(TransferDirection::Read);
     EXPECT_EQ(FromQString(form->windowTitle()), "从对讲机读取数据");
     EXPECT_EQ(CaptionOf(*form, "cmdOK"), "确定(&O)");
@@ -71,11 +74,11 @@ TEST_F(ConnectFormTest, HasItsTimersAndItsPortByName) {
 
 TEST_F(ConnectFormTest, ReadingHasABarOfSixteenAndWritingOneOfFortyNine) {
     Load(TransferDirection::Read);
-    EXPECT_EQ(session.Link.TransferMode, 0);
+    EXPECT_EQ(link.TransferMode, 0);
     EXPECT_EQ(Bar().value(), 0);
     EXPECT_EQ(Bar().maximum(), 16);
     Load(TransferDirection::Write);
-    EXPECT_EQ(session.Link.TransferMode, 1);
+    EXPECT_EQ(link.TransferMode, 1);
     EXPECT_EQ(Bar().value(), 0);
     EXPECT_EQ(Bar().maximum(), 49);
 }
@@ -181,7 +184,7 @@ TEST_F(ConnectFormTest, RefusesToCloseBehindThePromptAndClosesAfterCancel) {
 }
 
 TEST_F(ConnectFormTest, MayBeClosedByItsFrameOnceTheUserRefusedTheModel) {
-    session.Image.Set(0x1BD, 0x55);
+    document.Image.Set(0x1BD, 0x55);
     ShowActive(Load(TransferDirection::Write));
     fakes.messages.Expect(ModelPrompt(), MessageAnswer::Cancel);
     Click(*form, "cmdOK");
@@ -242,7 +245,7 @@ TEST_F(ConnectFormTest, TellsWhatItDoesInBothLanguages) {
     fakes.clock.Advance(30);
     EXPECT_EQ(Status(), "Reading...");
 
-    session.LanguageFlag = Language::Chinese;
+    language_ = Language::Chinese;
     ShowActive(Load(TransferDirection::Write));
     Click(*form, "cmdOK");
     fakes.clock.Advance(42);
@@ -263,14 +266,14 @@ TEST_F(ConnectFormTest, SaysCompletedUnderTheBoxThatSaysSo) {
     };
     EXPECT_EQ(statusAtBox(TransferDirection::Write, WritingCompleted()), "Completed.");
     EXPECT_EQ(statusAtBox(TransferDirection::Read, ReadingCompleted()), "Completed.");
-    session.LanguageFlag = Language::Chinese;
+    language_ = Language::Chinese;
     Message box = ReadingCompleted();
     box.text = "读取完毕";
     EXPECT_EQ(statusAtBox(TransferDirection::Read, box), "完毕。");
 }
 
 TEST_F(ConnectFormTest, SaysBeforeOkThatItsPortCannotBeOpenedAndWhy) {
-    session.CommPortNumber = 3;
+    link.CommPortNumber = 3;
     fakes.ports.Missing(3);
     Load(TransferDirection::Read);
     EXPECT_EQ(Status(), "COM3 is missing. Plug in the cable, or choose another port in Setup > Communication Port.");
@@ -290,7 +293,7 @@ TEST_F(ConnectFormTest, SaysBeforeOkThatItsPortCannotBeOpenedAndWhy) {
 }
 
 TEST_F(ConnectFormTest, SaysInChineseWhyItsPortCannotBeOpened) {
-    session.LanguageFlag = Language::Chinese;
+    language_ = Language::Chinese;
     fakes.ports.Missing(1);
     Load(TransferDirection::Read);
     EXPECT_EQ(Status(), "通信口1 不存在。请插上编程线，或在“设置 > 通信端口”中选择其他端口。");
@@ -355,7 +358,7 @@ INSTANTIATE_TEST_SUITE_P(Languages, ConnectFormRetry, testing::Values(Language::
 
 TEST_P(ConnectFormRetry, SaysThatItTakesItsTimeBeforeTheWindowStandsStill) {
     const bool english = GetParam() == Language::English;
-    session.LanguageFlag = GetParam();
+    language_ = GetParam();
     radio.Spoil(1, Fault::Drop);
     ShowActive(Load(TransferDirection::Read));
     PaintedTexts painted(Find<QLabel>(*form, "labStatus"));
@@ -378,7 +381,7 @@ TEST_P(ConnectFormRetry, SaysThatItTakesItsTimeBeforeTheWindowStandsStill) {
 
 TEST_F(ConnectFormTest, HasRoomForWhateverItTells) {
     for (const Language language : {Language::English, Language::Chinese}) {
-        session.LanguageFlag = language;
+        language_ = language;
         fakes.ports.Present(1);
         ShowActive(Load(TransferDirection::Read));
         const QSize size = form->size();
@@ -403,7 +406,7 @@ TEST_F(ConnectFormTest, KeepsItsSizeWhateverItTells) {
 
 TEST_F(ConnectFormTest, HelpOpensTheTopicOfItsDirection) {
     const auto topicOf = [this](TransferDirection direction, Language language) {
-        session.LanguageFlag = language;
+        language_ = language;
         ShowActive(Load(direction));
         Click(*form, "cmdHelp");
         return fakes.help.Topics().back();

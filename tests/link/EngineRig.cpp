@@ -35,8 +35,8 @@ Bytes BlockReply(int block) {
 }
 
 EngineRig::EngineRig(int transferMode) : serialPort(ports.Make("MSComm1")) {
-    engine = std::make_unique<CloneEngine>(session, *serialPort, clock, messages, *this);
-    LoadAgain(transferMode);
+    link.TransferMode = transferMode;
+    UseLanguage(Language::English);
 }
 
 EngineRig::~EngineRig() = default;
@@ -52,12 +52,18 @@ void EngineRig::UsePattern() {
 
 void EngineRig::FillImageWithPattern() {
     for (int address = 0; address < 1024; ++address) {
-        session.Image.Set(address, PatternAt(address));
+        document.Image.Set(address, PatternAt(address));
     }
 }
 
+void EngineRig::UseLanguage(Language language) {
+    engine.reset(); // before the other one listens to the port
+    engine = std::make_unique<CloneEngine>(document, RadioLink{link, *serialPort, clock, messages, language}, *this);
+    LoadAgain(link.TransferMode);
+}
+
 void EngineRig::LoadAgain(int transferMode) {
-    session.Link.TransferMode = transferMode;
+    link.TransferMode = transferMode;
     engine->Load();
     events.clear();
 }
@@ -79,8 +85,8 @@ void EngineRig::ToConfirmation() {
 
 void EngineRig::ToData() {
     if (Link().TransferMode == Write) { // a radio that the model check accepts
-        session.Image.Set(0x1BD, 0x01);
-        session.Image.Set(0x1BE, 0xF8);
+        document.Image.Set(0x1BD, 0x01);
+        document.Image.Set(0x1BE, 0xF8);
     }
     ToConfirmation();
     Answer({0x06});

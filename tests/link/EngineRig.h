@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "data/Document.h"
 #include "fakes/FakeClock.h"
 #include "fakes/FakeMessageBoxes.h"
 #include "fakes/FakeSerialPort.h"
@@ -30,7 +31,8 @@ public:
     explicit EngineRig(int transferMode);
     ~EngineRig() override;
 
-    Session session;
+    Document document;
+    LinkState link;
     FakeClock clock;
     FakeSerialPorts ports;
     FakeMessageBoxes messages;
@@ -42,7 +44,7 @@ public:
     std::function<void()> WhenReadCompleted;
 
     [[nodiscard]] FakeSerialPort& Port() { return static_cast<FakeSerialPort&>(*serialPort); }
-    [[nodiscard]] LinkState& Link() { return session.Link; }
+    [[nodiscard]] LinkState& Link() { return link; }
 
     /// Fills image and radio with the pattern, the image's identity matching the radio's.
     void UsePattern();
@@ -50,6 +52,8 @@ public:
 
     /// Opens the dialog of another transfer.
     void LoadAgain(int transferMode);
+    /// Another engine, in that language, for the same transfer.
+    void UseLanguage(Language language);
     /// Puts the scripted radio at the far end.
     void ConnectRadio() { radio.Attach(Port()); }
 

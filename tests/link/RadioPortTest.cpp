@@ -16,15 +16,21 @@ class RadioPortTest : public testing::Test {
 protected:
     [[nodiscard]] FakeSerialPort& Fake() { return static_cast<FakeSerialPort&>(*serialPort); }
 
-    Session session;
+    LinkState link;
     FakeSerialPorts ports;
     FakeMessageBoxes messages;
     std::unique_ptr<SerialPort> serialPort = ports.Make("MSComm1");
-    RadioPort port{session, *serialPort};
+    RadioPort port{link, *serialPort};
 };
 
-TEST_F(RadioPortTest, SetsUpThePortOfTheSessionAsTheRadioWantsIt) {
-    session.CommPortNumber = 7;
+TEST(LinkState, StartsAtTheFirstPortWithNothingSent) {
+    const LinkState link;
+    EXPECT_EQ(link.CommPortNumber, 1);
+    EXPECT_EQ(link.SentState, 55);
+}
+
+TEST_F(RadioPortTest, SetsUpThePortOfTheLinkAsTheRadioWantsIt) {
+    link.CommPortNumber = 7;
     EXPECT_TRUE(port.SetUp());
     EXPECT_TRUE(port.IsOpen());
     const std::vector<std::string> expected{"buffers 1024 512", "number 7",    "settings 9600,N,8,2", "open",
@@ -41,7 +47,7 @@ TEST_F(RadioPortTest, APortThatIsMissingIsToldAndStaysClosed) {
 TEST_F(RadioPortTest, ACommandIsKeptInTheTransmitBuffer) {
     ASSERT_TRUE(port.Open());
     port.Send({0x10, 0x0F});
-    EXPECT_EQ(Hex(session.Link.TxBuffer), "10 0F");
+    EXPECT_EQ(Hex(link.TxBuffer), "10 0F");
     EXPECT_EQ(Fake().Sent(), (std::vector<std::uint8_t>{0x10, 0x0F}));
 }
 
@@ -65,7 +71,7 @@ TEST_F(RadioPortTest, OnlyTheAcknowledgeByteAcknowledges) {
 TEST_F(RadioPortTest, RetryLeavesALivingPortOpen) {
     ASSERT_TRUE(port.Open());
     messages.Expect(ConnectionPrompt(), MessageAnswer::Retry);
-    EXPECT_TRUE(port.AsksToRetry(messages));
+    EXPECT_TRUE(port.AsksToRetry(messages, Language::English));
     EXPECT_TRUE(port.IsOpen());
 }
 
@@ -77,13 +83,13 @@ TEST_F(RadioPortTest, RetryLooksAnewForAPortThatWasGone) {
         EXPECT_TRUE(port.IsOpen());
         return MessageAnswer::Retry;
     });
-    EXPECT_TRUE(port.AsksToRetry(messages));
+    EXPECT_TRUE(port.AsksToRetry(messages, Language::English));
     EXPECT_FALSE(port.IsOpen());
 }
 
 TEST_F(RadioPortTest, CancelLeavesThePortOpenForTheLastCommand) {
     messages.Expect(ConnectionPrompt(), MessageAnswer::Cancel);
-    EXPECT_FALSE(port.AsksToRetry(messages));
+    EXPECT_FALSE(port.AsksToRetry(messages, Language::English));
     EXPECT_TRUE(port.IsOpen());
 }
 
@@ -93,7 +99,7 @@ TEST_F(RadioPortTest, RetryLooksAnewForAPortWhoseNumberIsAnotherDevicesByNow) {
         Fake().BecomeStale(); // the cable is plugged in again
         return MessageAnswer::Retry;
     });
-    EXPECT_TRUE(port.AsksToRetry(messages));
+    EXPECT_TRUE(port.AsksToRetry(messages, Language::English));
     EXPECT_FALSE(port.IsOpen());
 }
 

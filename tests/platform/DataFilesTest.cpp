@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "data/BlankImage.h"
-#include "data/Session.h"
+#include "data/Document.h"
 #include "data/TestImages.h"
 #include "platform/QtFileStore.h"
 #include "support/TestDirectory.h"
@@ -55,14 +55,14 @@ std::string FileOf(std::string_view magic, std::size_t size, char fill) {
 TEST(DataFile, BringsADocumentBackUnchanged) {
     const TestDirectory directory;
     const fs::path path = directory / "radio.dat";
-    Session session;
-    session.Image = SampleImage();
-    ASSERT_TRUE(WriteDataFile(path, session.Image));
-    session.TakeSnapshot();
+    Document document;
+    document.Image = SampleImage();
+    ASSERT_TRUE(WriteDataFile(path, document.Image));
+    document.TakeSnapshot();
     const DataFileRead read = ReadDataFile(path);
     ASSERT_EQ(read.error, DataFileError::None);
-    session.Image = read.image;
-    EXPECT_FALSE(session.IsDocumentChanged());
+    document.Image = read.image;
+    EXPECT_FALSE(document.IsChanged());
     EXPECT_EQ(read.image.ToAddressOrder(), SampleImage().ToAddressOrder());
 }
 

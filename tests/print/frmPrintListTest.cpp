@@ -4,7 +4,7 @@
 #include <QDialog>
 #include <QLabel>
 
-#include "data/Session.h"
+#include "data/Document.h"
 #include "link/LinkFormRig.h"
 #include "print/ReportImage.h"
 #include "support/PrintedPages.h"
@@ -15,10 +15,9 @@ namespace {
 class frmPrintListTest : public ::testing::Test {
 protected:
     frmPrintList& Load(Language language = Language::English) {
-        session.LanguageFlag = language;
-        session.Image = testing::ReportImage();
+        document.Image = testing::ReportImage();
         testing::UseEvenPage(fakes.pages);
-        form = std::make_unique<frmPrintList>(session, fakes.Get());
+        form = std::make_unique<frmPrintList>(document, language, fakes.Get());
         ShowActive(*form);
         return *form;
     }
@@ -48,7 +47,7 @@ protected:
         return testing::TextAt(fakes.pages.Pages()[page], 10, 0);
     }
 
-    Session session;
+    Document document;
     FakeServices fakes;
     std::unique_ptr<frmPrintList> form;
 };
@@ -135,7 +134,7 @@ TEST_F(frmPrintListTest, IsUsableByItsAccessKeys) {
 
 TEST_F(frmPrintListTest, PrintsWhatIsTickedAndCloses) {
     Load();
-    session.CurrentFileName = "/home/user/Radio.dat";
+    document.Rename("/home/user/Radio.dat");
     fakes.clock.SetNow({2024, 5, 31, 14, 7, 9});
     Tick(7);
     Tick(1);
@@ -163,7 +162,7 @@ TEST_F(frmPrintListTest, LeavesTheDocumentAsItIs) {
     Click(*form, "cmdSelectAll");
     Click(*form, "cmdOK");
     EXPECT_EQ(fakes.pages.Documents().size(), 1U);
-    EXPECT_EQ(session.Image, testing::ReportImage());
+    EXPECT_EQ(document.Image, testing::ReportImage());
 }
 
 TEST_F(frmPrintListTest, ClosesWithoutPrintingOnCancel) {
@@ -212,7 +211,7 @@ TEST_F(frmPrintListTest, TakesAPrinterThatFailsInTheMiddleWithoutAWord) {
     EXPECT_EQ(fakes.pages.Failures(), 1);
     EXPECT_TRUE(fakes.messages.Shown().empty());
     EXPECT_FALSE(form->isVisible());
-    EXPECT_EQ(session.Image, testing::ReportImage());
+    EXPECT_EQ(document.Image, testing::ReportImage());
 }
 
 TEST_F(frmPrintListTest, ShowsItsHelp) {
@@ -338,7 +337,7 @@ TEST_F(frmPrintListTest, OffersAPdfFileInSetupWhereThePrintingSystemDoesNotAnswe
 
 TEST_F(frmPrintListTest, GivesSetupTheDocumentsName) {
     Load();
-    session.CurrentFileName = "/home/user/radio 2.dat";
+    document.Rename("/home/user/radio 2.dat");
     fakes.pages.ExpectSetup(false);
     Click(*form, "cmdPrintSetup");
     EXPECT_EQ(fakes.pages.SetupDocuments(), (std::vector<std::string>{"/home/user/radio 2.dat"}));

@@ -120,7 +120,7 @@ TEST_F(TestModeOrder, ThreeCommandsInOneTickGoOutOneByOne) {
     engine.PressPtt();
     rig.clock.Advance(100);
     EXPECT_EQ(rig.sent, (Commands{"47", "11 08", "08 0D"}));
-    EXPECT_TRUE(rig.session.Service.NarrowMode);
+    EXPECT_TRUE(rig.service.NarrowMode);
     EXPECT_EQ(lamps, std::vector<std::string>{"transmit"});
 }
 
@@ -147,7 +147,7 @@ TEST_F(TestModeOrder, PttAndThenAChannelKeysDropsAndSetsTheChannel) {
 }
 
 TEST_F(TestModeOrder, WhatIsChosenRightBehindTheLoadIsSentAndSoIsTheFirstSignalling) {
-    rig.session.Service.TestChannelNo = 3;
+    rig.service.TestChannelNo = 3;
     engine.Load();
     engine.ChooseChannel(5);
     engine.PressPtt();
@@ -159,7 +159,7 @@ TEST_F(TestModeOrder, TuningComesBehindWhatWasChosenBefore) {
     Open();
     engine.ChooseChannel(2);
     engine.ChooseWide(false);
-    rig.session.Service.TuneItem = 9;
+    rig.service.TuneItem = 9;
     engine.Tune();
     rig.clock.Advance(500);
     EXPECT_EQ(rig.sent, (Commands{"10 02", "06", "47", "05", "06", "0D 0D"}));
@@ -168,7 +168,7 @@ TEST_F(TestModeOrder, TuningComesBehindWhatWasChosenBefore) {
 
 TEST_F(TestModeOrder, TuningIsGivenUpForWhatIsAskedForNextAndNothingOpens) {
     Open();
-    rig.session.Service.TuneItem = 9;
+    rig.service.TuneItem = 9;
     engine.Tune();
     rig.clock.Advance(2); // 05 was sent, its answer comes
     engine.ChooseWide(false);

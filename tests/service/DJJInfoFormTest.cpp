@@ -10,15 +10,14 @@ protected:
     void TearDown() override { delete form; }
 
     void Open(Language language = Language::English) {
-        rig.session.LanguageFlag = language;
-        form = new DJJInfoForm(rig.session, rig.services);
+        form = new DJJInfoForm(rig.document, rig.service, language, rig.services);
         unloaded = std::make_unique<QSignalSpy>(form, &DJJInfoForm::Unloaded);
         ShowActive(*form);
     }
     std::string Text(const char* name) { return TextOf(*form, name); }
     void ExpectModel(std::uint8_t second, int first, const char* model, const char* frequency) {
         SetModel(static_cast<std::uint8_t>(first), second);
-        const DJJInfoForm shown(rig.session, rig.services);
+        const DJJInfoForm shown(rig.document, rig.service, Language::English, rig.services);
         EXPECT_EQ(TextOf(shown, "LabModel"), model) << int{second} << ' ' << first;
         EXPECT_EQ(TextOf(shown, "LabFreq"), frequency) << int{second} << ' ' << first;
     }
@@ -106,7 +105,7 @@ TEST_F(DJJInfoFormTest, AnUnknownFamilyShowsOneModel) {
 }
 
 TEST_F(DJJInfoFormTest, TheSerialNumberIsTheRadios) {
-    auto& record = rig.session.Service.RadioInfoRecord;
+    auto& record = rig.service.RadioInfoRecord;
     record.fill('x');
     record[13] = 'A';
     for (std::size_t i = 0; i < 8; ++i) {
@@ -117,7 +116,7 @@ TEST_F(DJJInfoFormTest, TheSerialNumberIsTheRadios) {
 }
 
 TEST_F(DJJInfoFormTest, SerialNumberBytesAreCharactersOfTheWesternCodePage) {
-    auto& record = rig.session.Service.RadioInfoRecord;
+    auto& record = rig.service.RadioInfoRecord;
     record[13] = 0x80;
     for (std::size_t i = 0; i < 8; ++i) {
         record[17 + i] = static_cast<std::uint8_t>("<b>&\xE9\xFF\xA9 "[i]);
@@ -164,7 +163,8 @@ TEST_F(DJJInfoFormTest, TheHelpButtonAndTheHelpKeyOpenItsTopic) {
     EXPECT_EQ(rig.help.Topics(), std::vector<std::string>{folder + "\\Zelvor_e.chm::/html/radioinfo.htm"});
     QTest::keyClick(form, Qt::Key_F1);
     EXPECT_EQ(rig.help.Topics().size(), 2U);
-    rig.session.LanguageFlag = Language::Chinese;
+    delete form;
+    Open(Language::Chinese);
     Click(*form, "cmdHelp");
     EXPECT_EQ(rig.help.Topics().back(), folder + "\\Zelvor_c.chm::/html/radioinfo.htm");
 }

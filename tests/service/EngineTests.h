@@ -32,7 +32,7 @@ protected:
 
     ServiceRig rig;
     std::unique_ptr<SerialPort> port = rig.ports.Make("MSComm1");
-    TestEngine engine{rig.session, *port, rig.clock, rig.messages, *this};
+    TestEngine engine{rig.document, rig.service, rig.LinkOver(*port), *this};
     std::vector<std::string> lamps;
     std::vector<std::string> events;
 };
@@ -61,7 +61,7 @@ public:
 class TuningEngineTest : public ::testing::Test {
 protected:
     void Open(const TuningPlan& plan) {
-        engine = std::make_unique<TuningEngine>(rig.session, *port, rig.clock, rig.messages, plan, dialog, dialog);
+        engine = std::make_unique<TuningEngine>(rig.service, rig.LinkOver(*port), plan, dialog, dialog);
         dialog.engine = engine.get();
         engine->Load();
     }

@@ -13,7 +13,7 @@ class EntryEngineTest : public ::testing::Test, public EntryObserver {
 protected:
     EntryEngineTest() {
         for (int i = 0; i < 8; ++i) {
-            rig.session.Image.Set(0x280 + i, Bytes("00 50 12 14 00 50 22 14")[static_cast<std::size_t>(i)]);
+            rig.document.Image.Set(0x280 + i, Bytes("00 50 12 14 00 50 22 14")[static_cast<std::size_t>(i)]);
         }
     }
 
@@ -41,7 +41,7 @@ protected:
 
     ServiceRig rig;
     std::unique_ptr<SerialPort> port = rig.ports.Make("MSComm1");
-    EntryEngine engine{rig.session, *port, rig.clock, rig.messages, *this};
+    EntryEngine engine{rig.document, rig.service, rig.LinkOver(*port), *this};
     std::vector<std::string> events;
     std::vector<std::string> progress;
     int ended = 0; // without a window
@@ -73,10 +73,10 @@ TEST_F(EntryEngineTest, InformationHandsOnTheThirtyFourBytesAsTheyCame) {
 }
 
 TEST_F(EntryEngineTest, InformationChangesNothingOfTheImage) {
-    const DataImage before = rig.session.Image;
+    const DataImage before = rig.document.Image;
     engine.StartInformation();
     rig.clock.Advance(1000);
-    EXPECT_EQ(rig.session.Image, before);
+    EXPECT_EQ(rig.document.Image, before);
 }
 
 TEST_F(EntryEngineTest, ThePortIsTriedOnceBeforeAnythingIsSent) {
@@ -135,12 +135,12 @@ TEST_F(EntryEngineTest, RetryBeginsTheProgressAgainAndGivingUpEndsIt) {
 TEST_F(EntryEngineTest, EntryStoresTheTuningRecordAndTheTestFrequencies) {
     engine.StartTestMode();
     rig.clock.Advance(1000);
-    EXPECT_EQ(rig.session.Service.Values.TestPointHighPower, 111);
-    EXPECT_EQ(rig.session.Image.AtIndex(86), 112);
-    EXPECT_EQ(rig.session.Service.TestFrequencyText[0].receive, "141.25000");
-    EXPECT_EQ(rig.session.Service.TestFrequencyText[0].transmit, "142.25000");
-    EXPECT_EQ(rig.session.Service.TestFrequencyText[15].receive, "0");
-    EXPECT_EQ(rig.session.Service.TestFrequencyText[15].transmit, "0");
+    EXPECT_EQ(rig.service.Values.TestPointHighPower, 111);
+    EXPECT_EQ(rig.document.Image.AtIndex(86), 112);
+    EXPECT_EQ(rig.service.TestFrequencyText[0].receive, "141.25000");
+    EXPECT_EQ(rig.service.TestFrequencyText[0].transmit, "142.25000");
+    EXPECT_EQ(rig.service.TestFrequencyText[15].receive, "0");
+    EXPECT_EQ(rig.service.TestFrequencyText[15].transmit, "0");
 }
 
 TEST_F(EntryEngineTest, AMismatchEndsTheEntryWithABox) {
@@ -161,7 +161,7 @@ TEST_F(EntryEngineTest, AMismatchEndsTheEntryWithABox) {
 }
 
 TEST_F(EntryEngineTest, TheChineseMismatchBoxIsTitledAWarning) {
-    rig.session.LanguageFlag = Language::Chinese;
+    engine.SetLanguage(Language::Chinese);
     rig.replies["10 10"] = "00 50 12 14 00 50 22 14";
     rig.messages.Expect({"警告", "测试频率不匹配。\n执行\"从对讲机读取数据\"\n或\"向对讲机写入数据\"。",
                          MessageIcon::Critical, MessageButtons::Ok, MessageAnswer::Ok},
@@ -179,7 +179,7 @@ TEST_F(EntryEngineTest, AMismatchOfTheFirstChannelIsReportedToo) {
     engine.StartTestMode();
     rig.clock.Advance(1000);
     EXPECT_EQ(rig.messages.Pending(), 0);
-    EXPECT_EQ(rig.session.Service.TestFrequencyText[0].receive, "0");
+    EXPECT_EQ(rig.service.TestFrequencyText[0].receive, "0");
 }
 
 // Faults, at every reply of both exchanges.
@@ -229,7 +229,7 @@ TEST_P(EntryFaults, CancelEndsItWithoutAnotherByteAndTheNextExchangeWorks) {
     EXPECT_EQ(static_cast<int>(rig.sent.size()), GetParam().reply);
     EXPECT_FALSE(rig.IsPortOpen());
     EXPECT_FALSE(rig.IsRunning("ctrTimer"));
-    EXPECT_EQ(rig.session.Link.SentState, 55);
+    EXPECT_EQ(rig.link.SentState, 55);
     rig.sent.clear();
     engine.StartInformation();
     rig.clock.Advance(3000);
@@ -322,7 +322,7 @@ TEST_F(EntryEngineTest, WhatIsLeftOfAnEarlierAnswerIsNoAnswerToTheNewEntry) {
 }
 
 TEST_F(EntryEngineTest, AStateLeftByAnAbandonedTransferDoesNotKeepItFromStarting) {
-    rig.session.Link.SentState = 1;
+    rig.link.SentState = 1;
     engine.StartInformation();
     rig.clock.Advance(1000);
     EXPECT_EQ(rig.sent, InformationCommands);

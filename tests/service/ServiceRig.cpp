@@ -111,7 +111,7 @@ std::string ServiceRig::UsualReply(const std::string& command) const {
 std::string ServiceRig::ChannelRecord(int channel) const {
     std::vector<std::uint8_t> record;
     for (int i = 0; i < 8; ++i) {
-        record.push_back(session.Image.At(0x280 + (channel - 1) * 8 + i));
+        record.push_back(document.Image.At(0x280 + (channel - 1) * 8 + i));
     }
     return Hex(record);
 }

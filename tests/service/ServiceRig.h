@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "data/Session.h"
+#include "data/Document.h"
 #include "fakes/FakeClock.h"
 #include "fakes/FakeFileDialogs.h"
 #include "fakes/FakeFileStore.h"
@@ -16,7 +16,10 @@
 #include "fakes/FakePageDevice.h"
 #include "fakes/FakeSerialPort.h"
 #include "fakes/FakeSettingsStore.h"
+#include "link/LinkState.h"
+#include "link/RadioLink.h"
 #include "platform/Services.h"
+#include "service/ServiceState.h"
 #include "support/RadioTesting.h"
 
 namespace zelvor {
@@ -25,14 +28,17 @@ namespace zelvor {
 [[nodiscard]] std::vector<std::uint8_t> Bytes(const std::string& hex);
 
 /// A radio in service mode behind every port that is made, in its plainest form and on virtual time: it answers each
-/// command by itself, in whatever order they come. Channel records are those of the session's image.
+/// command by itself, in whatever order they come. Channel records are those of the document.
 class ServiceRig {
 public:
     static constexpr int ReplyDelay = 2; // milliseconds
 
     ServiceRig();
 
-    Session session;
+    Document document;
+    LinkState link;
+    ServiceState service;
+    Language language = Language::English;
     FakeClock clock;
     FakeSerialPorts ports;
     FakeMessageBoxes messages;
@@ -49,6 +55,9 @@ public:
     /// Replies that differ from the usual ones, by command; an empty one is silence.
     std::map<std::string, std::string> replies;
     int measured = 77;
+
+    /// For an engine on a port of these.
+    [[nodiscard]] RadioLink LinkOver(SerialPort& port) { return {link, port, clock, messages, language}; }
 
     /// Spoils reply n, counted from 1.
     void Spoil(int reply, Fault fault);

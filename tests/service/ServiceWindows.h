@@ -39,8 +39,8 @@ protected:
 
     /// The two model bytes of the document.
     void SetModel(std::uint8_t first, std::uint8_t second) {
-        rig.session.Image.SetIndex(982, first);
-        rig.session.Image.SetIndex(998, second);
+        rig.document.Image.SetIndex(982, first);
+        rig.document.Image.SetIndex(998, second);
     }
 
     template<typename Control>
@@ -120,12 +120,12 @@ protected:
     void TearDown() override { delete form; }
 
     void Offer(int channel, std::string receive, std::string transmit) {
-        rig.session.Service.TestFrequencyText[static_cast<std::size_t>(channel - 1)] = {std::move(receive),
-                                                                                        std::move(transmit)};
+        rig.service.TestFrequencyText[static_cast<std::size_t>(channel - 1)] = {std::move(receive),
+                                                                                std::move(transmit)};
     }
     void Load(Language language = Language::English) {
-        rig.session.LanguageFlag = language;
-        form = new TestForm(rig.session, rig.services);
+        rig.language = language;
+        form = new TestForm(rig.document, rig.link, rig.service, rig.language, rig.services);
         unloaded = std::make_unique<QSignalSpy>(form, &TestForm::Unloaded);
         ShowActive(*form);
     }
@@ -174,13 +174,13 @@ protected:
 /// The tuning dialogs by themselves.
 class TuningFormTest : public ServiceWindowTest {
 protected:
-    TuningFormTest() { rig.session.Service.TestFrequencyText[0] = {"155.05000", "155.10000"}; }
+    TuningFormTest() { rig.service.TestFrequencyText[0] = {"155.05000", "155.10000"}; }
     void TearDown() override { delete form; }
 
-    void Put(int imageIndex, std::uint8_t value) { rig.session.Image.SetIndex(imageIndex, value); }
+    void Put(int imageIndex, std::uint8_t value) { rig.document.Image.SetIndex(imageIndex, value); }
     /// The radio's RF High Power: 100 at the test frequency; 90, 95, 105, 110, 120.
     void PutHighPower() {
-        rig.session.Service.Values.TestPointHighPower = 100;
+        rig.service.Values.TestPointHighPower = 100;
         Put(86, 90);
         Put(70, 95);
         Put(54, 105);
@@ -189,16 +189,16 @@ protected:
     }
     /// The radio's Sensitivity: 40 at the test frequency; 41, 42, 43.
     void PutSensitivity() {
-        rig.session.Service.Values.TestPointSensitivity = 40;
+        rig.service.Values.TestPointSensitivity = 40;
         Put(502, 41);
         Put(486, 42);
         Put(470, 43);
     }
     void Open(int tuneItem, bool narrow = false, Language language = Language::English) {
-        rig.session.LanguageFlag = language;
-        rig.session.Service.TuneItem = tuneItem;
-        rig.session.Service.NarrowMode = narrow;
-        form = MakeTuningForm(rig.session, rig.services, nullptr);
+        rig.language = language;
+        rig.service.TuneItem = tuneItem;
+        rig.service.NarrowMode = narrow;
+        form = MakeTuningForm(rig.document, rig.link, rig.service, rig.language, rig.services, nullptr);
         unloaded = std::make_unique<QSignalSpy>(form, &TuningForm::Unloaded);
         ShowActive(*form);
     }
@@ -257,7 +257,7 @@ protected:
         RemoveClosed();
         EXPECT_TRUE(form.isNull());
         EXPECT_FALSE(rig.IsPortOpen());
-        EXPECT_FALSE(rig.session.Service.TestAborted);
+        EXPECT_FALSE(rig.service.TestAborted);
     }
 
     QPointer<TuningForm> form;

@@ -15,19 +15,19 @@ protected:
         std::mt19937 random(seed);
         const auto byte = [&] { return static_cast<std::uint8_t>(random() & 0xFFU); };
         for (int index = 0; index < 1024; ++index) {
-            rig.session.Image.SetIndex(index, byte());
+            rig.document.Image.SetIndex(index, byte());
         }
         if (seed % 2 == 0) { // a model that is known
             SetModel(1, 0xF8);
         }
-        for (std::uint8_t& value : rig.session.Service.RadioInfoRecord) {
+        for (std::uint8_t& value : rig.service.RadioInfoRecord) {
             value = byte();
         }
-        rig.session.Service.TestChannelNo = 1 + static_cast<int>(seed % 16);
-        for (TestFrequencyTexts& texts : rig.session.Service.TestFrequencyText) {
+        rig.service.TestChannelNo = 1 + static_cast<int>(seed % 16);
+        for (TestFrequencyTexts& texts : rig.service.TestFrequencyText) {
             texts = {std::to_string(random() % 1000), std::to_string(random() % 1000) + ".5"};
         }
-        TuneValues& values = rig.session.Service.Values;
+        TuneValues& values = rig.service.Values;
         for (auto value :
              {&TuneValues::TestPointHighPower, &TuneValues::TestPointLowPower, &TuneValues::TestPointDqtBalance,
               &TuneValues::TestPointMaxDeviation, &TuneValues::TestPointQtFine, &TuneValues::TestPointDqtFine,
@@ -35,14 +35,14 @@ protected:
               &TuneValues::TestPointSquelchTight}) {
             values.*value = byte();
         }
-        rig.session.LanguageFlag = seed % 3 == 0 ? Language::Chinese : Language::English;
+        rig.language = seed % 3 == 0 ? Language::Chinese : Language::English;
     }
 };
 
 TEST_F(ServiceWindowsRandomTest, AnyDocumentAndRadioOpensTheInformation) {
     for (unsigned seed = 1; seed <= Images; ++seed) {
         Fill(seed);
-        DJJInfoForm form(rig.session, rig.services);
+        DJJInfoForm form(rig.document, rig.service, rig.language, rig.services);
         EXPECT_EQ(form.findChild<QLabel*>("LabSN")->text().size(), 11) << "seed " << seed;
     }
 }
@@ -50,9 +50,10 @@ TEST_F(ServiceWindowsRandomTest, AnyDocumentAndRadioOpensTheInformation) {
 TEST_F(ServiceWindowsRandomTest, AnyDocumentAndRadioOpensEveryTuningDialog) {
     for (unsigned seed = 1; seed <= Images; ++seed) {
         Fill(seed);
-        rig.session.Service.TuneItem = 1 + static_cast<int>(seed % 15);
-        rig.session.Service.NarrowMode = seed / 15 % 2 != 0;
-        QPointer<TuningForm> form = MakeTuningForm(rig.session, rig.services, nullptr);
+        rig.service.TuneItem = 1 + static_cast<int>(seed % 15);
+        rig.service.NarrowMode = seed / 15 % 2 != 0;
+        QPointer<TuningForm> form =
+            MakeTuningForm(rig.document, rig.link, rig.service, rig.language, rig.services, nullptr);
         for (QSlider* slider : form->findChildren<QSlider*>()) {
             slider->setValue(static_cast<int>(seed * 37 % 256));
         }

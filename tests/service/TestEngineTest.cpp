@@ -4,12 +4,12 @@ namespace zelvor {
 namespace {
 
 TEST_F(TestEngineTest, OnLoadTheRadioGetsTheChannelAndThenTheFirstSignalling) {
-    rig.session.Service.TestChannelNo = 3;
-    rig.session.Service.NarrowMode = true;
-    rig.session.Service.TestAborted = true;
+    rig.service.TestChannelNo = 3;
+    rig.service.NarrowMode = true;
+    rig.service.TestAborted = true;
     engine.Load();
-    EXPECT_FALSE(rig.session.Service.NarrowMode);
-    EXPECT_FALSE(rig.session.Service.TestAborted);
+    EXPECT_FALSE(rig.service.NarrowMode);
+    EXPECT_FALSE(rig.service.TestAborted);
     EXPECT_FALSE(rig.IsPortOpen());
     rig.clock.Advance(200);
     EXPECT_EQ(rig.sent, (Commands{"10 03", "06", "11 01"}));
@@ -24,7 +24,7 @@ TEST_F(TestEngineTest, AChosenChannelIsNotFollowedByASignalling) {
     engine.ChooseChannel(7);
     rig.clock.Advance(200);
     EXPECT_EQ(rig.sent, (Commands{"10 07", "06"}));
-    EXPECT_EQ(rig.session.Service.TestChannelNo, 7);
+    EXPECT_EQ(rig.service.TestChannelNo, 7);
 }
 
 TEST_F(TestEngineTest, AChannelGoesOutFiftyMillisecondsAfterTheChoice) {
@@ -110,24 +110,24 @@ TEST_F(TestEngineTest, AReleaseThatTheRadioMissedGoesOutAgainBeforeTheNextComman
 
 TEST_F(TestEngineTest, AnItemChosenWhileTheRadioSelectsAnotherIsNotTheOneThatIsTuned) {
     Open();
-    rig.session.Service.TuneItem = 9;
+    rig.service.TuneItem = 9;
     engine.Tune();
     rig.clock.Advance(2);
-    rig.session.Service.TuneItem = 4;
+    rig.service.TuneItem = 4;
     rig.clock.Advance(300);
     EXPECT_EQ(rig.sent, (Commands{"05", "06", "0D 0D"}));
-    EXPECT_EQ(rig.session.Service.TuneItem, 9);
+    EXPECT_EQ(rig.service.TuneItem, 9);
 }
 
 TEST_F(TestEngineTest, WideAndNarrowAreSentAndRemembered) {
     Open();
     engine.ChooseWide(false);
-    EXPECT_FALSE(rig.session.Service.NarrowMode); // not before it is sent
+    EXPECT_FALSE(rig.service.NarrowMode); // not before it is sent
     rig.clock.Advance(50);
-    EXPECT_TRUE(rig.session.Service.NarrowMode);
+    EXPECT_TRUE(rig.service.NarrowMode);
     engine.ChooseWide(true);
     rig.clock.Advance(50);
-    EXPECT_FALSE(rig.session.Service.NarrowMode);
+    EXPECT_FALSE(rig.service.NarrowMode);
     EXPECT_EQ(rig.sent, (Commands{"47", "46"}));
 }
 
@@ -154,12 +154,12 @@ TEST_F(TestEngineTest, AKeyedTransmitterIsDroppedBeforeEveryOtherCommand) {
 
 TEST_F(TestEngineTest, TuneReadsTheTuningDataSelectsTheItemAndClosesThePort) {
     Open();
-    rig.session.Service.TuneItem = 9;
+    rig.service.TuneItem = 9;
     engine.Tune();
     rig.clock.Advance(300);
     EXPECT_EQ(rig.sent, (Commands{"05", "06", "0D 0D"}));
     EXPECT_EQ(events, std::vector<std::string>{"tune, port closed"});
-    EXPECT_EQ(rig.session.Service.Values.TestPointSquelchOpen, 101);
+    EXPECT_EQ(rig.service.Values.TestPointSquelchOpen, 101);
     EXPECT_EQ(rig.clock.Sleeps(), (std::vector{30, 30}));
 }
 
@@ -212,7 +212,7 @@ TEST_F(TestEngineTest, ASilentCloseEndsWithThePromptAndCancel) {
     engine.Close();
     EXPECT_EQ(rig.sent, (Commands{"11 01", "11 01"}));
     EXPECT_EQ(events, std::vector<std::string>{"unload"});
-    EXPECT_TRUE(rig.session.Service.TestAborted);
+    EXPECT_TRUE(rig.service.TestAborted);
     EXPECT_FALSE(rig.IsPortOpen());
 }
 
@@ -293,7 +293,7 @@ TEST_P(TestCommandFaults, PromptAndRetryRepeatsTheCommandAndNotTheSession) {
 TEST_P(TestCommandFaults, CancelClosesTheDialogWithoutAnEnd) {
     Run(MessageAnswer::Cancel);
     EXPECT_EQ(events.back(), "unload");
-    EXPECT_TRUE(rig.session.Service.TestAborted);
+    EXPECT_TRUE(rig.service.TestAborted);
     EXPECT_EQ(static_cast<int>(rig.sent.size()), GetParam().reply);
     EXPECT_FALSE(rig.IsPortOpen());
 }

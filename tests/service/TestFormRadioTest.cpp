@@ -9,7 +9,7 @@ TEST_F(TestFormRadioTest, OnLoadEverythingIsIdleAndWide) {
     Load();
     EXPECT_EQ(Lamps(), IdleLamps);
     EXPECT_EQ(WidthLamps(), "106 -");
-    EXPECT_FALSE(rig.session.Service.NarrowMode);
+    EXPECT_FALSE(rig.service.NarrowMode);
     EXPECT_TRUE(rig.sent.empty());
 }
 
@@ -87,13 +87,13 @@ TEST_F(TestFormRadioTest, WidthLampsSwapAtTheClick) {
     Open();
     Click(*form, "CmdNarrow");
     EXPECT_EQ(WidthLamps(), "- 106");
-    EXPECT_FALSE(rig.session.Service.NarrowMode); // set when it is sent
+    EXPECT_FALSE(rig.service.NarrowMode); // set when it is sent
     rig.clock.Advance(50);
-    EXPECT_TRUE(rig.session.Service.NarrowMode);
+    EXPECT_TRUE(rig.service.NarrowMode);
     Click(*form, "cmdWide");
     EXPECT_EQ(WidthLamps(), "106 -");
     rig.clock.Advance(50);
-    EXPECT_FALSE(rig.session.Service.NarrowMode);
+    EXPECT_FALSE(rig.service.NarrowMode);
     EXPECT_EQ(rig.sent, (Commands{"47", "46"}));
 }
 
@@ -139,7 +139,7 @@ TEST_F(TestFormRadioTest, CancelAtThePromptClosesTheWindowWithoutAWordToTheRadio
         start();
         rig.clock.Advance(1000);
         EXPECT_EQ(rig.sent, Commands{command});
-        EXPECT_TRUE(rig.session.Service.TestAborted);
+        EXPECT_TRUE(rig.service.TestAborted);
         ExpectGone();
         rig.replies.clear();
     }

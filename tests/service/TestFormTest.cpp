@@ -91,7 +91,7 @@ TEST_F(TestFormTest, TheFirstOfferedChannelIsChosenAndSentOnLoad) {
     Offer(1, "0", "0");
     Load();
     EXPECT_EQ(Channels().currentText(), "2");
-    EXPECT_EQ(rig.session.Service.TestChannelNo, 2);
+    EXPECT_EQ(rig.service.TestChannelNo, 2);
     EXPECT_EQ(TextOf(*form, "LabRxFreq"), "136.05000MHz");
     EXPECT_EQ(TextOf(*form, "LabTxFreq"), "136.10000MHz");
     rig.clock.Advance(100);
@@ -103,11 +103,11 @@ TEST_F(TestFormTest, WithoutAChannelToOfferASingleOneStandsInTheList) {
         Offer(channel, "0", "0");
     }
     for (const auto& [language, none] : {std::pair{Language::English, "None"}, std::pair{Language::Chinese, "无"}}) {
-        rig.session.Service.TestChannelNo = 9;
+        rig.service.TestChannelNo = 9;
         Load(language);
         EXPECT_EQ(Channels().count(), 1);
         EXPECT_EQ(Channels().currentText(), "1");
-        EXPECT_EQ(rig.session.Service.TestChannelNo, 1);
+        EXPECT_EQ(rig.service.TestChannelNo, 1);
         EXPECT_EQ(TextOf(*form, "LabRxFreq"), "FFF.FFFFFMHz");
         EXPECT_EQ(TextOf(*form, "LabTxFreq"), none);
         delete form;
@@ -120,7 +120,7 @@ TEST_F(TestFormTest, AChosenChannelIsShownAndSentAlone) {
     EXPECT_EQ(TextOf(*form, "LabTxFreq"), "155.00000MHz");
     Press(Channels(), Qt::Key_Down, 2);
     EXPECT_EQ(Channels().currentText(), "5");
-    EXPECT_EQ(rig.session.Service.TestChannelNo, 5);
+    EXPECT_EQ(rig.service.TestChannelNo, 5);
     EXPECT_EQ(TextOf(*form, "LabRxFreq"), "173.95000MHz");
     EXPECT_EQ(TextOf(*form, "LabTxFreq"), "173.90000MHz");
     rig.clock.Advance(100);
@@ -276,7 +276,7 @@ TEST_F(TestFormTest, ClosedBeforeTheQuestionItPrintsNothing) {
 
 TEST_F(TestFormTest, AQuestionThatIsUpKeepsTheWindowEnabledUntilItIsAnswered) {
     Open();
-    rig.session.Service.TuneItem = 8;
+    rig.service.TuneItem = 8;
     Items().setCurrentRow(7);
     Click(*form, "CmdTune");
     rig.messages.Expect({"Confirmation", "All tuning data print out.", MessageIcon::Question, MessageButtons::OkCancel,

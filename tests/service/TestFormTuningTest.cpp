@@ -13,7 +13,7 @@ TEST_F(TestFormTuningTest, TuningNeedsAChosenItem) {
     rig.clock.Advance(200);
     EXPECT_TRUE(rig.sent.empty());
     ClickItem(4);
-    EXPECT_EQ(rig.session.Service.TuneItem, 4);
+    EXPECT_EQ(rig.service.TuneItem, 4);
     EXPECT_TRUE(cmdTune.isEnabled());
     EXPECT_TRUE(rig.sent.empty());
 }
@@ -22,7 +22,7 @@ TEST_F(TestFormTuningTest, AnItemIsChosenByTheArrowKeysToo) {
     Open();
     ClickItem(1);
     Press(Items(), Qt::Key_Down, 6);
-    EXPECT_EQ(rig.session.Service.TuneItem, 7);
+    EXPECT_EQ(rig.service.TuneItem, 7);
     EXPECT_TRUE(In<QPushButton>(*form, "CmdTune").isEnabled());
 }
 
@@ -217,7 +217,7 @@ TEST_F(TestFormTuningTest, AClickWithCtrlDoesNotTakeTheChoiceAway) {
     const QPoint place = Items().visualItemRect(Items().item(3)).center();
     QTest::mouseClick(Items().viewport(), Qt::LeftButton, Qt::ControlModifier, place);
     EXPECT_TRUE(Items().item(3)->isSelected());
-    EXPECT_EQ(rig.session.Service.TuneItem, 4);
+    EXPECT_EQ(rig.service.TuneItem, 4);
 }
 
 TEST_F(TestFormTuningTest, TheKeyboardIsWhereItWasAfterATuningDialog) {

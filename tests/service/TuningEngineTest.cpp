@@ -316,7 +316,7 @@ TEST_P(TuningFaults, PromptAndRetryRepeatsTheOperation) {
 TEST_P(TuningFaults, CancelClosesTheDialogAndSendsNothingMore) {
     Run(MessageAnswer::Cancel);
     EXPECT_EQ(dialog.events.back(), "unload");
-    EXPECT_TRUE(rig.session.Service.TestAborted);
+    EXPECT_TRUE(rig.service.TestAborted);
     EXPECT_EQ(static_cast<int>(rig.sent.size()), GetParam().reply);
     EXPECT_FALSE(rig.IsPortOpen());
 }

@@ -222,7 +222,7 @@ TEST_F(TuningFormEditingTest, ThePointAtTheTestFrequencyIsTheTestValue) {
 }
 
 TEST_F(TuningFormEditingTest, BetweenTwoPointsTheTestValueLiesOnTheirLine) {
-    rig.session.Service.TestFrequencyText[0].transmit = "150.35000"; // half-way between Low' and Center
+    rig.service.TestFrequencyText[0].transmit = "150.35000"; // half-way between Low' and Center
     OpenHighPower();
     ClickPage(2);
     Settle();

@@ -47,8 +47,8 @@ TEST_F(TuningFormTest, FourPagesHaveTheirNamesAndFrequencies) {
 }
 
 TEST_F(TuningFormTest, OnePageShowsTheTestChannel) {
-    rig.session.Service.TestChannelNo = 7;
-    rig.session.Service.TestFrequencyText[6] = {"145.12500", "146.00000"};
+    rig.service.TestChannelNo = 7;
+    rig.service.TestFrequencyText[6] = {"145.12500", "146.00000"};
     OpenOneValue();
     ASSERT_EQ(Pages().count(), 1);
     EXPECT_EQ(Pages().tabText(0), "Test");
@@ -140,15 +140,15 @@ TEST_F(TuningFormTest, TheFirstValuesAreTheRadios) {
     }
     for (const FirstValues& row : AllFirstValues) {
         SCOPED_TRACE(std::to_string(row.item) + (row.narrow ? " narrow" : " wide"));
-        rig.session.Service.Values = {};
+        rig.service.Values = {};
         if (row.test != nullptr) {
-            rig.session.Service.Values.*row.test = 222;
+            rig.service.Values.*row.test = 222;
         }
         Open(row.item, row.narrow);
         int page = 0;
         if (row.test != nullptr) {
             ExpectInStep(page++, 222);
-            EXPECT_EQ(rig.session.Service.Values.TestPointCurrent, 222);
+            EXPECT_EQ(rig.service.Values.TestPointCurrent, 222);
         }
         for (const int index : row.imageIndexes) {
             ExpectInStep(page++, 50 + (index - 6) / 16);
@@ -160,7 +160,7 @@ TEST_F(TuningFormTest, TheFirstValuesAreTheRadios) {
 
 TEST_F(TuningFormTest, TheMeasuringDialogsStartFromTheirImageBytes) {
     for (const auto& [item, index] : {std::pair{12, 710}, {13, 742}, {14, 758}, {15, 806}}) {
-        rig.session.Image.Fill(0);
+        rig.document.Image.Fill(0);
         Put(index, 123);
         Open(item);
         EXPECT_EQ(TextOf(*form, "txtTuneValue"), "123") << item;
@@ -240,13 +240,13 @@ TEST_F(TuningFormTest, APageIsReachedByTheKeyboardToo) {
 
 TEST_F(TuningFormTest, NothingIsWrittenToTheDocumentOrToTheKeptValues) {
     OpenHighPower();
-    const DataImage image = rig.session.Image;
-    const TuneValues kept = rig.session.Service.Values;
+    const DataImage image = rig.document.Image;
+    const TuneValues kept = rig.service.Values;
     Press(Slider(), Qt::Key_Right, 9);
     Settle();
     Click(*form, "CmdOK");
-    EXPECT_EQ(rig.session.Image, image);
-    EXPECT_EQ(rig.session.Service.Values, kept);
+    EXPECT_EQ(rig.document.Image, image);
+    EXPECT_EQ(rig.service.Values, kept);
 }
 
 } // namespace

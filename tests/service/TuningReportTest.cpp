@@ -2,8 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "data/Session.h"
+#include "data/Document.h"
 #include "fakes/FakeServices.h"
+#include "service/ServiceState.h"
 #include "support/PrintedPages.h"
 
 namespace zelvor {
@@ -21,8 +22,8 @@ protected:
     /// Item n at point p has the value 10 n + p, with the points counted from Test as 1 to Narrow as 7; the last two
     /// items have the least and the most.
     void StoreValues() {
-        session.Image.Set(0x1BD, 1);
-        session.Image.Set(0x1BE, 0xF8);
+        document.Image.Set(0x1BD, 1);
+        document.Image.Set(0x1BE, 0xF8);
         constexpr std::pair<int, int> values[]{
             {86, 12},   {70, 13},   {54, 14},   {38, 15},   {22, 16},   {166, 22},  {150, 23},  {134, 24}, {118, 25},
             {102, 26},  {230, 32},  {214, 34},  {198, 36},  {182, 37},  {294, 42},  {278, 44},  {262, 46}, {246, 47},
@@ -30,17 +31,17 @@ protected:
             {438, 77},  {502, 82},  {486, 84},  {470, 86},  {566, 92},  {550, 94},  {534, 96},  {518, 97}, {630, 102},
             {614, 104}, {598, 106}, {582, 107}, {678, 111}, {646, 117}, {710, 121}, {742, 131}, {758, 0},  {806, 255}};
         for (const auto& [index, value] : values) {
-            session.Image.SetIndex(index, static_cast<std::uint8_t>(value));
+            document.Image.SetIndex(index, static_cast<std::uint8_t>(value));
         }
-        session.Service.Values = {.TestPointHighPower = 11,
-                                  .TestPointLowPower = 21,
-                                  .TestPointDqtBalance = 31,
-                                  .TestPointMaxDeviation = 41,
-                                  .TestPointQtFine = 51,
-                                  .TestPointDqtFine = 61,
-                                  .TestPointSensitivity = 81,
-                                  .TestPointSquelchOpen = 101,
-                                  .TestPointSquelchTight = 91};
+        service.Values = {.TestPointHighPower = 11,
+                          .TestPointLowPower = 21,
+                          .TestPointDqtBalance = 31,
+                          .TestPointMaxDeviation = 41,
+                          .TestPointQtFine = 51,
+                          .TestPointDqtFine = 61,
+                          .TestPointSensitivity = 81,
+                          .TestPointSquelchOpen = 101,
+                          .TestPointSquelchTight = 91};
     }
     void ExpectQuestion(MessageAnswer answer) {
         fakes.messages.Expect({.title = "Confirmation",
@@ -52,11 +53,13 @@ protected:
     }
     const FakePage& Print() {
         ExpectQuestion(MessageAnswer::Ok);
-        PrintTuningReport(session, fakes.Get(), [] { return true; });
+        PrintTuningReport(document, service.Values, language, fakes.Get(), [] { return true; });
         return fakes.pages.Pages().back();
     }
 
-    Session session;
+    Document document;
+    ServiceState service;
+    Language language = Language::English;
     FakeServices fakes;
 };
 
@@ -67,14 +70,14 @@ TEST_F(TuningReportTest, HasItsTextsAtTheirCellsInEnglish) {
 }
 
 TEST_F(TuningReportTest, HasItsTextsAtTheirCellsInChinese) {
-    session.LanguageFlag = Language::Chinese;
+    language = Language::Chinese;
     fakes.messages.Expect({.title = "确认",
                            .text = "打印输出所有调谐数据。",
                            .icon = MessageIcon::Question,
                            .buttons = MessageButtons::OkCancel,
                            .defaultButton = MessageAnswer::Cancel},
                           MessageAnswer::Ok);
-    PrintTuningReport(session, fakes.Get(), [] { return true; });
+    PrintTuningReport(document, service.Values, language, fakes.Get(), [] { return true; });
     ASSERT_EQ(fakes.pages.Pages().size(), 1U);
     testing::ExpectCells(fakes.pages.Pages()[0], "tuning_zh");
     EXPECT_EQ(fakes.pages.Pages()[0].texts[0].text, "Zelvor 对讲机编程信息");
@@ -116,7 +119,7 @@ TEST_F(TuningReportTest, LaysItsCellsOutWithoutRounding) {
 
 TEST_F(TuningReportTest, OnCancelPrintsNothing) {
     ExpectQuestion(MessageAnswer::Cancel);
-    PrintTuningReport(session, fakes.Get(), [] { return true; });
+    PrintTuningReport(document, service.Values, language, fakes.Get(), [] { return true; });
     EXPECT_TRUE(fakes.pages.Pages().empty());
     EXPECT_TRUE(fakes.pages.Documents().empty());
 }
@@ -132,7 +135,7 @@ TEST_F(TuningReportTest, AsksAfterAWaitOfTwoHundredMilliseconds) {
                               waits = fakes.clock.Waits();
                               return MessageAnswer::Cancel;
                           });
-    PrintTuningReport(session, fakes.Get(), [] { return true; });
+    PrintTuningReport(document, service.Values, language, fakes.Get(), [] { return true; });
     EXPECT_EQ(waits, (std::vector<int>{200}));
 }
 
@@ -162,8 +165,8 @@ TEST_F(TuningReportTest, NamesEveryVariant) {
                                    {0xFC, 65, "5617(UHF)", "M3", "400-430MHz"},
                                    {0xF8, 0, "4618(VHF)", "M", "136-174MHz"},
                                    {0xFF, 33, "4618(VHF)", "M", "136-174MHz"}}) {
-        session.Image.SetIndex(982, static_cast<std::uint8_t>(variant.m1));
-        session.Image.SetIndex(998, static_cast<std::uint8_t>(variant.m2));
+        document.Image.SetIndex(982, static_cast<std::uint8_t>(variant.m1));
+        document.Image.SetIndex(998, static_cast<std::uint8_t>(variant.m2));
         const FakePage& page = Print();
         EXPECT_EQ(TextAt(page, 4, 30), variant.model);
         EXPECT_EQ(TextAt(page, 5, 30), variant.market);
@@ -171,18 +174,18 @@ TEST_F(TuningReportTest, NamesEveryVariant) {
     }
 }
 
-TEST_F(TuningReportTest, PrintsTheValuesAsTheSessionHoldsThem) {
-    session.Service.Values.TestPointCurrent = 99; // of an open tuning dialog
+TEST_F(TuningReportTest, PrintsTheValuesAsTheServiceStateHoldsThem) {
+    service.Values.TestPointCurrent = 99; // of an open tuning dialog
     EXPECT_EQ(TextAt(Print(), 13, 25), "11");
-    session.Service.Values.TestPointHighPower = 12; // as the next Read tuning data tells it
-    session.Image.SetIndex(86, 200);
+    service.Values.TestPointHighPower = 12; // as the next Read tuning data tells it
+    document.Image.SetIndex(86, 200);
     const FakePage& page = Print();
     EXPECT_EQ(TextAt(page, 13, 25), "12");
     EXPECT_EQ(TextAt(page, 13, 35), "200");
 }
 
 TEST_F(TuningReportTest, ShortensALongFileNameInTheMiddle) {
-    session.CurrentFileName = "/home/user/" + std::string(180, 'x') + "/Zelvor.dat";
+    document.Rename("/home/user/" + std::string(180, 'x') + "/Zelvor.dat");
     const std::string printed = TextAt(Print(), 7, 30);
     EXPECT_TRUE(printed.starts_with("/home/user/x")) << printed;
     EXPECT_TRUE(printed.ends_with("x/Zelvor.dat")) << printed;
@@ -192,7 +195,7 @@ TEST_F(TuningReportTest, ShortensALongFileNameInTheMiddle) {
 TEST_F(TuningReportTest, WithoutAPrinterEndsWithoutAWord) {
     fakes.pages.SetAvailable(false);
     ExpectQuestion(MessageAnswer::Ok);
-    PrintTuningReport(session, fakes.Get(), [] { return true; });
+    PrintTuningReport(document, service.Values, language, fakes.Get(), [] { return true; });
     EXPECT_TRUE(fakes.pages.Pages().empty());
     EXPECT_EQ(fakes.messages.Shown().size(), 1U);
 }
@@ -200,7 +203,7 @@ TEST_F(TuningReportTest, WithoutAPrinterEndsWithoutAWord) {
 TEST_F(TuningReportTest, OnAPrinterThatFailsEndsWithoutAWord) {
     fakes.pages.FailAtPage(1);
     ExpectQuestion(MessageAnswer::Ok);
-    PrintTuningReport(session, fakes.Get(), [] { return true; });
+    PrintTuningReport(document, service.Values, language, fakes.Get(), [] { return true; });
     EXPECT_EQ(fakes.pages.Failures(), 1);
     EXPECT_TRUE(fakes.pages.Documents().empty());
     EXPECT_EQ(fakes.messages.Shown().size(), 1U);
@@ -215,7 +218,7 @@ TEST_F(TuningReportTest, TellsOfAPrintingSystemThatDoesNotAnswer) {
          .icon = MessageIcon::Exclamation,
          .buttons = MessageButtons::Ok},
         MessageAnswer::Ok);
-    PrintTuningReport(session, fakes.Get(), [] { return true; });
+    PrintTuningReport(document, service.Values, language, fakes.Get(), [] { return true; });
     EXPECT_EQ(fakes.messages.Pending(), 0);
     EXPECT_TRUE(fakes.pages.Pages().empty());
 }
@@ -230,7 +233,7 @@ TEST_F(TuningReportTest, AsksBeforeItReplacesAFileEveryTime) {
                                .buttons = MessageButtons::YesNo,
                                .defaultButton = MessageAnswer::No},
                               answer);
-        PrintTuningReport(session, fakes.Get(), [] { return true; });
+        PrintTuningReport(document, service.Values, language, fakes.Get(), [] { return true; });
         EXPECT_EQ(fakes.messages.Pending(), 0);
     }
     EXPECT_EQ(fakes.pages.Documents().size(), 1U);
@@ -241,7 +244,7 @@ TEST_F(TuningReportTest, IsPrintedWhenThePrintingSystemAnswersUnlessItIsNotWante
         fakes.pages.HoldAnswers();
         ExpectQuestion(MessageAnswer::Ok);
         bool isStillWanted = true;
-        PrintTuningReport(session, fakes.Get(), [&isStillWanted] { return isStillWanted; });
+        PrintTuningReport(document, service.Values, language, fakes.Get(), [&isStillWanted] { return isStillWanted; });
         const std::size_t before = fakes.pages.Documents().size();
         isStillWanted = isWanted;
         fakes.pages.Answer();

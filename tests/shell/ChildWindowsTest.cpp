@@ -30,7 +30,7 @@ TEST_F(MainWindowChildrenTest, ClosingTheGridByItsFrameHidesItAndTheWindowMenu) 
     CloseFrame("ChannelForm");
     ASSERT_NE(Child("ChannelForm"), nullptr);
     EXPECT_FALSE(IsChildShown("ChannelForm"));
-    EXPECT_EQ(session.ChildOpen, Flags{});
+    EXPECT_EQ(windows.Open(), Flags{});
     EXPECT_FALSE(Entry("MnuWindowSub(0)")->isVisible());
     EXPECT_FALSE(Entry("MnuWindow")->isVisible());
 }
@@ -39,7 +39,7 @@ TEST_F(MainWindowChildrenTest, ClosingTheGridByItsButtonDoesTheSame) {
     OpenMainWindow();
     ClickButton("ChannelForm", "cmdClose");
     EXPECT_FALSE(IsChildShown("ChannelForm"));
-    EXPECT_EQ(session.ChildOpen, Flags{});
+    EXPECT_EQ(windows.Open(), Flags{});
     EXPECT_FALSE(Entry("MnuWindowSub(0)")->isVisible());
     EXPECT_FALSE(Entry("MnuWindow")->isVisible());
 }
@@ -47,11 +47,11 @@ TEST_F(MainWindowChildrenTest, ClosingTheGridByItsButtonDoesTheSame) {
 TEST_F(MainWindowChildrenTest, TheEditMenuBringsTheGridBack) {
     OpenMainWindow();
     CloseFrame("ChannelForm");
-    session.Cursor.SetCurrentChannel(9);
+    windows.Cursor.SetCurrentChannel(9);
     Choose("MnuEditChannelInformation");
     EXPECT_TRUE(IsChildShown("ChannelForm"));
-    EXPECT_TRUE(session.IsOpen(ChildWindow::Channels));
-    EXPECT_EQ(session.Cursor.CurrentChannel(), 1);
+    EXPECT_TRUE(windows.IsOpen(ChildWindow::Channels));
+    EXPECT_EQ(windows.Cursor.CurrentChannel(), 1);
     EXPECT_EQ(TextOf("MnuWindowSub(0)"), " Channel Information [ Channel - 1 ]");
     EXPECT_TRUE(Entry("MnuWindowSub(0)")->isVisible());
     EXPECT_TRUE(Entry("MnuWindowSub(0)")->isChecked());
@@ -76,8 +76,8 @@ TEST_F(MainWindowChildrenTest, CloseAllHidesEverythingAndClearsNoFlag) {
     EXPECT_NE(Child("TreeViewForm"), nullptr);
     EXPECT_FALSE(Entry("MnuWindowSub(0)")->isVisible());
     EXPECT_FALSE(Entry("MnuWindow")->isVisible());
-    EXPECT_TRUE(session.IsOpen(ChildWindow::Channels));
-    EXPECT_TRUE(session.IsOpen(ChildWindow::Navigator));
+    EXPECT_TRUE(windows.IsOpen(ChildWindow::Channels));
+    EXPECT_TRUE(windows.IsOpen(ChildWindow::Navigator));
 }
 
 TEST_F(MainWindowChildrenTest, AfterCloseAllTheEditMenuBringsAWindowBackAsItWas) {
@@ -99,7 +99,7 @@ TEST_F(MainWindowChildrenTest, ANewDocumentUnloadsWhatCloseAllHasHidden) {
                           MessageAnswer::Ok);
     Choose("MnuFileNew");
     EXPECT_EQ(Child("TreeViewForm"), nullptr);
-    EXPECT_FALSE(session.IsOpen(ChildWindow::Navigator));
+    EXPECT_FALSE(windows.IsOpen(ChildWindow::Navigator));
 }
 
 TEST_F(MainWindowChildrenTest, TheEditMenuEntryOfAnOpenWindowMovesItToTheFront) {
@@ -238,12 +238,12 @@ protected:
                                     ChildWindow::TestFrequency, ChildWindow::EmbeddedMessage,
                                     ChildWindow::ChannelEdit};
 
-    Session session;
+    WindowState windows;
     QMenu mnuWindow;
     QMdiArea area;
     WindowList list{mnuWindow};
     int made = 0;
-    ChildWindows children{session, area, list, [this](const ChildWindowRow& row) {
+    ChildWindows children{windows, area, list, [this](const ChildWindowRow& row) {
                               ++made;
                               return new StandInForm(row.window);
                           }};
@@ -267,7 +267,7 @@ TEST_F(ChildWindowsTest, TheListHasTheCaptionsOfTheWindowsInEnglish) {
 }
 
 TEST_F(ChildWindowsTest, TheListHasTheCaptionsOfTheWindowsInChinese) {
-    session.LanguageFlag = Language::Chinese;
+    windows.LanguageFlag = Language::Chinese;
     OpenAll();
     const QStringList expected{" 信道信息 [ 信道 - 1 ]", " 可选功能", " 键设定",   " 扫描信息", " DTMF(双音多频)",
                                " Corvane(科瓦讯)",       " 测试频率", " 嵌入信息", " 信道编辑"};
@@ -283,7 +283,7 @@ TEST_F(ChildWindowsTest, AFirstOpeningIsShownAndTheOnlyOneMarked) {
     EXPECT_EQ(List(), "---o----x");
     children.OpenChildWindow(ChildWindow::Channels);
     EXPECT_EQ(List(), "x--o----o");
-    EXPECT_EQ(session.ChildOpen, (Flags{true, false, false, true, false, false, false, false, false, true}));
+    EXPECT_EQ(windows.Open(), (Flags{true, false, false, true, false, false, false, false, false, true}));
 }
 
 TEST_F(ChildWindowsTest, ASecondOpeningOnlyBringsTheWindowForward) {
@@ -330,7 +330,7 @@ TEST_F(ChildWindowsTest, AClosedWindowIsUnloadedAndUnlisted) {
     OpenAll();
     emit Form(ChildWindow::Corvane).UnloadRequested();
     EXPECT_EQ(List()[5], '-');
-    EXPECT_FALSE(session.IsOpen(ChildWindow::Corvane));
+    EXPECT_FALSE(windows.IsOpen(ChildWindow::Corvane));
     EXPECT_FALSE(children.IsVisible(ChildWindow::Corvane));
     made = 0;
     children.OpenChildWindow(ChildWindow::Corvane);
@@ -341,7 +341,7 @@ TEST_F(ChildWindowsTest, AHiddenWindowIsUnlistedAndKept) {
     OpenAll();
     emit Form(ChildWindow::Corvane).HideRequested();
     EXPECT_EQ(List()[5], '-');
-    EXPECT_FALSE(session.IsOpen(ChildWindow::Corvane));
+    EXPECT_FALSE(windows.IsOpen(ChildWindow::Corvane));
     EXPECT_FALSE(children.IsVisible(ChildWindow::Corvane));
     made = 0;
     children.OpenChildWindow(ChildWindow::Corvane);
@@ -365,7 +365,7 @@ TEST_F(ChildWindowsTest, UnloadingTheEditorsLeavesOnlyTheGrid) {
     OpenAll();
     children.UnloadEditors();
     EXPECT_EQ(List(), "x--------");
-    EXPECT_EQ(session.ChildOpen, Flags{true});
+    EXPECT_EQ(windows.Open(), Flags{true});
     EXPECT_TRUE(children.IsVisible(ChildWindow::Channels));
     EXPECT_EQ(area.subWindowList().size(), 1);
 }
@@ -375,7 +375,7 @@ TEST_F(ChildWindowsTest, CloseAllHidesAllAndKeepsTheirFlags) {
     made = 0;
     children.CloseAll();
     EXPECT_EQ(List(), "---------");
-    EXPECT_EQ(session.ChildOpen, (Flags{true, true, true, true, true, true, true, true, true, true}));
+    EXPECT_EQ(windows.Open(), (Flags{true, true, true, true, true, true, true, true, true, true}));
     EXPECT_FALSE(mnuWindow.menuAction()->isVisible());
     EXPECT_EQ(children.ActiveForm(), nullptr);
     children.OpenChildWindow(ChildWindow::KeyAssignment);

@@ -43,7 +43,7 @@ protected:
     }
 
     void Open(const std::string& path) {
-        fakes.files.ExpectOpen({"", "QPK Data Files(*.dat)|*.dat", session.CurrentDirectory}, path);
+        fakes.files.ExpectOpen({"", "QPK Data Files(*.dat)|*.dat", Commands().LastDirectory()}, path);
         Choose("MnuFileOpen");
     }
 
@@ -63,19 +63,19 @@ private:
 TEST_F(DocumentCommandsTest, NewAsksAndClearsEverything) {
     OpenMainWindow();
     FillImage();
-    session.CurrentFileName = "/somewhere/Other.dat";
+    document.Rename("/somewhere/Other.dat");
     fakes.messages.Expect(NewQuestion, MessageAnswer::Ok);
     Choose("MnuFileNew");
     for (int k = 1; k <= 16; ++k) {
         for (int j = 0; j < 16; ++j) {
-            ASSERT_EQ(session.Image.At(k * 16 + j), 0xFF) << "channel " << k << " byte " << j;
+            ASSERT_EQ(document.Image.At(k * 16 + j), 0xFF) << "channel " << k << " byte " << j;
         }
     }
-    EXPECT_EQ(session.Image.At(0x1BD), 1);
-    EXPECT_EQ(session.Image.At(0x1BE), 0xF8);
-    EXPECT_EQ(session.CurrentFileName, "Zelvor.dat");
+    EXPECT_EQ(document.Image.At(0x1BD), 1);
+    EXPECT_EQ(document.Image.At(0x1BE), 0xF8);
+    EXPECT_EQ(document.FileName(), "Zelvor.dat");
     EXPECT_EQ(window->windowTitle(), "Zelvor [4618: VHF: 136-174 MHz(M)] [ File Name:Zelvor.dat]");
-    EXPECT_FALSE(session.IsDocumentChanged());
+    EXPECT_FALSE(document.IsChanged());
 }
 
 TEST_F(DocumentCommandsTest, NewIsAskedInChinese) {
@@ -88,25 +88,25 @@ TEST_F(DocumentCommandsTest, NewIsAskedInChinese) {
 TEST_F(DocumentCommandsTest, NewCancelledChangesNothing) {
     OpenMainWindow();
     FillImage();
-    const DataImage before = session.Image;
-    session.CurrentFileName = "/somewhere/Other.dat";
+    const DataImage before = document.Image;
+    document.Rename("/somewhere/Other.dat");
     Choose("MnuViewTreeView");
     fakes.messages.Expect(NewQuestion, MessageAnswer::Cancel);
     Choose("MnuFileNew");
-    EXPECT_EQ(session.Image, before);
-    EXPECT_EQ(session.CurrentFileName, "/somewhere/Other.dat");
+    EXPECT_EQ(document.Image, before);
+    EXPECT_EQ(document.FileName(), "/somewhere/Other.dat");
     EXPECT_TRUE(IsChildShown("TreeViewForm"));
     EXPECT_EQ(TextOf("MnuWindowSub(0)"), " Channel Information [ Channel - 1 ]");
 }
 
 TEST_F(DocumentCommandsTest, NewNeverOffersToSaveAChangedDocument) {
     OpenMainWindow();
-    session.Image.Set(0x100, 0x12);
-    ASSERT_TRUE(session.IsDocumentChanged());
+    document.Image.Set(0x100, 0x12);
+    ASSERT_TRUE(document.IsChanged());
     fakes.messages.Expect(NewQuestion, MessageAnswer::Ok);
     ClickToolbar(1);
     EXPECT_EQ(fakes.messages.Shown().size(), 1U);
-    EXPECT_FALSE(session.IsDocumentChanged());
+    EXPECT_FALSE(document.IsChanged());
 }
 
 TEST_F(DocumentCommandsTest, NewListsTheGridWithoutBlanksRoundTheDash) {
@@ -124,8 +124,8 @@ TEST_F(DocumentCommandsTest, NewListsTheGridSoWhereverTheCursorWas) {
     fakes.messages.Expect(NewQuestion, MessageAnswer::Ok);
     Choose("MnuFileNew");
     EXPECT_EQ(TextOf("MnuWindowSub(0)"), " Channel Information [ Channel-1 ]");
-    EXPECT_EQ(session.Cursor.CurrentChannel(), 1);
-    EXPECT_EQ(session.Cursor.CurrentCol(), 1);
+    EXPECT_EQ(windows.Cursor.CurrentChannel(), 1);
+    EXPECT_EQ(windows.Cursor.CurrentCol(), 1);
 }
 
 TEST_F(DocumentCommandsTest, NewClosesTheNavigatorAndPutsTheGridInItsPlace) {
@@ -136,7 +136,7 @@ TEST_F(DocumentCommandsTest, NewClosesTheNavigatorAndPutsTheGridInItsPlace) {
     fakes.messages.Expect(NewQuestion, MessageAnswer::Ok);
     Choose("MnuFileNew");
     EXPECT_EQ(Child("TreeViewForm"), nullptr);
-    EXPECT_FALSE(session.IsOpen(ChildWindow::Navigator));
+    EXPECT_FALSE(windows.IsOpen(ChildWindow::Navigator));
     EXPECT_FALSE(frame->isMaximized());
     EXPECT_EQ(frame->pos(), QPoint(0, 0));
     EXPECT_EQ(window->windowTitle(), "Zelvor [4618: VHF: 136-174 MHz(M)] [ File Name:Zelvor.dat]");
@@ -175,7 +175,7 @@ TEST_F(DocumentCommandsTest, NewHidesAnOpenCellEditor) {
     fakes.messages.Expect(NewQuestion, MessageAnswer::Ok);
     QTest::keyClick(window.get(), Qt::Key_N, Qt::ControlModifier);
     EXPECT_FALSE(editor->isVisible());
-    EXPECT_EQ(session.Image.At(0x010), 0xFF);
+    EXPECT_EQ(document.Image.At(0x010), 0xFF);
 }
 
 // Open
@@ -184,12 +184,12 @@ TEST_F(DocumentCommandsTest, OpenTakesTheFileAsTheDocument) {
     OpenMainWindow();
     const std::string path = WriteFile("Fleet.dat", FileOfModel5618());
     Open(path);
-    EXPECT_EQ(session.Image.At(0x1BD), 33);
-    EXPECT_EQ(session.Image.At(0x010), 0x00);
-    EXPECT_EQ(session.Image.At(0x013), 0x45);
-    EXPECT_EQ(session.CurrentFileName, path);
+    EXPECT_EQ(document.Image.At(0x1BD), 33);
+    EXPECT_EQ(document.Image.At(0x010), 0x00);
+    EXPECT_EQ(document.Image.At(0x013), 0x45);
+    EXPECT_EQ(document.FileName(), path);
     EXPECT_EQ(window->windowTitle(), "Zelvor [5618: UHF: 450-490 MHz(M)] [ File Name:Fleet.dat]");
-    EXPECT_FALSE(session.IsDocumentChanged());
+    EXPECT_FALSE(document.IsChanged());
     EXPECT_EQ(Cell(1, 1), "450.12500");
     EXPECT_EQ(Cell(2, 1), "");
     EXPECT_EQ(TextOf("MnuWindowSub(0)"), " Channel Information [ Channel-1 ]");
@@ -200,8 +200,8 @@ TEST_F(DocumentCommandsTest, OpenTakesTheFileAsTheDocument) {
 TEST_F(DocumentCommandsTest, OpenRemembersTheFolderOfTheFile) {
     OpenMainWindow();
     Open(WriteFile("Fleet.dat", FileOfModel5618()));
-    EXPECT_EQ(session.CurrentDirectory, QDir(directory.path()).canonicalPath().toStdString());
-    fakes.files.ExpectOpen({"", "QPK Data Files(*.dat)|*.dat", session.CurrentDirectory}, std::nullopt);
+    EXPECT_EQ(Commands().LastDirectory(), QDir(directory.path()).canonicalPath().toStdString());
+    fakes.files.ExpectOpen({"", "QPK Data Files(*.dat)|*.dat", Commands().LastDirectory()}, std::nullopt);
     ClickToolbar(2);
 }
 
@@ -216,41 +216,41 @@ TEST_F(DocumentCommandsTest, OpenUsesTheChineseFilterInChinese) {
 TEST_F(DocumentCommandsTest, OpenCancelledChangesNothing) {
     OpenMainWindow();
     FillImage();
-    const DataImage before = session.Image;
+    const DataImage before = document.Image;
     Choose("MnuViewTreeView");
     fakes.files.ExpectOpen({"", "QPK Data Files(*.dat)|*.dat", ""}, std::nullopt);
     Choose("MnuFileOpen");
-    EXPECT_EQ(session.Image, before);
+    EXPECT_EQ(document.Image, before);
     EXPECT_TRUE(IsChildShown("TreeViewForm"));
-    EXPECT_EQ(session.CurrentFileName, "Zelvor.dat");
+    EXPECT_EQ(document.FileName(), "Zelvor.dat");
     EXPECT_EQ(TextOf("MnuWindowSub(0)"), " Channel Information [ Channel - 1 ]");
 }
 
 TEST_F(DocumentCommandsTest, AFileWithAnotherHeadIsRefusedAfterTheChildWindowsAreClosed) {
     OpenMainWindow();
     FillImage();
-    const DataImage image = session.Image;
-    const DataImage saved = session.SavedImage;
+    const DataImage image = document.Image;
+    const DataImage saved = document.Snapshot();
     Choose("MnuViewTreeView");
     fakes.messages.Expect(WrongFile, MessageAnswer::Ok);
     Open(WriteFile("Wrong.dat", FileOfModel5618().replace(0, 6, "RQ6153")));
     EXPECT_EQ(Child("TreeViewForm"), nullptr);
     EXPECT_TRUE(IsChildShown("ChannelForm"));
-    EXPECT_EQ(session.Image, image);
-    EXPECT_EQ(session.SavedImage, saved);
-    EXPECT_EQ(session.CurrentFileName, "Zelvor.dat");
-    EXPECT_EQ(session.CurrentDirectory, "");
+    EXPECT_EQ(document.Image, image);
+    EXPECT_EQ(document.Snapshot(), saved);
+    EXPECT_EQ(document.FileName(), "Zelvor.dat");
+    EXPECT_EQ(Commands().LastDirectory(), "");
     EXPECT_EQ(window->windowTitle(), "Zelvor [4618: VHF: 136-174 MHz(M)] [ File Name:Zelvor.dat]");
 }
 
 TEST_F(DocumentCommandsTest, AFileOfWrongLengthIsRefused) {
     OpenMainWindow();
-    const DataImage before = session.Image;
+    const DataImage before = document.Image;
     for (const int length : {0, 6, 16, 1039, 1041}) {
         SCOPED_TRACE(length);
         fakes.messages.Expect(WrongFile, MessageAnswer::Ok);
         Open(WriteFile("Wrong.dat", FileOfModel5618().leftJustified(length, '\0', true)));
-        EXPECT_EQ(session.Image, before);
+        EXPECT_EQ(document.Image, before);
     }
 }
 
@@ -264,21 +264,21 @@ TEST_F(DocumentCommandsTest, AWrongFileIsRefusedInChinese) {
 TEST_F(DocumentCommandsTest, AFileRemovedMeanwhileIsNoMessageAndNoChange) {
     OpenMainWindow();
     FillImage();
-    const DataImage before = session.Image;
+    const DataImage before = document.Image;
     Choose("MnuViewTreeView");
     Open(PathOf("Gone.dat"));
     EXPECT_TRUE(fakes.messages.Shown().empty());
-    EXPECT_EQ(session.Image, before);
-    EXPECT_EQ(session.CurrentFileName, "Zelvor.dat");
+    EXPECT_EQ(document.Image, before);
+    EXPECT_EQ(document.FileName(), "Zelvor.dat");
     EXPECT_EQ(Child("TreeViewForm"), nullptr);
 }
 
 TEST_F(DocumentCommandsTest, ADirectoryInPlaceOfAFileIsNoChange) {
     OpenMainWindow();
-    const DataImage before = session.Image;
+    const DataImage before = document.Image;
     Open(directory.path().toStdString());
-    EXPECT_EQ(session.Image, before);
-    EXPECT_EQ(session.CurrentFileName, "Zelvor.dat");
+    EXPECT_EQ(document.Image, before);
+    EXPECT_EQ(document.FileName(), "Zelvor.dat");
 }
 
 // The pending complaint about the own ID
@@ -302,9 +302,9 @@ TEST_F(DocumentCommandsTest, OpenReviewsTheComplaintAboutTheOwnId) {
         bytes[16 + FleetByte] = static_cast<char>(c.fleet);
         bytes[16 + IdByte] = static_cast<char>(c.id);
         bytes[16 + PttIdTypeByte] = static_cast<char>(c.pttIdType);
-        session.OwnIdError = true;
+        document.Flags.OwnIdError = true;
         Open(WriteFile("OwnId.dat", bytes));
-        EXPECT_EQ(session.OwnIdError, c.stays);
+        EXPECT_EQ(document.Flags.OwnIdError, c.stays);
     }
 }
 
@@ -313,7 +313,7 @@ TEST_F(DocumentCommandsTest, OpenNeverRaisesAComplaint) {
     QByteArray bytes = FileOfModel5618();
     bytes[16 + PttIdTypeByte] = 1;
     Open(WriteFile("OwnId.dat", bytes));
-    EXPECT_FALSE(session.OwnIdError);
+    EXPECT_FALSE(document.Flags.OwnIdError);
 }
 
 } // namespace

@@ -33,7 +33,7 @@ TEST_F(EditorWindowsTest, MenuEntriesOpenThemAndListThemByTheirCaptions) {
         EXPECT_TRUE(IsListed(entry)) << entry;
         EXPECT_EQ(IsMarked(entry), entry == 8) << entry;
     }
-    EXPECT_TRUE(session.IsOpen(ChildWindow::ChannelEdit));
+    EXPECT_TRUE(windows.IsOpen(ChildWindow::ChannelEdit));
 }
 
 TEST_F(EditorWindowsTest, TheChannelEditDialogShowsTheCursorsChannelAtEveryOpening) {
@@ -57,7 +57,7 @@ TEST_F(EditorWindowsTest, NewUnloadsThemAllButTheGrid) {
     for (const char* name : {"ScanForm", "TestChannelForm", "EmbedInfoForm", "ChannelEditForm"}) {
         EXPECT_EQ(Child(name), nullptr) << name;
     }
-    EXPECT_EQ(session.ChildOpen, (std::array<bool, 10>{true}));
+    EXPECT_EQ(windows.Open(), (std::array<bool, 10>{true}));
     EXPECT_TRUE(IsChildShown("ChannelForm"));
 }
 
@@ -73,7 +73,7 @@ TEST_F(EditorWindowsTest, TheirCloseButtonsUnloadThem) {
     for (const int entry : {3, 6, 7, 8}) {
         EXPECT_FALSE(IsListed(entry)) << entry;
     }
-    EXPECT_EQ(session.ChildOpen, (std::array<bool, 10>{true}));
+    EXPECT_EQ(windows.Open(), (std::array<bool, 10>{true}));
 }
 
 TEST_F(EditorWindowsTest, ClosingTheGridsFrameHidesTheDialogWithIt) {
@@ -81,9 +81,9 @@ TEST_F(EditorWindowsTest, ClosingTheGridsFrameHidesTheDialogWithIt) {
     CloseFrame("ChannelForm");
     EXPECT_FALSE(IsChildShown("ChannelForm"));
     EXPECT_FALSE(IsChildShown("ChannelEditForm"));
-    EXPECT_FALSE(session.IsOpen(ChildWindow::Channels));
-    EXPECT_FALSE(session.IsOpen(ChildWindow::ChannelEdit));
-    EXPECT_TRUE(session.IsOpen(ChildWindow::Scan));
+    EXPECT_FALSE(windows.IsOpen(ChildWindow::Channels));
+    EXPECT_FALSE(windows.IsOpen(ChildWindow::ChannelEdit));
+    EXPECT_TRUE(windows.IsOpen(ChildWindow::Scan));
 }
 
 TEST_F(EditorWindowsTest, AWindowHiddenByCloseAllComesBackWithItsContents) {
@@ -139,7 +139,7 @@ TEST_F(EditorWindowsTest, TheOtherDialogsAlsoCommitAnOpenCellFirst) {
         ASSERT_TRUE(Find<QLineEdit>("txtInputBox")->isVisible()) << entry;
         ChooseDialog(entry, [&](QWidget& dialog) {
             EXPECT_FALSE(Find<QLineEdit>("txtInputBox")->isVisible()) << entry;
-            EXPECT_EQ(session.Image.At(0x012), 0x65) << entry;
+            EXPECT_EQ(document.Image.At(0x012), 0x65) << entry;
             dialog.close();
         });
         EXPECT_TRUE(grid->hasFocus()) << entry;

@@ -31,7 +31,7 @@ protected:
         EXPECT_TRUE(fakes.settings.Writes().empty());
     }
 
-    void ChangeImage() { session.Image.Set(0x100, 0x12); }
+    void ChangeImage() { document.Image.Set(0x100, 0x12); }
 
     QTemporaryDir directory;
 };
@@ -43,7 +43,7 @@ TEST_F(ExitTest, ACleanDocumentNeedsTheOneQuestion) {
     Choose("MnuFileExit");
     EXPECT_FALSE(window->isVisible());
     EXPECT_EQ(ended.count(), 1);
-    EXPECT_TRUE(session.ExitConfirmed);
+    EXPECT_TRUE(windows.ExitConfirmed);
     EXPECT_EQ(fakes.settings.Writes(), (Writes{{"LastModel", "50:34:36:31:38:01:F8:FF"}, {"Language", "0"}}));
 }
 
@@ -62,7 +62,7 @@ TEST_F(ExitTest, NoKeepsTheProgram) {
     fakes.messages.Expect(ExitQuestion, MessageAnswer::No);
     EXPECT_FALSE(window->close());
     ExpectStillOpen();
-    EXPECT_FALSE(session.ExitConfirmed);
+    EXPECT_FALSE(windows.ExitConfirmed);
 }
 
 TEST_F(ExitTest, AsksInChineseAndStoresTheLanguage) {
@@ -76,7 +76,7 @@ TEST_F(ExitTest, AsksInChineseAndStoresTheLanguage) {
 
 TEST_F(ExitTest, ALanguageChangedInTheSessionIsStored) {
     Open();
-    session.LanguageFlag = Language::Chinese;
+    windows.LanguageFlag = Language::Chinese;
     fakes.messages.Expect(ExitQuestionInChinese, MessageAnswer::Yes);
     EXPECT_TRUE(window->close());
     EXPECT_EQ(fakes.settings.Read("Language"), "1");
@@ -84,8 +84,8 @@ TEST_F(ExitTest, ALanguageChangedInTheSessionIsStored) {
 
 TEST_F(ExitTest, TheModelOfTheDocumentOnScreenIsStored) {
     Open();
-    session.Image.Set(0x1BD, 33);
-    session.Image.Set(0x1BE, 0xFC);
+    document.Image.Set(0x1BD, 33);
+    document.Image.Set(0x1BE, 0xFC);
     fakes.messages.Expect(ExitQuestion, MessageAnswer::Yes);
     fakes.messages.Expect(SaveQuestion, MessageAnswer::No);
     EXPECT_TRUE(window->close());
@@ -94,10 +94,10 @@ TEST_F(ExitTest, TheModelOfTheDocumentOnScreenIsStored) {
 
 TEST_F(ExitTest, AChangeOfThePttIdTypeAloneIsNoChange) {
     Open();
-    session.Image.Set(0x133, session.Image.At(0x133) == 1 ? 0 : 1);
+    document.Image.Set(0x133, document.Image.At(0x133) == 1 ? 0 : 1);
     fakes.messages.Expect(ExitQuestion, MessageAnswer::Yes);
     EXPECT_TRUE(window->close());
-    EXPECT_EQ(session.SavedImage.At(0x133), session.Image.At(0x133));
+    EXPECT_EQ(document.Snapshot().At(0x133), document.Image.At(0x133));
 }
 
 TEST_F(ExitTest, TheOfferToSaveRefusedEndsTheProgramUnsaved) {
@@ -116,7 +116,7 @@ TEST_F(ExitTest, TheOfferToSaveCancelledKeepsTheProgramAndTheConfirmation) {
     fakes.messages.Expect(SaveQuestion, MessageAnswer::Cancel);
     EXPECT_FALSE(window->close());
     ExpectStillOpen();
-    EXPECT_TRUE(session.ExitConfirmed);
+    EXPECT_TRUE(windows.ExitConfirmed);
 }
 
 TEST_F(ExitTest, TheOfferToSaveTakenSavesUnderANewName) {
@@ -157,16 +157,16 @@ TEST_F(ExitTest, TheSaveDialogCancelledKeepsTheProgramAndLetsTheGridBeUnloadedFr
     ExpectStillOpen();
     CloseFrame("ChannelForm");
     EXPECT_EQ(Child("ChannelForm"), nullptr);
-    EXPECT_FALSE(session.IsOpen(ChildWindow::Channels));
+    EXPECT_FALSE(windows.IsOpen(ChildWindow::Channels));
     EXPECT_FALSE(Entry("MnuWindow")->isVisible());
 }
 
 TEST_F(ExitTest, AGridMadeAgainShowsTheDocument) {
     Open();
-    session.ExitConfirmed = true;
+    windows.ExitConfirmed = true;
     const std::uint8_t frequency[] = {0x00, 0x25, 0x51, 0x14, 0x00, 0x00, 0x00, 0x00};
     for (int i = 0; i < 8; ++i) {
-        session.Image.Set(0x010 + i, frequency[i]);
+        document.Image.Set(0x010 + i, frequency[i]);
     }
     CloseFrame("ChannelForm");
     ASSERT_EQ(Child("ChannelForm"), nullptr);
@@ -181,7 +181,7 @@ TEST_F(ExitTest, OpenChildWindowsAreNotAsked) {
     fakes.messages.Expect(ExitQuestion, MessageAnswer::Yes);
     EXPECT_TRUE(window->close());
     EXPECT_NE(Child("TreeViewForm"), nullptr);
-    EXPECT_TRUE(session.IsOpen(ChildWindow::Navigator));
+    EXPECT_TRUE(windows.IsOpen(ChildWindow::Navigator));
 }
 
 } // namespace

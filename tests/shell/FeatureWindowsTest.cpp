@@ -40,7 +40,7 @@ TEST_F(FeatureWindowsTest, MenuEntriesOpenThemListedAndMarked) {
         Choose(feature.entry);
         ASSERT_TRUE(IsChildShown(feature.name)) << feature.name;
         EXPECT_EQ(Form(feature.name)->windowTitle(), QString(feature.title));
-        EXPECT_TRUE(session.ChildOpen[static_cast<std::size_t>(feature.listEntry)]) << feature.name;
+        EXPECT_TRUE(windows.Open()[static_cast<std::size_t>(feature.listEntry)]) << feature.name;
         const QAction* entry = Entry("MnuWindowSub(" + std::to_string(feature.listEntry) + ")");
         EXPECT_TRUE(entry->isVisible());
         EXPECT_TRUE(entry->isChecked());
@@ -75,7 +75,7 @@ TEST_F(FeatureWindowsTest, CloseUnloadsThemAndTakesThemOffTheList) {
         Choose(feature.entry);
         ClickButton(feature.name, "cmdClose");
         EXPECT_EQ(Child(feature.name), nullptr) << feature.name;
-        EXPECT_FALSE(session.ChildOpen[static_cast<std::size_t>(feature.listEntry)]);
+        EXPECT_FALSE(windows.Open()[static_cast<std::size_t>(feature.listEntry)]);
         EXPECT_FALSE(Entry("MnuWindowSub(" + std::to_string(feature.listEntry) + ")")->isVisible());
     }
 }
@@ -86,7 +86,7 @@ TEST_F(FeatureWindowsTest, ClosingTheFrameDoesTheSame) {
         Choose(feature.entry);
         CloseFrame(feature.name);
         EXPECT_EQ(Child(feature.name), nullptr) << feature.name;
-        EXPECT_FALSE(session.ChildOpen[static_cast<std::size_t>(feature.listEntry)]);
+        EXPECT_FALSE(windows.Open()[static_cast<std::size_t>(feature.listEntry)]);
     }
 }
 

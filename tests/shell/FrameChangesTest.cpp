@@ -43,7 +43,7 @@ INSTANTIATE_TEST_SUITE_P(Ways, FrameChanges,
 
 TEST_P(FrameChanges, StoreNoFieldThatWasNotEdited) {
     OpenMainWindow();
-    session.Image.Set(0x131, 77); // the next field's, illegal: kept while that is not visited
+    document.Image.Set(0x131, 77); // the next field's, illegal: kept while that is not visited
     Choose("MnuEditOptionalFeatures");
     auto* box = Find<QLineEdit>("txtTOT");
     box->setFocus();
@@ -52,22 +52,22 @@ TEST_P(FrameChanges, StoreNoFieldThatWasNotEdited) {
     Make(GetParam());
     const bool goesOn = GetParam() == Change::Maximise;
     EXPECT_EQ(box->hasFocus(), goesOn);
-    EXPECT_EQ(session.Image.At(0x130), goesOn ? 4 : 2);
-    EXPECT_EQ(session.Image.At(0x131), 77);
+    EXPECT_EQ(document.Image.At(0x130), goesOn ? 4 : 2);
+    EXPECT_EQ(document.Image.At(0x131), 77);
 }
 
 TEST_P(FrameChanges, LeaveTheComplaintAboutAMissingCode) {
     OpenMainWindow();
-    session.Image.Set(0x133, 0); // PTT ID Type DTMF
-    session.Image.Set(0x132, 2); // PTT ID Both
+    document.Image.Set(0x133, 0); // PTT ID Type DTMF
+    document.Image.Set(0x132, 2); // PTT ID Both
     for (int digit = 0; digit < 5; ++digit) {
-        session.Image.Set(0x140 + digit, static_cast<std::uint8_t>(1 + digit));
+        document.Image.Set(0x140 + digit, static_cast<std::uint8_t>(1 + digit));
     }
     Choose("MnuEditOptionalFeatures");
     Find<QWidget>("cboPTTID")->setFocus(); // the box of the first code, which is not empty, comes next
-    session.TxCodeError = true;
+    document.Flags.TxCodeError = true;
     Make(GetParam());
-    EXPECT_TRUE(session.TxCodeError);
+    EXPECT_TRUE(document.Flags.TxCodeError);
 }
 
 TEST_F(FrameState, AChangeOfStateLeavesTheKeyboardWhereItWas) {

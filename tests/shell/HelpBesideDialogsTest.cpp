@@ -33,7 +33,7 @@ std::vector<const QWindow*> OwnersOf(const QWindow& window) {
 class HelpBesideDialogsTest : public ShellTest {
 protected:
     void SetUp() override {
-        window = std::make_unique<MDIForm1>(session, services_);
+        window = std::make_unique<MDIForm1>(State(), services_);
         window->show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
     }

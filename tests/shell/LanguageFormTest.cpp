@@ -70,14 +70,14 @@ TEST_F(LanguageFormTest, OkSetsTheFlagAndTheHelpFile) {
         list.setCurrentIndex(1);
         Click(dialog, "CmdOK");
     });
-    EXPECT_EQ(session.LanguageFlag, Language::Chinese);
+    EXPECT_EQ(windows.LanguageFlag, Language::Chinese);
     EXPECT_TRUE(languageChanged);
     EXPECT_TRUE(HelpTopic().ends_with("\\Zelvor_c.chm::/html/general.htm"));
     WithDialog([](QWidget& dialog, QComboBox& list) {
         list.setCurrentIndex(0);
         Click(dialog, "CmdOK");
     });
-    EXPECT_EQ(session.LanguageFlag, Language::English);
+    EXPECT_EQ(windows.LanguageFlag, Language::English);
     EXPECT_TRUE(languageChanged);
     EXPECT_TRUE(HelpTopic().ends_with("\\Zelvor_e.chm::/html/general.htm"));
 }
@@ -85,7 +85,7 @@ TEST_F(LanguageFormTest, OkSetsTheFlagAndTheHelpFile) {
 TEST_F(LanguageFormTest, OkWithTheLanguageOfBeforeChangesNothing) {
     OpenMainWindow();
     WithDialog([](QWidget& dialog, QComboBox&) { Click(dialog, "CmdOK"); });
-    EXPECT_EQ(session.LanguageFlag, Language::English);
+    EXPECT_EQ(windows.LanguageFlag, Language::English);
     EXPECT_FALSE(languageChanged);
 }
 
@@ -101,7 +101,7 @@ TEST_F(LanguageFormTest, AnyOtherEndChangesNothing) {
             list.setCurrentIndex(1);
             end(dialog);
         });
-        EXPECT_EQ(session.LanguageFlag, Language::English);
+        EXPECT_EQ(windows.LanguageFlag, Language::English);
         EXPECT_FALSE(languageChanged);
         EXPECT_TRUE(HelpTopic().ends_with("\\Zelvor_e.chm::/html/general.htm"));
     }

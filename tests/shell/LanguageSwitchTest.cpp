@@ -55,13 +55,13 @@ protected:
             OpenMainWindow();
         }
         for (std::size_t j = 0; j < 16; ++j) {
-            session.Image.Set(0x010 + static_cast<int>(j), FirstRecord[j]);
-            session.Image.Set(0x100 + static_cast<int>(j), LastRecord[j]);
+            document.Image.Set(0x010 + static_cast<int>(j), FirstRecord[j]);
+            document.Image.Set(0x100 + static_cast<int>(j), LastRecord[j]);
         }
-        session.Image.Set(0x133, static_cast<std::uint8_t>(pttIdType));
-        session.Image.Set(0x17E, 0x01);
-        session.TakeSnapshot();
-        session.Channels.DecodeImageToGrid(session.Image, session.LanguageFlag);
+        document.Image.Set(0x133, static_cast<std::uint8_t>(pttIdType));
+        document.Image.Set(0x17E, 0x01);
+        document.TakeSnapshot();
+        document.Channels.DecodeImageToGrid(document.Image, windows.LanguageFlag);
     }
     [[nodiscard]] QTableWidget& Grid() const { return *Find<QTableWidget>("ChannelGrid"); }
     [[nodiscard]] QMdiSubWindow& GridFrame() const {
@@ -92,14 +92,14 @@ protected:
 TEST_F(LanguageSwitchTest, ClosesEveryWindowButTheGrid) {
     OpenMainWindow();
     OpenAllWindows();
-    ASSERT_EQ(session.ChildOpen, (Flags{true, true, true, true, true, true, true, true, true, true}));
+    ASSERT_EQ(windows.Open(), (Flags{true, true, true, true, true, true, true, true, true, true}));
     SwitchToChinese();
     for (const char* name : {"OptionalForm", "KeyAssign", "ScanForm", "DTMFForm", "CorvaneForm", "TestChannelForm",
                              "EmbedInfoForm", "TreeViewForm", "ChannelEditForm"}) {
         EXPECT_EQ(Child(name), nullptr) << name;
     }
     EXPECT_TRUE(IsChildShown("ChannelForm"));
-    EXPECT_EQ(session.ChildOpen, (Flags{true}));
+    EXPECT_EQ(windows.Open(), (Flags{true}));
     for (int entry = 0; entry < 9; ++entry) {
         EXPECT_EQ(IsListed(entry), entry == 0) << entry;
     }
@@ -109,9 +109,9 @@ TEST_F(LanguageSwitchTest, ClosesEveryWindowButTheGrid) {
 TEST_F(LanguageSwitchTest, TheLanguageThatIsSetAlreadyClosesNothing) {
     OpenMainWindow();
     OpenAllWindows();
-    const Flags open = session.ChildOpen;
+    const Flags open = windows.Open();
     Switch(0);
-    EXPECT_EQ(session.ChildOpen, open);
+    EXPECT_EQ(windows.Open(), open);
     EXPECT_TRUE(IsChildShown("ScanForm"));
     EXPECT_TRUE(IsChildShown("ChannelEditForm"));
     EXPECT_EQ(Child("ChannelForm")->windowTitle(), " Channel Information [ Channel - 1 ]");
@@ -121,14 +121,14 @@ TEST_F(LanguageSwitchTest, CancelAfterAChoiceClosesNothingAlsoAfterAnEarlierSwit
     OpenMainWindow();
     SwitchToChinese();
     OpenAllWindows();
-    const Flags open = session.ChildOpen;
+    const Flags open = windows.Open();
     const QWidget* focus = window->focusWidget();
     ASSERT_NE(focus, nullptr);
     Switch(0, "CmdCancel");
-    EXPECT_EQ(session.ChildOpen, open);
+    EXPECT_EQ(windows.Open(), open);
     EXPECT_TRUE(IsChildShown("ScanForm"));
     EXPECT_EQ(window->focusWidget(), focus);
-    EXPECT_EQ(session.LanguageFlag, Language::Chinese);
+    EXPECT_EQ(windows.LanguageFlag, Language::Chinese);
     EXPECT_EQ(TextOf("MnuFile"), "文件(&F)");
 }
 
@@ -269,7 +269,7 @@ TEST_F(LanguageSwitchTest, TheWordsInTheCellsFollowAndBlankRowsStayBlank) {
 TEST_F(LanguageSwitchTest, PttIdOfTypeCorvaneComesFromTheImageNotFromTheCell) {
     OpenWithChannels(1, true);
     ASSERT_EQ(Cells(1)[8], "自身");
-    session.Image.Set(0x01E, 0xB3);
+    document.Image.Set(0x01E, 0xB3);
     SwitchToEnglish();
     EXPECT_EQ(Cells(1)[8], "Fleet List 2");
     EXPECT_EQ(Cells(16)[8], "Off");
@@ -295,26 +295,26 @@ TEST_F(LanguageSwitchTest, TheToneListsFollow) {
 
 TEST_F(LanguageSwitchTest, TheImageStaysAlsoWhenCellsAreEditedAfterwards) {
     OpenWithChannels(0);
-    const DataImage before = session.Image;
+    const DataImage before = document.Image;
     SwitchToChinese();
     QTest::mouseClick(Grid().viewport(), Qt::LeftButton, {}, Grid().visualItemRect(Grid().item(0, 3)).center());
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     ClickButton("ChannelForm", "cmdChannelEdit");
     ClickButton("ChannelEditForm", "cmdOK");
-    EXPECT_EQ(session.Image, before);
+    EXPECT_EQ(document.Image, before);
     EXPECT_EQ(Cells(1), QStringList({"145.12500", "145.12500", "67.0", "无", "高", "宽带", "有", "无", "开"}));
 }
 
 TEST_F(LanguageSwitchTest, UnsavedChangesStayUnsavedAndNothingIsAsked) {
     OpenMainWindow();
-    session.Image.Set(0x300, 0x41);
-    const DataImage image = session.Image;
-    const DataImage saved = session.SavedImage;
+    document.Image.Set(0x300, 0x41);
+    const DataImage image = document.Image;
+    const DataImage saved = document.Snapshot();
     OpenAllWindows();
     SwitchToChinese();
-    EXPECT_EQ(session.Image, image);
-    EXPECT_EQ(session.SavedImage, saved);
-    EXPECT_TRUE(session.IsDocumentChanged());
+    EXPECT_EQ(document.Image, image);
+    EXPECT_EQ(document.Snapshot(), saved);
+    EXPECT_TRUE(document.IsChanged());
 }
 
 TEST_F(LanguageSwitchTest, AnEditUnderWayIsStoredInTheLanguageItWasMadeIn) {
@@ -323,9 +323,9 @@ TEST_F(LanguageSwitchTest, AnEditUnderWayIsStoredInTheLanguageItWasMadeIn) {
     auto* encode = Find<QComboBox>("ComEncode");
     encode->setFocus();
     ASSERT_EQ(encode->currentText(), "None");
-    const DataImage before = session.Image;
+    const DataImage before = document.Image;
     SwitchToChinese();
-    EXPECT_EQ(session.Image, before);
+    EXPECT_EQ(document.Image, before);
     EXPECT_EQ(Cells(1)[3], "无");
 
     QTest::mouseClick(Grid().viewport(), Qt::LeftButton, {}, Grid().visualItemRect(Grid().item(0, 0)).center());
@@ -388,7 +388,7 @@ TEST_F(LanguageSwitchTest, TheToolkitsOwnTextsFollow) {
 
 TEST_F(LanguageSwitchTest, AGridThatIsGoneIsMadeInTheNewLanguage) {
     OpenMainWindow();
-    session.ExitConfirmed = true; // a cancelled exit
+    windows.ExitConfirmed = true; // a cancelled exit
     CloseFrame("ChannelForm");
     ASSERT_EQ(Child("ChannelForm"), nullptr);
     SwitchToChinese();

@@ -92,14 +92,14 @@ protected:
         Choose("MnuEditEmbeddedMessage");
         Choose("MnuViewTreeView");
         ClickButton("ChannelForm", "cmdChannelEdit");
-        ASSERT_EQ(session.ChildOpen, (Flags{true, true, true, true, true, true, true, true, true, true}));
+        ASSERT_EQ(windows.Open(), (Flags{true, true, true, true, true, true, true, true, true, true}));
     }
     void ExpectOnlyTheGrid() {
         for (const char* name : {"OptionalForm", "KeyAssign", "ScanForm", "DTMFForm", "CorvaneForm", "TestChannelForm",
                                  "EmbedInfoForm", "TreeViewForm", "ChannelEditForm"}) {
             EXPECT_EQ(Child(name), nullptr) << name;
         }
-        EXPECT_EQ(session.ChildOpen, (Flags{true}));
+        EXPECT_EQ(windows.Open(), (Flags{true}));
         EXPECT_TRUE(IsChildShown("ChannelForm"));
         EXPECT_FALSE(GridFrame().isMaximized() || GridFrame().isMinimized());
         EXPECT_EQ(GridFrame().pos(), QPoint(0, 0));
@@ -225,16 +225,16 @@ TEST_F(MemoryMapTest, CancelLeavesTheImageAndClosesTheEditors) {
     FillImage();
     OpenEditors();
     GridFrame().showMaximized();
-    const DataImage before = session.Image;
-    const DataImage saved = session.SavedImage;
+    const DataImage before = document.Image;
+    const DataImage saved = document.Snapshot();
     WithMap([](QWidget& dialog, QTableWidget& grid) {
         TypeByte(dialog, grid, 0x000, "12");
         TypeByte(dialog, grid, 0x1BD, "21");
         TypeByte(dialog, grid, 0x3FF, "34");
         Click(dialog, "cmdCancel");
     });
-    EXPECT_EQ(session.Image, before);
-    EXPECT_EQ(session.SavedImage, saved);
+    EXPECT_EQ(document.Image, before);
+    EXPECT_EQ(document.Snapshot(), saved);
     ExpectOnlyTheGrid();
 }
 
@@ -243,7 +243,7 @@ TEST_F(MemoryMapTest, OkStoresWhatWasTypedAndClosesTheEditors) {
     OpenEditors();
     Find<QLineEdit>("txtMsg(0)")->setFocus();
     GridFrame().showMinimized();
-    DataImage expected = session.Image;
+    DataImage expected = document.Image;
     expected.Set(0x300, 0x41);
     expected.Set(0x3FF, 0x34);
     WithMap([](QWidget& dialog, QTableWidget& grid) {
@@ -251,8 +251,8 @@ TEST_F(MemoryMapTest, OkStoresWhatWasTypedAndClosesTheEditors) {
         TypeByte(dialog, grid, 0x3FF, "34");
         Click(dialog, "cmdOK");
     });
-    EXPECT_EQ(session.Image, expected);
-    EXPECT_TRUE(session.IsDocumentChanged());
+    EXPECT_EQ(document.Image, expected);
+    EXPECT_TRUE(document.IsChanged());
     ExpectOnlyTheGrid();
 }
 
@@ -271,7 +271,7 @@ TEST_F(MemoryMapTest, AnEditUnderWayIsInTheMap) {
 
 TEST_F(MemoryMapTest, WithoutAChangeOfTheModelTheGridIsNotDecodedAnew) {
     OpenMainWindow();
-    session.CurrentFileName = "/tmp/one.dat";
+    document.Rename("/tmp/one.dat");
     WithMap([](QWidget& dialog, QTableWidget& grid) {
         TypeByte(dialog, grid, 0x010, "00");
         TypeByte(dialog, grid, 0x011, "25");
@@ -279,15 +279,15 @@ TEST_F(MemoryMapTest, WithoutAChangeOfTheModelTheGridIsNotDecodedAnew) {
         TypeByte(dialog, grid, 0x013, "14");
         Click(dialog, "cmdOK");
     });
-    EXPECT_EQ(session.Image.At(0x013), 0x14);
+    EXPECT_EQ(document.Image.At(0x013), 0x14);
     EXPECT_EQ(Find<QTableWidget>("ChannelGrid")->item(0, 0)->text(), "");
-    EXPECT_EQ(session.CurrentFileName, "/tmp/one.dat");
+    EXPECT_EQ(document.FileName(), "/tmp/one.dat");
 }
 
 TEST_F(MemoryMapTest, AChangedMarketMakesABlankDocumentAndDropsEveryOtherEdit) {
     OpenMainWindow();
-    session.Channels.SetCellText(1, 1, "145.12500");
-    session.CurrentFileName = "/tmp/one.dat";
+    document.Channels.SetCellText(1, 1, "145.12500");
+    document.Rename("/tmp/one.dat");
     OpenEditors();
     WithMap([](QWidget& dialog, QTableWidget& grid) {
         TypeByte(dialog, grid, 0x010, "00");
@@ -295,13 +295,13 @@ TEST_F(MemoryMapTest, AChangedMarketMakesABlankDocumentAndDropsEveryOtherEdit) {
         TypeByte(dialog, grid, 0x1BD, "21");
         Click(dialog, "cmdOK");
     });
-    EXPECT_EQ(session.Image.At(0x1BD), 0x21);
-    EXPECT_EQ(session.Image.At(0x1B9), 0x35); // UHF
-    EXPECT_EQ(session.Image.At(0x010), 0xFF);
-    EXPECT_EQ(session.Image.At(0x300), 0xFF);
-    EXPECT_EQ(session.Image.At(0x283), 0x47); // the first test frequency, 470.05000
-    EXPECT_FALSE(session.IsDocumentChanged());
-    EXPECT_EQ(session.CurrentFileName, "Zelvor.dat");
+    EXPECT_EQ(document.Image.At(0x1BD), 0x21);
+    EXPECT_EQ(document.Image.At(0x1B9), 0x35); // UHF
+    EXPECT_EQ(document.Image.At(0x010), 0xFF);
+    EXPECT_EQ(document.Image.At(0x300), 0xFF);
+    EXPECT_EQ(document.Image.At(0x283), 0x47); // the first test frequency, 470.05000
+    EXPECT_FALSE(document.IsChanged());
+    EXPECT_EQ(document.FileName(), "Zelvor.dat");
     EXPECT_EQ(window->windowTitle(), "Zelvor [5618: UHF: 450-490 MHz(M)] [ File Name:Zelvor.dat]");
     EXPECT_EQ(Find<QTableWidget>("ChannelGrid")->item(0, 0)->text(), "");
     ExpectOnlyTheGrid();
@@ -314,8 +314,8 @@ TEST_F(MemoryMapTest, AChangedFamilyMakesABlankDocument) {
         TypeByte(dialog, grid, 0x1BE, "F9");
         Click(dialog, "cmdOK");
     });
-    EXPECT_EQ(session.Image.At(0x1BC), 0x33);
-    EXPECT_EQ(session.Image.At(0x300), 0xFF);
+    EXPECT_EQ(document.Image.At(0x1BC), 0x33);
+    EXPECT_EQ(document.Image.At(0x300), 0xFF);
     EXPECT_EQ(window->windowTitle(), "Zelvor [4613: VHF: 136-174 MHz(M)] [ File Name:Zelvor.dat]");
 }
 
@@ -326,8 +326,8 @@ TEST_F(MemoryMapTest, AnotherIdentityByteIsAnEditLikeAnyOther) {
         TypeByte(dialog, grid, 0x300, "42");
         Click(dialog, "cmdOK");
     });
-    EXPECT_EQ(session.Image.At(0x1BC), 0x41);
-    EXPECT_EQ(session.Image.At(0x300), 0x42);
+    EXPECT_EQ(document.Image.At(0x1BC), 0x41);
+    EXPECT_EQ(document.Image.At(0x300), 0x42);
 }
 
 TEST_F(MemoryMapTest, AModelOutsideTheCatalogueHasNoTextInTheTitle) {

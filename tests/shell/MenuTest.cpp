@@ -136,7 +136,7 @@ TEST_F(MenuTest, EveryMenuAndEntryHasItsNameAndChineseText) {
 
 TEST_F(MenuTest, CaptionsFollowTheLanguageWhenTheyAreApplied) {
     OpenMainWindow();
-    session.LanguageFlag = Language::Chinese;
+    windows.LanguageFlag = Language::Chinese;
     window->ApplyMenuCaptions();
     EXPECT_EQ(TextOf("MnuFileSaveAs"), "另存为(&A)");
     EXPECT_EQ(TextOf("MnuWindowSub(0)"), " Channel Information [ Channel - 1 ]");

@@ -29,10 +29,10 @@ class ModelTypeFormTest : public ShellTest {
 protected:
     void OpenWith(int family, int market) {
         OpenMainWindow();
-        session.Image.Set(0x1BE, static_cast<std::uint8_t>(family));
-        session.Image.Set(0x1BD, static_cast<std::uint8_t>(market));
+        document.Image.Set(0x1BE, static_cast<std::uint8_t>(family));
+        document.Image.Set(0x1BD, static_cast<std::uint8_t>(market));
         window->InitAllFrameData();
-        session.TakeSnapshot();
+        document.TakeSnapshot();
     }
 
     void WithDialog(const std::function<void(QWidget&, QComboBox&, QComboBox&)>& whileUp) {
@@ -128,9 +128,9 @@ TEST_F(ModelTypeFormTest, EveryVariantIsSelectedOnLoading) {
     };
     for (const LoadCase& c : cases) {
         SCOPED_TRACE(testing::Message() << c.family << " " << c.market);
-        session.Image.Set(0x1BE, static_cast<std::uint8_t>(c.family));
-        session.Image.Set(0x1BD, static_cast<std::uint8_t>(c.market));
-        const ModelTypeForm dialog(session, fakes.Get());
+        document.Image.Set(0x1BE, static_cast<std::uint8_t>(c.family));
+        document.Image.Set(0x1BD, static_cast<std::uint8_t>(c.market));
+        const ModelTypeForm dialog(document, windows.LanguageFlag, fakes.Get());
         EXPECT_EQ(dialog.findChild<QComboBox*>("cboModelType")->currentIndex(), c.model);
         EXPECT_EQ(dialog.findChild<QComboBox*>("cboFreq")->currentIndex(), c.range);
     }
@@ -150,34 +150,34 @@ TEST_F(ModelTypeFormTest, EveryRangeStandsForItsMarketAndNeverChangesTheFamily) 
     };
     for (const RangeCase& c : cases) {
         SCOPED_TRACE(testing::Message() << c.model << " " << c.range);
-        session.Image.Set(0x1BE, 0xFF); // loads without a selection, so that every choice is a change
-        session.Image.Set(0x1BD, 0xEE);
-        ModelTypeForm dialog(session, fakes.Get());
+        document.Image.Set(0x1BE, 0xFF); // loads without a selection, so that every choice is a change
+        document.Image.Set(0x1BD, 0xEE);
+        ModelTypeForm dialog(document, windows.LanguageFlag, fakes.Get());
         dialog.findChild<QComboBox*>("cboModelType")->setCurrentIndex(c.model);
         dialog.findChild<QComboBox*>("cboFreq")->setCurrentIndex(c.range);
         fakes.messages.Expect(Question, MessageAnswer::Ok);
         dialog.findChild<QPushButton*>("cmdOK")->click();
-        EXPECT_EQ(session.Image.At(0x1BD), c.market);
-        EXPECT_EQ(session.Image.At(0x1BE), 0xFF);
+        EXPECT_EQ(document.Image.At(0x1BD), c.market);
+        EXPECT_EQ(document.Image.At(0x1BE), 0xFF);
     }
 }
 
 TEST_F(ModelTypeFormTest, AnotherMarketRebuildsTheDocument) {
     OpenWith(0xF9, 32);
-    session.Image.Set(0x100, 0x12);
-    session.CurrentFileName = "/somewhere/Other.dat";
+    document.Image.Set(0x100, 0x12);
+    document.Rename("/somewhere/Other.dat");
     Choose("MnuViewTreeView");
     fakes.messages.Expect(Question, MessageAnswer::Ok);
     Pick(3, 1);
-    EXPECT_EQ(session.Image.At(0x1BD), 112);
-    EXPECT_EQ(session.Image.At(0x1BE), 0xF9);
+    EXPECT_EQ(document.Image.At(0x1BD), 112);
+    EXPECT_EQ(document.Image.At(0x1BE), 0xF9);
     // The first test frequency is 491.05000 MHz: 491 MHz is the centre of 470 to 512 MHz.
-    EXPECT_EQ(session.Image.At(0x280), 0x00);
-    EXPECT_EQ(session.Image.At(0x281), 0x50);
-    EXPECT_EQ(session.Image.At(0x282), 0x10);
-    EXPECT_EQ(session.Image.At(0x283), 0x49);
-    EXPECT_FALSE(session.IsDocumentChanged());
-    EXPECT_EQ(session.CurrentFileName, "Zelvor.dat");
+    EXPECT_EQ(document.Image.At(0x280), 0x00);
+    EXPECT_EQ(document.Image.At(0x281), 0x50);
+    EXPECT_EQ(document.Image.At(0x282), 0x10);
+    EXPECT_EQ(document.Image.At(0x283), 0x49);
+    EXPECT_FALSE(document.IsChanged());
+    EXPECT_EQ(document.FileName(), "Zelvor.dat");
     EXPECT_EQ(Title(), "Zelvor [5613: UHF: 470-512 MHz(K2)] [ File Name:Zelvor.dat]");
     EXPECT_EQ(Child("TreeViewForm"), nullptr);
 }
@@ -194,8 +194,8 @@ TEST_F(ModelTypeFormTest, AModelOfAnotherFamilyChangesTheMarketOnly) {
     OpenWith(0xF9, 112);
     fakes.messages.Expect(Question, MessageAnswer::Ok);
     Pick(2, 0);
-    EXPECT_EQ(session.Image.At(0x1BD), 1);
-    EXPECT_EQ(session.Image.At(0x1BE), 0xF9);
+    EXPECT_EQ(document.Image.At(0x1BD), 1);
+    EXPECT_EQ(document.Image.At(0x1BE), 0xF9);
     EXPECT_EQ(Title(), "Zelvor [4613: VHF: 136-174 MHz(M)] [ File Name:Zelvor.dat]");
 }
 
@@ -203,7 +203,7 @@ TEST_F(ModelTypeFormTest, APairOutsideTheCatalogueHasNoVariantTextInTheTitle) {
     OpenWith(0xF8, 1);
     fakes.messages.Expect(Question, MessageAnswer::Ok);
     Pick(0, 1);
-    EXPECT_EQ(session.Image.At(0x1BD), 0);
+    EXPECT_EQ(document.Image.At(0x1BD), 0);
     EXPECT_EQ(Title(), "Zelvor [Zelvor.dat]");
 }
 
@@ -215,25 +215,25 @@ TEST_F(ModelTypeFormTest, TheQuestionIsAskedInChinese) {
 
 TEST_F(ModelTypeFormTest, OkWithoutAChangeAsksNothing) {
     OpenWith(0xF8, 1);
-    session.Image.Set(0x100, 0x12);
+    document.Image.Set(0x100, 0x12);
     Pick(2, 0);
-    EXPECT_EQ(session.Image.At(0x100), 0x12);
-    EXPECT_TRUE(session.IsDocumentChanged());
+    EXPECT_EQ(document.Image.At(0x100), 0x12);
+    EXPECT_TRUE(document.IsChanged());
 }
 
 TEST_F(ModelTypeFormTest, OkForTheUnlistedMarketWithoutAChangeAsksNothing) {
     OpenWith(0xF8, 115);
     Pick(5, -1);
-    EXPECT_EQ(session.Image.At(0x1BD), 115);
+    EXPECT_EQ(document.Image.At(0x1BD), 115);
 }
 
 TEST_F(ModelTypeFormTest, TheQuestionRefusedClosesTheDialogWithoutAChange) {
     OpenWith(0xF8, 1);
-    session.Image.Set(0x100, 0x12);
+    document.Image.Set(0x100, 0x12);
     fakes.messages.Expect(Question, MessageAnswer::Cancel);
     Pick(5, 1);
-    EXPECT_EQ(session.Image.At(0x1BD), 1);
-    EXPECT_EQ(session.Image.At(0x100), 0x12);
+    EXPECT_EQ(document.Image.At(0x1BD), 1);
+    EXPECT_EQ(document.Image.At(0x100), 0x12);
 }
 
 TEST_F(ModelTypeFormTest, CancelAndClosingChangeNothing) {
@@ -247,7 +247,7 @@ TEST_F(ModelTypeFormTest, CancelAndClosingChangeNothing) {
         cboModelType.setCurrentIndex(4);
         QTest::keyClick(&dialog, Qt::Key_Escape);
     });
-    EXPECT_EQ(session.Image.At(0x1BD), 1);
+    EXPECT_EQ(document.Image.At(0x1BD), 1);
 }
 
 TEST_F(ModelTypeFormTest, EnterGoesFromOneListToTheOtherAndConfirmsNothing) {
@@ -279,13 +279,13 @@ TEST_F(ModelTypeFormTest, TheWindowMenuListsTheGridAgainWhateverIsChosen) {
     OpenWith(0xF8, 1);
     CloseFrame("ChannelForm");
     ASSERT_FALSE(Entry("MnuWindow")->isVisible());
-    session.Cursor.SetCurrentChannel(4);
+    windows.Cursor.SetCurrentChannel(4);
     Pick(2, 0, "cmdCancel");
     EXPECT_TRUE(Entry("MnuWindow")->isVisible());
     EXPECT_TRUE(Entry("MnuWindowSub(0)")->isVisible());
     EXPECT_FALSE(Entry("MnuWindowSub(0)")->isChecked());
     EXPECT_EQ(TextOf("MnuWindowSub(0)"), " Channel Information [ Channel - 1 ]");
-    EXPECT_EQ(session.Cursor.CurrentChannel(), 1);
+    EXPECT_EQ(windows.Cursor.CurrentChannel(), 1);
     EXPECT_FALSE(IsChildShown("ChannelForm"));
 }
 

@@ -93,8 +93,8 @@ TEST_F(NavigatorTest, TheRootNamesTheModel) {
     };
     for (const RootCase& c : cases) {
         SCOPED_TRACE(testing::Message() << c.family << " " << c.market);
-        session.Image.Set(0x1BE, static_cast<std::uint8_t>(c.family));
-        session.Image.Set(0x1BD, static_cast<std::uint8_t>(c.market));
+        document.Image.Set(0x1BE, static_cast<std::uint8_t>(c.family));
+        document.Image.Set(0x1BD, static_cast<std::uint8_t>(c.market));
         OpenNavigator();
         EXPECT_EQ(Root()->text(0), c.text);
         CloseFrame("TreeViewForm");
@@ -107,7 +107,7 @@ TEST_F(NavigatorTest, ADoubleClickOnANodeOpensItsWindow) {
     CloseGrid();
     DoubleClickOn(Root()->child(0));
     EXPECT_TRUE(IsChildShown("ChannelForm"));
-    EXPECT_TRUE(session.IsOpen(ChildWindow::Channels));
+    EXPECT_TRUE(windows.IsOpen(ChildWindow::Channels));
     EXPECT_TRUE(Entry("MnuWindowSub(0)")->isVisible());
     EXPECT_TRUE(Entry("MnuWindowSub(0)")->isChecked());
     EXPECT_TRUE(Entry("MnuWindow")->isVisible());
@@ -147,7 +147,7 @@ TEST_F(NavigatorTest, NothingHappensOnTheRoot) {
     DoubleClickOn(Root());
     QTest::keyClick(Tree(), Qt::Key_Return);
     EXPECT_FALSE(IsChildShown("ChannelForm"));
-    EXPECT_FALSE(session.IsOpen(ChildWindow::Channels));
+    EXPECT_FALSE(windows.IsOpen(ChildWindow::Channels));
 }
 
 TEST_F(NavigatorTest, TwoSlowClicksOnANodeOpenNothing) {
@@ -203,26 +203,26 @@ TEST_F(NavigatorTest, TheFirstClickAfterLoadingIsNeeded) {
 TEST_F(NavigatorTest, NodesOpenTheirWindows) {
     OpenMainWindow();
     OpenNavigator();
-    const char* windows[] = {"OptionalForm", "KeyAssign",       "ScanForm",     "DTMFForm",
-                             "CorvaneForm",  "TestChannelForm", "EmbedInfoForm"};
+    const char* names[] = {"OptionalForm", "KeyAssign",       "ScanForm",     "DTMFForm",
+                           "CorvaneForm",  "TestChannelForm", "EmbedInfoForm"};
     for (int i = 1; i <= 7; ++i) {
         DoubleClickOn(Root()->child(i));
-        EXPECT_TRUE(IsChildShown(windows[i - 1])) << windows[i - 1];
+        EXPECT_TRUE(IsChildShown(names[i - 1])) << names[i - 1];
     }
-    EXPECT_EQ(session.ChildOpen, (std::array<bool, 10>{true, true, true, true, true, true, true, true, true}));
+    EXPECT_EQ(windows.Open(), (std::array<bool, 10>{true, true, true, true, true, true, true, true, true}));
 }
 
 TEST_F(NavigatorTest, ClosesByItsButtonAndByItsFrame) {
     OpenMainWindow();
     OpenNavigator();
-    EXPECT_TRUE(session.IsOpen(ChildWindow::Navigator));
+    EXPECT_TRUE(windows.IsOpen(ChildWindow::Navigator));
     ClickButton("TreeViewForm", "cmdClose");
     EXPECT_EQ(Child("TreeViewForm"), nullptr);
-    EXPECT_FALSE(session.IsOpen(ChildWindow::Navigator));
+    EXPECT_FALSE(windows.IsOpen(ChildWindow::Navigator));
     OpenNavigator();
     CloseFrame("TreeViewForm");
     EXPECT_EQ(Child("TreeViewForm"), nullptr);
-    EXPECT_FALSE(session.IsOpen(ChildWindow::Navigator));
+    EXPECT_FALSE(windows.IsOpen(ChildWindow::Navigator));
 }
 
 TEST_F(NavigatorTest, IsNoEntryOfTheWindowList) {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "data/Session.h"
+#include "data/DataImage.h"
 #include "fakes/FakeSettingsStore.h"
 
 namespace zelvor {
@@ -13,18 +13,18 @@ constexpr int FamilyByte = 0x1BE;
 
 struct RememberedSettingsTest : testing::Test {
     FakeSettingsStore settings;
-    Session session;
+    DataImage image;
 
     void ExpectModel(int market, int family) {
-        EXPECT_EQ(session.Image.At(MarketByte), market);
-        EXPECT_EQ(session.Image.At(FamilyByte), family);
+        EXPECT_EQ(image.At(MarketByte), market);
+        EXPECT_EQ(image.At(FamilyByte), family);
     }
 
     void ExpectDefaultModelFor(const char* text) {
         SCOPED_TRACE(text);
         FakeSettingsStore store;
         store.Preset("LastModel", text);
-        RestoreModel(session, store);
+        RestoreModel(image, store);
         ExpectModel(1, 0xF8);
         EXPECT_TRUE(store.Writes().empty());
     }
@@ -33,23 +33,22 @@ struct RememberedSettingsTest : testing::Test {
 using Writes = std::vector<std::pair<std::string, std::string>>;
 
 TEST_F(RememberedSettingsTest, AFirstRunStoresTheDefaultModelAndNoLanguage) {
-    RestoreModel(session, settings);
-    RestoreLanguage(session, settings);
+    RestoreModel(image, settings);
+    EXPECT_EQ(RestoreLanguage(settings), Language::English);
     ExpectModel(1, 0xF8);
-    EXPECT_EQ(session.LanguageFlag, Language::English);
     EXPECT_EQ(settings.Writes(), (Writes{{"LastModel", "50:34:36:31:38:01:F8:FF"}}));
 }
 
 TEST_F(RememberedSettingsTest, TheStoredModelComesBackAndTheOtherSixBytesAreIgnored) {
     settings.Preset("LastModel", "00:00:00:00:00:21:FC:00");
-    RestoreModel(session, settings);
+    RestoreModel(image, settings);
     ExpectModel(0x21, 0xFC);
-    EXPECT_EQ(session.Image.At(0x1B8), 0xFF);
+    EXPECT_EQ(image.At(0x1B8), 0xFF);
 }
 
 TEST_F(RememberedSettingsTest, AModelTextThatEndsBehindTheFamilyIsEnough) {
     settings.Preset("LastModel", "50:34:36:31:38:71:F9");
-    RestoreModel(session, settings);
+    RestoreModel(image, settings);
     ExpectModel(0x71, 0xF9);
 }
 
@@ -69,40 +68,35 @@ TEST_F(RememberedSettingsTest, AnyNumberButZeroIsChinese) {
     for (const char* text : {"1", "-1", " 2", "1x"}) {
         SCOPED_TRACE(text);
         settings.Preset("Language", text);
-        RestoreLanguage(session, settings);
-        EXPECT_EQ(session.LanguageFlag, Language::Chinese);
+        EXPECT_EQ(RestoreLanguage(settings), Language::Chinese);
     }
 }
 
 TEST_F(RememberedSettingsTest, ZeroNothingAndAnythingElseIsEnglish) {
     for (const char* text : {"0", "", "x1", "00"}) {
         SCOPED_TRACE(text);
-        session.LanguageFlag = Language::Chinese;
         settings.Preset("Language", text);
-        RestoreLanguage(session, settings);
-        EXPECT_EQ(session.LanguageFlag, Language::English);
+        EXPECT_EQ(RestoreLanguage(settings), Language::English);
     }
 }
 
 TEST_F(RememberedSettingsTest, ALanguageAskedForBeforeAnythingIsStoredBecomesZero) {
-    RestoreLanguage(session, settings);
-    EXPECT_EQ(session.LanguageFlag, Language::English);
+    EXPECT_EQ(RestoreLanguage(settings), Language::English);
     EXPECT_EQ(settings.Writes(), (Writes{{"Language", "0"}}));
 }
 
 TEST_F(RememberedSettingsTest, TheModelOfTheDocumentAndTheLanguageAreStored) {
     const std::uint8_t identity[] = {0x50, 0x35, 0x36, 0x31, 0x33, 0x70, 0xF9, 0x0A};
     for (int i = 0; i < 8; ++i) {
-        session.Image.Set(0x1B8 + i, identity[i]);
+        image.Set(0x1B8 + i, identity[i]);
     }
-    session.LanguageFlag = Language::Chinese;
-    StoreSettings(session, settings);
+    StoreSettings(image, Language::Chinese, settings);
     EXPECT_TRUE(settings.Exists());
     EXPECT_EQ(settings.Writes(), (Writes{{"LastModel", "50:35:36:31:33:70:F9:0A"}, {"Language", "1"}}));
 }
 
 TEST_F(RememberedSettingsTest, EnglishIsStoredAsZero) {
-    StoreSettings(session, settings);
+    StoreSettings(image, Language::English, settings);
     EXPECT_EQ(settings.Read("Language"), "0");
 }
 

@@ -31,7 +31,7 @@ protected:
         QByteArray bytes("RQ6152");
         bytes.append(10, '\xFF');
         for (int address = 0; address < 0x400; ++address) {
-            bytes.append(static_cast<char>(session.Image.At(address)));
+            bytes.append(static_cast<char>(document.Image.At(address)));
         }
         return bytes;
     }
@@ -48,10 +48,10 @@ TEST_F(SaveCommandsTest, SaveOfANewDocumentAsksForAName) {
     fakes.files.ExpectSave({"Zelvor.dat", Filter, ""}, PathOf("First.dat"));
     Choose("MnuFileSave");
     EXPECT_EQ(Content(PathOf("First.dat")), FileOfTheImage());
-    EXPECT_EQ(session.CurrentFileName, PathOf("First.dat"));
-    EXPECT_EQ(session.CurrentDirectory, "");
+    EXPECT_EQ(document.FileName(), PathOf("First.dat"));
+    EXPECT_EQ(Commands().LastDirectory(), "");
     EXPECT_EQ(window->windowTitle(), "Zelvor [4618: VHF: 136-174 MHz(M)] [ File Name:First.dat]");
-    EXPECT_FALSE(session.IsDocumentChanged());
+    EXPECT_FALSE(document.IsChanged());
 }
 
 TEST_F(SaveCommandsTest, TheNextSaveAsksWhetherToOverwriteThatName) {
@@ -62,12 +62,12 @@ TEST_F(SaveCommandsTest, TheNextSaveAsksWhetherToOverwriteThatName) {
     fakes.messages.Expect(OverwriteQuestion("First.dat"), MessageAnswer::Ok);
     ClickToolbar(3);
     EXPECT_EQ(Content(PathOf("First.dat")), FileOfTheImage());
-    EXPECT_FALSE(session.IsDocumentChanged());
+    EXPECT_FALSE(document.IsChanged());
 }
 
 TEST_F(SaveCommandsTest, OverwritingIsAskedInChinese) {
     OpenMainWindowInChinese();
-    session.CurrentFileName = PathOf("车队.dat");
+    document.Rename(PathOf("车队.dat"));
     fakes.messages.Expect({"警告", "改写警告!\n保存文件名:车队.dat", MessageIcon::Exclamation, MessageButtons::OkCancel,
                            MessageAnswer::Cancel},
                           MessageAnswer::Ok);
@@ -78,72 +78,74 @@ TEST_F(SaveCommandsTest, OverwritingIsAskedInChinese) {
 
 TEST_F(SaveCommandsTest, OverwritingRefusedWritesNothing) {
     OpenMainWindow();
-    session.CurrentFileName = PathOf("First.dat");
-    session.Image.Set(0x100, 0x12);
+    document.Rename(PathOf("First.dat"));
+    document.Image.Set(0x100, 0x12);
     fakes.messages.Expect(OverwriteQuestion("First.dat"), MessageAnswer::Cancel);
     Choose("MnuFileSave");
     EXPECT_FALSE(fakes.store.Has(PathOf("First.dat")));
-    EXPECT_TRUE(session.IsDocumentChanged());
+    EXPECT_TRUE(document.IsChanged());
 }
 
 TEST_F(SaveCommandsTest, SaveCancelledChangesNothing) {
     OpenMainWindow();
-    session.Image.Set(0x100, 0x12);
+    document.Image.Set(0x100, 0x12);
     fakes.files.ExpectSave({"Zelvor.dat", Filter, ""}, std::nullopt);
     Choose("MnuFileSave");
-    EXPECT_EQ(session.CurrentFileName, "Zelvor.dat");
-    EXPECT_TRUE(session.IsDocumentChanged());
-    EXPECT_FALSE(session.SaveCancelled);
+    EXPECT_EQ(document.FileName(), "Zelvor.dat");
+    EXPECT_TRUE(document.IsChanged());
+    EXPECT_FALSE(Commands().IsSaveCancelled());
 }
 
 TEST_F(SaveCommandsTest, SaveToAPathThatCannotBeWrittenIsSilentAndKeepsTheSnapshot) {
     OpenMainWindow();
-    session.Image.Set(0x100, 0x12);
-    const DataImage saved = session.SavedImage;
+    document.Image.Set(0x100, 0x12);
+    const DataImage saved = document.Snapshot();
     fakes.store.Refuse(PathOf("missing/First.dat"));
     fakes.files.ExpectSave({"Zelvor.dat", Filter, ""}, PathOf("missing/First.dat"));
     Choose("MnuFileSave");
     EXPECT_TRUE(fakes.messages.Shown().empty());
-    EXPECT_EQ(session.SavedImage, saved);
-    EXPECT_TRUE(session.IsDocumentChanged());
-    EXPECT_EQ(session.CurrentFileName, PathOf("missing/First.dat"));
+    EXPECT_EQ(document.Snapshot(), saved);
+    EXPECT_TRUE(document.IsChanged());
+    EXPECT_EQ(document.FileName(), PathOf("missing/First.dat"));
     EXPECT_EQ(window->windowTitle(), "Zelvor [4618: VHF: 136-174 MHz(M)] [ File Name:Zelvor.dat]");
 }
 
 TEST_F(SaveCommandsTest, SaveAsStartsFromTheCurrentNameAndRemembersTheFolder) {
     OpenMainWindow();
     FillImage();
-    session.SaveCancelled = true;
+    fakes.files.ExpectSave({"Zelvor.dat", Filter, ""}, std::nullopt);
+    Choose("MnuFileSaveAs");
+    ASSERT_TRUE(Commands().IsSaveCancelled());
     fakes.files.ExpectSave({"Zelvor.dat", Filter, ""}, PathOf("Second.dat"));
     Choose("MnuFileSaveAs");
     EXPECT_EQ(Content(PathOf("Second.dat")), FileOfTheImage());
-    EXPECT_EQ(session.CurrentFileName, PathOf("Second.dat"));
-    EXPECT_EQ(session.CurrentDirectory, QDir(directory.path()).canonicalPath().toStdString());
-    EXPECT_FALSE(session.SaveCancelled);
-    EXPECT_FALSE(session.IsDocumentChanged());
+    EXPECT_EQ(document.FileName(), PathOf("Second.dat"));
+    EXPECT_EQ(Commands().LastDirectory(), QDir(directory.path()).canonicalPath().toStdString());
+    EXPECT_FALSE(Commands().IsSaveCancelled());
+    EXPECT_FALSE(document.IsChanged());
     EXPECT_EQ(window->windowTitle(), "Zelvor [4618: VHF: 136-174 MHz(M)] [ File Name:Second.dat]");
 
-    fakes.files.ExpectSave({PathOf("Second.dat"), Filter, session.CurrentDirectory}, std::nullopt);
+    fakes.files.ExpectSave({PathOf("Second.dat"), Filter, Commands().LastDirectory()}, std::nullopt);
     Choose("MnuFileSaveAs");
-    EXPECT_TRUE(session.SaveCancelled);
-    EXPECT_EQ(session.CurrentFileName, PathOf("Second.dat"));
+    EXPECT_TRUE(Commands().IsSaveCancelled());
+    EXPECT_EQ(document.FileName(), PathOf("Second.dat"));
 }
 
 TEST_F(SaveCommandsTest, SaveAsUsesTheChineseFilterInChinese) {
     OpenMainWindowInChinese();
     fakes.files.ExpectSave({"Zelvor.dat", "QPK 数据文件 (*.dat)|*.dat", ""}, std::nullopt);
     Choose("MnuFileSaveAs");
-    EXPECT_TRUE(session.SaveCancelled);
+    EXPECT_TRUE(Commands().IsSaveCancelled());
 }
 
 TEST_F(SaveCommandsTest, SaveAsToAPathThatCannotBeWrittenCountsAsCancelled) {
     OpenMainWindow();
-    session.Image.Set(0x100, 0x12);
+    document.Image.Set(0x100, 0x12);
     fakes.store.Refuse(PathOf("missing/Second.dat"));
     fakes.files.ExpectSave({"Zelvor.dat", Filter, ""}, PathOf("missing/Second.dat"));
     Choose("MnuFileSaveAs");
-    EXPECT_TRUE(session.SaveCancelled);
-    EXPECT_TRUE(session.IsDocumentChanged());
+    EXPECT_TRUE(Commands().IsSaveCancelled());
+    EXPECT_TRUE(document.IsChanged());
     EXPECT_TRUE(fakes.messages.Shown().empty());
 }
 
@@ -176,7 +178,7 @@ TEST_F(SaveCommandsTest, SaveFromTheToolbarCommitsTheEditInTheGrid) {
     fakes.files.ExpectSave({"Zelvor.dat", Filter, ""}, PathOf("Edited.dat"));
     ClickToolbar(3);
     EXPECT_EQ(Content(PathOf("Edited.dat")).mid(16 + 0x010, 4).toHex(), "00005514");
-    EXPECT_FALSE(session.IsDocumentChanged());
+    EXPECT_FALSE(document.IsChanged());
 }
 
 TEST_F(SaveCommandsTest, SaveByItsShortcutCommitsTheEditInTheGridAndLeavesTheKeyboardThere) {
@@ -193,7 +195,7 @@ TEST_F(SaveCommandsTest, SaveByItsShortcutCommitsTheEditInTheGridAndLeavesTheKey
 
 TEST_F(SaveCommandsTest, CtrlShiftSSavesUnderAnotherName) {
     OpenMainWindow();
-    session.CurrentFileName = PathOf("First.dat");
+    document.Rename(PathOf("First.dat"));
     fakes.files.ExpectSave({PathOf("First.dat"), Filter, ""}, PathOf("Second.dat"));
     QTest::keyClick(window.get(), Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(Content(PathOf("Second.dat")), FileOfTheImage());

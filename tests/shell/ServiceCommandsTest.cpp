@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QComboBox>
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -58,7 +59,7 @@ protected:
             Bytes record;
             const int channel = std::stoi(command.substr(3), nullptr, 16);
             for (int i = 0; i < 8; ++i) {
-                record.push_back(session.Image.At(0x280 + (channel - 1) * 8 + i));
+                record.push_back(document.Image.At(0x280 + (channel - 1) * 8 + i));
             }
             return record;
         }
@@ -82,8 +83,8 @@ TEST_F(ServiceCommandsTest, RadioInformationShowsTheRadiosSerialNumberOverADisab
     EXPECT_EQ(Text("LabSN"), " Z 12345678");
     EXPECT_EQ(Text("LabModel"), "4618");
     EXPECT_EQ(Text("LabFreq"), "VHF: 136-174 MHz(M)");
-    EXPECT_EQ(session.Service.RadioInfoRecord[0], '-');
-    EXPECT_EQ(session.Service.RadioInfoRecord[33], '-');
+    EXPECT_EQ(service.RadioInfoRecord[0], '-');
+    EXPECT_EQ(service.RadioInfoRecord[33], '-');
 }
 
 TEST_F(ServiceCommandsTest, ClosingTheInformationEnablesTheMainWindowWhicheverWay) {
@@ -99,6 +100,23 @@ TEST_F(ServiceCommandsTest, ClosingTheInformationEnablesTheMainWindowWhicheverWa
         EXPECT_TRUE(window->isEnabled());
         EXPECT_EQ(Find<DJJInfoForm>("DJJInfoForm"), nullptr);
     }
+}
+
+TEST_F(ServiceCommandsTest, APromptBehindAChangeOfTheLanguageIsInTheNewOne) {
+    silent = true;
+    Choose("MnuToolRadioInformation");
+    fakes.clock.Advance(120); // the first command is out
+    ASSERT_EQ(sent.size(), 1U);
+    ChooseDialog("MnuSetupLanguageFileSetup", [](QWidget& dialog) {
+        dialog.findChild<QComboBox*>("ComLanguage")->setCurrentIndex(1);
+        Click(dialog, "CmdOK");
+    });
+    Message prompt = ConnectionPrompt();
+    prompt.title = "错误";
+    prompt.text = "检查所有连接及通信端口设置。";
+    fakes.messages.Expect(prompt, MessageAnswer::Cancel);
+    fakes.clock.Advance(1000);
+    EXPECT_EQ(fakes.messages.Pending(), 0);
 }
 
 TEST_F(ServiceCommandsTest, ASilentRadioPromptsAndCancelLeavesEverythingAsItWas) {
@@ -141,7 +159,7 @@ TEST_F(ServiceCommandsTest, TheMainWindowDoesNotCloseWhileTestModeIsOpen) {
 }
 
 TEST_F(ServiceCommandsTest, TheMainWindowDoesNotCloseWhileRadioInformationIsOpen) {
-    session.LanguageFlag = Language::Chinese;
+    windows.LanguageFlag = Language::Chinese;
     Choose("MnuToolRadioInformation");
     fakes.clock.Advance(500);
     ASSERT_NE(Find<DJJInfoForm>("DJJInfoForm"), nullptr);
@@ -173,7 +191,7 @@ TEST_F(ServiceCommandsTest, TheStatusBarShowsHowFarAnExchangeIs) {
     fakes.clock.Advance(400);
     EXPECT_EQ(Text("LabExchange"), "");
     Find<DJJInfoForm>("DJJInfoForm")->close();
-    session.LanguageFlag = Language::Chinese;
+    windows.LanguageFlag = Language::Chinese;
     Choose("MnuProgramTestMode");
     EXPECT_EQ(Text("LabExchange"), "正在进入测试模式：0 %");
     fakes.clock.Advance(100 + 2 + 9 * 3);
@@ -264,7 +282,7 @@ TEST_F(ServiceCommandsTest, TestModeDoesNotOpenOnADocumentThatWasOpenedMeanwhile
     fakes.store.Put(path, "RQ6152" + std::string(10, '\xFF') + std::string(1024, '\x5A'));
     fakes.files.ExpectOpen({"", "QPK Data Files(*.dat)|*.dat", ""}, path);
     Choose("MnuFileOpen");
-    EXPECT_EQ(session.Image.At(0x280), 0x5A);
+    EXPECT_EQ(document.Image.At(0x280), 0x5A);
     fakes.clock.Advance(1000);
     EXPECT_EQ(Text("LabExchange"), "Test mode was not entered: another command was chosen.");
     QTest::qWait(200);
@@ -354,11 +372,11 @@ TEST_F(ServiceCommandsTest, TestModeMarksTheSeventhEntryOfTheWindowList) {
 TEST_F(ServiceCommandsTest, AShortRecordKeepsTheRest) {
     window->GetDJJInfo(std::string(34, 'x'));
     window->GetDJJInfo("ab");
-    EXPECT_EQ(session.Service.RadioInfoRecord[0], 'a');
-    EXPECT_EQ(session.Service.RadioInfoRecord[1], 'b');
-    EXPECT_EQ(session.Service.RadioInfoRecord[2], 'x');
+    EXPECT_EQ(service.RadioInfoRecord[0], 'a');
+    EXPECT_EQ(service.RadioInfoRecord[1], 'b');
+    EXPECT_EQ(service.RadioInfoRecord[2], 'x');
     window->GetDJJInfo(std::string(40, 'y'));
-    EXPECT_EQ(session.Service.RadioInfoRecord[33], 'y');
+    EXPECT_EQ(service.RadioInfoRecord[33], 'y');
 }
 
 TEST_F(ServiceCommandsTest, TheWindowOnTopStaysOnTopWithTheKeyboardWhereItWas) {

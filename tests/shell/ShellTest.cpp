@@ -23,7 +23,7 @@ void ClickInWindow(const QWidget& widget, const QPoint& place) {
 } // namespace
 
 void ShellTest::OpenMainWindow() {
-    window = std::make_unique<MDIForm1>(session, fakes.Get());
+    window = std::make_unique<MDIForm1>(State(), fakes.Get());
     window->show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
 }
@@ -104,7 +104,7 @@ void ShellTest::ClickButton(const char* child, const char* button) const {
 void ShellTest::FillImage() {
     for (int address = 0; address < 0x400; ++address) {
         if (address != 0x1BD && address != 0x1BE) {
-            session.Image.Set(address, static_cast<std::uint8_t>(address * 7 + address / 256));
+            document.Image.Set(address, static_cast<std::uint8_t>(address * 7 + address / 256));
         }
     }
 }

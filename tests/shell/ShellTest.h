@@ -8,15 +8,20 @@
 #include <string>
 #include <vector>
 
-#include "data/Session.h"
+#include "controls/WindowState.h"
+#include "data/Document.h"
 #include "fakes/FakeServices.h"
+#include "link/LinkState.h"
+#include "service/ServiceState.h"
 #include "shell/MDIForm1.h"
+#include "shell/SessionCommands.h"
 
 namespace zelvor {
 
 /// A main window over fake services, shown and active.
 class ShellTest : public testing::Test {
 protected:
+    [[nodiscard]] ProgramState State() { return {document, windows, link, service}; }
     void OpenMainWindow();
     /// With the language flag of an earlier run set.
     void OpenMainWindowInChinese();
@@ -29,6 +34,8 @@ protected:
     void ClickToolbar(int index);
     /// As Choose, for entries that show a modal dialog: whileUp gets it once it is shown.
     void ChooseDialog(const std::string& name, const std::function<void(QWidget&)>& whileUp);
+
+    [[nodiscard]] const SessionCommands& Commands() const { return window->DocumentCommands(); }
 
     template<class Widget>
     [[nodiscard]] Widget* Find(const char* name) const {
@@ -45,7 +52,10 @@ protected:
     void FillImage();
 
     FakeServices fakes;
-    Session session;
+    Document document;
+    WindowState windows;
+    LinkState link;
+    ServiceState service;
     std::unique_ptr<MDIForm1> window;
 };
 

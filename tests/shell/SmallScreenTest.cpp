@@ -24,48 +24,57 @@
 namespace zelvor {
 namespace {
 
-using MakeDialog = std::function<QDialog*(Session&, Services&, QWidget*)>;
+using MakeDialog = std::function<QDialog*(const ProgramState&, Services&, QWidget*)>;
 
-QDialog* MakeTuning(int item, bool narrow, Session& session, Services& services, QWidget* parent) {
-    session.Service.TuneItem = item;
-    session.Service.NarrowMode = narrow;
-    return MakeTuningForm(session, services, parent);
+QDialog* MakeTuning(int item, bool narrow, const ProgramState& state, Services& services, QWidget* parent) {
+    state.service.TuneItem = item;
+    state.service.NarrowMode = narrow;
+    return MakeTuningForm(state.document, state.link, state.service, state.windows.LanguageFlag, services, parent);
 }
 
 /// A dialog, and how many controls the tab key comes to at least.
 std::vector<std::pair<MakeDialog, int>> Dialogs() {
     std::vector<std::pair<MakeDialog, int>> dialogs{
-        {[](Session& session, Services&, QWidget* parent) { return new AboutForm(session, parent); }, 1},
-        {[](Session& session, Services& services, QWidget* parent) {
-             return new ModelTypeForm(session, services, parent);
+        {[](const ProgramState& state, Services&, QWidget* parent) {
+             return new AboutForm(state.windows.LanguageFlag, parent);
+         },
+         1},
+        {[](const ProgramState& state, Services& services, QWidget* parent) {
+             return new ModelTypeForm(state.document, state.windows.LanguageFlag, services, parent);
          },
          4},
-        {[](Session& session, Services& services, QWidget* parent) {
-             return new LanguageForm(session, services, parent);
+        {[](const ProgramState& state, Services& services, QWidget* parent) {
+             return new LanguageForm(state.windows, services, parent);
          },
          4},
-        {[](Session& session, Services& services, QWidget* parent) { return new ComForm(session, services, parent); },
-         3},
-        {[](Session& session, Services& services, QWidget* parent) {
-             return new ConnectForm(session, services, TransferDirection::Read, parent);
+        {[](const ProgramState& state, Services& services, QWidget* parent) {
+             return new ComForm(state.link, state.windows.LanguageFlag, services, parent);
          },
          3},
-        {[](Session& session, Services& services, QWidget* parent) {
-             return new frmPrintList(session, services, parent);
+        {[](const ProgramState& state, Services& services, QWidget* parent) {
+             return new ConnectForm(state.document, state.link, state.windows.LanguageFlag, services,
+                                    TransferDirection::Read, parent);
+         },
+         3},
+        {[](const ProgramState& state, Services& services, QWidget* parent) {
+             return new frmPrintList(state.document, state.windows.LanguageFlag, services, parent);
          },
          12},
-        {[](Session& session, Services& services, QWidget* parent) {
-             return new DJJInfoForm(session, services, parent);
+        {[](const ProgramState& state, Services& services, QWidget* parent) {
+             return new DJJInfoForm(state.document, state.service, state.windows.LanguageFlag, services, parent);
          },
          2},
-        {[](Session& session, Services& services, QWidget* parent) { return new TestForm(session, services, parent); },
+        {[](const ProgramState& state, Services& services, QWidget* parent) {
+             return new TestForm(state.document, state.link, state.service, state.windows.LanguageFlag, services,
+                                 parent);
+         },
          6},
     };
     for (int item = 1; item <= TuneItemCount; ++item) {
         for (const bool narrow : {false, true}) {
             dialogs.emplace_back(
-                [item, narrow](Session& session, Services& services, QWidget* parent) {
-                    return MakeTuning(item, narrow, session, services, parent);
+                [item, narrow](const ProgramState& state, Services& services, QWidget* parent) {
+                    return MakeTuning(item, narrow, state, services, parent);
                 },
                 3);
         }
@@ -121,7 +130,7 @@ protected:
 
 TEST_P(SmallScreenTest, EveryControlOfEveryDialogCanBeBroughtIntoView) {
     for (const auto& [make, leastControls] : Dialogs()) {
-        const std::unique_ptr<QDialog> dialog(make(session, fakes.Get(), window.get()));
+        const std::unique_ptr<QDialog> dialog(make(State(), fakes.Get(), window.get()));
         dialog->show();
         // The dialog before may have handed the keyboard to the main window meanwhile.
         QCoreApplication::processEvents();
@@ -135,7 +144,7 @@ TEST_P(SmallScreenTest, EveryControlOfEveryDialogCanBeBroughtIntoView) {
 }
 
 TEST_P(SmallScreenTest, TheMemoryMapScrollsToEveryByteBesideItsButtons) {
-    CPUForm dialog(session, fakes.Get(), window.get());
+    CPUForm dialog(document, windows.LanguageFlag, fakes.Get(), window.get());
     dialog.show();
     dialog.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));

@@ -13,15 +13,15 @@ TEST_F(StartUpTest, AFirstRunIsADocumentOfModel4618InEnglish) {
     OpenMainWindow();
     EXPECT_EQ(window->objectName(), "MDIForm1");
     EXPECT_EQ(window->windowTitle(), "Zelvor [4618: VHF: 136-174 MHz(M)] [ File Name:Zelvor.dat]");
-    EXPECT_EQ(session.LanguageFlag, Language::English);
-    EXPECT_EQ(session.Image.At(0x1BD), 1);
-    EXPECT_EQ(session.Image.At(0x1BE), 0xF8);
-    EXPECT_EQ(session.CurrentFileName, "Zelvor.dat");
-    EXPECT_EQ(session.CurrentDirectory, "");
+    EXPECT_EQ(windows.LanguageFlag, Language::English);
+    EXPECT_EQ(document.Image.At(0x1BD), 1);
+    EXPECT_EQ(document.Image.At(0x1BE), 0xF8);
+    EXPECT_EQ(document.FileName(), "Zelvor.dat");
+    EXPECT_EQ(Commands().LastDirectory(), "");
 }
 
 TEST_F(StartUpTest, AFirstRunStoresTheModelBeforeTheWindowAppears) {
-    window = std::make_unique<MDIForm1>(session, fakes.Get());
+    window = std::make_unique<MDIForm1>(State(), fakes.Get());
     EXPECT_FALSE(window->isVisible());
     EXPECT_EQ(fakes.settings.Writes(), (Writes{{"LastModel", "50:34:36:31:38:01:F8:FF"}}));
 }
@@ -54,27 +54,26 @@ TEST_F(StartUpTest, TheHelpFileIsTheEnglishOneInEnglish) {
 }
 
 TEST_F(StartUpTest, TheSessionStartsCleanWhateverItHeld) {
-    session.Priority.SetError(true);
-    session.OwnIdError = true;
-    session.TxCodeError = true;
-    session.ExitConfirmed = true;
-    session.SaveCancelled = true;
-    session.Link.SentState = 4;
-    session.CommPortNumber = 7;
+    document.Priority.SetError(true);
+    document.Flags.OwnIdError = true;
+    document.Flags.TxCodeError = true;
+    windows.ExitConfirmed = true;
+    link.SentState = 4;
+    link.CommPortNumber = 7;
     OpenMainWindow();
-    EXPECT_FALSE(session.Priority.PriorityChannelError() || session.OwnIdError || session.TxCodeError);
-    EXPECT_FALSE(session.ExitConfirmed || session.SaveCancelled);
-    EXPECT_EQ(session.Link.SentState, 55);
-    EXPECT_EQ(session.CommPortNumber, 1);
-    EXPECT_FALSE(session.IsDocumentChanged());
+    EXPECT_FALSE(document.Priority.PriorityChannelError() || document.Flags.OwnIdError || document.Flags.TxCodeError);
+    EXPECT_FALSE(windows.ExitConfirmed || Commands().IsSaveCancelled());
+    EXPECT_EQ(link.SentState, 55);
+    EXPECT_EQ(link.CommPortNumber, 1);
+    EXPECT_FALSE(document.IsChanged());
 }
 
 TEST_F(StartUpTest, TheGridIsOpenListedAndActive) {
     OpenMainWindow();
     EXPECT_TRUE(IsChildShown("ChannelForm"));
     EXPECT_EQ(Child("ChannelForm")->parentWidget()->pos(), QPoint(0, 0));
-    EXPECT_EQ(session.ChildOpen, (std::array<bool, 10>{true}));
-    EXPECT_EQ(session.Cursor.CurrentChannel(), 1);
+    EXPECT_EQ(windows.Open(), (std::array<bool, 10>{true}));
+    EXPECT_EQ(windows.Cursor.CurrentChannel(), 1);
     EXPECT_TRUE(Entry("MnuWindowSub(0)")->isVisible());
     EXPECT_TRUE(Entry("MnuWindowSub(0)")->isChecked());
     EXPECT_TRUE(Entry("MnuWindow")->isVisible());

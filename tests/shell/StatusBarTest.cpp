@@ -57,7 +57,7 @@ TEST_F(StatusBarTest, FollowsTheChoiceOfThePort) {
         dialog.findChild<QRadioButton*>("optPort(11)")->setChecked(true);
         Click(dialog, "cmdOK");
     });
-    EXPECT_EQ(session.CommPortNumber, 12);
+    EXPECT_EQ(link.CommPortNumber, 12);
     EXPECT_EQ(Panel("StatusBar1(1)"), "COM12");
 }
 
@@ -67,7 +67,7 @@ TEST_F(StatusBarTest, StaysWhereTheChoiceOfThePortIsCancelled) {
         dialog.findChild<QRadioButton*>("optPort(11)")->setChecked(true);
         Click(dialog, "cmdCancel");
     });
-    EXPECT_EQ(session.CommPortNumber, 1);
+    EXPECT_EQ(link.CommPortNumber, 1);
     EXPECT_EQ(Panel("StatusBar1(1)"), "COM1");
 }
 

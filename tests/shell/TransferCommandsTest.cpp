@@ -47,19 +47,19 @@ private:
 TEST_F(TransferCommandsTest, AReadBecomesANewDocumentThatCountsAsChanged) {
     OpenMainWindow();
     ConnectRadio();
-    session.CurrentFileName = "/somewhere/Other.dat";
-    session.Priority.SetError(true);
-    session.OwnIdError = session.TxCodeError = true;
+    document.Rename("/somewhere/Other.dat");
+    document.Priority.SetError(true);
+    document.Flags.OwnIdError = document.Flags.TxCodeError = true;
     fakes.messages.Expect(ReadDone, MessageAnswer::Ok);
     Transfer("MnuProgramRead");
-    EXPECT_EQ(session.Image.At(0x1BD), 33);
+    EXPECT_EQ(document.Image.At(0x1BD), 33);
     EXPECT_EQ(Find<QTableWidget>("ChannelGrid")->item(0, 0)->text(), "450.12500");
-    EXPECT_EQ(session.CurrentFileName, "Zelvor.dat");
+    EXPECT_EQ(document.FileName(), "Zelvor.dat");
     EXPECT_EQ(window->windowTitle(), "Zelvor [5618: UHF: 450-490 MHz(M)] [ File Name:Zelvor.dat]");
-    EXPECT_TRUE(session.IsDocumentChanged());
-    EXPECT_FALSE(session.Priority.PriorityChannelError());
-    EXPECT_FALSE(session.OwnIdError);
-    EXPECT_FALSE(session.TxCodeError);
+    EXPECT_TRUE(document.IsChanged());
+    EXPECT_FALSE(document.Priority.PriorityChannelError());
+    EXPECT_FALSE(document.Flags.OwnIdError);
+    EXPECT_FALSE(document.Flags.TxCodeError);
 }
 
 TEST_F(TransferCommandsTest, AReadThenExitOffersToSave) {
@@ -85,7 +85,7 @@ TEST_F(TransferCommandsTest, AReadClosesTheEditorsAndPlacesTheGrid) {
     fakes.messages.Expect(ReadDone, MessageAnswer::Ok);
     Transfer("MnuProgramRead");
     EXPECT_EQ(Child("TreeViewForm"), nullptr);
-    EXPECT_FALSE(session.IsOpen(ChildWindow::Navigator));
+    EXPECT_FALSE(windows.IsOpen(ChildWindow::Navigator));
     EXPECT_FALSE(GridFrame()->isMinimized());
     EXPECT_EQ(GridFrame()->pos(), QPoint(0, 0));
 }
@@ -94,15 +94,15 @@ TEST_F(TransferCommandsTest, ATransferShowsAndListsAGridThatWasClosed) {
     OpenMainWindow();
     ConnectRadio();
     CloseFrame("ChannelForm");
-    session.Cursor.SetCurrentChannel(7);
+    windows.Cursor.SetCurrentChannel(7);
     fakes.messages.Expect(ReadDone, MessageAnswer::Ok);
     Transfer("MnuProgramRead");
     EXPECT_TRUE(IsChildShown("ChannelForm"));
-    EXPECT_TRUE(session.IsOpen(ChildWindow::Channels));
+    EXPECT_TRUE(windows.IsOpen(ChildWindow::Channels));
     EXPECT_TRUE(Entry("MnuWindow")->isVisible());
     EXPECT_TRUE(Entry("MnuWindowSub(0)")->isVisible());
     EXPECT_EQ(TextOf("MnuWindowSub(0)"), " Channel Information [ Channel - 1 ]");
-    EXPECT_EQ(session.Cursor.CurrentChannel(), 1);
+    EXPECT_EQ(windows.Cursor.CurrentChannel(), 1);
 }
 
 TEST_F(TransferCommandsTest, AFailedReadClosesTheEditorsAsWell) {
@@ -111,7 +111,7 @@ TEST_F(TransferCommandsTest, AFailedReadClosesTheEditorsAsWell) {
     fakes.messages.Expect(NoAnswer, MessageAnswer::Cancel);
     Transfer("MnuProgramRead");
     EXPECT_EQ(Child("TreeViewForm"), nullptr);
-    EXPECT_EQ(session.CurrentFileName, "Zelvor.dat");
+    EXPECT_EQ(document.FileName(), "Zelvor.dat");
     EXPECT_EQ(window->windowTitle(), "Zelvor [4618: VHF: 136-174 MHz(M)] [ File Name:Zelvor.dat]");
 }
 
@@ -142,17 +142,17 @@ TEST_F(TransferCommandsTest, ReadAndWriteStartFromTheToolbarAsWell) {
 TEST_F(TransferCommandsTest, AWriteLeavesTheDocumentItsNameAndClearsTheComplaints) {
     OpenMainWindow();
     ConnectRadio();
-    session.Image.Set(0x1BD, 33);
-    session.CurrentFileName = "/somewhere/Other.dat";
+    document.Image.Set(0x1BD, 33);
+    document.Rename("/somewhere/Other.dat");
     fakes.messages.Expect(WriteDone, MessageAnswer::Ok);
     Transfer("MnuProgramWrite");
-    EXPECT_EQ(session.CurrentFileName, "/somewhere/Other.dat");
+    EXPECT_EQ(document.FileName(), "/somewhere/Other.dat");
     EXPECT_EQ(fakes.ports.Record("MSComm1").sent.empty(), false);
 }
 
 TEST_F(TransferCommandsTest, AWriteIsRefusedWhileAnEditorsSettingIsIncorrect) {
     OpenMainWindow();
-    session.Priority.SetError(true);
+    document.Priority.SetError(true);
     fakes.messages.Expect({"Error", "The following setting is incorrect.\r\n\r\n\"Priority Channel\"",
                            MessageIcon::Critical, MessageButtons::Ok, MessageAnswer::Ok},
                           MessageAnswer::Ok);

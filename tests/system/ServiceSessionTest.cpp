@@ -16,7 +16,7 @@
 #include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 
-#include "data/Session.h"
+#include "data/Document.h"
 #include "fakes/FakeHelpViewer.h"
 #include "platform/QtServices.h"
 #include "simulator/RadioProcess.h"
@@ -28,7 +28,7 @@ namespace {
 
 class ServiceSession : public ::testing::Test {
 protected:
-    ServiceSession() { session.Image = SampleRadioMemory(); }
+    ServiceSession() { document.Image = SampleRadioMemory(); }
 
     void StartRadio(const std::vector<std::string>& faults) {
         std::vector<std::string> arguments{"--trace", "--unplugged", "200", "--save", Saved()};
@@ -73,8 +73,10 @@ protected:
         radio.reset(); // and its link with it
         user.shown.clear();
         user.wasEarly = false;
-        session = Session();
-        session.Image = SampleRadioMemory();
+        document = Document();
+        link = LinkState();
+        service = ServiceState();
+        document.Image = SampleRadioMemory();
     }
 
     /// Keeps the event loop running until the condition holds; false also where an attempt at a fault is spoilt.
@@ -131,12 +133,15 @@ protected:
 
     [[nodiscard]] zelvor::Clock& Clock() { return machine.Get().clock; }
     [[nodiscard]] std::unique_ptr<SerialPort> MakePort() { return machine.Get().ports.Make("MSComm1"); }
+    [[nodiscard]] RadioLink LinkOver(SerialPort& port) { return {link, port, Clock(), user, Language::English}; }
     [[nodiscard]] std::string Saved() const { return directory.filePath("radio.dat").toStdString(); }
 
     QTemporaryDir directory;
     FakeHelpViewer help;
     QtServices machine{help};
-    Session session;
+    Document document;
+    LinkState link;
+    ServiceState service;
     std::unique_ptr<RadioProcess> radio;
     RetryingUser user{machine.Get().clock};
 
@@ -148,7 +153,7 @@ TEST_F(ServiceSession, InformationIsFetchedAndTheRadioLeavesItsMode) {
     StartRadio({});
     const std::unique_ptr<SerialPort> port = MakePort();
     EntryListener listener;
-    EntryEngine engine(session, *port, Clock(), user, listener);
+    EntryEngine engine(document, service, LinkOver(*port), listener);
     engine.StartInformation();
     ExpectInformation(listener);
     EXPECT_FALSE(port->IsOpen());
@@ -164,7 +169,7 @@ TEST_P(InformationFault, LeadsToThePromptAndRetryFetchesTheInformation) {
     MeetFault(GetParam(), [this] {
         const std::unique_ptr<SerialPort> port = MakePort();
         EntryListener listener;
-        EntryEngine engine(session, *port, Clock(), user, listener);
+        EntryEngine engine(document, service, LinkOver(*port), listener);
         engine.StartInformation();
         ExpectInformation(listener);
         ExpectFired(GetParam());
@@ -187,16 +192,16 @@ protected:
     void Enter() {
         const std::unique_ptr<SerialPort> port = MakePort();
         EntryListener listener;
-        EntryEngine engine(session, *port, Clock(), user, listener);
-        session.Image.Set(0x185, 0x00);
+        EntryEngine engine(document, service, LinkOver(*port), listener);
+        document.Image.Set(0x185, 0x00);
         engine.StartTestMode();
         ASSERT_TRUE(Soon([&] { return listener.isTestModeReady; })) << radio->Out();
         EXPECT_FALSE(port->IsOpen());
-        EXPECT_EQ(session.Image.At(0x185), 0x45);
-        EXPECT_EQ(session.Service.Values.TestPointHighPower, 0x43);
-        EXPECT_EQ(session.Service.TestFrequencyText[0], (TestFrequencyTexts{"155.05000", "155.10000"}));
-        EXPECT_EQ(session.Service.TestFrequencyText[5], (TestFrequencyTexts{"155.40000", "155.40000"}));
-        EXPECT_EQ(session.Service.TestFrequencyText[6], (TestFrequencyTexts{"0", "0"}));
+        EXPECT_EQ(document.Image.At(0x185), 0x45);
+        EXPECT_EQ(service.Values.TestPointHighPower, 0x43);
+        EXPECT_EQ(service.TestFrequencyText[0], (TestFrequencyTexts{"155.05000", "155.10000"}));
+        EXPECT_EQ(service.TestFrequencyText[5], (TestFrequencyTexts{"155.40000", "155.40000"}));
+        EXPECT_EQ(service.TestFrequencyText[6], (TestFrequencyTexts{"0", "0"}));
         EXPECT_NE(radio->Out().find("] > 10 10 (Set channel 16)\n"), std::string::npos);
         EXPECT_EQ(radio->Out().find("(End)"), std::string::npos) << "the radio stays in its mode";
     }
@@ -223,7 +228,7 @@ TEST_F(ServiceSession, InformationFollowsATestModeEntryThatWasLeftOpen) {
     StartRadio({});
     const std::unique_ptr<SerialPort> port = MakePort();
     EntryListener listener;
-    EntryEngine engine(session, *port, Clock(), user, listener);
+    EntryEngine engine(document, service, LinkOver(*port), listener);
     engine.StartTestMode();
     ASSERT_TRUE(Soon([&] { return listener.isTestModeReady; })) << radio->Out();
     engine.StartInformation();
@@ -234,13 +239,13 @@ TEST_F(ServiceSession, InformationFollowsATestModeEntryThatWasLeftOpen) {
 class TuningRun : public ServiceSession {
 protected:
     void EnterTestMode() {
-        EntryEngine engine(session, *entryPort, Clock(), user, entry);
+        EntryEngine engine(document, service, LinkOver(*entryPort), entry);
         engine.StartTestMode();
         ASSERT_TRUE(Soon([&] { return entry.isTestModeReady; })) << radio->Out();
     }
 
     void StartTuning(TestEngine& engine, int item) {
-        session.Service.TuneItem = item;
+        service.TuneItem = item;
         test.isTuningReady = false;
         engine.Tune();
         ASSERT_TRUE(Soon([&] { return test.isTuningReady; })) << radio->Out();
@@ -252,7 +257,7 @@ protected:
         TuningListener dialog;
         dialog.oldValues = {0x43, 0x45, 0x44, 0x43, 0x42, 0x41};
         dialog.values = dialog.oldValues;
-        TuningEngine engine(session, *port, Clock(), user, {TuningKind::Points, 18, {18, 48, 51, 49, 52, 50}}, dialog,
+        TuningEngine engine(service, LinkOver(*port), {TuningKind::Points, 18, {18, 48, 51, 49, 52, 50}}, dialog,
                             dialog);
         engine.Load();
         engine.ChangePage(1);
@@ -269,7 +274,7 @@ protected:
     void RunSession(TuningEngine::Ending ending, int stored) {
         ASSERT_NO_FATAL_FAILURE(EnterTestMode());
         const std::unique_ptr<SerialPort> port = MakePort();
-        TestEngine engine(session, *port, Clock(), user, test);
+        TestEngine engine(document, service, LinkOver(*port), test);
         engine.Load();
         ASSERT_TRUE(RadioSoonPrints({"] > 11 01 (Set signalling 1)\n"})) << radio->Out();
         engine.PressPtt();
@@ -279,9 +284,9 @@ protected:
             << radio->Out();
         ASSERT_NO_FATAL_FAILURE(StartTuning(engine, 1));
         ASSERT_NO_FATAL_FAILURE(TuneHighPower(ending));
-        session.Image.Set(0x185, 0x00);
+        document.Image.Set(0x185, 0x00);
         ASSERT_NO_FATAL_FAILURE(StartTuning(engine, 1));
-        EXPECT_EQ(session.Image.At(0x185), stored) << "what the next Read tuning data brings";
+        EXPECT_EQ(document.Image.At(0x185), stored) << "what the next Read tuning data brings";
         engine.Close();
         ASSERT_TRUE(RadioSoonPrints({"] > 45 (End)\n"})) << radio->Out();
         EXPECT_FALSE(test.isUnloadRequested);
@@ -331,14 +336,14 @@ TEST_F(TuningRun, AMeasuredItemIsMeasuredAgainAndAgainAndItsLastValueStored) {
     StartRadio({});
     ASSERT_NO_FATAL_FAILURE(EnterTestMode());
     const std::unique_ptr<SerialPort> port = MakePort();
-    TestEngine engine(session, *port, Clock(), user, test);
+    TestEngine engine(document, service, LinkOver(*port), test);
     engine.Load();
     ASSERT_TRUE(RadioSoonPrints({"] > 11 01 (Set signalling 1)\n"})) << radio->Out();
     ASSERT_NO_FATAL_FAILURE(StartTuning(engine, 12));
     TuningListener dialog;
     {
         const std::unique_ptr<SerialPort> tuningPort = MakePort();
-        TuningEngine tuning(session, *tuningPort, Clock(), user, {TuningKind::Measured, 28, {28}}, dialog, dialog);
+        TuningEngine tuning(service, LinkOver(*tuningPort), {TuningKind::Measured, 28, {28}}, dialog, dialog);
         tuning.Load();
         tuning.ToggleMeasuring();
         ASSERT_TRUE(Soon([&] { return dialog.measured.size() >= 2; })) << radio->Out();
@@ -348,7 +353,7 @@ TEST_F(TuningRun, AMeasuredItemIsMeasuredAgainAndAgainAndItsLastValueStored) {
     }
     EXPECT_GT(dialog.measured[1], 100);
     ASSERT_NO_FATAL_FAILURE(StartTuning(engine, 12));
-    EXPECT_EQ(session.Image.At(0x1AC), dialog.measured[1]);
+    EXPECT_EQ(document.Image.At(0x1AC), dialog.measured[1]);
     engine.Close();
 }
 

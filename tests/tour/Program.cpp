@@ -7,9 +7,12 @@
 #include <memory>
 #include <utility>
 
-#include "data/Session.h"
+#include "controls/WindowState.h"
+#include "data/Document.h"
 #include "help/QtHelpViewer.h"
+#include "link/LinkState.h"
 #include "platform/QtServices.h"
+#include "service/ServiceState.h"
 #include "shell/MDIForm1.h"
 #include "tour/User.h"
 #include "tour/WindowOnTop.h"
@@ -20,8 +23,11 @@ namespace zelvor::tour {
 struct Program::Parts {
     QtHelpViewer help;
     QtServices services{help};
-    Session session;
-    MDIForm1 mainWindow{session, services.Get()};
+    Document document;
+    WindowState windows;
+    LinkState link;
+    ServiceState service;
+    MDIForm1 mainWindow{{document, windows, link, service}, services.Get()};
     bool hasEnded = false;
 };
 
@@ -48,7 +54,7 @@ QByteArray Program::Image() const {
     return windows_.Ask([this] {
         QByteArray bytes;
         for (int address = 0; address < static_cast<int>(DataImage::Size); ++address) {
-            bytes.append(static_cast<char>(parts_->session.Image.At(address)));
+            bytes.append(static_cast<char>(parts_->document.Image.At(address)));
         }
         return bytes;
     });

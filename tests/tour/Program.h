@@ -6,14 +6,13 @@
 namespace zelvor {
 class MDIForm1;
 class QtServices;
-class Session;
 } // namespace zelvor
 
 namespace zelvor::tour {
 
 class WindowThread;
 
-/// The program as main() builds it, in this process: session, services of the machine, main window. Its functions are
+/// The program as main() builds it, in this process: states, services of the machine, main window. Its functions are
 /// called by the script's thread.
 class Program {
 public:
