@@ -127,6 +127,7 @@ void ChannelEditPanel::BuildFields() {
 void ChannelEditPanel::BuildToneLists() {
     for (FieldList* list : {comDecode, comEncode}) {
         auto* box = new FilteredLineEdit(list);
+        box->setAccessibleName(list->accessibleName());
         TakeToneKeys(*box);
         list->setLineEdit(box);
         list->setInsertPolicy(QComboBox::NoInsert);

@@ -1,5 +1,7 @@
 #include "platform/Toolkit.h"
 
+#include <QRegularExpression>
+
 namespace zelvor {
 
 QString ToQString(std::string_view text) {
@@ -17,6 +19,11 @@ QStringList ToQStrings(std::span<const std::string> texts) {
         list.append(ToQString(text));
     }
     return list;
+}
+
+QString SpokenName(QString caption) {
+    static const QRegularExpression behind(QStringLiteral("\\(&.\\)$"));
+    return caption.remove(behind).remove(u'&');
 }
 
 } // namespace zelvor

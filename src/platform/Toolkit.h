@@ -13,4 +13,7 @@ namespace zelvor {
 [[nodiscard]] std::string FromQString(const QString& text);
 [[nodiscard]] QStringList ToQStrings(std::span<const std::string> texts);
 
+/// A name for assistive technology out of a caption: without the mark of its access key, "&Toolbar" or "工具栏(&T)".
+[[nodiscard]] QString SpokenName(QString caption);
+
 } // namespace zelvor

@@ -50,10 +50,6 @@ QPushButton* MakeButton(const QString& name, const QString& text, QWidget* paren
     return button;
 }
 
-QString SpokenName(QString caption) {
-    return caption.remove(u'&');
-}
-
 void AlignButtons(QWidget& window) {
     const QList<QPushButton*> buttons = window.findChildren<QPushButton*>();
     QSize size;

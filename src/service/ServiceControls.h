@@ -21,9 +21,6 @@ void OnEnter(QWidget& control, const std::function<void()>& act);
 /// they send cannot be taken back, and Enter from elsewhere sends nothing.
 [[nodiscard]] QPushButton* MakeButton(const QString& name, const QString& text, QWidget* parent);
 
-/// A name for assistive technology out of a caption: without the mark of its access key.
-[[nodiscard]] QString SpokenName(QString caption);
-
 /// Gives all buttons of a window one size, in which every caption has room.
 void AlignButtons(QWidget& window);
 

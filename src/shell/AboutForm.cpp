@@ -4,6 +4,7 @@
 #include <QIcon>
 #include <QLabel>
 #include <QPushButton>
+#include <string_view>
 
 #include "controls/FitToScreen.h"
 #include "platform/Toolkit.h"
@@ -15,6 +16,7 @@ namespace zelvor {
 namespace {
 
 constexpr TextPair Caption{"About Zelvor", "关于 Zelvor"};
+constexpr std::string_view PictureName = "Zelvor";
 constexpr TextPair About{"Zelvor RADIO PROGRAMMING SOFTWARE\n"
                          "FOR 4618/4613/4617/5618/5613/5617\n"
                          "\n"
@@ -38,6 +40,7 @@ AboutForm::AboutForm(Language language, QWidget* parent) : QDialog(parent) {
 
     auto* picture = new QLabel(this);
     picture->setPixmap(MakeIcon(IconShape::Application).pixmap(QSize(PictureSize, PictureSize), devicePixelRatioF()));
+    picture->setAccessibleName(ToQString(PictureName));
     auto* lblAbout = new QLabel(ToQString(About.In(language)), this);
     lblAbout->setObjectName("LblAbout");
     auto* cmdClose = new QPushButton(ToQString(TableText(language, Text::CloseButton)), this);

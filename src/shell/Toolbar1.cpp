@@ -73,6 +73,7 @@ void Toolbar1::AddButton(const Command& command, const RunCommand& run) {
 }
 
 void Toolbar1::ApplyToolTips(Language language) {
+    setAccessibleName(SpokenName(ToQString(TableText(language, Text::MenuToolbar))));
     for (const auto& [action, text] : toolTips_) {
         const QString toolTip = ToQString(TableText(language, text));
         action->setText(toolTip);
