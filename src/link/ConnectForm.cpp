@@ -115,7 +115,7 @@ void ConnectForm::BuildControls() {
     prgValue_->setAccessibleName(windowTitle());
 
     buttons_ = MakeDialogButtons(*this, language_);
-    connect(buttons_.cmdOK, &QPushButton::clicked, this, [this] { engine_.Start(); });
+    connect(buttons_.cmdOK, &QPushButton::clicked, this, &ConnectForm::Confirm);
     connect(buttons_.cmdCancel, &QPushButton::clicked, this, [this] { engine_.Cancel(); });
     connect(buttons_.cmdHelp, &QPushButton::clicked, this, &ConnectForm::ShowHelp);
 
@@ -134,6 +134,13 @@ void ConnectForm::BuildStatus() {
     labStatus_->setFixedWidth(std::max(labStatus_->sizeHint().width(), PixelsOfTwips(BarWidthTwips)));
     labStatus_->setWordWrap(true);
     labStatus_->setMinimumHeight(StatusLines * labStatus_->fontMetrics().lineSpacing());
+}
+
+void ConnectForm::Confirm() {
+    if (engine_.MayUnload()) { // no transfer runs
+        emit Confirmed();
+        engine_.Start();
+    }
 }
 
 void ConnectForm::ShowProgress() {

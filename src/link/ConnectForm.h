@@ -30,6 +30,8 @@ public:
     void reject() override;
 
 signals:
+    /// cmdOK was pressed: the transfer begins when this returns, and the port is not open yet.
+    void Confirmed();
     /// All 1024 bytes are in the image, the write flags are cleared and the document is "Zelvor.dat": the grid is to be
     /// decoded and the main window's caption to be set. The dialog is still up.
     void ReadCompleted();
@@ -52,6 +54,7 @@ private:
 
     void BuildControls();
     void BuildStatus();
+    void Confirm();
     void ShowProgress();
     void ShowHelp();
     void Unload();

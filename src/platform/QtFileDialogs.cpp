@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QUrl>
 #include <utility>
 
 #include "platform/StartDirectory.h"
@@ -45,10 +46,11 @@ QtFileDialogs::QtFileDialogs() : QtFileDialogs(StartDirectoryFor(QCoreApplicatio
 QtFileDialogs::QtFileDialogs(QString startDirectory) : startDirectory_(std::move(startDirectory)) {}
 
 std::optional<std::string> QtFileDialogs::Open(const FileDialogRequest& request) {
-    return Ask(request, [](QFileDialog& dialog) {
+    return Ask(request, [this](QFileDialog& dialog) {
         dialog.setAcceptMode(QFileDialog::AcceptOpen);
         dialog.setFileMode(QFileDialog::ExistingFile);
         LetTypedNamesOpen(dialog);
+        OfferFolder(dialog);
     });
 }
 
@@ -60,7 +62,7 @@ std::optional<std::string> QtFileDialogs::Save(const FileDialogRequest& request)
     });
 }
 
-std::optional<std::string> QtFileDialogs::Ask(const FileDialogRequest& request, SetUp setUp) {
+std::optional<std::string> QtFileDialogs::Ask(const FileDialogRequest& request, const SetUp& setUp) {
     const std::optional<QString> file = question_.Ask([&](QFileDialog& dialog) {
         dialog.setObjectName(QStringLiteral("dlgFile"));
         setUp(dialog);
@@ -71,6 +73,21 @@ std::optional<std::string> QtFileDialogs::Ask(const FileDialogRequest& request, 
     }
     QDir::setCurrent(QFileInfo(*file).absolutePath());
     return FromQString(QDir::toNativeSeparators(*file));
+}
+
+void QtFileDialogs::OfferFolder(QFileDialog& dialog) const {
+    const QUrl folder = QUrl::fromLocalFile(offered_);
+    QList<QUrl> places = dialog.sidebarUrls();
+    if (offered_.isEmpty() || !QFileInfo(offered_).isDir() || places.contains(folder)) {
+        return;
+    }
+    places.append(folder);
+    dialog.setSidebarUrls(places);
+    QObject::connect(&dialog, &QDialog::finished, &dialog, [&dialog, folder] {
+        QList<QUrl> left = dialog.sidebarUrls(); // with what the user has changed
+        left.removeAll(folder);
+        dialog.setSidebarUrls(left);
+    });
 }
 
 void QtFileDialogs::Preset(QFileDialog& dialog, const FileDialogRequest& request) const {

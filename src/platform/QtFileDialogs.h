@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QString>
+#include <functional>
+#include <utility>
 
 #include "platform/FileDialogs.h"
 #include "platform/FileQuestion.h"
@@ -16,15 +18,22 @@ public:
     QtFileDialogs();
     explicit QtFileDialogs(QString startDirectory);
 
+    /// The folder that the side bar of the dialogs for opening offers, behind all that is in it, while it is there. The
+    /// toolkit's programs share what their side bars hold: this entry is this program's alone. A system's dialogs have
+    /// side bars of their own.
+    void OfferToOpen(QString folder) { offered_ = std::move(folder); }
+
     [[nodiscard]] std::optional<std::string> Open(const FileDialogRequest& request) override;
     [[nodiscard]] std::optional<std::string> Save(const FileDialogRequest& request) override;
 
 private:
-    using SetUp = void (*)(QFileDialog& dialog);
-    std::optional<std::string> Ask(const FileDialogRequest& request, SetUp setUp);
+    using SetUp = std::function<void(QFileDialog& dialog)>;
+    std::optional<std::string> Ask(const FileDialogRequest& request, const SetUp& setUp);
+    void OfferFolder(QFileDialog& dialog) const;
     void Preset(QFileDialog& dialog, const FileDialogRequest& request) const;
 
     QString startDirectory_;
+    QString offered_;
     FileQuestion question_;
 };
 

@@ -3,6 +3,7 @@
 #include "platform/QtClock.h"
 #include "platform/QtFileDialogs.h"
 #include "platform/QtFileStore.h"
+#include "platform/QtFolder.h"
 #include "platform/QtMessageBoxes.h"
 #include "platform/QtPageDevice.h"
 #include "platform/QtSerialPorts.h"
@@ -30,7 +31,8 @@ private:
     HelpViewer& help_;
     QtPageDevice pages_;
     QtFileStore store_;
-    Services services_{ports_, settings_, messages_, files_, clock_, help_, pages_, store_};
+    QtFolder backups_;
+    Services services_{ports_, settings_, messages_, files_, clock_, help_, pages_, store_, backups_};
 };
 
 } // namespace zelvor

@@ -5,6 +5,7 @@ namespace zelvor {
 class Clock;
 class FileDialogs;
 class FileStore;
+class Folder;
 class HelpViewer;
 class MessageBoxes;
 class PageDevice;
@@ -21,6 +22,7 @@ struct Services {
     HelpViewer& help;
     PageDevice& pages;
     FileStore& store;
+    Folder& backups; // for Backups
 };
 
 } // namespace zelvor

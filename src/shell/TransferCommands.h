@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Backups.h"
 #include "shell/ProgramState.h"
 
 class QWidget;
@@ -9,7 +10,8 @@ namespace zelvor {
 class DocumentView;
 struct Services;
 
-/// Read from Radio and Write to Radio.
+/// Read from Radio and Write to Radio. A backup is kept of every image that was read, and of every one before it is
+/// written; where that fails, nothing is said.
 class TransferCommands {
 public:
     TransferCommands(const ProgramState& state, Services& services, DocumentView& view, QWidget& mainWindow);
@@ -25,6 +27,7 @@ private:
     Services& services_;
     DocumentView& view_;
     QWidget& mainWindow_;
+    Backups backups_;
 };
 
 } // namespace zelvor

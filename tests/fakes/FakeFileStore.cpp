@@ -30,6 +30,16 @@ void FakeFileStore::Put(const std::string& path, std::string_view content) {
     files_[path].assign(content.begin(), content.end());
 }
 
+std::vector<std::string> FakeFileStore::NamesIn(const std::string& folder) const {
+    std::vector<std::string> names;
+    for (const auto& [path, bytes] : files_) {
+        if (path.starts_with(folder + '/') && path.find('/', folder.size() + 1) == std::string::npos) {
+            names.push_back(path.substr(folder.size() + 1));
+        }
+    }
+    return names;
+}
+
 std::string FakeFileStore::Content(const std::string& path) const {
     const auto found = files_.find(path);
     return found == files_.end() ? std::string() : std::string(found->second.begin(), found->second.end());

@@ -19,6 +19,9 @@ public:
     void Put(const std::string& path, std::string_view content);
     /// From now on the path can be neither read nor written.
     void Refuse(const std::string& path) { refused_.insert(path); }
+    void Remove(const std::string& path) { files_.erase(path); }
+    /// Of the files whose path is folder, a slash and a name.
+    [[nodiscard]] std::vector<std::string> NamesIn(const std::string& folder) const;
     [[nodiscard]] bool Has(const std::string& path) const { return files_.contains(path); }
     /// Empty where there is no such file.
     [[nodiscard]] std::string Content(const std::string& path) const;

@@ -3,6 +3,7 @@
 #include "fakes/FakeClock.h"
 #include "fakes/FakeFileDialogs.h"
 #include "fakes/FakeFileStore.h"
+#include "fakes/FakeFolder.h"
 #include "fakes/FakeHelpViewer.h"
 #include "fakes/FakeMessageBoxes.h"
 #include "fakes/FakePageDevice.h"
@@ -22,8 +23,9 @@ struct FakeServices {
     FakeHelpViewer help;
     FakePageDevice pages;
     FakeFileStore store;
+    FakeFolder backups{store};
 
-    Services services{ports, settings, messages, files, clock, help, pages, store};
+    Services services{ports, settings, messages, files, clock, help, pages, store, backups};
 
     FakeServices() = default;
     FakeServices(const FakeServices&) = delete;

@@ -22,6 +22,7 @@
 
 #include "ModalDriver.h"
 #include "platform/QtFileDialogs.h"
+#include "platform/QtFolder.h"
 #include "platform/StartDirectory.h"
 #include "platform/ToolkitSettings.h"
 #include "support/QtPrinting.h"
@@ -120,6 +121,73 @@ TEST_F(QtFileDialogsInUse, StartInTheProgramsFolderWithNoneTold) {
     QtFileDialogs dialogs(folder_.path());
     WillLook([&](QFileDialog& dialog) { EXPECT_EQ(dialog.directory().path(), folder_.path()); });
     EXPECT_EQ(dialogs.Open({"", "QPK Data Files(*.dat)|*.dat", ""}), std::nullopt);
+}
+
+TEST_F(QtFileDialogsInUse, OfferAFolderToOpenFilesOfBehindWhatTheSideBarHolds) {
+    ASSERT_TRUE(QDir(folder_.path()).mkdir("backups"));
+    QList<QUrl> usual;
+    WillLook([&](QFileDialog& dialog) { usual = dialog.sidebarUrls(); });
+    EXPECT_EQ(dialogs_.Open(Request()), std::nullopt);
+    EXPECT_FALSE(usual.isEmpty());
+    dialogs_.OfferToOpen(folder_.filePath("backups"));
+    for (int i = 0; i < 2; ++i) {
+        WillLook([&](QFileDialog& dialog) {
+            EXPECT_EQ(dialog.sidebarUrls(), usual + QList<QUrl>{QUrl::fromLocalFile(folder_.filePath("backups"))});
+        });
+        EXPECT_EQ(dialogs_.Open(Request()), std::nullopt);
+    }
+}
+
+TEST_F(QtFileDialogsInUse, OfferTheFolderInNoDialogForSavingAndToNoOtherProgram) {
+    ASSERT_TRUE(QDir(folder_.path()).mkdir("backups"));
+    const QUrl backups = QUrl::fromLocalFile(folder_.filePath("backups"));
+    dialogs_.OfferToOpen(folder_.filePath("backups"));
+    WillLook([&](QFileDialog& dialog) { EXPECT_TRUE(dialog.sidebarUrls().contains(backups)); });
+    EXPECT_EQ(dialogs_.Open(Request()), std::nullopt);
+    WillLook([&](QFileDialog& dialog) { EXPECT_FALSE(dialog.sidebarUrls().contains(backups)); });
+    EXPECT_EQ(dialogs_.Save(Request()), std::nullopt);
+    const QFileDialog other;
+    EXPECT_FALSE(other.sidebarUrls().isEmpty());
+    EXPECT_FALSE(other.sidebarUrls().contains(backups));
+}
+
+TEST_F(QtFileDialogsInUse, OfferNoFolderThatIsNotThereYet) {
+    dialogs_.OfferToOpen(folder_.filePath("backups"));
+    WillLook([&](QFileDialog& dialog) {
+        EXPECT_FALSE(dialog.sidebarUrls().contains(QUrl::fromLocalFile(folder_.filePath("backups"))));
+    });
+    EXPECT_EQ(dialogs_.Open(Request()), std::nullopt);
+    EXPECT_FALSE(QFile::exists(folder_.filePath("backups")));
+}
+
+TEST_F(QtFileDialogsInUse, LeaveAPlaceThatTheUserHasPutIntoTheSideBarHimself) {
+    ASSERT_TRUE(QDir(folder_.path()).mkdir("backups"));
+    const QUrl backups = QUrl::fromLocalFile(folder_.filePath("backups"));
+    QList<QUrl> before;
+    WillLook([&](QFileDialog& dialog) {
+        before = dialog.sidebarUrls();
+        dialog.setSidebarUrls(QList<QUrl>{backups} + before);
+    });
+    EXPECT_EQ(dialogs_.Open(Request()), std::nullopt);
+    dialogs_.OfferToOpen(folder_.filePath("backups"));
+    for (int i = 0; i < 2; ++i) {
+        WillLook([&](QFileDialog& dialog) {
+            EXPECT_EQ(dialog.sidebarUrls(), QList<QUrl>{backups} + before);
+            if (i == 1) {
+                dialog.setSidebarUrls(before); // as it was, for the other tests
+            }
+        });
+        EXPECT_EQ(dialogs_.Open(Request()), std::nullopt);
+    }
+}
+
+TEST_F(QtFileDialogsInUse, BackupsAreInTheUsersLocalData) {
+    const QByteArray data = qgetenv("XDG_DATA_HOME");
+    qputenv("XDG_DATA_HOME", folder_.path().toLocal8Bit());
+    EXPECT_EQ(BackupFolderPath(), folder_.filePath("Zelvor/backups"));
+    qunsetenv("XDG_DATA_HOME");
+    EXPECT_EQ(BackupFolderPath(), QDir::home().filePath(".local/share/Zelvor/backups"));
+    qputenv("XDG_DATA_HOME", data);
 }
 
 TEST_F(QtFileDialogsInUse, StartInDocumentsWhereTheProgramsFolderCannotBeWrittenTo) {

@@ -11,6 +11,7 @@
 #include "fakes/FakeClock.h"
 #include "fakes/FakeFileDialogs.h"
 #include "fakes/FakeFileStore.h"
+#include "fakes/FakeFolder.h"
 #include "fakes/FakeHelpViewer.h"
 #include "fakes/FakeMessageBoxes.h"
 #include "fakes/FakePageDevice.h"
@@ -47,7 +48,8 @@ public:
     FakeHelpViewer help;
     FakePageDevice pages;
     FakeFileStore store;
-    Services services{ports, settings, messages, files, clock, help, pages, store}; // for a window
+    FakeFolder backups{store};
+    Services services{ports, settings, messages, files, clock, help, pages, store, backups}; // for a window
 
     /// Every command as it was sent, and when it was.
     std::vector<std::string> sent;

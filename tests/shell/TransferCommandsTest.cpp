@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "link/ScriptedRadio.h"
+#include "platform/DataFiles.h"
 #include "shell/ShellTest.h"
 
 namespace zelvor {
@@ -40,7 +41,13 @@ protected:
         return qobject_cast<QMdiSubWindow*>(Child("ChannelForm")->parentWidget());
     }
 
-private:
+    using Names = std::vector<std::string>;
+
+    /// The image in a backup; all 0xFF where there is none.
+    [[nodiscard]] DataImage Backup(const std::string& name) {
+        return ReadDataFile(fakes.store, "/backups/" + name).image;
+    }
+
     ScriptedRadio radio_{fakes.clock, fakes.ports};
 };
 
@@ -159,6 +166,88 @@ TEST_F(TransferCommandsTest, AWriteIsRefusedWhileAnEditorsSettingIsIncorrect) {
     Choose("MnuProgramWrite");
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     EXPECT_TRUE(fakes.ports.Record("MSComm1").log.empty());
+}
+
+TEST_F(TransferCommandsTest, AReadIsKeptAsABackupOnceTheUserHasSeenItsEnd) {
+    OpenMainWindow();
+    ConnectRadio();
+    radio_.Memory[0x3FF] = 0x5A;
+    fakes.clock.SetNow({2026, 11, 22, 1, 45, 2});
+    fakes.messages.Expect(ReadDone, [this] {
+        EXPECT_EQ(fakes.backups.FileNames(), Names{});
+        return MessageAnswer::Ok;
+    });
+    Transfer("MnuProgramRead");
+    EXPECT_EQ(fakes.backups.FileNames(), Names{"2026-11-22T014502-5618-M-read.dat"});
+    const DataImage::Bytes kept = Backup("2026-11-22T014502-5618-M-read.dat").ToAddressOrder();
+    EXPECT_TRUE(std::equal(kept.begin(), kept.end(), radio_.Memory.begin()));
+}
+
+TEST_F(TransferCommandsTest, AWriteIsKeptAsABackupBeforeItsPortIsOpened) {
+    OpenMainWindow();
+    ConnectRadio();
+    document.Image.Set(0x1BD, 33);
+    document.Image.Set(0x01C, 0x77); // a write sets this byte in the document
+    const DataImage before = document.Image;
+    fakes.clock.SetNow({2026, 11, 22, 1, 45, 2});
+    Names logWhenKept;
+    fakes.backups.OnHold = [&] { logWhenKept = fakes.ports.Record("MSComm1").log; };
+    fakes.messages.Expect(WriteDone, MessageAnswer::Ok);
+    Transfer("MnuProgramWrite");
+    EXPECT_EQ(fakes.backups.FileNames(), Names{"2026-11-22T014502-5618-M-write.dat"});
+    EXPECT_EQ(Backup("2026-11-22T014502-5618-M-write.dat"), before);
+    ASSERT_FALSE(logWhenKept.empty());
+    EXPECT_EQ(logWhenKept.back(), "close");
+    EXPECT_EQ(std::count(logWhenKept.begin(), logWhenKept.end(), "open"), 1); // the dialog's trial
+}
+
+TEST_F(TransferCommandsTest, ARetriedWriteIsKeptOnce) {
+    OpenMainWindow();
+    ConnectRadio();
+    document.Image.Set(0x1BD, 33);
+    radio_.Spoil(9, Fault::Drop);
+    fakes.messages.Expect(NoAnswer, MessageAnswer::Retry);
+    fakes.messages.Expect(WriteDone, MessageAnswer::Ok);
+    Transfer("MnuProgramWrite");
+    EXPECT_EQ(radio_.FaultsFired(), 1);
+    EXPECT_EQ(fakes.backups.FileNames().size(), 1U);
+}
+
+TEST_F(TransferCommandsTest, NothingIsKeptOfATransferThatDoesNotBegin) {
+    OpenMainWindow();
+    for (const char* entry : {"MnuProgramRead", "MnuProgramWrite"}) {
+        ChooseDialog(entry, [](QWidget& dialog) { Click(dialog, "cmdCancel"); });
+    }
+    EXPECT_EQ(fakes.backups.FileNames(), Names{});
+}
+
+TEST_F(TransferCommandsTest, NothingIsKeptOfAReadThatFails) {
+    OpenMainWindow();
+    ConnectRadio();
+    radio_.Spoil(20, Fault::Drop);
+    fakes.messages.Expect(NoAnswer, MessageAnswer::Cancel);
+    Transfer("MnuProgramRead");
+    EXPECT_EQ(fakes.backups.FileNames(), Names{});
+}
+
+TEST_F(TransferCommandsTest, ABackupThatCannotBeKeptChangesNothing) {
+    OpenMainWindow();
+    ConnectRadio();
+    fakes.messages.Expect(ReadDone, MessageAnswer::Ok);
+    Transfer("MnuProgramRead");
+    const Names readLog = fakes.ports.Record("MSComm1").log;
+    fakes.messages.Expect(WriteDone, MessageAnswer::Ok);
+    Transfer("MnuProgramWrite");
+    const Names writeLog = fakes.ports.Record("MSComm1").log;
+    fakes.backups.Refuse();
+    fakes.messages.Expect(ReadDone, MessageAnswer::Ok);
+    Transfer("MnuProgramRead");
+    EXPECT_EQ(fakes.ports.Record("MSComm1").log, readLog);
+    fakes.messages.Expect(WriteDone, MessageAnswer::Ok);
+    Transfer("MnuProgramWrite");
+    EXPECT_EQ(fakes.ports.Record("MSComm1").log, writeLog);
+    EXPECT_EQ(fakes.backups.FileNames().size(), 2U);
+    EXPECT_EQ(document.FileName(), "Zelvor.dat");
 }
 
 } // namespace
