@@ -46,7 +46,7 @@ protected:
 
     /// A data file of 1024 bytes `fill` behind the head.
     [[nodiscard]] fs::path MakeDataFile(const char* name, char fill, std::size_t size = 1024) const {
-        const fs::path path = directory / name;
+        fs::path path = directory / name;
         std::ofstream(path, std::ios::binary) << "RQ6152" << std::string(10, '\xFF') << std::string(size, fill);
         return path;
     }
@@ -274,6 +274,10 @@ TEST_F(ZelvorRadioTest, RefusesBadArgumentsWithOneLineAHintAndCodeTwo) {
         {"--fault", "cut:999@17"},
         {"--fault", "drop@1", "drop@2"},
         {"--unplugged", "-1"},
+        {"--serve-many", "0"},
+        {"--serve-many", "-3"},
+        {"--serve-many", "many"},
+        {"--serve-many"},
         {"--nonsense"},
         {"stray"},
     };
@@ -298,7 +302,7 @@ TEST_F(ZelvorRadioTest, RefusesAFileThatIsNoDataFileWithCodeTwo) {
 TEST_F(ZelvorRadioTest, HelpAndVersionGoToStandardOutput) {
     RadioProcess help(directory, {"--help"});
     EXPECT_EQ(help.ExitCode(), 0);
-    for (const char* option : {"--port", "--load", "--save", "--trace", "--fault"}) {
+    for (const char* option : {"--port", "--load", "--save", "--trace", "--fault", "--serve-many"}) {
         EXPECT_NE(help.Out().find(option), std::string::npos) << option;
     }
     RadioProcess version(directory, {"--version"});
@@ -315,6 +319,94 @@ TEST_F(ZelvorRadioTest, ASaveThatFailsIsCodeOne) {
     radio.Signal(SIGTERM);
     EXPECT_EQ(radio.ExitCode(), 1);
     EXPECT_NE(radio.Err().find("place.dat"), std::string::npos);
+}
+
+TEST_F(ZelvorRadioTest, IsAFleetOfRadiosEachWithTheMemoryAsItWasLoaded) {
+    RadioProcess radio(directory, {"--load", MakeDataFile("in.dat", '\x21').string(), "--serve-many", "3"});
+    ASSERT_TRUE(radio.WaitForOut("ready: "));
+    const fs::path port = fs::read_symlink(Link());
+    for (int i = 1; i <= 3; ++i) {
+        const TerminalHost host(port);
+        Enter(host);
+        EXPECT_EQ(host.Ask({0x52, 0x02, 0x00, 0x02}, 6), (Bytes{0x57, 0x02, 0x00, 0x02, 0x21, 0x21})) << i;
+        EXPECT_EQ(host.Ask({0x57, 0x02, 0x00, 0x02, 0x33, 0x44}, 1), Acknowledged) << i;
+        host.Send({0x45});
+        Enter(host); // the port was not closed: the same radio
+        EXPECT_EQ(host.Ask({0x52, 0x02, 0x00, 0x02}, 6), (Bytes{0x57, 0x02, 0x00, 0x02, 0x33, 0x44})) << i;
+    }
+    EXPECT_EQ(radio.ExitCode(), 0);
+    EXPECT_FALSE(fs::is_symlink(Link()));
+    EXPECT_EQ(radio.Err(), "");
+}
+
+TEST_F(ZelvorRadioTest, CountsNoSessionWithoutAnEntry) {
+    RadioProcess radio(directory, {"--serve-many", "1", "--trace"});
+    ASSERT_TRUE(radio.WaitForOut("ready: "));
+    for (int i = 0; i < 3; ++i) {
+        const TerminalHost prober(Link());
+        prober.Send(Text("ATI1\r"));
+    }
+    ASSERT_TRUE(radio.WaitForOut("] ? 41 54 49 31 0D"));
+    {
+        const TerminalHost host(Link());
+        ASSERT_EQ(host.Ask(Text("TUNING "), 1), Acknowledged);
+    }
+    EXPECT_EQ(radio.ExitCode(), 0);
+    EXPECT_NE(radio.Out().find("] ! session 1 of 1 is over\n"), std::string::npos) << radio.Out();
+}
+
+TEST_F(ZelvorRadioTest, TakesWhatIsSentJustBeforeThePortIsClosed) {
+    RadioProcess radio(directory, {"--serve-many", "1", "--trace"});
+    ASSERT_TRUE(radio.WaitForOut("ready: "));
+    {
+        const TerminalHost host(Link());
+        Enter(host);
+        host.Send({0x45});
+    }
+    EXPECT_EQ(radio.ExitCode(), 0);
+    const std::size_t end = radio.Out().find("] > 45\n");
+    EXPECT_LT(end, radio.Out().find("] ! session 1 of 1 is over\n")) << radio.Out();
+}
+
+TEST_F(ZelvorRadioTest, OfAFleetSavesTheRadioThatWasUsedLast) {
+    const fs::path saved = directory / "saved.dat";
+    RadioProcess radio(
+        directory, {"--load", MakeDataFile("in.dat", '\x21').string(), "--save", saved.string(), "--serve-many", "5"});
+    ASSERT_TRUE(radio.WaitForOut("ready: "));
+    for (const std::uint8_t value : {std::uint8_t{0x33}, std::uint8_t{0x44}}) {
+        const TerminalHost host(Link());
+        Enter(host);
+        EXPECT_EQ(host.Ask({0x57, 0x02, 0x00, 0x01, value}, 1), Acknowledged);
+    }
+    ASSERT_TRUE(test::Eventually([&] {
+        const Bytes file = FileBytes(saved);
+        return file.size() == 1040 && file[16 + 0x200] == 0x44;
+    }));
+    radio.Signal(SIGTERM);
+    EXPECT_EQ(radio.ExitCode(), 0);
+    EXPECT_EQ(FileBytes(saved)[16 + 0x200], 0x44);
+    EXPECT_EQ(FileBytes(saved)[16 + 0x201], 0x21);
+}
+
+TEST_F(ZelvorRadioTest, OfAFleetCountsRepliesOnAndTakesAnUnplugForNoEnd) {
+    RadioProcess radio(directory, {"--serve-many", "2", "--fault", "unplug@5", "--unplugged", "50"});
+    ASSERT_TRUE(radio.WaitForOut("ready: "));
+    {
+        const TerminalHost host(Link());
+        Enter(host);
+    }
+    {
+        const TerminalHost host(Link());
+        ASSERT_EQ(host.Ask(Text("PROGRAM"), 1), Acknowledged);
+        host.Send({0x02});
+        ASSERT_TRUE(host.SeesHangUp());
+    }
+    ASSERT_TRUE(radio.WaitForErr("plugged in again: COM1"));
+    {
+        const TerminalHost host(Link());
+        Enter(host);
+    }
+    EXPECT_EQ(radio.ExitCode(), 0);
 }
 
 TEST_F(ZelvorRadioTest, TellsAtItsStartThatItCannotSave) {

@@ -30,6 +30,7 @@ struct Texts {
     std::string save;
     std::string linkDirectory;
     std::vector<std::string> faults;
+    int serveMany = 0;
     int unplugged = 1000;
 };
 
@@ -42,6 +43,11 @@ void Describe(CLI::App& app, Options& options, Texts& texts) {
         ->type_name("FILE.dat");
     app.add_option("--save", texts.save, "Data file to keep the memory in, after every session and at the end")
         ->type_name("FILE.dat");
+    app.add_option("--serve-many", texts.serveMany,
+                   "Be N radios, one after the other: a session ends when the program closes the port, the next one"
+                   " begins with the memory as it was loaded, and after N sessions zelvor-radio ends")
+        ->type_name("N")
+        ->check(CLI::Range(1, 1000000));
     app.add_flag("--trace", options.trace, "Print every exchange in hexadecimal, with its time in seconds");
     app.add_option("--fault", texts.faults,
                    "Spoil a reply, counted from 1: drop@N, corrupt@N, cut:BYTES@N, delay:MS@N, hang@N, unplug@N;"
@@ -81,6 +87,9 @@ OptionsResult ReadOptions(int argc, char** argv) {
     options.load = PathIfGiven(texts.load);
     options.save = PathIfGiven(texts.save);
     options.linkDirectory = texts.linkDirectory.empty() ? PortDirectory() : std::filesystem::path(texts.linkDirectory);
+    if (texts.serveMany > 0) {
+        options.serveMany = texts.serveMany;
+    }
     options.unplugged = std::chrono::milliseconds(texts.unplugged);
     for (const std::string& text : texts.faults) {
         options.faults.push_back(*ParseFault(text));

@@ -15,6 +15,7 @@ struct Options {
     std::filesystem::path linkDirectory;
     std::optional<std::filesystem::path> load;
     std::optional<std::filesystem::path> save;
+    std::optional<int> serveMany; // so many sessions, each with the memory as it was loaded, and then the end
     bool trace = false;
     std::vector<Fault> faults;
     std::chrono::milliseconds unplugged{1000}; // how long the port stays away after an unplug fault

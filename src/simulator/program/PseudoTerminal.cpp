@@ -108,6 +108,10 @@ void PseudoTerminal::Write(std::uint8_t byte) {
     [[maybe_unused]] const ssize_t count = ::write(master_, &byte, 1);
 }
 
+void PseudoTerminal::DropSent() {
+    ::tcflush(port_, TCIFLUSH);
+}
+
 LineSettings PseudoTerminal::Settings() const {
     termios settings{};
     if (::tcgetattr(master_, &settings) != 0) {

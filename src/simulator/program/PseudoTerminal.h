@@ -32,6 +32,9 @@ public:
     /// Sends a byte. Lost, as on a real line, where the other side lets its buffer run over.
     void Write(std::uint8_t byte);
 
+    /// Takes back what was sent and is not read yet.
+    void DropSent();
+
     /// How the other side has set the port.
     [[nodiscard]] LineSettings Settings() const;
 

@@ -28,7 +28,8 @@ void Tell(const std::string& text) {
 } // namespace
 
 RadioServer::RadioServer(const Options& options, const DataImage& memory)
-    : options_(options), memory_(memory), link_(options.linkDirectory, options.port), trace_(std::cout) {
+    : options_(options), loaded_(memory), radio_(FreshRadio()), link_(options.linkDirectory, options.port),
+      trace_(std::cout) {
     for (const Fault& fault : options.faults) {
         faults_.Add(fault);
     }
@@ -58,14 +59,21 @@ bool RadioServer::OpenPort() {
         terminal_.reset();
         return false;
     }
+    if (options_.serveMany && !watch_.Watch(terminal_->PortPath())) {
+        Tell("the system does not tell when the port is closed");
+        return false;
+    }
     return true;
 }
 
 bool RadioServer::Serve(const volatile std::sig_atomic_t& stop, const sigset_t& waitMask) {
-    while (stop == 0) {
+    while (stop == 0 && !IsAllServed()) {
         Wait(waitMask);
+        if (watch_.TakeRelease() && isUsed_) {
+            ChangeRadio();
+        }
         ReadPort();
-        line_.Advance(Now());
+        radio_->line.Advance(Now());
         if (plugInAt_ && *plugInAt_ <= Now()) {
             PlugInAgain();
         }
@@ -73,12 +81,37 @@ bool RadioServer::Serve(const volatile std::sig_atomic_t& stop, const sigset_t& 
     link_.Remove();
     terminal_.reset();
     TellUnusedFaults();
-    return Save();
+    // The memory of a radio that nobody has used is not to replace that of the last one.
+    return (options_.serveMany && !isUsed_) ? isSaved_ : Save() && isSaved_;
+}
+
+std::unique_ptr<RadioServer::Radio> RadioServer::FreshRadio() {
+    RadioLineListener& listener = *this;
+    return std::make_unique<Radio>(loaded_, faults_, listener);
+}
+
+void RadioServer::ChangeRadio() {
+    if (!watch_.IsInUse()) { // or what there is to read may be the next program's
+        ReadPort();
+        radio_->line.Advance(LineTime::max()); // what was handed over just before the port was closed
+    }
+    isSaved_ = Save() && isSaved_;
+    ++served_;
+    if (options_.trace) {
+        trace_.Remark(Now(),
+                      "session " + std::to_string(served_) + " of " + std::to_string(*options_.serveMany) + " is over");
+    }
+    isUsed_ = false;
+    radio_ = FreshRadio();
+    if (terminal_) {
+        terminal_->DropSent();
+    }
 }
 
 /// Until the other side sends, the next deadline comes or a signal arrives.
 void RadioServer::Wait(const sigset_t& waitMask) {
-    pollfd port{terminal_ ? terminal_->Descriptor() : -1, POLLIN, 0};
+    std::array<pollfd, 2> events{
+        {{terminal_ ? terminal_->Descriptor() : -1, POLLIN, 0}, {watch_.Descriptor(), POLLIN, 0}}};
     timespec remaining{};
     const timespec* timeout = nullptr;
     if (const std::optional<LineTime> deadline = NextDeadline()) {
@@ -87,19 +120,19 @@ void RadioServer::Wait(const sigset_t& waitMask) {
         remaining = ToTimespec(std::max(wait, Nanoseconds(0)));
         timeout = &remaining;
     }
-    ::ppoll(&port, 1, timeout, &waitMask);
+    ::ppoll(events.data(), events.size(), timeout, &waitMask);
 }
 
 void RadioServer::ReadPort() {
     if (terminal_) {
         std::array<std::uint8_t, 4096> buffer{};
         const std::size_t count = terminal_->Read(buffer);
-        line_.HostSent(std::span(buffer).first(count), Now());
+        radio_->line.HostSent(std::span(buffer).first(count), Now());
     }
 }
 
 std::optional<LineTime> RadioServer::NextDeadline() const {
-    const std::optional<LineTime> next = line_.NextDeadline();
+    const std::optional<LineTime> next = radio_->line.NextDeadline();
     if (next && plugInAt_) {
         return std::min(*next, *plugInAt_);
     }
@@ -118,6 +151,7 @@ void RadioServer::Deliver(std::uint8_t byte) {
 
 void RadioServer::Unplugged(LineTime time) {
     link_.Remove();
+    watch_.Forget();
     terminal_.reset();
     plugInAt_ = Now() + options_.unplugged;
     Remark(time, "unplugged");
@@ -149,6 +183,7 @@ void RadioServer::FaultFired(LineTime time, const Fault& fault) {
 }
 
 void RadioServer::SessionStarted() {
+    isUsed_ = true;
     const LineSettings settings = terminal_ ? terminal_->Settings() : RadioLineSettings;
     if (settings != RadioLineSettings) {
         Remark(Now(), "the port is set to " + LineSettingsText(settings) + " and not to " +
@@ -161,7 +196,7 @@ void RadioServer::SessionEnded() {
 }
 
 bool RadioServer::Save() {
-    if (!options_.save || WriteMemoryFile(*options_.save, memory_)) {
+    if (!options_.save || WriteMemoryFile(*options_.save, radio_->memory)) {
         return true;
     }
     Tell("cannot write " + options_.save->string());
