@@ -43,10 +43,6 @@ void SetBits(std::uint8_t& byte, std::uint8_t mask, int value) {
     byte = static_cast<std::uint8_t>((byte & ~mask) | (value & mask));
 }
 
-int ScanAddAddress(int k) {
-    return address::ScanAdd + (k - 1) / 8;
-}
-
 std::uint8_t ScanAddBit(int k) {
     return static_cast<std::uint8_t>(1 << ((k - 1) % 8));
 }
@@ -73,6 +69,14 @@ void CompleteWith(std::string& text, std::string_view word) {
 }
 
 } // namespace
+
+int ScanAddAddress(int k) {
+    return address::ScanAdd + (k - 1) / 8;
+}
+
+bool IsScanAdded(const DataImage& image, int k) {
+    return (image.At(ScanAddAddress(k)) & ScanAddBit(k)) != 0;
+}
 
 void SetScanAdd(DataImage& image, int k, bool added) {
     image.SetBits(ScanAddAddress(k), ScanAddBit(k), added ? 0xFF : 0x00);
@@ -112,11 +116,10 @@ void ChannelCodec::DecodeChannel(const DataImage& image, Language language, int 
     workingByte13_ = ByteOf(bytes, Transmitter);
     workingByte14_ = ByteOf(bytes, PttId);
     Texts.OptSignalText = OptSignalWord(workingByte12_, language);
-    Texts.PowerText = TableText(language, (workingByte13_ & HighPowerBit) != 0 ? Text::High : Text::Low);
-    Texts.WidthText = TableText(language, (workingByte13_ & WideBit) != 0 ? Text::Wide : Text::Narrow);
+    Texts.PowerText = PowerWord(workingByte13_, language);
+    Texts.WidthText = WidthWord(workingByte13_, language);
     Texts.PttIdText = PttIdWord(image.At(address::PttIdType), workingByte14_, language);
-    const bool scanAdd = (image.At(ScanAddAddress(k)) & ScanAddBit(k)) != 0;
-    Texts.ScanAddText = TableText(language, scanAdd ? Text::Yes : Text::No);
+    Texts.ScanAddText = TableText(language, IsScanAdded(image, k) ? Text::Yes : Text::No);
     LoadHiddenFields(image, language, k);
 }
 

@@ -40,6 +40,9 @@ inline constexpr std::array<std::string ChannelTexts::*, 9> GridTexts{
 /// The receive text of a channel without a frequency, as the decoder gives it.
 inline constexpr std::string_view NoFrequencyText = "000.00000";
 
+/// The byte that holds the Scan Add bit of channel k (1 to 16).
+[[nodiscard]] int ScanAddAddress(int k);
+[[nodiscard]] bool IsScanAdded(const DataImage& image, int k);
 /// Sets or clears the Scan Add bit of channel k (1 to 16).
 void SetScanAdd(DataImage& image, int k, bool added);
 

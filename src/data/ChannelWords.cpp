@@ -47,6 +47,14 @@ std::string_view SpMuteWord(std::uint8_t byte12, Language language) {
     }
 }
 
+std::string_view PowerWord(std::uint8_t byte13, Language language) {
+    return TableText(language, (byte13 & HighPowerBit) != 0 ? Text::High : Text::Low);
+}
+
+std::string_view WidthWord(std::uint8_t byte13, Language language) {
+    return TableText(language, (byte13 & WideBit) != 0 ? Text::Wide : Text::Narrow);
+}
+
 std::string PttIdWord(std::uint8_t type, std::uint8_t byte14, Language language) {
     if (type == TypeDtmf) {
         return std::string(TableText(language, (byte14 & PttIdOn) == PttIdOn ? Text::On : Text::Off));

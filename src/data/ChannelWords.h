@@ -10,11 +10,13 @@
 
 namespace zelvor {
 
-// The words that bytes 12, 14 and 15 of a channel record stand for. An empty text stands for no legal value.
+// The words that bytes 12 to 15 of a channel record stand for. An empty text stands for no legal value.
 
 [[nodiscard]] std::string_view OptSignalWord(std::uint8_t byte12, Language language);
 [[nodiscard]] std::string_view BusyLockWord(std::uint8_t byte12, Language language);
 [[nodiscard]] std::string_view SpMuteWord(std::uint8_t byte12, Language language);
+[[nodiscard]] std::string_view PowerWord(std::uint8_t byte13, Language language);
+[[nodiscard]] std::string_view WidthWord(std::uint8_t byte13, Language language);
 
 /// pttIdType is the image's byte at address::PttIdType; the text is empty where it is neither DTMF nor Corvane.
 [[nodiscard]] std::string PttIdWord(std::uint8_t pttIdType, std::uint8_t byte14, Language language);

@@ -16,6 +16,15 @@ int ReadStep(std::string_view text, const NumberField& field, int base) {
     return text.empty() ? 0 : std::clamp(LeadingNumber(text) - base, 1, field.last);
 }
 
+/// As it lies in the entry.
+int StoredNumber(const DataImage& image, int n, const ListNumber& field) {
+    int stored = 0;
+    for (int i = field.bytes - 1; i >= 0; --i) {
+        stored = stored * 256 + image.At(EntryAddress(n) + field.offset + i);
+    }
+    return stored;
+}
+
 } // namespace
 
 // The byte 0 is no fleet, but it shows one below the first; a fleet that is none is stored as 0xFF and shows nothing.
@@ -48,11 +57,7 @@ std::string ShowListNumber(int number, Language language) {
 }
 
 std::string LoadListNumber(const DataImage& image, int n, const ListNumber& field, Language language) {
-    const int address = EntryAddress(n) + field.offset;
-    int stored = 0;
-    for (int i = field.bytes - 1; i >= 0; --i) {
-        stored = stored * 256 + image.At(address + i);
-    }
+    const int stored = StoredNumber(image, n, field);
     if (stored == ErasedNumber[field.bytes - 1]) {
         return {};
     }
@@ -119,6 +124,11 @@ bool ParseValue(const ListNumberField& field, std::string_view text, DataImage& 
     }
     StoreListNumber(image, field.entry, *field.number, number);
     return true;
+}
+
+bool HoldsLegalValue(const ListNumberField& field, const DataImage& image) {
+    const int stored = StoredNumber(image, field.entry, *field.number);
+    return stored == ErasedNumber[field.number->bytes - 1] || stored + field.number->base <= field.number->last;
 }
 
 void StoreBlankValue(const ListNumberField& field, DataImage& image) {

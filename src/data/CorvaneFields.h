@@ -149,6 +149,7 @@ inline constexpr std::array<ListNumberField, 2 * FleetListSize> FleetList = [] {
 [[nodiscard]] std::string ShowValue(const ListNumberField& field, const DataImage& image, Language language);
 [[nodiscard]] LegalValues LegalValuesOf(const ListNumberField& field, Language language);
 [[nodiscard]] bool ParseValue(const ListNumberField& field, std::string_view text, DataImage& image);
+[[nodiscard]] bool HoldsLegalValue(const ListNumberField& field, const DataImage& image);
 void StoreBlankValue(const ListNumberField& field, DataImage& image);
 
 /// The own number and how to send.

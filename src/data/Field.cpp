@@ -135,6 +135,12 @@ bool ParseValue(const ListField& field, std::string_view text, DataImage& image)
     return true;
 }
 
+bool HoldsLegalValue(const ListField& field, const DataImage& image) {
+    const std::uint8_t byte = image.At(field.address);
+    const int entry = EntryOf(field, byte);
+    return entry != ListField::NoEntry && (byte == ErasedByte || ByteOf(field, entry) == byte);
+}
+
 void StoreBlankValue(const ListField& field, DataImage& image) {
     image.Set(field.address, ByteOf(field, field.blank).value());
 }
@@ -172,6 +178,11 @@ bool ParseValue(const CheckField& field, std::string_view text, DataImage& image
     }
     image.Set(field.address, on ? 1 : 0);
     return true;
+}
+
+bool HoldsLegalValue(const CheckField& field, const DataImage& image) {
+    const std::uint8_t byte = image.At(field.address);
+    return byte <= 1 || byte == ErasedByte;
 }
 
 void StoreBlankValue(const CheckField& field, DataImage& image) {
@@ -237,6 +248,16 @@ bool ParseValue(const NumberField& field, std::string_view text, DataImage& imag
     return false;
 }
 
+bool HoldsLegalValue(const NumberField& field, const DataImage& image) {
+    const int low = image.At(field.address);
+    const int high = field.bytes == 2 ? image.At(field.address + 1) : low;
+    if (high == ErasedByte) {
+        return low == ErasedByte && field.erased >= field.first && field.erased <= field.last;
+    }
+    const int value = field.bytes == 2 ? high * 256 + low : low;
+    return value >= field.first && value <= field.last && !(value == 0 && field.zeroByte);
+}
+
 void StoreBlankValue(const NumberField& field, DataImage& image) {
     StoreNumber(image, field, field.blank);
 }
@@ -280,6 +301,11 @@ bool ParseValue(const TextField& field, std::string_view text, DataImage& image)
     Erase(image, field);
     StoreCode(image, field, *stored);
     return true;
+}
+
+bool HoldsLegalValue(const TextField& field, const DataImage& image) {
+    const auto stored = Storable(field, LoadCode(image, field));
+    return stored && IsLegalLength(field, static_cast<int>(stored->size()));
 }
 
 void StoreBlankValue(const TextField& field, DataImage& image) {

@@ -35,6 +35,7 @@ struct LegalValues {
     bool mayBeEmpty = false;             // the empty text is one of them
     std::vector<std::string> words = {}; // values that stand by themselves
     std::optional<Range> range = {};
+    std::optional<Range> codes = {}; // beside the range
     std::optional<Characters> characters = {};
 
     bool operator==(const LegalValues&) const = default;
@@ -67,6 +68,9 @@ public:
     [[nodiscard]] bool Parse(std::string_view text, DataImage& image) const {
         return operations_->parse(row_, text, image);
     }
+    /// Whether the bytes are those of a legal value. A byte that was never stored, and shows a legal value, is one; of
+    /// a text only what it shows counts.
+    [[nodiscard]] bool HoldsLegal(const DataImage& image) const { return operations_->holdsLegal(row_, image); }
     /// Stores the value of a blank image; of a field whose value depends on the model, none.
     void StoreBlank(DataImage& image) const { operations_->storeBlank(row_, image); }
 
@@ -87,6 +91,7 @@ private:
         std::string (*show)(const void*, const DataImage&, Language);
         LegalValues (*legal)(const void*, Language);
         bool (*parse)(const void*, std::string_view, DataImage&);
+        bool (*holdsLegal)(const void*, const DataImage&);
         void (*storeBlank)(const void*, DataImage&);
     };
 
@@ -106,6 +111,7 @@ private:
         .legal = [](const void* row, Language language) { return LegalValuesOf(Of<Row>(row), language); },
         .parse = [](const void* row, std::string_view text,
                     DataImage& image) { return ParseValue(Of<Row>(row), text, image); },
+        .holdsLegal = [](const void* row, const DataImage& image) { return HoldsLegalValue(Of<Row>(row), image); },
         .storeBlank = [](const void* row, DataImage& image) { StoreBlankValue(Of<Row>(row), image); },
     };
 
@@ -122,6 +128,7 @@ private:
 [[nodiscard]] std::string ShowValue(const ListField& field, const DataImage& image, Language language);
 [[nodiscard]] LegalValues LegalValuesOf(const ListField& field, Language language);
 [[nodiscard]] bool ParseValue(const ListField& field, std::string_view text, DataImage& image);
+[[nodiscard]] bool HoldsLegalValue(const ListField& field, const DataImage& image);
 void StoreBlankValue(const ListField& field, DataImage& image);
 
 [[nodiscard]] std::string KeyOf(const CheckField& field);
@@ -132,6 +139,7 @@ void StoreBlankValue(const ListField& field, DataImage& image);
 [[nodiscard]] std::string ShowValue(const CheckField& field, const DataImage& image, Language language);
 [[nodiscard]] LegalValues LegalValuesOf(const CheckField& field, Language language);
 [[nodiscard]] bool ParseValue(const CheckField& field, std::string_view text, DataImage& image);
+[[nodiscard]] bool HoldsLegalValue(const CheckField& field, const DataImage& image);
 void StoreBlankValue(const CheckField& field, DataImage& image);
 
 [[nodiscard]] std::string KeyOf(const NumberField& field);
@@ -141,6 +149,7 @@ void StoreBlankValue(const CheckField& field, DataImage& image);
 [[nodiscard]] std::string ShowValue(const NumberField& field, const DataImage& image, Language language);
 [[nodiscard]] LegalValues LegalValuesOf(const NumberField& field, Language language);
 [[nodiscard]] bool ParseValue(const NumberField& field, std::string_view text, DataImage& image);
+[[nodiscard]] bool HoldsLegalValue(const NumberField& field, const DataImage& image);
 void StoreBlankValue(const NumberField& field, DataImage& image);
 
 /// With the number behind it where it has one: "dtmf.autodial-memory.3".
@@ -151,6 +160,7 @@ void StoreBlankValue(const NumberField& field, DataImage& image);
 [[nodiscard]] std::string ShowValue(const TextField& field, const DataImage& image, Language language);
 [[nodiscard]] LegalValues LegalValuesOf(const TextField& field, Language language);
 [[nodiscard]] bool ParseValue(const TextField& field, std::string_view text, DataImage& image);
+[[nodiscard]] bool HoldsLegalValue(const TextField& field, const DataImage& image);
 void StoreBlankValue(const TextField& field, DataImage& image);
 
 /// The rows of tables behind each other, as one table.

@@ -78,6 +78,28 @@ FrequencyBytes PackFrequency(std::int32_t tensOfHertz) {
     return bytes;
 }
 
+std::optional<std::int32_t> UnpackFrequency(std::span<const std::uint8_t, 4> bytes) {
+    std::int32_t value = 0;
+    for (std::size_t i = bytes.size(); i-- > 0;) {
+        const int high = bytes[i] >> 4;
+        const int low = bytes[i] & 0x0F;
+        if (high > 9 || low > 9) {
+            return std::nullopt;
+        }
+        value = value * 100 + high * 10 + low;
+    }
+    return value;
+}
+
+bool IsOnRaster(std::int32_t tensOfHertz) {
+    return tensOfHertz % Raster5kHz == 0 || tensOfHertz % Raster625kHz == 0;
+}
+
+bool IsInRange(std::int32_t tensOfHertz) {
+    constexpr std::int32_t UnitsPerMHz = 100'000;
+    return tensOfHertz >= LowestMHz * UnitsPerMHz && tensOfHertz <= HighestMHz * UnitsPerMHz;
+}
+
 NormalisedFrequency NormaliseFrequency(std::string_view text, const BandLimits& limits) {
     const Decimal megahertz = Decimal::Leading(text);
     const Decimal lowest = Decimal::Of(LowestMHz);

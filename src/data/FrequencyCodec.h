@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -26,6 +27,14 @@ using FrequencyBytes = std::array<std::uint8_t, 4>;
 
 /// The bytes of a frequency in units of 10 Hz, 0 to 99999999.
 [[nodiscard]] FrequencyBytes PackFrequency(std::int32_t tensOfHertz);
+
+/// A frequency in units of 10 Hz; nothing where a nibble is no digit.
+[[nodiscard]] std::optional<std::int32_t> UnpackFrequency(std::span<const std::uint8_t, 4> bytes);
+
+/// Whether a frequency in units of 10 Hz is a multiple of 5 kHz or 6.25 kHz.
+[[nodiscard]] bool IsOnRaster(std::int32_t tensOfHertz);
+/// Whether it lies in 100 to 550 MHz, the range of every radio.
+[[nodiscard]] bool IsInRange(std::int32_t tensOfHertz);
 
 /// What the raster and range rule makes of an entered text.
 struct NormalisedFrequency {

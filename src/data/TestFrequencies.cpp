@@ -1,9 +1,11 @@
 #include "data/TestFrequencies.h"
 
 #include <algorithm>
+#include <optional>
 #include <span>
 
 #include "data/FrequencyCodec.h"
+#include "data/LegalFrequency.h"
 #include "text/Decimal.h"
 #include "text/StringTable.h"
 
@@ -127,7 +129,7 @@ std::string ShowValue(const TestFrequencyField& field, const DataImage& image, L
 }
 
 LegalValues LegalValuesOf(const TestFrequencyField& /*field*/, Language /*language*/) {
-    return {.mayBeEmpty = true, .range = LegalValues::Range{"100.00000", "550.00000", "0.00500 or 0.00625"}};
+    return LegalFrequencies();
 }
 
 bool ParseValue(const TestFrequencyField& field, std::string_view text, DataImage& image) {
@@ -147,6 +149,18 @@ bool ParseValue(const TestFrequencyField& field, std::string_view text, DataImag
     (field.isTransmit ? texts.transmit : texts.receive) = typed;
     WriteTestChannel(image, field.channel, texts);
     return true;
+}
+
+bool HoldsLegalValue(const TestFrequencyField& field, const DataImage& image) {
+    if (IsTestChannelEmpty(image, field.channel)) {
+        return true;
+    }
+    FrequencyBytes bytes{};
+    for (int i = 0; i < TransmitOffset; ++i) {
+        bytes[static_cast<std::size_t>(i)] = image.At(AddressOf(field) + i);
+    }
+    const std::optional<std::int32_t> frequency = UnpackFrequency(bytes);
+    return frequency && IsInRange(*frequency) && IsOnRaster(*frequency);
 }
 
 void StoreBlankValue(const TestFrequencyField& /*field*/, DataImage& /*image*/) {}

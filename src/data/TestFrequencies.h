@@ -75,6 +75,7 @@ inline constexpr std::array<TestFrequencyField, 2 * TestChannelCount> TestFreque
 /// A frequency of the raster, in the range of every document, as "000.00000"; an empty text empties the channel. As in
 /// the window, the first frequency of an empty channel becomes both.
 [[nodiscard]] bool ParseValue(const TestFrequencyField& field, std::string_view text, DataImage& image);
+[[nodiscard]] bool HoldsLegalValue(const TestFrequencyField& field, const DataImage& image);
 void StoreBlankValue(const TestFrequencyField& field, DataImage& image);
 
 } // namespace zelvor

@@ -15,6 +15,9 @@ constexpr std::uint8_t DqtMark = 0x28; // the bits that an encoded DQT carries
 constexpr std::uint8_t InvertedBit = 0x80;
 constexpr std::uint8_t CodeHighBit = 0x01;
 
+constexpr int LowestQt = 670; // tenths of a hertz
+constexpr int HighestQt = 2541;
+
 constexpr std::array<std::string_view, 38> QtTones{
     "67.0",  "71.9",  "74.4",  "77.0",  "79.7",  "82.5",  "85.4",  "88.5",  "91.5",  "94.8",  "97.4",  "100.0", "103.5",
     "107.2", "110.9", "114.8", "118.8", "123.0", "127.3", "131.8", "136.5", "141.3", "146.2", "151.4", "156.7", "162.2",
@@ -77,10 +80,10 @@ std::string NormaliseDqt(std::string_view text) {
 
 std::string NormaliseQt(std::string_view text) {
     const Decimal value = Decimal::Leading(text);
-    if (value > Decimal::Of(2541, 1)) {
+    if (value > Decimal::Of(HighestQt, 1)) {
         return "254.1";
     }
-    if (value < Decimal::Of(670, 1)) {
+    if (value < Decimal::Of(LowestQt, 1)) {
         return "67.0";
     }
     // Half a tenth less, then rounded: further decimals are cut off.
@@ -101,6 +104,11 @@ std::optional<std::string> ToneText(ToneWord word, Language language) {
         return std::nullopt;
     }
     return Decimal::Of(tenths, 1).Format(2, 1);
+}
+
+bool IsLegalTone(ToneWord word) {
+    const int tenths = word.hi * 256 + word.lo;
+    return word.hi == 0x00 || word.hi == 0xFF || (word.hi & DqtBit) != 0 || (tenths >= LowestQt && tenths <= HighestQt);
 }
 
 ToneWord ToneEncoder::Encode(std::string_view text, Language language) {

@@ -22,6 +22,9 @@ struct ToneWord {
 /// four digits: the text decoded before then stays.
 [[nodiscard]] std::optional<std::string> ToneText(ToneWord word, Language language);
 
+/// Whether it is a tone that a user can enter, or none.
+[[nodiscard]] bool IsLegalTone(ToneWord word);
+
 /// Encodes tone texts. A DQT text with neither N nor I keeps the polarity of the text before it, so this is an object.
 class ToneEncoder {
 public:
