@@ -7,6 +7,7 @@
 #include "data/MemoryMap.h"
 #include "data/ScanFields.h"
 #include "print/ReportSections.h"
+#include "print/ReportValue.h"
 #include "print/SectionPage.h"
 
 namespace zelvor {
@@ -49,10 +50,10 @@ void AddChannelBlock(SectionPage& page, int channel, const ChannelTexts& texts, 
     right.Add(Text::BusyChannelLockout, texts.BusyLockText);
     right.Add(Text::PttIdType, texts.PttIdText);
     right.Add(Text::AutodialMemoryOfChannel, texts.AutoDialText);
-    right.Add(Text::BeatShift, page.EnabledWord(texts.BeatShiftFlag));
+    right.Add(Text::BeatShift, EnabledWord(texts.BeatShiftFlag, page.TextLanguage()));
     right.Add(Text::ScanAdd, texts.ScanAddText);
-    right.Add(Text::IsPriorityChannel, page.EnabledWord(isPriority));
-    right.Add(Text::Compander, page.EnabledWord(texts.CompanderFlag));
+    right.Add(Text::IsPriorityChannel, EnabledWord(isPriority, page.TextLanguage()));
+    right.Add(Text::Compander, EnabledWord(texts.CompanderFlag, page.TextLanguage()));
 }
 
 } // namespace

@@ -1,4 +1,3 @@
-#include <optional>
 #include <string>
 
 #include "data/CorvaneFields.h"
@@ -11,31 +10,14 @@ namespace {
 
 using namespace corvane;
 
-constexpr std::string_view NoFleet = "---";
-constexpr std::string_view NoId = "----";
-
 constexpr double ListTitleRow = 19;
 constexpr double ListHeadRow = 20;
 constexpr double FleetColumn = 30;
 constexpr double IdColumn = 50;
 
-/// What is not printed as it is shown.
-std::optional<std::string> PrintedInstead(const SectionPage& page, const Field& field) {
-    if (field.Is(&OwnFleet)) {
-        return OrElse(page.ValueOf(OwnFleet), NoFleet);
-    }
-    if (field.Is(&OwnId)) {
-        return OrElse(page.ValueOf(OwnId), NoId);
-    }
-    if (field.Is(&MessageModeTimer)) {
-        return page.ValueOrOff(MessageModeTimer);
-    }
-    return std::nullopt;
-}
-
 void AddOwn(SectionPage& page) {
     PageRows rows(page, pagecells::LabelColumn, pagecells::ValueColumn, pagecells::FirstRow);
-    rows.Add(OwnFields, [&page](const Field& field) { return PrintedInstead(page, field); });
+    rows.Add(OwnFields);
 }
 
 void AddFleetList(SectionPage& page) {

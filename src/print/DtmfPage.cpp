@@ -1,4 +1,3 @@
-#include <optional>
 #include <span>
 #include <string>
 
@@ -19,28 +18,11 @@ constexpr double DecodeValueColumn = 100;
 constexpr double AutodialRow = 23;
 constexpr double DigitsColumn = 8;
 
-/// Stands for 0. Intended: Chinese whatever the language is, as PrintedOff.
-constexpr std::string_view PrintedDCode = "D 码";
-
-/// What is not printed as it is shown.
-std::optional<std::string> PrintedInstead(const SectionPage& page, const Field& field) {
-    if (field.Is(&DCodeAssignment) && page.IsZero(DCodeAssignment)) {
-        return std::string(PrintedDCode);
-    }
-    if (field.Is(&GroupCode)) {
-        return page.ValueOrOff(GroupCode);
-    }
-    if (field.Is(&Transpond)) {
-        return page.ValueOrOff(Transpond);
-    }
-    return std::nullopt;
-}
-
 /// A title, and the fields some rows below.
 void AddFields(SectionPage& page, double column, double valueColumn, Text title, std::span<const Field> fields) {
     page.AddWord(column, pagecells::FirstRow, title);
     PageRows rows(page, column, valueColumn, FieldsRow);
-    rows.Add(fields, [&page](const Field& field) { return PrintedInstead(page, field); });
+    rows.Add(fields);
 }
 
 void AddAutodial(SectionPage& page) {
