@@ -16,9 +16,13 @@ constexpr auto NoFontText =
 
 } // namespace
 
-void TellWhereThereIsNoFont() {
+bool HasFont() {
     // The toolkit's list of families names aliases also where nothing stands behind them.
-    if (!QFontInfo(QGuiApplication::font()).family().isEmpty()) {
+    return !QFontInfo(QGuiApplication::font()).family().isEmpty();
+}
+
+void TellWhereThereIsNoFont() {
+    if (HasFont()) {
         return;
     }
     QLoggingCategory::setFilterRules(QStringLiteral("qt.text.font*=false\nqt.qpa.fonts*=false"));

@@ -2,7 +2,6 @@
 
 #include <QFileInfo>
 #include <QMarginsF>
-#include <QPageSize>
 
 namespace zelvor {
 
@@ -37,17 +36,16 @@ std::unique_ptr<PdfFile> PdfFile::Begin(const QString& file, const QPageLayout& 
     return pdf;
 }
 
-QPageLayout PdfFile::UsualLayout() {
-    return {QPageSize(QPageSize::A4), QPageLayout::Portrait,
-            QMarginsF(MarginPoints, MarginPoints, MarginPoints, MarginPoints)};
+QPageLayout PdfFile::UsualLayout(QPageSize::PageSizeId paper) {
+    return {QPageSize(paper), QPageLayout::Portrait, QMarginsF(MarginPoints, MarginPoints, MarginPoints, MarginPoints)};
 }
 
 // Without the flush an error of the last bytes would not count.
-void PdfFile::Finish() {
+bool PdfFile::Finish() {
     if (!file_.flush()) {
         file_.cancelWriting();
     }
-    file_.commit(); // where writing failed it leaves what was there
+    return file_.commit(); // where writing failed it leaves what was there
 }
 
 } // namespace zelvor

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPageLayout>
+#include <QPageSize>
 #include <QPdfWriter>
 #include <QSaveFile>
 #include <QString>
@@ -15,12 +16,12 @@ public:
     /// Null where the file cannot be written, or where there is something else than a file: a device, a folder.
     [[nodiscard]] static std::unique_ptr<PdfFile> Begin(const QString& file, const QPageLayout& layout,
                                                         const QString& title);
-    /// A4 with narrow margins.
-    [[nodiscard]] static QPageLayout UsualLayout();
+    /// Upright with narrow margins.
+    [[nodiscard]] static QPageLayout UsualLayout(QPageSize::PageSizeId paper = QPageSize::A4);
 
     [[nodiscard]] QPdfWriter& Paper() { return writer_; }
-    /// To be called when nothing is painted on it any more.
-    void Finish();
+    /// To be called when nothing is painted on it any more. False where the file could not be written.
+    bool Finish();
 
 private:
     explicit PdfFile(const QString& file);

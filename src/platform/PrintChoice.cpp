@@ -33,6 +33,12 @@ PrintChoice::PrintChoice(const QString& pdfFile, PrinterLookUp::Ask ask, std::ch
     }
 }
 
+void PrintChoice::UseLayout(const QPageLayout& layout) {
+    if (file_) {
+        file_->layout = layout;
+    }
+}
+
 void PrintChoice::FindTarget(std::function<void(const PageTarget& target)> found) {
     if (file_) {
         found(Target());

@@ -34,6 +34,8 @@ public:
     [[nodiscard]] bool ShowSetup(const QString& documentFile);
 
     [[nodiscard]] const std::optional<PdfChoice>& File() const { return file_; }
+    /// The paper of the file that is chosen.
+    void UseLayout(const QPageLayout& layout);
     /// The printer for a document of that title, with its own paper where none was chosen; null where there is none.
     /// It lives until the next one is opened.
     [[nodiscard]] QPrinter* OpenPrinter(const QString& title);

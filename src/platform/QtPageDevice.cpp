@@ -44,6 +44,7 @@ bool QtPageDevice::BeginDocument(std::string_view name) {
     if (painter_.isActive()) {
         return false;
     }
+    isWritten_ = false;
     if (const std::optional<PdfChoice>& file = choice_.File()) {
         pdf_ = PdfFile::Begin(file->file, file->layout, ToQString(name));
         paper_ = pdf_ ? &pdf_->Paper() : nullptr;
@@ -65,6 +66,7 @@ bool QtPageDevice::NewPage() {
         return true;
     }
     EndDocument();
+    isWritten_ = false;
     return false;
 }
 
@@ -72,9 +74,9 @@ void QtPageDevice::EndDocument() {
     if (!painter_.isActive()) {
         return;
     }
-    painter_.end();
+    isWritten_ = painter_.end();
     if (pdf_) {
-        pdf_->Finish();
+        isWritten_ = pdf_->Finish() && isWritten_;
         pdf_.reset();
     }
     paper_ = nullptr;

@@ -21,6 +21,10 @@ public:
     explicit QtPageDevice(const QString& pdfFile = {}, PrinterLookUp::Ask ask = zelvor::AskForPrinters,
                           std::chrono::milliseconds patience = PrinterLookUp::Patience)
         : choice_(pdfFile, std::move(ask), patience) {}
+    /// For a program that has no dialogs.
+    QtPageDevice(const QString& pdfFile, const QPageLayout& layout) : QtPageDevice(pdfFile) {
+        choice_.UseLayout(layout);
+    }
     QtPageDevice(const QtPageDevice&) = delete;
     QtPageDevice& operator=(const QtPageDevice&) = delete;
     ~QtPageDevice() override;
@@ -31,6 +35,8 @@ public:
     [[nodiscard]] bool BeginDocument(std::string_view name) override;
     [[nodiscard]] bool NewPage() override;
     void EndDocument() override;
+    /// Whether the last document came to its end and, where it went to a file, that could be written.
+    [[nodiscard]] bool IsWritten() const { return isWritten_; }
     [[nodiscard]] double PageWidth() const override;
     [[nodiscard]] double PageHeight() const override;
     void SetFont(const PageFont& font) override;
@@ -44,6 +50,7 @@ private:
     [[nodiscard]] double TwipsOf(double dots) const;
 
     PrintChoice choice_;
+    bool isWritten_ = false;
 
     // In a document.
     std::unique_ptr<PdfFile> pdf_;

@@ -1,0 +1,129 @@
+#include "cli/program/CommandLine.h"
+
+#include <QLocale>
+#include <algorithm>
+#include <iostream>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include <CLI/CLI.hpp>
+
+namespace zelvor::cli {
+
+namespace {
+
+constexpr std::string_view LanguageOption = "--language";
+
+constexpr TextPair Summary{"The workshop of Zelvor: shows, compares, checks and changes data files of two-way radios.",
+                           "Zelvor 工具：显示、比较、检查和修改对讲机的数据文件。"};
+constexpr TextPair LanguageText{"Language of texts and messages: en or zh; otherwise that of the locale",
+                                "文字和消息的语言：en 或 zh；否则按区域设置"};
+constexpr TextPair HelpText{"Print this help and end", "显示此帮助并退出"};
+constexpr TextPair VersionText{"Print the version and end", "显示版本并退出"};
+constexpr TextPair TryHelp{"Try \"zelvor-cli --help\".", "请试 \"zelvor-cli --help\"。"};
+
+// What the command line's own reader says, by its kinds of complaint; its details follow in English.
+constexpr TextPair IsMissing{"", "缺少命令或参数："};
+constexpr TextPair IsTooMuch{"", "多余的参数："};
+constexpr TextPair IsNotAllowed{"", "不允许的值："};
+constexpr TextPair IsWrong{"", "命令行有误："};
+
+std::optional<Language> LanguageOfName(std::string_view name) {
+    if (name == "zh") {
+        return Language::Chinese;
+    }
+    return name == "en" ? std::optional(Language::English) : std::nullopt;
+}
+
+Language LanguageOfLocale() {
+    return QLocale::system().uiLanguages().value(0).startsWith(u"zh") ? Language::Chinese : Language::English;
+}
+
+/// Before all else, since it is the language of the descriptions too.
+Language LookForLanguage(int argc, char** argv) {
+    for (int i = 1; i < argc; ++i) {
+        std::string_view argument = argv[i];
+        if (argument == LanguageOption && i + 1 < argc) {
+            return LanguageOfName(argv[i + 1]).value_or(LanguageOfLocale());
+        }
+        if (argument.starts_with(LanguageOption) && argument.substr(LanguageOption.size()).starts_with('=')) {
+            argument.remove_prefix(LanguageOption.size() + 1);
+            return LanguageOfName(argument).value_or(LanguageOfLocale());
+        }
+    }
+    return LanguageOfLocale();
+}
+
+void NameLabels(CLI::App& app, Language language) {
+    if (language == Language::English) {
+        return;
+    }
+    app.get_formatter()->label("Usage", "用法");
+    app.get_formatter()->label("OPTIONS", "选项");
+    app.get_formatter()->label("Options", "选项");
+    app.get_formatter()->label("SUBCOMMAND", "命令");
+    app.get_formatter()->label("SUBCOMMANDS", "命令");
+    app.get_formatter()->label("Subcommands", "命令");
+    app.get_formatter()->label("Positionals", "参数");
+    app.get_formatter()->label("REQUIRED", "必需");
+}
+
+void Describe(CLI::App& app, Language language, Action& action, std::string& languageName) {
+    NameLabels(app, language);
+    app.set_help_flag("-h,--help", std::string(HelpText.In(language)));
+    app.set_version_flag("--version", "zelvor-cli " ZELVOR_VERSION, std::string(VersionText.In(language)));
+    app.add_option(std::string(LanguageOption), languageName, std::string(LanguageText.In(language)))
+        ->type_name("LANGUAGE")
+        ->check(CLI::IsMember({"en", "zh"}));
+    app.require_subcommand(1);
+    app.fallthrough();
+    AddFileCommands(app, language, action);
+    AddFieldCommands(app, language, action);
+    AddChannelCommands(app, language, action);
+}
+
+const TextPair& KindOf(const CLI::ParseError& error) {
+    switch (static_cast<CLI::ExitCodes>(error.get_exit_code())) {
+    case CLI::ExitCodes::RequiredError:
+    case CLI::ExitCodes::ArgumentMismatch:
+        return IsMissing;
+    case CLI::ExitCodes::ExtrasError:
+        return IsTooMuch;
+    case CLI::ExitCodes::ValidationError:
+    case CLI::ExitCodes::ConversionError:
+        return IsNotAllowed;
+    default:
+        return IsWrong;
+    }
+}
+
+void Complain(const CLI::ParseError& error, Language language) {
+    std::string complaint = error.what();
+    std::ranges::replace(complaint, '\n', ' ');
+    const Console console{std::cout, std::cerr, language};
+    console.Complain(std::string(KindOf(error).In(language)) + Printable(complaint));
+    std::cerr << TryHelp.In(language) << '\n';
+}
+
+} // namespace
+
+CommandLine ReadCommandLine(int argc, char** argv) {
+    CommandLine commandLine{.language = LookForLanguage(argc, argv), .action = {}};
+    std::string languageName;
+    CLI::App app(std::string(Summary.In(commandLine.language)), "zelvor-cli");
+    Describe(app, commandLine.language, commandLine.action, languageName);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::Success& request) {
+        commandLine.action = nullptr;
+        commandLine.exitCode = app.exit(request);
+    } catch (const CLI::ParseError& error) {
+        Complain(error, commandLine.language);
+        commandLine.action = nullptr;
+        commandLine.exitCode = static_cast<int>(ExitStatus::Usage);
+    }
+    return commandLine;
+}
+
+} // namespace zelvor::cli

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <CLI/CLI.hpp>
+
+#include "cli/program/CommandLine.h"
+
+/// What the descriptions of all commands are made with.
+namespace zelvor::cli {
+
+/// A command under its name; what is read into `request` is handed to `run`.
+template<typename Request, typename Run>
+std::shared_ptr<Request> MakeRequest(CLI::App& command, Action& action, Run run) {
+    auto request = std::make_shared<Request>();
+    command.callback([request, &action, run] {
+        action = [request, run](FileStore& store, const Console& console) { return run(*request, store, console); };
+    });
+    return request;
+}
+
+inline CLI::App& AddCommand(CLI::App& app, const char* name, Language language, const TextPair& text) {
+    return *app.add_subcommand(name, std::string(text.In(language)));
+}
+
+inline CLI::Option& AddFile(CLI::App& command, const char* name, std::string& file, Language language,
+                            const TextPair& text) {
+    return *command.add_option(name, file, std::string(text.In(language)))->type_name("")->required();
+}
+
+inline CLI::Option& AddFiles(CLI::App& command, const char* name, std::vector<std::string>& files, Language language,
+                             const TextPair& text) {
+    return *command.add_option(name, files, std::string(text.In(language)))->type_name("")->required();
+}
+
+inline CLI::Option& AddOutput(CLI::App& command, std::optional<std::string>& output, const char* type,
+                              Language language, const TextPair& text) {
+    return *command.add_option("-o,--output", output, std::string(text.In(language)))->type_name(type);
+}
+
+inline void AddSections(CLI::App& command, std::vector<std::string>& sections, const std::vector<std::string>& names,
+                        Language language, const TextPair& text) {
+    command.add_option("--section", sections, std::string(text.In(language)))
+        ->type_name("S")
+        ->allow_extra_args(false)
+        ->check(CLI::IsMember(names));
+}
+
+inline constexpr TextPair DataFileText{"Data file", "数据文件"};
+inline constexpr TextPair DataFilesText{"Data files", "数据文件，可以多个"};
+inline constexpr TextPair JsonFlagText{"As a JSON document", "输出为 JSON 文档"};
+
+} // namespace zelvor::cli
