@@ -252,7 +252,9 @@ bool HoldsLegalValue(const NumberField& field, const DataImage& image) {
     const int low = image.At(field.address);
     const int high = field.bytes == 2 ? image.At(field.address + 1) : low;
     if (high == ErasedByte) {
-        return low == ErasedByte && field.erased >= field.first && field.erased <= field.last;
+        const bool showsLegal =
+            field.showsErased || field.zeroByte || field.show(field.erased, Language::English).empty();
+        return low == ErasedByte && showsLegal && field.erased >= field.first && field.erased <= field.last;
     }
     const int value = field.bytes == 2 ? high * 256 + low : low;
     return value >= field.first && value <= field.last && !(value == 0 && field.zeroByte);

@@ -11,9 +11,9 @@ using zelvor::cli::ExitStatus;
 
 constexpr zelvor::TextPair NoOutput{"standard output cannot be written", "无法写入标准输出"};
 
-/// Texts and file names are UTF-8 here in every locale, of which the toolkit complains.
-void PassOnWarnings(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
-    if (type != QtDebugMsg && type != QtInfoMsg && !text.startsWith(QLatin1String("Detected locale"))) {
+/// What the toolkit warns of (a locale without UTF-8, no runtime folder) is nothing to a command.
+void PassOnErrors(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
+    if (type == QtCriticalMsg || type == QtFatalMsg) {
         std::cerr << "zelvor-cli: " << text.toStdString() << '\n';
     }
 }
@@ -33,7 +33,7 @@ ExitStatus Run(const zelvor::cli::CommandLine& commandLine) {
 
 int main(int argc, char** argv) {
     std::ios::sync_with_stdio(false);
-    qInstallMessageHandler(PassOnWarnings);
+    qInstallMessageHandler(PassOnErrors);
     const zelvor::cli::CommandLine commandLine = zelvor::cli::ReadCommandLine(argc, argv);
     return commandLine.action ? static_cast<int>(Run(commandLine)) : commandLine.exitCode;
 }
