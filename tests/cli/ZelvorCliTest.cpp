@@ -1,0 +1,258 @@
+// The program as a process of its own: its command line, streams and exit status, and every command once.
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <random>
+
+#include "cli/CliFixture.h"
+#include "support/TestDirectory.h"
+
+namespace zelvor::cli {
+namespace {
+
+using zelvor::testing::EntriesOf;
+using zelvor::testing::FileContent;
+using zelvor::testing::PutFile;
+
+class ZelvorCli : public ::testing::Test {
+protected:
+    ZelvorCli() {
+        process.setWorkingDirectory(QString::fromStdString(folder.Path().string()));
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "LANGUAGE", "XDG_RUNTIME_DIR"}) {
+            environment.remove(variable);
+        }
+        environment.insert("LC_ALL", "C");
+        environment.insert("XDG_CONFIG_HOME", QString::fromStdString((folder / "config").string()));
+        process.setProcessEnvironment(environment);
+    }
+
+    int Run(const QStringList& arguments) {
+        process.start(ZELVOR_CLI_PROGRAM, arguments);
+        const bool isEnded = process.waitForFinished(30000) && process.exitStatus() == QProcess::NormalExit;
+        out = process.readAllStandardOutput().toStdString();
+        err = process.readAllStandardError().toStdString();
+        return isEnded ? process.exitCode() : -1;
+    }
+
+    /// As a shell does it: redirections need one.
+    int RunInShell(const std::string& command) {
+        process.start("sh", {"-c", QString::fromStdString("exec " ZELVOR_CLI_PROGRAM " " + command)});
+        const bool isEnded = process.waitForFinished(30000) && process.exitStatus() == QProcess::NormalExit;
+        out = process.readAllStandardOutput().toStdString();
+        err = process.readAllStandardError().toStdString();
+        return isEnded ? process.exitCode() : -1;
+    }
+
+    void MakeNew(const QString& name = "a.dat") {
+        ASSERT_EQ(Run({"new", "--model", "4618", "--market", "M", "-o", name}), 0) << err;
+    }
+
+    zelvor::testing::TestDirectory folder;
+    QProcess process;
+    std::string out;
+    std::string err;
+};
+
+TEST_F(ZelvorCli, HelpAndVersionGoToStandardOutputInTheLanguage) {
+    EXPECT_EQ(Run({"--help"}), 0);
+    EXPECT_NE(out.find("Usage: zelvor-cli"), std::string::npos);
+    for (const char* command : {"show", "keys", "get", "set", "diff", "check", "channels", "new", "report", "ports"}) {
+        EXPECT_NE(out.find(std::string("\n  ") + command + ' '), std::string::npos) << command;
+        EXPECT_EQ(Run({command, "--help"}), 0) << command;
+        EXPECT_EQ(err, "");
+        EXPECT_EQ(Run({"--help"}), 0);
+    }
+    EXPECT_EQ(Run({"--version"}), 0);
+    EXPECT_TRUE(out.starts_with("zelvor-cli 1."));
+    EXPECT_EQ(Run({"--language", "zh", "--help"}), 0);
+    EXPECT_NE(out.find("数据文件"), std::string::npos);
+}
+
+TEST_F(ZelvorCli, AWrongCommandLineEndsWithTwoAndALineThatSaysSo) {
+    for (const QStringList& arguments : {QStringList{},
+                                         {"nonsense"},
+                                         {"show"},
+                                         {"show", "a.dat", "--section", "none"},
+                                         {"get", "a.dat"},
+                                         {"diff", "a.dat"},
+                                         {"channels"},
+                                         {"channels", "import", "a.dat"},
+                                         {"new", "--model", "4618"},
+                                         {"report", "a.dat"},
+                                         {"report", "a.dat", "-o", "r.pdf", "--paper", "A3"},
+                                         {"report", "a.dat", "-o", "r.pdf", "--section", "identity"},
+                                         {"ports", "stray"},
+                                         {"--language", "fr", "keys"},
+                                         {"check", "--json", "a.dat"}}) {
+        EXPECT_EQ(Run(arguments), 2) << arguments.join(' ').toStdString();
+        EXPECT_EQ(out, "") << arguments.join(' ').toStdString();
+        EXPECT_TRUE(err.starts_with("zelvor-cli: ")) << err;
+        EXPECT_TRUE(err.ends_with("\nTry \"zelvor-cli --help\".\n")) << err;
+        EXPECT_EQ(std::ranges::count(err, '\n'), 2) << err;
+    }
+    EXPECT_EQ(EntriesOf(folder.Path()), std::vector<std::string>());
+}
+
+TEST_F(ZelvorCli, NewSetGetDiffAndCheckWorkTogether) {
+    MakeNew();
+    EXPECT_EQ(FileContent(folder / "a.dat").size(), 1040U);
+    EXPECT_EQ(Run({"set", "a.dat", "optional.beep=Off", "channels.1.rx_mhz=145.125", "-o", "b.dat"}), 0) << err;
+    EXPECT_EQ(Run({"get", "b.dat", "optional.beep", "channels.1.rx_mhz"}), 0);
+    EXPECT_EQ(out, "optional.beep=Off\nchannels.1.rx_mhz=145.12500\n");
+    EXPECT_EQ(Run({"diff", "a.dat", "b.dat"}), 1);
+    EXPECT_TRUE(out.starts_with("optional.beep: On -> Off\nchannels.1.rx_mhz:  -> 145.12500\n")) << out;
+    EXPECT_EQ(Run({"diff", "b.dat", "b.dat"}), 0);
+    EXPECT_EQ(out, "");
+    EXPECT_EQ(Run({"check", "a.dat", "b.dat"}), 0);
+    EXPECT_EQ(Run({"set", "b.dat", "scan.priority=Fixed"}), 0);
+    EXPECT_EQ(Run({"check", "a.dat", "b.dat"}), 1);
+    EXPECT_EQ(Run({"check", "gone.dat", "b.dat"}), 3);
+    EXPECT_EQ(Run({"new", "--model", "9999", "--market", "M", "-o", "c.dat"}), 2);
+    EXPECT_EQ(EntriesOf(folder.Path()), (std::vector<std::string>{"a.dat", "b.dat"}));
+}
+
+TEST_F(ZelvorCli, SetOfAnIllegalValueEndsWithThreeAndWritesNothing) {
+    MakeNew();
+    const std::string before = FileContent(folder / "a.dat");
+    EXPECT_EQ(Run({"set", "a.dat", "optional.beep=Off", "optional.squelch-level=11"}), 3);
+    EXPECT_EQ(err, "zelvor-cli: a.dat: optional.squelch-level: \"11\" is none of: 0 to 9 by 1\n");
+    EXPECT_EQ(FileContent(folder / "a.dat"), before);
+}
+
+TEST_F(ZelvorCli, ShowKeysAndPortsPrint) {
+    MakeNew();
+    EXPECT_EQ(Run({"show", "a.dat", "--section", "keys", "--language", "zh"}), 0);
+    EXPECT_TRUE(out.starts_with("键设定\n  PF1: ")) << out;
+    EXPECT_EQ(Run({"show", "--json", "a.dat", "a.dat"}), 0);
+    EXPECT_TRUE(QJsonDocument::fromJson(QByteArray::fromStdString(out)).isObject());
+    EXPECT_EQ(Run({"keys"}), 0);
+    EXPECT_EQ(std::ranges::count(out, '\n'), 333);
+    std::filesystem::create_directories(folder / "config/Zelvor/ports");
+    std::filesystem::create_symlink("/dev/null", folder / "config/Zelvor/ports/COM7");
+    EXPECT_EQ(Run({"ports"}), 0);
+    EXPECT_EQ(std::ranges::count(out, '\n'), 20);
+    EXPECT_NE(out.find("\n7\t/dev/null\n"), std::string::npos) << out;
+    EXPECT_EQ(err, "");
+}
+
+TEST_F(ZelvorCli, ChannelsGoOutAndIn) {
+    MakeNew();
+    EXPECT_EQ(Run({"set", "a.dat", "channels.3.rx_mhz=146", "channels.16.rx_mhz=150"}), 0) << err;
+    EXPECT_EQ(Run({"channels", "export", "a.dat", "-o", "c.csv"}), 0);
+    EXPECT_EQ(out, "");
+    EXPECT_EQ(Run({"channels", "export", "a.dat"}), 0);
+    EXPECT_EQ(out, FileContent(folder / "c.csv"));
+    MakeNew("b.dat");
+    EXPECT_EQ(Run({"channels", "import", "b.dat", "c.csv"}), 0) << err;
+    EXPECT_EQ(FileContent(folder / "b.dat"), FileContent(folder / "a.dat"));
+    PutFile(folder / "bad.csv", "channel,power\n3,Mid\n99,Low\n");
+    EXPECT_EQ(Run({"channels", "import", "b.dat", "bad.csv"}), 3);
+    EXPECT_EQ(err, "zelvor-cli: bad.csv:2:power: \"Mid\" is none of: High, Low\n"
+                   "zelvor-cli: bad.csv:3:channel: \"99\" is no channel from 1 to 16\n");
+    EXPECT_EQ(FileContent(folder / "b.dat"), FileContent(folder / "a.dat"));
+}
+
+TEST_F(ZelvorCli, ReportNeedsNoDisplay) {
+    MakeNew();
+    EXPECT_EQ(Run({"report", "a.dat", "-o", "r.pdf", "--section", "scan", "--paper", "Letter"}), 0) << err;
+    EXPECT_EQ(out + err, "");
+    const std::string pdf = FileContent(folder / "r.pdf");
+    EXPECT_TRUE(pdf.starts_with("%PDF-"));
+    EXPECT_NE(pdf.find("/MediaBox [0 0 612."), std::string::npos);
+    EXPECT_EQ(Run({"report", "gone.dat", "-o", "s.pdf"}), 3);
+    EXPECT_FALSE(std::filesystem::exists(folder / "s.pdf"));
+}
+
+TEST_F(ZelvorCli, TheLocaleIsTheLanguageUnlessOneIsNamed) {
+    QProcessEnvironment environment = process.processEnvironment();
+    environment.insert("LC_ALL", "zh_CN.UTF-8");
+    process.setProcessEnvironment(environment);
+    EXPECT_EQ(Run({"check", "gone.dat"}), 3);
+    EXPECT_EQ(err, "zelvor-cli: gone.dat: 无法读取\n");
+    EXPECT_EQ(Run({"--language=en", "check", "gone.dat"}), 3);
+    EXPECT_EQ(err, "zelvor-cli: gone.dat: cannot be read\n");
+    EXPECT_EQ(Run({"show"}), 2);
+    EXPECT_TRUE(err.starts_with("zelvor-cli: 缺少命令或参数：")) << err;
+}
+
+TEST_F(ZelvorCli, TellsOfAStandardOutputThatIsFull) {
+    MakeNew();
+    for (const char* command :
+         {"show a.dat", "show a.dat --json", "keys", "get a.dat optional.beep", "channels export a.dat", "ports"}) {
+        EXPECT_EQ(RunInShell(std::string(command) + " >/dev/full"), 3) << command;
+        EXPECT_EQ(err, "zelvor-cli: standard output cannot be written\n") << command;
+    }
+    EXPECT_EQ(RunInShell("diff a.dat /dev/null >/dev/full"), 3);
+}
+
+TEST_F(ZelvorCli, RefusesWhatIsNoFileAndLeavesNothingBehind) {
+    MakeNew();
+    PutFile(folder / "c.csv", "channel,power\n1,\n");
+    std::filesystem::create_directory(folder / "d");
+    const std::string before = FileContent(folder / "a.dat");
+    for (const QString& place : QStringList{"/dev/full", "d", "d/gone/x", "/proc/none/x"}) {
+        for (const QStringList& arguments : {QStringList{"set", "a.dat", "optional.beep=Off", "-o", place},
+                                             {"set", place, "optional.beep=Off"},
+                                             {"new", "--model", "4618", "--market", "M", "-o", place},
+                                             {"channels", "export", "a.dat", "-o", place},
+                                             {"channels", "import", "a.dat", "c.csv", "-o", place},
+                                             {"channels", "import", "a.dat", place},
+                                             {"report", "a.dat", "-o", place},
+                                             {"show", place},
+                                             {"get", place, "optional.beep"},
+                                             {"diff", "a.dat", place},
+                                             {"check", place},
+                                             {"channels", "export", place},
+                                             {"report", place, "-o", "r.pdf"}}) {
+            EXPECT_EQ(Run(arguments), 3) << arguments.join(' ').toStdString();
+            EXPECT_EQ(out, "") << arguments.join(' ').toStdString();
+            EXPECT_TRUE(err.starts_with("zelvor-cli: " + place.toStdString() + ": cannot be ")) << err;
+        }
+    }
+    EXPECT_EQ(FileContent(folder / "a.dat"), before);
+    EXPECT_EQ(EntriesOf(folder.Path()), (std::vector<std::string>{"a.dat", "c.csv", "d"}));
+    EXPECT_EQ(EntriesOf(folder / "d"), std::vector<std::string>());
+}
+
+/// All files of a run at once where the command takes them.
+TEST_F(ZelvorCli, TakesTwoThousandImagesAtRandom) {
+    constexpr unsigned Seed = 2000;
+    std::mt19937 random(Seed);
+    QStringList files;
+    for (int i = 0; i < 2000; ++i) {
+        std::string content = "RQ6152\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF";
+        for (int j = 0; j < 1024; ++j) {
+            content += static_cast<char>(random() & 0xFFU);
+        }
+        if (i % 10 == 0) {
+            content.resize(random() % content.size());
+        }
+        const std::string name = std::to_string(i) + ".dat";
+        PutFile(folder / name, content);
+        files.append(QString::fromStdString(name));
+    }
+    EXPECT_EQ(Run(QStringList{"check"} + files), 3);
+    EXPECT_EQ(std::ranges::count(err, '\n'), 200);
+    EXPECT_EQ(Run(QStringList{"show"} + files), 3);
+    EXPECT_EQ(Run(QStringList{"show", "--json"} + files), 3);
+    const QJsonDocument json = QJsonDocument::fromJson(QByteArray::fromStdString(out));
+    EXPECT_EQ(json["files"].toArray().size(), 1800);
+    EXPECT_EQ(Run(QStringList{"set", "optional.beep=Off"} + files), 3);
+    EXPECT_EQ(FileContent(folder / "1.dat").size(), 1040U);
+    for (int i = 1; i < 10; ++i) {
+        const QString file = files[i];
+        EXPECT_EQ(Run({"diff", file, files[i + 10]}), 1) << "seed " << Seed << ", file " << i;
+        EXPECT_EQ(Run({"channels", "export", file, "-o", "c.csv"}), 0) << "seed " << Seed << ", file " << i;
+        EXPECT_EQ(Run({"channels", "import", file, "c.csv"}), 3) << "seed " << Seed << ", file " << i;
+        EXPECT_EQ(Run({"report", file, "-o", "r.pdf"}), 0) << "seed " << Seed << ", file " << i;
+    }
+}
+
+} // namespace
+} // namespace zelvor::cli
