@@ -60,7 +60,8 @@ fs::path UnusedNameBeside(const fs::path& target) {
 /// Where the system cannot make a file without a name, the toolkit puts a dot and six letters behind the name until the
 /// file is complete.
 bool IsLeftoverName(const std::string& name) {
-    return std::regex_match(name, std::regex(R"(\.zelvor-[0-9]+\.tmp(\.[A-Za-z]{6})?)"));
+    return name.starts_with(".zelvor-") && // most files are told apart without the time that an expression takes
+           std::regex_match(name, std::regex(R"(\.zelvor-[0-9]+\.tmp(\.[A-Za-z]{6})?)"));
 }
 
 void SweepLeftovers(const fs::path& folder) {

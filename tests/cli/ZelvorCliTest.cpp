@@ -243,8 +243,9 @@ TEST_F(ZelvorCli, TakesTwoThousandImagesAtRandom) {
     EXPECT_EQ(Run(QStringList{"show", "--json"} + files), 3);
     const QJsonDocument json = QJsonDocument::fromJson(QByteArray::fromStdString(out));
     EXPECT_EQ(json["files"].toArray().size(), 1800);
-    EXPECT_EQ(Run(QStringList{"set", "optional.beep=Off"} + files), 3);
-    EXPECT_EQ(FileContent(folder / "1.dat").size(), 1040U);
+    EXPECT_EQ(Run(QStringList{"set", "optional.beep=Off"} + files.mid(0, 100)), 3);
+    EXPECT_EQ(FileContent(folder / "1.dat")[16 + 0x136], 0);
+    EXPECT_LT(FileContent(folder / "0.dat").size(), 1040U);
     for (int i = 1; i < 10; ++i) {
         const QString file = files[i];
         EXPECT_EQ(Run({"diff", file, files[i + 10]}), 1) << "seed " << Seed << ", file " << i;
