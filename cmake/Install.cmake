@@ -1,5 +1,6 @@
 include(GNUInstallDirs)
-install(TARGETS zelvor RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(TARGETS zelvor zelvor-cli RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(FILES packaging/zelvor-cli.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 if(TARGET zelvor-radio)
   install(TARGETS zelvor-radio RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 endif()
