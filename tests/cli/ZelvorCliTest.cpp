@@ -40,9 +40,9 @@ protected:
         return isEnded ? process.exitCode() : -1;
     }
 
-    /// As a shell does it: redirections need one.
-    int RunInShell(const std::string& command) {
-        process.start("sh", {"-c", QString::fromStdString("exec " ZELVOR_CLI_PROGRAM " " + command)});
+    /// As a shell does it, after what it is told before: redirections and limits need one.
+    int RunInShell(const std::string& command, const std::string& before = {}) {
+        process.start("sh", {"-c", QString::fromStdString(before + "exec " ZELVOR_CLI_PROGRAM " " + command)});
         const bool isEnded = process.waitForFinished(30000) && process.exitStatus() == QProcess::NormalExit;
         out = process.readAllStandardOutput().toStdString();
         err = process.readAllStandardError().toStdString();
@@ -61,12 +61,12 @@ protected:
 
 TEST_F(ZelvorCli, HelpAndVersionGoToStandardOutputInTheLanguage) {
     EXPECT_EQ(Run({"--help"}), 0);
-    EXPECT_NE(out.find("Usage: zelvor-cli"), std::string::npos);
+    const std::string help = out;
+    EXPECT_NE(help.find("Usage: zelvor-cli"), std::string::npos);
     for (const char* command : {"show", "keys", "get", "set", "diff", "check", "channels", "new", "report", "ports"}) {
-        EXPECT_NE(out.find(std::string("\n  ") + command + ' '), std::string::npos) << command;
+        EXPECT_NE(help.find(std::string("\n  ") + command + ' '), std::string::npos) << command;
         EXPECT_EQ(Run({command, "--help"}), 0) << command;
         EXPECT_EQ(err, "");
-        EXPECT_EQ(Run({"--help"}), 0);
     }
     EXPECT_EQ(Run({"--version"}), 0);
     EXPECT_TRUE(out.starts_with("zelvor-cli 1."));
@@ -191,6 +191,26 @@ TEST_F(ZelvorCli, TellsOfAStandardOutputThatIsFull) {
     EXPECT_EQ(RunInShell("diff a.dat /dev/null >/dev/full"), 3);
 }
 
+TEST_F(ZelvorCli, ADiskThatTakesNoMoreKeepsTheOldFiles) {
+    MakeNew();
+    PutFile(folder / "c.csv", "channel,rx_mhz\n1,145\n");
+    PutFile(folder / "r.pdf", "old");
+    for (int k = 1; k <= 6; ++k) { // so that their table is longer than the limit
+        EXPECT_EQ(Run({"set", "a.dat", QString("channels.%1.rx_mhz=145.125").arg(k)}), 0);
+    }
+    const std::string before = FileContent(folder / "a.dat");
+    const std::string limit = "trap '' XFSZ; ulimit -f 1; "; // 512 bytes a file
+    for (const char* command :
+         {"set a.dat optional.beep=Off", "set a.dat optional.beep=Off -o b.dat", "channels import a.dat c.csv",
+          "channels export a.dat -o e.csv", "new --model 4618 --market M -o a.dat", "report a.dat -o r.pdf"}) {
+        EXPECT_EQ(RunInShell(command, limit), 3) << command;
+        EXPECT_TRUE(err.ends_with(": cannot be written\n")) << command << ": " << err;
+    }
+    EXPECT_EQ(FileContent(folder / "a.dat"), before);
+    EXPECT_EQ(FileContent(folder / "r.pdf"), "old");
+    EXPECT_EQ(EntriesOf(folder.Path()), (std::vector<std::string>{"a.dat", "c.csv", "r.pdf"}));
+}
+
 TEST_F(ZelvorCli, RefusesWhatIsNoFileAndLeavesNothingBehind) {
     MakeNew();
     PutFile(folder / "c.csv", "channel,power\n1,\n");
@@ -240,9 +260,9 @@ TEST_F(ZelvorCli, TakesTwoThousandImagesAtRandom) {
     EXPECT_EQ(Run(QStringList{"check"} + files), 3);
     EXPECT_EQ(std::ranges::count(err, '\n'), 200);
     EXPECT_EQ(Run(QStringList{"show"} + files), 3);
-    EXPECT_EQ(Run(QStringList{"show", "--json"} + files), 3);
+    EXPECT_EQ(Run(QStringList{"show", "--json"} + files.mid(0, 500)), 3);
     const QJsonDocument json = QJsonDocument::fromJson(QByteArray::fromStdString(out));
-    EXPECT_EQ(json["files"].toArray().size(), 1800);
+    EXPECT_EQ(json["files"].toArray().size(), 450);
     EXPECT_EQ(Run(QStringList{"set", "optional.beep=Off"} + files.mid(0, 100)), 3);
     EXPECT_EQ(FileContent(folder / "1.dat")[16 + 0x136], 0);
     EXPECT_LT(FileContent(folder / "0.dat").size(), 1040U);
