@@ -32,6 +32,24 @@ void CommandExchange::Ask(RadioCommand command, int interval) {
     }
 }
 
+void CommandExchange::AskLast(RadioCommand command, int interval) {
+    mayBeKeyed_ = mayBeKeyed_ || PttOn;
+    Ask(command, interval);
+    refusing_ = true;
+}
+
+void CommandExchange::StopCommands() {
+    Stop();
+    ForgetCommands();
+    port_.Close();
+}
+
+bool CommandExchange::EndCommands() {
+    refusing_ = true;
+    StopCommands();
+    return !std::exchange(ended_, true);
+}
+
 bool CommandExchange::IsWaiting(int kind, int argument) const {
     return std::any_of(commands_.begin(), commands_.end(), [&](const RadioCommand& command) {
         return command.kind == kind && command.argument == argument;

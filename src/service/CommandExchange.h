@@ -35,9 +35,16 @@ protected:
     static constexpr int NextTick = 1;        // milliseconds
     static constexpr int FailureInterval = 2; // milliseconds
 
-    /// Appends a command, due after so many milliseconds, and takes away those that it replaces; nothing behind
-    /// RefuseCommands.
+    /// Appends a command, due after so many milliseconds, and takes away those that it replaces; nothing behind AskLast
+    /// or EndCommands.
     void Ask(RadioCommand command, int interval);
+    /// The command that ends everything: nothing is taken behind it, and what the user has asked of the transmitter
+    /// counts as sent.
+    void AskLast(RadioCommand command, int interval);
+    /// No command waits or is under way any more, and the port is closed.
+    void StopCommands();
+    /// The same for good: none is taken any more. False where that was so already.
+    bool EndCommands();
     [[nodiscard]] const RadioCommand& Current() const { return commands_.front(); }
     /// A PTT off goes out, or its reply is due, before the current command.
     [[nodiscard]] bool IsDropDue() const { return PttDropPending && State() == FirstState; }
@@ -46,10 +53,8 @@ protected:
     void Finish();
     /// No command waits or is under way any more.
     void ForgetCommands() { commands_.clear(); }
-    void RefuseCommands() { refusing_ = true; }
+    /// Behind AskLast or EndCommands.
     [[nodiscard]] bool RefusesCommands() const { return refusing_; }
-    /// What the user has asked for counts as sent: for the commands that end everything.
-    void CountAskedPttAsKeyed() { mayBeKeyed_ = mayBeKeyed_ || PttOn; }
 
     /// Sends the bytes of the current command's state; the receive threshold is 1.
     virtual void SendStep() = 0;
@@ -85,6 +90,7 @@ private:
     std::optional<bool> pttSent_;        // the reply that is due answers a PTT on or a PTT off
     bool mayBeKeyed_ = false;
     bool refusing_ = false;
+    bool ended_ = false;
 };
 
 } // namespace zelvor

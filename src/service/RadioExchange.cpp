@@ -33,13 +33,9 @@ void RadioExchange::OnSendTimer() {
     if (!wasOpen) {
         port_.Clear(); // of the rest of an answer that was not waited for
     }
-    const std::uint8_t sent = link_.CommState;
     awaiting_ = true;
     SendCommand();
-    if (!active_) { // ended from inside a wait of the sending
-        return;
-    }
-    link_.SentState = sent;
+    link_.SentState = link_.CommState;
     Run(*timeoutTimer_, timeout_);
 }
 

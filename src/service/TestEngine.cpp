@@ -18,12 +18,15 @@ constexpr int SelectInterval = 30;
 constexpr int TunePause = 30;
 constexpr int EndWait = 80;
 constexpr int TuningPause = 30;
-constexpr int LoopStep = 1;
 
 } // namespace
 
 TestEngine::TestEngine(Document& document, ServiceState& service, const RadioLink& link, TestObserver& observer)
-    : CommandExchange(link, "tmrOverTime", Timeout), document_(document), service_(service), observer_(observer) {}
+    : CommandExchange(link, "tmrOverTime", Timeout), document_(document), service_(service), observer_(observer),
+      endTimer_(clock_.MakeTimer("endTimer")) {
+    endTimer_->SetInterval(EndWait);
+    endTimer_->OnTick = [this] { SendEnd(); };
+}
 
 void TestEngine::Load() {
     link_.SentState = NothingSent;
@@ -74,21 +77,11 @@ void TestEngine::Tune() {
 }
 
 void TestEngine::Close() {
-    if (RefusesCommands()) {
-        return;
+    if (service_.TestAborted) {
+        Leave();
+    } else if (!RefusesCommands()) {
+        AskLast({.kind = static_cast<int>(TestCommandKind::Close), .argument = signalling_}, CommandInterval);
     }
-    if (!service_.TestAborted) {
-        CloseDone = false;
-        CountAskedPttAsKeyed();
-        Ask(TestCommandKind::Close, signalling_, CommandInterval);
-        RefuseCommands();
-        while (!CloseDone) {
-            clock_.WaitProcessingEvents(LoopStep);
-        }
-    }
-    RefuseCommands();
-    Stop();
-    port_.Close();
 }
 
 void TestEngine::SendStep() {
@@ -98,7 +91,7 @@ void TestEngine::SendStep() {
         break;
     case Confirm:
         if (Kind() == TestCommandKind::Close) {
-            SendEnd();
+            endTimer_->SetEnabled(true);
         } else {
             port_.Send(wire::Acknowledge);
         }
@@ -136,11 +129,17 @@ void TestEngine::SendFirst() {
     }
 }
 
-/// The dialog goes on closing while this waits; the radio's answer is not waited for.
+/// The radio's answer is not waited for.
 void TestEngine::SendEnd() {
-    clock_.WaitProcessingEvents(EndWait);
-    CloseDone = true;
     port_.Send(wire::End);
+    Leave();
+}
+
+void TestEngine::Leave() {
+    endTimer_->SetEnabled(false);
+    if (EndCommands()) {
+        observer_.OnClosed();
+    }
 }
 
 void TestEngine::ReceiveStep() {
@@ -207,7 +206,7 @@ void TestEngine::ReceiveConfirmation() {
         return;
     }
     switch (Kind()) {
-    case TestCommandKind::Close: // the radio's answer to End
+    case TestCommandKind::Close: // End follows in its own time
         break;
     case TestCommandKind::Tune:
         Enter(SelectItem, SelectInterval);
@@ -223,19 +222,14 @@ void TestEngine::ReceiveSelection() {
         return;
     }
     service_.TuneItem = Current().argument;
-    Stop();
-    ForgetCommands();
-    port_.Close();
+    StopCommands();
     clock_.Sleep(TuningPause);
     observer_.OnTuningReady();
 }
 
 void TestEngine::GiveUp() {
-    Stop();
-    ForgetCommands();
-    port_.Close();
+    StopCommands();
     service_.TestAborted = true;
-    CloseDone = true;
     observer_.OnUnloadRequested();
 }
 
@@ -244,7 +238,7 @@ bool TestEngine::EndsAtTimeout() {
         OnReceive(ReceiveReason::DataReceived);
         return true;
     }
-    return service_.TestAborted || CloseDone;
+    return service_.TestAborted;
 }
 
 /// A radio that answers Set channel with one byte never reaches the threshold of its eight.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 
 #include "service/CommandExchange.h"
 #include "service/ServiceState.h"
@@ -23,6 +24,8 @@ public:
     virtual void OnTuningReady() = 0;
     /// The user has given up at the connection prompt: the dialog is to be closed.
     virtual void OnUnloadRequested() = 0;
+    /// What Close() has begun is done: the radio is told, or given up, and the port is closed.
+    virtual void OnClosed() = 0;
 };
 
 /// Test mode without a window: the commands that put the radio on a test channel, key it and start tuning. A later
@@ -40,8 +43,8 @@ public:
     /// Starts tuning of TuneItem.
     void Tune();
 
-    /// Leaves test mode: keeps the event loop running until the radio has been told, unless the user has given up. The
-    /// port is closed then. Calls from inside do nothing.
+    /// Leaves test mode: no command is taken any more, and OnClosed follows when the radio has been told; at once where
+    /// the user has given up. Calls meanwhile do nothing.
     void Close();
 
 private:
@@ -54,6 +57,7 @@ private:
     void SendStep() override;
     void SendFirst();
     void SendEnd();
+    void Leave();
     void ReceiveStep() override;
     void OnKeyed(bool keyed) override { observer_.OnLamps(keyed); }
     void OnDropRefused() override { observer_.OnLamps(false); }
@@ -68,8 +72,8 @@ private:
     Document& document_;
     ServiceState& service_;
     TestObserver& observer_;
-    int signalling_ = 1;    // the last one chosen
-    bool CloseDone = false; // ends the wait of Close
+    std::unique_ptr<Timer> endTimer_; // from the answer to the last signalling to End
+    int signalling_ = 1;              // the last one chosen
 };
 
 } // namespace zelvor

@@ -198,7 +198,7 @@ void TestForm::Print() {
     const auto printing = std::make_shared<bool>(true);
     printing_ = printing;
     PrintTuningReport(document_, service_.Values, language_, services_,
-                      [form = QPointer(this), printing] { return form && !form->unloaded_; });
+                      [form = QPointer(this), printing] { return form && !form->leaving_; });
 }
 
 /// The channels that the radio has told, or none: then a single "1" stands in the list.
@@ -269,6 +269,9 @@ void TestForm::OnLamps(bool transmitting) {
 }
 
 void TestForm::OnTuningReady() {
+    if (leaving_) { // closed before the dialog could open
+        return;
+    }
     if (!printing_.expired() || QApplication::activeModalWidget() != nullptr) { // a question needs this window enabled
         QTimer::singleShot(DialogPollMilliseconds, this, &TestForm::OnTuningReady);
         return;
@@ -301,15 +304,19 @@ void TestForm::closeEvent(QCloseEvent* event) {
         event->ignore();
         return;
     }
-    event->accept();
-    if (unloaded_) {
-        return;
+    if (!unloaded_) {
+        leaving_ = true;
+        setEnabled(false);
+        engine_.Close(); // OnClosed may come from inside
     }
+    event->setAccepted(unloaded_);
+}
+
+void TestForm::OnClosed() {
     unloaded_ = true;
-    setEnabled(false);
-    engine_.Close();
     deleteLater();
     emit Unloaded();
+    close();
 }
 
 } // namespace zelvor

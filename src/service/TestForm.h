@@ -42,13 +42,14 @@ signals:
 
 protected:
     void changeEvent(QEvent* event) override;
-    /// Refused while a tuning dialog is open.
+    /// Refused while a tuning dialog is open, and until the radio has been told.
     void closeEvent(QCloseEvent* event) override;
 
 private:
     void OnLamps(bool transmitting) override;
     void OnTuningReady() override;
     void OnUnloadRequested() override;
+    void OnClosed() override;
 
     [[nodiscard]] QString LoadText(Text name) const;
     void BuildFrames();
@@ -84,6 +85,7 @@ private:
     bool offersChannels_ = false;
     bool tuning_ = false;
     std::weak_ptr<bool> printing_; // lives while a report is under way
+    bool leaving_ = false;         // the radio is being told, or was
     bool unloaded_ = false;
 };
 

@@ -19,7 +19,6 @@ constexpr int DropBeforeEndingInterval = 5;
 constexpr int DropBeforePageInterval = 7;
 constexpr int MeasurePause = 550; // the window stays alive meanwhile
 constexpr int MeasureInterval = 10;
-constexpr int LoopStep = 1;
 
 constexpr int First = 1; // the first state of every operation
 constexpr int Second = 2;
@@ -59,22 +58,12 @@ void TuningEngine::ToggleMeasuring() {
 }
 
 void TuningEngine::Close(Ending ending) {
-    if (RefusesCommands()) {
-        return;
-    }
-    if (!service_.TestAborted) {
-        Done = false;
+    if (service_.TestAborted) {
+        Leave();
+    } else if (!RefusesCommands()) {
         measuring_ = false;
-        CountAskedPttAsKeyed();
-        Ask({.kind = ending == Ending::Ok ? TuneOk : TuneCancel, .argument = CurrentPage}, EndingInterval);
-        RefuseCommands();
-        while (!Done) {
-            clock_.WaitProcessingEvents(LoopStep);
-        }
+        AskLast({.kind = ending == Ending::Ok ? TuneOk : TuneCancel, .argument = CurrentPage}, EndingInterval);
     }
-    RefuseCommands();
-    Stop();
-    port_.Close();
 }
 
 /// A page stays where a value of its own waits behind it: the radio is at the point whose value it gets.
@@ -239,21 +228,20 @@ void TuningEngine::ReceiveEnding() {
     }
     const bool oneStep = TuneOp() == TuneOk && plan_.kind != TuningKind::Measured;
     if (oneStep || State() >= LastCancelState()) {
-        End();
+        Leave();
     } else {
         Enter(State() + 1, StepInterval);
     }
 }
 
-void TuningEngine::End() {
-    Stop();
-    ForgetCommands();
-    port_.Close();
-    Done = true;
+void TuningEngine::Leave() {
+    if (EndCommands()) {
+        observer_.OnClosed();
+    }
 }
 
 void TuningEngine::GiveUp() {
-    End();
+    StopCommands();
     service_.TestAborted = true;
     observer_.OnUnloadRequested();
 }

@@ -36,6 +36,8 @@ public:
     virtual void OnMeasured(int value) = 0;
     /// The user has given up at the connection prompt: the dialog is to be closed.
     virtual void OnUnloadRequested() = 0;
+    /// What Close() has begun is done: the radio has the values, or is given up, and the port is closed.
+    virtual void OnClosed() = 0;
 };
 
 /// The tuning of one item on the live radio, without a window. Of values of one page, and of pages, the latest gets to
@@ -58,8 +60,8 @@ public:
     [[nodiscard]] bool IsMeasuring() const { return measuring_; }
 
     enum class Ending { Ok, Cancel };
-    /// Stores the value, or brings the old values back; keeps the event loop running until the radio has it, unless the
-    /// user has given up. The port is closed then. Calls from inside do nothing.
+    /// Stores the value, or brings the old values back: no command is taken any more, and OnClosed follows when the
+    /// radio has it; at once where the user has given up. Calls meanwhile do nothing.
     void Close(Ending ending);
 
 private:
@@ -87,16 +89,15 @@ private:
     void ReceivePageReply();
     void ReceiveMeasurement();
     void ReceiveEnding();
-    void End();
+    void Leave();
     void GiveUp() override;
-    [[nodiscard]] bool EndsAtTimeout() override { return service_.TestAborted || Done; }
+    [[nodiscard]] bool EndsAtTimeout() override { return service_.TestAborted; }
 
     ServiceState& service_;
     const TuningPlan plan_;
     TuningSource& source_;
     TuningObserver& observer_;
     int CurrentPage = 0;
-    bool Done = false; // ends the wait of Close
     bool measuring_ = false;
 };
 

@@ -256,17 +256,20 @@ int TuningForm::OldValue(int page) const {
 }
 
 void TuningForm::closeEvent(QCloseEvent* event) {
-    event->accept();
-    if (unloaded_) {
-        return;
+    if (!unloaded_) {
+        setEnabled(false);
+        engine_.Close(ending_); // OnClosed may come from inside
     }
+    event->setAccepted(unloaded_);
+}
+
+void TuningForm::OnClosed() {
     unloaded_ = true;
-    setEnabled(false);
-    engine_.Close(ending_);
     service_.TestAborted = false;
     services_.clock.Sleep(ClosedPause);
     deleteLater();
     emit Unloaded();
+    close();
 }
 
 } // namespace zelvor

@@ -51,6 +51,7 @@ private:
     void OnPointRead(int page) override;
     void OnMeasured(int value) override;
     void OnUnloadRequested() override;
+    void OnClosed() override;
     [[nodiscard]] int Value(int page) const override;
     [[nodiscard]] int OldValue(int page) const override;
 

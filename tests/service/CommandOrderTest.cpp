@@ -232,7 +232,7 @@ TEST_F(TuningOrder, AValueIsSetBeforeThePageChangesAndWithItsOwnCode) {
 TEST_F(TuningOrder, OkStoresBehindTheValueThatIsShown) {
     OpenOneValue();
     engine->SliderMoved();
-    engine->Close(TuningEngine::Ending::Ok);
+    Close(TuningEngine::Ending::Ok);
     EXPECT_EQ(rig.sent, (Commands{"1D 20 0A", "1D 0E"}));
 }
 
@@ -240,14 +240,14 @@ TEST_F(TuningOrder, OkStoresBehindThePageChangeThatIsUnderWay) {
     OpenSixPages();
     engine->ChangePage(2);
     rig.clock.Advance(4);
-    engine->Close(TuningEngine::Ending::Ok);
+    Close(TuningEngine::Ending::Ok);
     EXPECT_EQ(rig.sent, (Commands{"33 0D", "07", "06", "33 0E"}));
 }
 
 TEST_F(TuningOrder, CancelDoesNotWaitForAValue) {
     OpenOneValue();
     engine->SliderMoved();
-    engine->Close(TuningEngine::Ending::Cancel);
+    Close(TuningEngine::Ending::Cancel);
     EXPECT_EQ(rig.sent, (Commands{"1D 0D", "1D 20 6E"}));
 }
 

@@ -22,6 +22,14 @@ protected:
         events.emplace_back("unload");
         engine.Close();
     }
+    void OnClosed() override { ++closed; }
+
+    /// Closes, and lets the radio be told.
+    void Close() {
+        engine.Close();
+        rig.clock.Advance(1000);
+        EXPECT_EQ(closed, 1);
+    }
 
     /// Loads and lets channel and signalling go out.
     void Open() {
@@ -35,6 +43,7 @@ protected:
     TestEngine engine{rig.document, rig.service, rig.LinkOver(*port), *this};
     std::vector<std::string> lamps;
     std::vector<std::string> events;
+    int closed = 0;
 };
 
 /// A tuning dialog that shows 10, 20, 30 ... on its pages and opened with 110, 120, 130 ...
@@ -52,9 +61,11 @@ public:
         events.emplace_back("unload");
         engine->Close(TuningEngine::Ending::Cancel);
     }
+    void OnClosed() override { ++closed; }
 
     std::array<int, 6> values{10, 20, 30, 40, 50, 60};
     std::vector<std::string> events;
+    int closed = 0;
     TuningEngine* engine = nullptr;
 };
 
@@ -64,6 +75,12 @@ protected:
         engine = std::make_unique<TuningEngine>(rig.service, rig.LinkOver(*port), plan, dialog, dialog);
         dialog.engine = engine.get();
         engine->Load();
+    }
+    /// Closes, and lets the radio be told.
+    void Close(TuningEngine::Ending ending) {
+        engine->Close(ending);
+        rig.clock.Advance(1000);
+        EXPECT_EQ(dialog.closed, 1);
     }
     /// RF High Power: six pages.
     void OpenSixPages() { Open({TuningKind::Points, 18, {18, 48, 51, 49, 52, 50}}); }

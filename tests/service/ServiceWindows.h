@@ -70,6 +70,8 @@ protected:
     }
     /// As by the frame's button.
     static void CloseByFrame(const QWidget& form) { form.windowHandle()->close(); }
+    /// Lets a window that was closed take leave of the radio, also past a prompt or two.
+    void LetLeave() { rig.clock.Advance(1000); }
     /// Lets what has closed go away.
     static void RemoveClosed() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
 

@@ -63,6 +63,7 @@ TEST_F(ServiceWindowsRandomTest, AnyDocumentAndRadioOpensEveryTuningDialog) {
             EXPECT_TRUE(value >= 0 && value <= 255) << "seed " << seed;
         }
         form->close();
+        LetLeave();
         RemoveClosed();
         EXPECT_TRUE(form.isNull()) << "seed " << seed;
         EXPECT_FALSE(rig.IsPortOpen()) << "seed " << seed;

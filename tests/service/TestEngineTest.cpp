@@ -104,7 +104,7 @@ TEST_F(TestEngineTest, AReleaseThatTheRadioMissedGoesOutAgainBeforeTheNextComman
     rig.messages.Expect(ConnectionPrompt(), MessageAnswer::Retry);
     engine.PressPtt();
     rig.clock.Advance(50);
-    engine.Close();
+    Close();
     EXPECT_EQ(rig.sent, (Commands{"08 0E", "08 0E", "11 01", "45"}));
 }
 
@@ -178,7 +178,7 @@ TEST_F(TestEngineTest, ClosingSendsTheSignallingAndEndAndClosesThePort) {
     engine.ChooseSignalling(5);
     rig.clock.Advance(50);
     rig.TakeSent();
-    engine.Close();
+    Close();
     EXPECT_EQ(rig.sent, (Commands{"11 05", "45"}));
     EXPECT_EQ(rig.times[1] - rig.times[0], 2 + 1 + 80);
     EXPECT_FALSE(rig.IsPortOpen());
@@ -192,7 +192,7 @@ TEST_F(TestEngineTest, ClosingWhileKeyedDropsTheTransmitterFirst) {
     engine.PressPtt();
     rig.clock.Advance(50);
     rig.TakeSent();
-    engine.Close();
+    Close();
     EXPECT_EQ(rig.sent, (Commands{"08 0E", "11 01", "45"}));
 }
 
@@ -200,7 +200,7 @@ TEST_F(TestEngineTest, ClosingDuringACommandWaitsForItsAnswer) {
     Open();
     engine.ChooseWide(false);
     rig.clock.Advance(2);
-    engine.Close();
+    Close();
     EXPECT_EQ(rig.sent, (Commands{"47", "11 01", "45"}));
 }
 
@@ -209,7 +209,7 @@ TEST_F(TestEngineTest, ASilentCloseEndsWithThePromptAndCancel) {
     rig.replies["11 01"] = "";
     rig.messages.Expect(ConnectionPrompt(), MessageAnswer::Retry);
     rig.messages.Expect(ConnectionPrompt(), MessageAnswer::Cancel);
-    engine.Close();
+    Close();
     EXPECT_EQ(rig.sent, (Commands{"11 01", "11 01"}));
     EXPECT_EQ(events, std::vector<std::string>{"unload"});
     EXPECT_TRUE(rig.service.TestAborted);
@@ -220,7 +220,7 @@ TEST_F(TestEngineTest, AWrongAnswerToTheClosingSignallingPromptsAndRetryEndsIt) 
     Open();
     rig.Spoil(rig.Replies() + 1, Fault::Corrupt);
     rig.messages.Expect(ConnectionPrompt(), MessageAnswer::Retry);
-    engine.Close();
+    Close();
     EXPECT_EQ(rig.sent, (Commands{"11 01", "11 01", "45"}));
 }
 

@@ -15,6 +15,7 @@ TEST_F(TestFormClosingTest, EveryWayOfClosingTakesLeaveOfTheRadio) {
         SCOPED_TRACE(name);
         Open();
         close();
+        LetLeave();
         EXPECT_EQ(rig.sent, (Commands{"11 01", "45"}));
         ExpectGone();
     }
@@ -26,6 +27,7 @@ TEST_F(TestFormClosingTest, TheLastSignallingIsSentAgain) {
     rig.clock.Advance(50);
     rig.TakeSent();
     Click(*form, "cmdClose");
+    LetLeave();
     EXPECT_EQ(rig.sent, (Commands{"11 05", "45"}));
 }
 
@@ -34,6 +36,7 @@ TEST_F(TestFormClosingTest, AKeyedTransmitterIsDroppedFirst) {
     PressPtt();
     rig.TakeSent();
     Click(*form, "cmdClose");
+    LetLeave();
     EXPECT_EQ(rig.sent, (Commands{"08 0E", "11 01", "45"}));
     ExpectGone();
 }
@@ -43,6 +46,7 @@ TEST_F(TestFormClosingTest, ClosingInTheMiddleOfACommandWaitsForItsAnswer) {
     Click(*form, "CmdNarrow");
     rig.clock.Advance(2); // sent at 1, its answer comes at 3
     Click(*form, "cmdClose");
+    LetLeave();
     EXPECT_EQ(rig.sent, (Commands{"47", "11 01", "45"}));
     ExpectGone();
 }
@@ -50,6 +54,7 @@ TEST_F(TestFormClosingTest, ClosingInTheMiddleOfACommandWaitsForItsAnswer) {
 TEST_F(TestFormClosingTest, ClosingRightBehindTheLoadWorks) {
     Load();
     Click(*form, "cmdClose");
+    LetLeave();
     EXPECT_EQ(rig.sent, (Commands{"11 01", "45"}));
     ExpectGone();
 }
@@ -64,6 +69,7 @@ TEST_F(TestFormClosingTest, ClosingAgainInTheMiddleOfTheLeaveChangesNothing) {
         });
     }
     Click(*form, "cmdClose");
+    LetLeave();
     EXPECT_EQ(rig.sent, (Commands{"11 01", "45"}));
     ExpectGone();
 }
@@ -75,6 +81,7 @@ TEST_F(TestFormClosingTest, NothingCanBePressedInTheMiddleOfTheLeave) {
         Click(*form, "CmdNarrow");
     });
     Click(*form, "cmdClose");
+    LetLeave();
     EXPECT_EQ(rig.sent, (Commands{"11 01", "45"}));
 }
 
@@ -86,6 +93,7 @@ TEST_F(TestFormClosingTest, RetryAtThePromptOfTheLeaveTakesLeaveAgain) {
         return MessageAnswer::Retry;
     });
     Click(*form, "cmdClose");
+    LetLeave();
     EXPECT_EQ(rig.sent, (Commands{"11 01", "11 01", "45"}));
     ExpectGone();
 }
@@ -95,14 +103,63 @@ TEST_F(TestFormClosingTest, CancelAtThePromptOfTheLeaveClosesAllTheSame) {
     rig.replies["11 01"] = "";
     rig.messages.Expect(ConnectionPrompt(), MessageAnswer::Cancel);
     Click(*form, "cmdClose");
+    LetLeave();
     EXPECT_EQ(rig.sent, Commands{"11 01"});
     ExpectGone();
+}
+
+TEST_F(TestFormClosingTest, TheWindowStaysDisabledUntilTheRadioIsTold) {
+    Open();
+    EXPECT_FALSE(form->close());
+    rig.clock.Advance(1 + 2 + 1 + 79);
+    EXPECT_EQ(rig.sent, Commands{"11 01"});
+    EXPECT_TRUE(form->isVisible());
+    EXPECT_FALSE(form->isEnabled());
+    EXPECT_TRUE(rig.IsPortOpen());
+    EXPECT_EQ(unloaded->count(), 0);
+    rig.clock.Advance(1);
+    EXPECT_EQ(rig.sent, (Commands{"11 01", "45"}));
+    EXPECT_FALSE(form->isVisible());
+    ExpectGone();
+}
+
+TEST_F(TestFormClosingTest, AByteInTheMiddleOfTheLeaveDoesNotHoldItUp) {
+    Open();
+    Click(*form, "cmdClose");
+    rig.clock.At(20, [this] { rig.ports.Port("MSComm1")->Deliver({0x15}); });
+    LetLeave();
+    EXPECT_EQ(rig.sent, (Commands{"11 01", "45"}));
+    EXPECT_EQ(rig.times[1] - rig.times[0], 2 + 1 + 80);
+    ExpectGone();
+}
+
+TEST_F(TestFormClosingTest, APortThatIsGonePromptsAndCancelCloses) {
+    Open();
+    rig.ports.Missing(1);
+    rig.ports.Port("MSComm1")->Vanish();
+    rig.messages.Expect(ConnectionPrompt(), MessageAnswer::Cancel);
+    Click(*form, "cmdClose");
+    LetLeave();
+    EXPECT_TRUE(rig.sent.empty());
+    ExpectGone();
+}
+
+TEST_F(TestFormClosingTest, DeletingTheWindowInTheMiddleOfTheLeaveIsHarmless) {
+    for (int moment = 0; moment <= 90; moment += 5) {
+        Open();
+        Click(*form, "cmdClose");
+        rig.clock.Advance(moment);
+        delete form;
+        rig.clock.Advance(500);
+        EXPECT_FALSE(rig.IsPortOpen());
+    }
 }
 
 TEST_F(TestFormClosingTest, ASilentEndIsNotNoticed) {
     Open();
     rig.replies["45"] = "";
     Click(*form, "cmdClose");
+    LetLeave();
     rig.clock.Advance(1000);
     ExpectGone();
 }

@@ -262,6 +262,7 @@ TEST_F(TestFormTest, ClosedWhileThePrintingSystemIsAskedItPrintsNothing) {
                         MessageAnswer::Ok);
     Click(*form, "CmdPrint");
     form->close();
+    LetLeave();
     rig.pages.Answer();
     EXPECT_TRUE(rig.pages.Documents().empty());
 }

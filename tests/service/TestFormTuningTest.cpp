@@ -106,6 +106,7 @@ protected:
         EXPECT_TRUE(Tuning()->isEnabled());
         EXPECT_FALSE(form->isEnabled());
         QTest::keyPress(Tuning(), Qt::Key_Escape);
+        LetLeave();
         RemoveClosed();
         EXPECT_EQ(Tuning(), nullptr);
         EXPECT_TRUE(form->isEnabled());
@@ -168,6 +169,7 @@ TEST_F(TestFormTuningTest, TheWindowWaitsForItsTuningDialog) {
     EXPECT_EQ(unloaded->count(), 0);
     EXPECT_TRUE(rig.sent.empty());
     Tuning()->close();
+    LetLeave();
     RemoveClosed();
     EXPECT_TRUE(form->isEnabled());
     rig.TakeSent();
@@ -176,6 +178,7 @@ TEST_F(TestFormTuningTest, TheWindowWaitsForItsTuningDialog) {
     PressPtt();
     rig.TakeSent();
     Click(*form, "cmdClose");
+    LetLeave();
     EXPECT_EQ(rig.sent, (Commands{"11 01", "45"}));
     ExpectGone();
 }
@@ -228,7 +231,7 @@ TEST_F(TestFormTuningTest, TheKeyboardIsWhereItWasAfterATuningDialog) {
     rig.clock.Advance(300);
     ASSERT_NE(Tuning(), nullptr);
     Click(*Tuning(), "CmdCancel");
-    rig.clock.Advance(1000);
+    LetLeave();
     RemoveClosed();
     ASSERT_EQ(Tuning(), nullptr);
     ASSERT_TRUE(QTest::qWaitForWindowActive(form));

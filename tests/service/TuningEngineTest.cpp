@@ -70,7 +70,7 @@ TEST_F(TuningEngineTest, AReleaseThatTheRadioMissedGoesOutAgainBeforeStore) {
     rig.messages.Expect(ConnectionPrompt(), MessageAnswer::Retry);
     engine->PressPtt();
     rig.clock.Advance(20);
-    engine->Close(TuningEngine::Ending::Ok);
+    Close(TuningEngine::Ending::Ok);
     EXPECT_EQ(rig.sent, (Commands{"08 0E", "08 0E", "1D 0E"}));
     EXPECT_EQ(dialog.events.back(), "idle");
 }
@@ -123,7 +123,7 @@ TEST_F(TuningEngineTest, OkSendsOneStoreForThePageInFront) {
     engine->ChangePage(3);
     rig.clock.Advance(100);
     rig.TakeSent();
-    engine->Close(TuningEngine::Ending::Ok);
+    Close(TuningEngine::Ending::Ok);
     EXPECT_EQ(rig.sent, Commands{"31 0E"});
     EXPECT_FALSE(rig.IsPortOpen());
 }
@@ -133,7 +133,7 @@ TEST_F(TuningEngineTest, OkWhileKeyedDropsTheTransmitterFirst) {
     engine->PressPtt();
     rig.clock.Advance(50);
     rig.TakeSent();
-    engine->Close(TuningEngine::Ending::Ok);
+    Close(TuningEngine::Ending::Ok);
     EXPECT_EQ(rig.sent, (Commands{"08 0E", "12 0E"}));
     EXPECT_EQ(rig.times[1] - rig.times[0], 2 + 5);
 }
@@ -143,14 +143,14 @@ const Commands SixPageCancel{"12 0D",    "12 20 6E", "30 0D",    "30 20 78", "33
 
 TEST_F(TuningEngineTest, CancelSetsAllSixOldValuesAndStoresOnce) {
     OpenSixPages();
-    engine->Close(TuningEngine::Ending::Cancel);
+    Close(TuningEngine::Ending::Cancel);
     EXPECT_EQ(rig.sent, SixPageCancel);
     EXPECT_FALSE(rig.IsPortOpen());
 }
 
 TEST_F(TuningEngineTest, CancelOfFourPagesSetsAllFourOldValuesAndStoresOnce) {
     Open({TuningKind::Points, 24, {24, 101, 102, 103}});
-    engine->Close(TuningEngine::Ending::Cancel);
+    Close(TuningEngine::Ending::Cancel);
     EXPECT_EQ(rig.sent,
               (Commands{"18 0D", "18 20 6E", "65 0D", "65 20 78", "66 0D", "66 20 82", "67 0D", "67 20 8C", "67 0E"}));
 }
@@ -160,7 +160,7 @@ TEST_F(TuningEngineTest, CancelWhileKeyedDropsTheTransmitterFirst) {
     engine->PressPtt();
     rig.clock.Advance(50);
     rig.TakeSent();
-    engine->Close(TuningEngine::Ending::Cancel);
+    Close(TuningEngine::Ending::Cancel);
     Commands expected{"08 0E"};
     expected.insert(expected.end(), SixPageCancel.begin(), SixPageCancel.end());
     EXPECT_EQ(rig.sent, expected);
@@ -170,7 +170,7 @@ TEST_F(TuningEngineTest, ClosingInTheMiddleOfAValueWaitsForItsAnswer) {
     OpenSixPages();
     engine->SliderMoved();
     rig.clock.Advance(2);
-    engine->Close(TuningEngine::Ending::Ok);
+    Close(TuningEngine::Ending::Ok);
     EXPECT_EQ(rig.sent, (Commands{"12 20 0A", "12 0E"}));
 }
 
@@ -179,13 +179,13 @@ TEST_F(TuningEngineTest, OneValueIsSetStoredAndCancelled) {
     engine->SliderMoved();
     rig.clock.Advance(50);
     EXPECT_EQ(rig.TakeSent(), Commands{"1D 20 0A"});
-    engine->Close(TuningEngine::Ending::Ok);
+    Close(TuningEngine::Ending::Ok);
     EXPECT_EQ(rig.sent, Commands{"1D 0E"});
 }
 
 TEST_F(TuningEngineTest, CancelOfOneValueSelectsAndSetsTheOldOneAndStoresNothing) {
     OpenOneValue();
-    engine->Close(TuningEngine::Ending::Cancel);
+    Close(TuningEngine::Ending::Cancel);
     EXPECT_EQ(rig.sent, (Commands{"1D 0D", "1D 20 6E"}));
 }
 
@@ -225,7 +225,7 @@ TEST_F(TuningEngineTest, OkOfAMeasuringDialogSetsAndStoresTheMeasuredValue) {
     engine->ToggleMeasuring();
     rig.clock.Advance(300);
     rig.TakeSent();
-    engine->Close(TuningEngine::Ending::Ok);
+    Close(TuningEngine::Ending::Ok);
     EXPECT_EQ(rig.sent, (Commands{"22 20 4D", "22 0E"}));
 }
 
@@ -234,7 +234,7 @@ TEST_F(TuningEngineTest, CancelOfAMeasuringDialogSetsAndStoresTheOldValue) {
     engine->ToggleMeasuring();
     rig.clock.Advance(300);
     rig.TakeSent();
-    engine->Close(TuningEngine::Ending::Cancel);
+    Close(TuningEngine::Ending::Cancel);
     EXPECT_EQ(rig.sent, (Commands{"22 20 6E", "22 0E"}));
 }
 

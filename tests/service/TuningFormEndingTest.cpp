@@ -22,6 +22,7 @@ protected:
         } else {
             CloseByFrame(*form);
         }
+        LetLeave();
         ExpectGone();
     }
 };
@@ -71,6 +72,7 @@ TEST_F(TuningFormEndingTest, OkStoresThePageInFrontOnly) {
     Settle();
     rig.TakeSent();
     Click(*form, "CmdOK");
+    LetLeave();
     EXPECT_EQ(rig.sent, Commands{"34 0E"});
     ExpectGone();
 }
@@ -78,18 +80,22 @@ TEST_F(TuningFormEndingTest, OkStoresThePageInFrontOnly) {
 TEST_F(TuningFormEndingTest, OkOfEverySizeStores) {
     OpenHighPower();
     Click(*form, "CmdOK");
+    LetLeave();
     ExpectGone();
     EXPECT_EQ(rig.TakeSent(), Commands{"12 0E"});
     OpenSensitivity();
     Press(In<QPushButton>(*form, "CmdOK"), Qt::Key_Return);
+    LetLeave();
     ExpectGone();
     EXPECT_EQ(rig.TakeSent(), Commands{"1F 0E"});
     OpenOneValue();
     Click(*form, "CmdOK");
+    LetLeave();
     ExpectGone();
     EXPECT_EQ(rig.TakeSent(), Commands{"1B 0E"});
     OpenMeasured();
     Click(*form, "CmdOK");
+    LetLeave();
     ExpectGone();
     EXPECT_EQ(rig.TakeSent(), (Commands{"21 20 46", "21 0E"}));
 }
@@ -142,6 +148,7 @@ TEST_F(TuningFormEndingTest, EnterPressesTheButtonThatHasTheFocus) {
         EXPECT_EQ(rig.TakeSent(), Commands{"08 0E"});
         In<QPushButton>(*form, "CmdCancel").setFocus();
         QTest::keyPress(&In<QPushButton>(*form, "CmdCancel"), enter);
+        LetLeave();
         EXPECT_EQ(rig.TakeSent(), OneValueCancel);
         ExpectGone();
     }
@@ -157,6 +164,7 @@ TEST_F(TuningFormEndingTest, AKeyedTransmitterIsDroppedBeforeOkAndBeforeCancel) 
     Settle();
     rig.TakeSent();
     Click(*form, "CmdOK");
+    LetLeave();
     ExpectGone();
     EXPECT_EQ(rig.TakeSent(), (Commands{"08 0E", "12 0E"}));
     OpenOneValue();
@@ -164,6 +172,7 @@ TEST_F(TuningFormEndingTest, AKeyedTransmitterIsDroppedBeforeOkAndBeforeCancel) 
     Settle();
     rig.TakeSent();
     Click(*form, "CmdCancel");
+    LetLeave();
     ExpectGone();
     EXPECT_EQ(rig.TakeSent(), (Commands{"08 0E", "1B 0D", "1B 20 3C"}));
 }
@@ -171,6 +180,7 @@ TEST_F(TuningFormEndingTest, AKeyedTransmitterIsDroppedBeforeOkAndBeforeCancel) 
 TEST_F(TuningFormEndingTest, ClosingPausesThirtyMilliseconds) {
     OpenOneValue();
     Click(*form, "CmdOK");
+    LetLeave();
     EXPECT_EQ(rig.clock.Sleeps(), std::vector<int>{30});
 }
 
@@ -179,6 +189,7 @@ TEST_F(TuningFormEndingTest, ClosingInTheMiddleOfACommandWaitsForItsAnswer) {
     Press(Slider(), Qt::Key_Right);
     rig.clock.Advance(2); // sent at 1, its answer comes at 3
     Click(*form, "CmdOK");
+    LetLeave();
     EXPECT_EQ(rig.sent, (Commands{"12 20 65", "12 0E"}));
     ExpectGone();
 }
@@ -187,6 +198,7 @@ TEST_F(TuningFormEndingTest, OkRightBehindAStepStoresWhatIsShown) {
     OpenOneValue();
     Press(Box(), Qt::Key_Up);
     Click(*form, "CmdOK");
+    LetLeave();
     EXPECT_EQ(rig.sent, (Commands{"1B 20 3D", "1B 0E"}));
     ExpectGone();
 }
@@ -204,10 +216,35 @@ TEST_F(TuningFormEndingTest, ClosingAgainInTheMiddleOfTheRestoringChangesNothing
         });
     }
     Click(*form, "CmdCancel");
+    LetLeave();
     EXPECT_EQ(rig.sent, SixPageCancel);
     ExpectGone();
     rig.clock.Advance(100);
     EXPECT_EQ(rig.sent, SixPageCancel);
+}
+
+TEST_F(TuningFormEndingTest, TheDialogStaysDisabledUntilTheRadioHasTheOldValues) {
+    OpenOneValue();
+    EXPECT_FALSE(form->close());
+    rig.clock.Advance(5 + 2 + 1 + 1);
+    EXPECT_EQ(rig.sent, OneValueCancel);
+    EXPECT_TRUE(form->isVisible());
+    EXPECT_FALSE(form->isEnabled());
+    EXPECT_EQ(unloaded->count(), 0);
+    rig.clock.Advance(1);
+    EXPECT_FALSE(form->isVisible());
+    ExpectGone();
+}
+
+TEST_F(TuningFormEndingTest, DeletingTheDialogInTheMiddleOfTheRestoringIsHarmless) {
+    for (int moment = 0; moment <= 50; moment += 3) {
+        OpenHighPower();
+        Click(*form, "CmdCancel");
+        rig.clock.Advance(moment);
+        delete form;
+        rig.clock.Advance(500);
+        EXPECT_FALSE(rig.IsPortOpen());
+    }
 }
 
 TEST_F(TuningFormEndingTest, ThePromptRepeatsTheCommandOnRetry) {
@@ -222,6 +259,7 @@ TEST_F(TuningFormEndingTest, ThePromptRepeatsTheCommandOnRetry) {
     EXPECT_EQ(rig.sent, (Commands{"12 20 65", "12 20 65"}));
     EXPECT_TRUE(form->isEnabled());
     Click(*form, "CmdOK");
+    LetLeave();
     ExpectGone();
 }
 
@@ -253,6 +291,7 @@ TEST_F(TuningFormEndingTest, RetryInTheMiddleOfTheRestoringRestoresAllAnew) {
         return MessageAnswer::Retry;
     });
     Click(*form, "CmdCancel");
+    LetLeave();
     Commands expected{"12 0D", "12 20 64", "30 0D", "30 20 5A", "33 0D"};
     expected.insert(expected.end(), SixPageCancel.begin(), SixPageCancel.end());
     EXPECT_EQ(rig.sent, expected);
@@ -264,6 +303,7 @@ TEST_F(TuningFormEndingTest, CancelInTheMiddleOfTheRestoringClosesAllTheSame) {
     rig.replies["33 0D"] = "";
     rig.messages.Expect(ConnectionPrompt(), MessageAnswer::Cancel);
     Click(*form, "CmdCancel");
+    LetLeave();
     EXPECT_EQ(rig.sent, (Commands{"12 0D", "12 20 64", "30 0D", "30 20 5A", "33 0D"}));
     ExpectGone();
 }
@@ -273,6 +313,7 @@ TEST_F(TuningFormEndingTest, CancelAtThePromptOfOkClosesAllTheSame) {
     rig.replies["12 0E"] = "15";
     rig.messages.Expect(ConnectionPrompt(), MessageAnswer::Cancel);
     Click(*form, "CmdOK");
+    LetLeave();
     EXPECT_EQ(rig.sent, Commands{"12 0E"});
     ExpectGone();
 }
@@ -309,6 +350,7 @@ TEST_F(TuningFormEndingTest, StartMeasuresUntilItIsPressedAgain) {
     rig.clock.Advance(50);
     EXPECT_EQ(TextOf(*form, "txtTuneValue"), "0");
     Click(*form, "CmdOK");
+    LetLeave();
     EXPECT_EQ(rig.sent, (Commands{"21 0A", "06", "21 20 00", "21 0E"}));
     ExpectGone();
 }

@@ -245,6 +245,7 @@ TEST_F(TuningFormTest, NothingIsWrittenToTheDocumentOrToTheKeptValues) {
     Press(Slider(), Qt::Key_Right, 9);
     Settle();
     Click(*form, "CmdOK");
+    LetLeave();
     EXPECT_EQ(rig.document.Image, image);
     EXPECT_EQ(rig.service.Values, kept);
 }

@@ -140,6 +140,7 @@ TEST_F(ServiceCommandsTest, TestModeOpensOverADisabledMainWindowAndEndsWithEnd) 
     EXPECT_FALSE(window->isEnabled());
     sent.clear();
     QTest::mouseClick(form->findChild<QPushButton*>("cmdClose"), Qt::LeftButton);
+    fakes.clock.Advance(200);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_EQ(sent, (std::vector<std::string>{"11 01", "45"}));
     EXPECT_TRUE(window->isEnabled());
@@ -389,6 +390,7 @@ TEST_F(ServiceCommandsTest, TheWindowOnTopStaysOnTopWithTheKeyboardWhereItWas) {
     auto* form = Find<TestForm>("TestForm");
     ASSERT_NE(form, nullptr);
     QTest::mouseClick(form->findChild<QPushButton*>("cmdClose"), Qt::LeftButton);
+    fakes.clock.Advance(200);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
     EXPECT_TRUE(field->hasFocus());

@@ -59,8 +59,10 @@ public:
     void OnLamps(bool transmitting) override { isTransmitting = transmitting; }
     void OnTuningReady() override { isTuningReady = true; }
     void OnUnloadRequested() override { isUnloadRequested = true; }
+    void OnClosed() override { isClosed = true; }
 
     bool isTransmitting = false;
+    bool isClosed = false;
     bool isTuningReady = false;
     bool isUnloadRequested = false;
 };
@@ -74,12 +76,14 @@ public:
     void OnPointRead(int page) override { pageRead = page; }
     void OnMeasured(int value) override { measured.push_back(value); }
     void OnUnloadRequested() override { isUnloadRequested = true; }
+    void OnClosed() override { isClosed = true; }
 
     std::array<int, 6> values{};
     std::array<int, 6> oldValues{};
     std::vector<int> measured;
     int pageRead = -1;
     bool isTransmitting = false;
+    bool isClosed = false;
     bool isUnloadRequested = false;
 };
 

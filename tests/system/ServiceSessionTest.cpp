@@ -266,6 +266,7 @@ protected:
         engine.SliderMoved();
         EXPECT_TRUE(RadioSoonPrints({"] > 30 20 C8 (Set item 1 Low to 200)\n"})) << radio->Out();
         engine.Close(ending);
+        EXPECT_TRUE(Soon([&] { return dialog.isClosed; })) << radio->Out();
         EXPECT_FALSE(dialog.isUnloadRequested);
         EXPECT_FALSE(port->IsOpen());
     }
@@ -288,6 +289,7 @@ protected:
         ASSERT_NO_FATAL_FAILURE(StartTuning(engine, 1));
         EXPECT_EQ(document.Image.At(0x185), stored) << "what the next Read tuning data brings";
         engine.Close();
+        EXPECT_TRUE(Soon([&] { return test.isClosed; })) << radio->Out();
         ASSERT_TRUE(RadioSoonPrints({"] > 45 (End)\n"})) << radio->Out();
         EXPECT_FALSE(test.isUnloadRequested);
         ASSERT_TRUE(Soon([&] { return SavedFile().size() == 1040; }));
@@ -350,11 +352,13 @@ TEST_F(TuningRun, AMeasuredItemIsMeasuredAgainAndAgainAndItsLastValueStored) {
         tuning.ToggleMeasuring();
         dialog.values[0] = dialog.measured[1];
         tuning.Close(TuningEngine::Ending::Ok);
+        EXPECT_TRUE(Soon([&] { return dialog.isClosed; })) << radio->Out();
     }
     EXPECT_GT(dialog.measured[1], 100);
     ASSERT_NO_FATAL_FAILURE(StartTuning(engine, 12));
     EXPECT_EQ(document.Image.At(0x1AC), dialog.measured[1]);
     engine.Close();
+    EXPECT_TRUE(Soon([&] { return test.isClosed; })) << radio->Out();
 }
 
 } // namespace
