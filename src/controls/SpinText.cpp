@@ -66,9 +66,6 @@ SpinText::SpinText(const QString& textName, const QString& upDownName, SpinTextR
     box_->installEventFilter(this);
     connect(upDown_, &UpDown::StepAsked, this, &SpinText::Step);
     connect(box_, &FilteredLineEdit::EnterPressed, this, [this] { MoveOn(*box_); });
-    if (rules_.commit) {
-        connect(box_, &FilteredLineEdit::FocusLeft, this, rules_.commit);
-    }
 }
 
 void SpinText::SetAccessibleName(const QString& name) {

@@ -26,8 +26,6 @@ struct SpinTextRules {
     /// A way of stepping that differs from adding the increment and wrapping at the ends: the next value, or nothing
     /// where the step is to change nothing.
     std::function<std::optional<int>(const QString& text, bool up)> step = nullptr;
-    /// The focus left: bring the text into form and store it.
-    std::function<void()> commit = nullptr;
 };
 
 /// The two buttons of a SpinText, and the value that they step.
@@ -62,8 +60,9 @@ private:
 ///
 /// Up and Down and the two buttons step, show the new value's text with all of it selected and the caret at its start,
 /// and wrap: a box that shows the last text of the range steps to the first, and the other way round; from any other
-/// text a step ends at the range's end at most. Stepping stores nothing. Enter moves on like Tab. Text and up-down
-/// value are two things: code may show a text that stands for no value of the range.
+/// text a step ends at the range's end at most. Stepping stores nothing: who stores listens to the box's FocusLeft.
+/// Enter moves on like Tab. Text and up-down value are two things: code may show a text that stands for no value of the
+/// range.
 class SpinText : public UpDownPair {
     Q_OBJECT
 

@@ -23,13 +23,12 @@ class SpinTextTest : public testing::Test {
 protected:
     void SetUp() override { Show(Rules()); }
 
-    SpinTextRules Rules() {
+    static SpinTextRules Rules() {
         SpinTextRules rules;
         rules.first = 0;
         rules.last = 10;
         rules.lengthLimit = 2;
         rules.show = [](int value) { return value == 0 ? QStringLiteral("Off") : QString::number(value); };
-        rules.commit = [this] { ++commits; };
         return rules;
     }
     void Show(SpinTextRules rules) {
@@ -37,6 +36,7 @@ protected:
         auto* layout = new QVBoxLayout(window.get());
         before = new QLineEdit;
         spin = new SpinText("txtTOTPreAlert", "updTOTPreAlert", std::move(rules));
+        QObject::connect(&spin->Box(), &FilteredLineEdit::FocusLeft, spin, [this] { ++commits; });
         after = new QLineEdit;
         layout->addWidget(before);
         layout->addWidget(spin);
