@@ -159,6 +159,42 @@ TEST_F(ServiceCommandsTest, TheMainWindowDoesNotCloseWhileTestModeIsOpen) {
     EXPECT_TRUE(Find<TestForm>("TestForm")->isEnabled());
 }
 
+TEST_F(ServiceCommandsTest, TheMainWindowDoesNotCloseUntilTestModeHasTakenLeaveOfTheRadio) {
+    Choose("MnuProgramTestMode");
+    fakes.clock.Advance(1000);
+    sent.clear();
+    Find<TestForm>("TestForm")->close();
+    fakes.clock.Advance(20); // the radio has answered, and End is due 80 ms behind
+    fakes.messages.Expect({"Warning", "Test Mode is still open. Close it before you leave Zelvor.",
+                           MessageIcon::Exclamation, MessageButtons::Ok, MessageAnswer::Ok},
+                          MessageAnswer::Ok);
+    EXPECT_FALSE(window->close());
+    EXPECT_FALSE(window->isEnabled());
+    EXPECT_EQ(sent, std::vector<std::string>{"11 01"});
+    fakes.clock.Advance(200);
+    EXPECT_TRUE(window->isEnabled());
+    EXPECT_EQ(sent, (std::vector<std::string>{"11 01", "45"}));
+    fakes.messages.Expect({"Confirmation", "Do you wish to exit Zelvor program？", MessageIcon::Question,
+                           MessageButtons::YesNo, MessageAnswer::Yes},
+                          MessageAnswer::Yes);
+    fakes.messages.Expect({"Zelvor", "Do you wish to save the changes in \"Zelvor.DAT\" ?", MessageIcon::Exclamation,
+                           MessageButtons::YesNoCancel, MessageAnswer::Yes},
+                          MessageAnswer::No);
+    EXPECT_TRUE(window->close());
+}
+
+TEST_F(ServiceCommandsTest, DestroyingTheMainWindowWhileTestModeTakesLeaveIsHarmless) {
+    Choose("MnuProgramTestMode");
+    fakes.clock.Advance(1000);
+    Find<TestForm>("TestForm")->close();
+    fakes.clock.Advance(20);
+    sent.clear();
+    window.reset();
+    fakes.clock.Advance(1000);
+    EXPECT_TRUE(sent.empty());
+    EXPECT_EQ(fakes.ports.Port("MSComm1"), nullptr);
+}
+
 TEST_F(ServiceCommandsTest, TheMainWindowDoesNotCloseWhileRadioInformationIsOpen) {
     windows.LanguageFlag = Language::Chinese;
     Choose("MnuToolRadioInformation");
