@@ -3,7 +3,6 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QDialog>
-#include <QTabWidget>
 #include <array>
 #include <set>
 
@@ -13,15 +12,6 @@
 namespace zelvor {
 namespace {
 
-constexpr std::array ChildEntries{std::pair{"ChannelForm", "MnuEditChannelInformation"},
-                                  std::pair{"OptionalForm", "MnuEditOptionalFeatures"},
-                                  std::pair{"KeyAssign", "MnuEditKeyAssignment"},
-                                  std::pair{"ScanForm", "MnuEditScanInformation"},
-                                  std::pair{"DTMFForm", "MnuEditDTMF"},
-                                  std::pair{"CorvaneForm", "MnuEditCorvane"},
-                                  std::pair{"TestChannelForm", "MnuEditTestFrequency"},
-                                  std::pair{"EmbedInfoForm", "MnuEditEmbeddedMessage"},
-                                  std::pair{"TreeViewForm", "MnuViewTreeView"}};
 constexpr std::array DialogEntries{
     "MnuFilePrint", "MnuModelInformation", "MnuProgramRead", "MnuSetupCommunicationPort", "MnuSetupLanguageFileSetup",
     "MnuHelpAbout"};
@@ -90,19 +80,7 @@ TEST_P(AccessibilityTest, EveryControlOfTheMainWindowHasAName) {
 }
 
 TEST_P(AccessibilityTest, EveryControlOfEveryChildWindowHasAName) {
-    for (const auto& [name, entry] : ChildEntries) {
-        Entry(entry)->trigger();
-        QCoreApplication::processEvents();
-        QWidget& form = *Child(name);
-        auto* tabs = form.findChild<QTabWidget*>();
-        for (int page = 0; page < (tabs == nullptr ? 1 : tabs->count()); ++page) {
-            if (tabs != nullptr) {
-                tabs->setCurrentIndex(page);
-                QCoreApplication::processEvents();
-            }
-            ExpectNames(form);
-        }
-    }
+    VisitChildWindows(ExpectNames);
     ClickButton("ChannelForm", "cmdChannelEdit");
     QCoreApplication::processEvents();
     ExpectNames(*Child("ChannelEditForm"));

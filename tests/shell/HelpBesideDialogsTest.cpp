@@ -111,7 +111,8 @@ protected:
     QtMessageBoxes messages_;
     QtFileDialogs files_;
     QtHelpViewer help_;
-    Services services_{fakes.ports, fakes.settings, messages_, files_, fakes.clock, help_, fakes.pages, fakes.store, fakes.backups};
+    Services services_{fakes.ports, fakes.settings, messages_,   files_,       fakes.clock,
+                       help_,       fakes.pages,    fakes.store, fakes.backups};
 };
 
 struct DialogOfEntry {

@@ -5,9 +5,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QStyleOptionComboBox>
-#include <QTabWidget>
 #include <QTreeWidget>
-#include <array>
 
 #include "../support/InView.h"
 #include "controls/EditGrid.h"
@@ -15,16 +13,6 @@
 
 namespace zelvor {
 namespace {
-
-constexpr std::array EditEntries{std::pair{"ChannelForm", "MnuEditChannelInformation"},
-                                 std::pair{"OptionalForm", "MnuEditOptionalFeatures"},
-                                 std::pair{"KeyAssign", "MnuEditKeyAssignment"},
-                                 std::pair{"ScanForm", "MnuEditScanInformation"},
-                                 std::pair{"DTMFForm", "MnuEditDTMF"},
-                                 std::pair{"CorvaneForm", "MnuEditCorvane"},
-                                 std::pair{"TestChannelForm", "MnuEditTestFrequency"},
-                                 std::pair{"EmbedInfoForm", "MnuEditEmbeddedMessage"},
-                                 std::pair{"TreeViewForm", "MnuViewTreeView"}};
 
 /// Whether texts of a width find it in a widget, and one line its height.
 void ExpectRoom(const QWidget& widget, int textWidth, int roomAcross) {
@@ -111,19 +99,7 @@ protected:
 };
 
 TEST_P(LargeFontTest, EveryTextOfEveryChildWindowHasItsRoom) {
-    for (const auto& [name, entry] : EditEntries) {
-        Entry(entry)->trigger();
-        QCoreApplication::processEvents();
-        QWidget& form = *Child(name);
-        auto* tabs = form.findChild<QTabWidget*>();
-        for (int page = 0; page < (tabs == nullptr ? 1 : tabs->count()); ++page) {
-            if (tabs != nullptr) {
-                tabs->setCurrentIndex(page);
-                QCoreApplication::processEvents();
-            }
-            ExpectRoomForTexts(form);
-        }
-    }
+    VisitChildWindows(ExpectRoomForTexts);
 }
 
 TEST_P(LargeFontTest, EveryTextOfTheChannelWindowsHasItsRoom) {

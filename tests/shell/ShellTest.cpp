@@ -4,13 +4,26 @@
 #include <QApplication>
 #include <QMenu>
 #include <QMenuBar>
+#include <QTabWidget>
 #include <QTimer>
 #include <QToolButton>
 #include <QWindow>
+#include <array>
+#include <utility>
 
 namespace zelvor {
 
 namespace {
+
+constexpr std::array ChildEntries{std::pair{"ChannelForm", "MnuEditChannelInformation"},
+                                  std::pair{"OptionalForm", "MnuEditOptionalFeatures"},
+                                  std::pair{"KeyAssign", "MnuEditKeyAssignment"},
+                                  std::pair{"ScanForm", "MnuEditScanInformation"},
+                                  std::pair{"DTMFForm", "MnuEditDTMF"},
+                                  std::pair{"CorvaneForm", "MnuEditCorvane"},
+                                  std::pair{"TestChannelForm", "MnuEditTestFrequency"},
+                                  std::pair{"EmbedInfoForm", "MnuEditEmbeddedMessage"},
+                                  std::pair{"TreeViewForm", "MnuViewTreeView"}};
 
 /// Clicks as the window system does: the toolkit finds who gets it, and an open menu follows the pointer there.
 void ClickInWindow(const QWidget& widget, const QPoint& place) {
@@ -87,6 +100,22 @@ void ShellTest::ChooseDialog(const std::string& name, const std::function<void(Q
 bool ShellTest::IsChildShown(const char* name) const {
     const QWidget* child = Child(name);
     return child != nullptr && child->isVisible();
+}
+
+void ShellTest::VisitChildWindows(const std::function<void(QWidget& form)>& visit) const {
+    for (const auto& [name, entry] : ChildEntries) {
+        Entry(entry)->trigger();
+        QCoreApplication::processEvents();
+        QWidget& form = *Child(name);
+        auto* tabs = form.findChild<QTabWidget*>();
+        for (int page = 0; page < (tabs == nullptr ? 1 : tabs->count()); ++page) {
+            if (tabs != nullptr) {
+                tabs->setCurrentIndex(page);
+                QCoreApplication::processEvents();
+            }
+            visit(form);
+        }
+    }
 }
 
 void ShellTest::CloseFrame(const char* name) const {

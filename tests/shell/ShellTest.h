@@ -44,6 +44,8 @@ protected:
     /// The child window of that class name, null where it is not loaded.
     [[nodiscard]] QWidget* Child(const char* name) const { return Find<QWidget>(name); }
     [[nodiscard]] bool IsChildShown(const char* name) const;
+    /// Opens all windows of the menus Edit and View, one after the other, and each page of each.
+    void VisitChildWindows(const std::function<void(QWidget& form)>& visit) const;
     /// Sends the close button's event to the child window's frame.
     void CloseFrame(const char* name) const;
     void ClickButton(const char* child, const char* button) const;
