@@ -19,8 +19,8 @@ ImageDifferences DifferencesOf(const DataImage& a, const DataImage& b) {
                 continue;
             }
             differences.fields.push_back(field);
-            for (int i = 0; i < field.Size(); ++i) {
-                told.set(static_cast<std::size_t>(field.Address() + i));
+            for (int address = field.Address(); address < field.Address() + field.Size(); ++address) {
+                told.set(static_cast<std::size_t>(address));
             }
         }
     }

@@ -170,19 +170,17 @@ bool StoreWord(const ChannelField& field, std::string_view text, DataImage& imag
     return bits ? StoreBits(image, at, *bits, text, language) : StoreMark(image, field.channel, text, language);
 }
 
-/// A record that says what a new channel's does, but for its frequencies.
-void BeginRecord(DataImage& image, int channel) {
-    const int at = address::Channel(channel);
+void BlankChannel(DataImage& image, int channel) {
     for (int j = 0; j < address::ChannelSize; ++j) {
-        image.Set(at + j, ErasedByte);
+        image.Set(address::Channel(channel) + j, ErasedByte);
     }
-    image.Set(at + Signalling, 0);
-    image.Set(at + PttId, PttIdOff);
 }
 
 void BeginChannel(DataImage& image, int channel, std::string_view receive) {
     constexpr Language English = Language::English;
-    BeginRecord(image, channel);
+    BlankChannel(image, channel);
+    image.Set(address::Channel(channel) + Signalling, 0);
+    image.Set(address::Channel(channel) + PttId, PttIdOff);
     ChannelCodec codec;
     codec.CompleteChannelDefaults(image, English, channel, receive);
     const ChannelTexts& texts = codec.Texts;
@@ -202,12 +200,6 @@ void BeginChannel(DataImage& image, int channel, std::string_view receive) {
     SetScanAdd(image, channel, texts.ScanAddText == TableText(English, Text::Yes));
 }
 
-void BlankChannel(DataImage& image, int channel) {
-    for (int j = 0; j < address::ChannelSize; ++j) {
-        image.Set(address::Channel(channel) + j, ErasedByte);
-    }
-}
-
 bool ParseFrequency(const ChannelField& field, std::string_view text, DataImage& image) {
     const TypedFrequency typed = text.empty() ? TypedFrequency{} : ReadTypedFrequency(text, SetBandLimits(image));
     if (typed.fault != FrequencyFault::None) {
@@ -216,11 +208,10 @@ bool ParseFrequency(const ChannelField& field, std::string_view text, DataImage&
     if (typed.text == ShowValue(field, image, Language::English)) {
         return true;
     }
-    if (field.column == ChannelColumn::Transmit) {
-        StoreFrequency(image, AddressOf(field), typed.text);
-    } else if (typed.text.empty()) {
+    const bool isReceive = field.column == ChannelColumn::Receive;
+    if (isReceive && typed.text.empty()) {
         BlankChannel(image, field.channel);
-    } else if (IsChannelBlank(image, field.channel)) {
+    } else if (isReceive && IsChannelBlank(image, field.channel)) {
         BeginChannel(image, field.channel, typed.text);
     } else {
         StoreFrequency(image, AddressOf(field), typed.text);

@@ -33,7 +33,7 @@ enum class FaultWeight : std::uint8_t {
 [[nodiscard]] std::string TextOf(ImageFault fault, Language language);
 
 struct ImageFinding {
-    ImageFault fault;
+    ImageFault fault = ImageFault::IllegalValue;
     std::optional<Field> field; // that it is about
 };
 

@@ -117,6 +117,21 @@ TEST_F(ZelvorCli, NewSetGetDiffAndCheckWorkTogether) {
     EXPECT_EQ(EntriesOf(folder.Path()), (std::vector<std::string>{"a.dat", "b.dat"}));
 }
 
+TEST_F(ZelvorCli, TakesFilesOfAnyName) {
+    MakeNew("x");
+    const std::string content = FileContent(folder / "x");
+    for (const char* name : {"{}", "[a]", "[a,b]", "a,b", "%%", "a b", "-x", "队列.dat", "keys", "*"}) {
+        PutFile(folder / name, content);
+        EXPECT_EQ(Run({"set", "optional.beep=Off", "--", name}), 0) << name << ": " << err;
+        EXPECT_EQ(Run({"get", "--", name, "optional.beep"}), 0) << name << ": " << err;
+        EXPECT_EQ(out, "optional.beep=Off\n") << name;
+    }
+    PutFile(folder / "a=b", content);
+    EXPECT_EQ(Run({"set", "./a=b", "message.line.1=[c=d]", "message.line.2={}"}), 0) << err;
+    EXPECT_EQ(Run({"get", "a=b", "message.line.1", "message.line.2"}), 0) << err;
+    EXPECT_EQ(out, "message.line.1=[c=d]\nmessage.line.2={}\n");
+}
+
 TEST_F(ZelvorCli, SetOfAnIllegalValueEndsWithThreeAndWritesNothing) {
     MakeNew();
     const std::string before = FileContent(folder / "a.dat");

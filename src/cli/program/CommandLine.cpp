@@ -4,8 +4,10 @@
 #include <algorithm>
 #include <iostream>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include <CLI/CLI.hpp>
 
@@ -53,6 +55,29 @@ Language LookForLanguage(int argc, char** argv) {
         }
     }
     return LanguageOfLocale();
+}
+
+/// The reader takes a name in brackets as a list, and braces as none.
+bool IsMisread(std::string_view argument) {
+    return argument == "{}" || (argument.size() > 1 && argument.front() == '[' && argument.back() == ']');
+}
+
+/// As the reader wants them, the last one first. A file whose name it would take for something else gets its folder;
+/// so does one with a hyphen behind "--", which the reader lets no command have behind its first file.
+std::vector<std::string> ArgumentsOf(int argc, char** argv) {
+    std::vector<std::string> arguments;
+    bool areFiles = false;
+    for (const std::string_view argument : std::span(argv, static_cast<std::size_t>(argc)).subspan(1)) {
+        if (!areFiles && argument == "--") {
+            areFiles = true;
+        } else if (IsMisread(argument) || (areFiles && argument.starts_with('-'))) {
+            arguments.push_back("./" + std::string(argument));
+        } else {
+            arguments.emplace_back(argument);
+        }
+    }
+    std::ranges::reverse(arguments);
+    return arguments;
 }
 
 void NameLabels(CLI::App& app, Language language) {
@@ -114,7 +139,7 @@ CommandLine ReadCommandLine(int argc, char** argv) {
     CLI::App app(std::string(Summary.In(commandLine.language)), "zelvor-cli");
     Describe(app, commandLine.language, commandLine.action, languageName);
     try {
-        app.parse(argc, argv);
+        app.parse(ArgumentsOf(argc, argv));
     } catch (const CLI::Success& request) {
         commandLine.action = nullptr;
         commandLine.exitCode = app.exit(request);
