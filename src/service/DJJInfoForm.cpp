@@ -7,16 +7,14 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <QVBoxLayout>
-#include <array>
 
 #include "controls/FitToScreen.h"
 #include "data/Document.h"
 #include "data/MemoryMap.h"
-#include "data/ModelCatalogue.h"
-#include "data/Windows1252.h"
 #include "help/HelpViewer.h"
 #include "platform/Services.h"
 #include "platform/Toolkit.h"
+#include "service/RadioInformation.h"
 #include "service/ServiceControls.h"
 #include "service/ServiceState.h"
 #include "text/StringTable.h"
@@ -25,48 +23,25 @@ namespace zelvor {
 
 namespace {
 
-/// Nothing that the radio tells reaches this text.
-constexpr const char* FixedVersion = "V1.0";
-
-// Places in the manufacturing record.
-constexpr std::size_t SerialPrefix = 13;
-constexpr std::size_t SerialFirst = 17;
-constexpr std::size_t SerialLast = 24;
-
 constexpr int FieldWidth = 220; // logical pixels
-
-struct ModelTexts {
-    std::string_view model;
-    std::string_view range;
-};
-
-/// A known family with a market that it does not have shows neither text.
-ModelTexts TextsOf(const DataImage& image) {
-    const std::uint8_t family = image.At(address::Family);
-    const ModelVariant* variant = FindVariant(family, image.At(address::Market));
-    if (variant == nullptr && IsFamilyByte(family)) {
-        return {};
-    }
-    const ModelVariant& shown = variant != nullptr ? *variant : VariantOfUnknownFamily();
-    return {shown.infoModel, shown.infoBand};
-}
 
 } // namespace
 
 DJJInfoForm::DJJInfoForm(const Document& document, const ServiceState& service, Language language, Services& services,
                          QWidget* parent)
-    : QDialog(parent), service_(service), language_(language), services_(services) {
+    : QDialog(parent), language_(language), services_(services) {
     setObjectName("DJJInfoForm");
     setWindowTitle(ToQString(TableText(language_, Text::RadioInformation)));
 
     auto* fields = new QGridLayout;
     fields->setHorizontalSpacing(16);
     fields->setVerticalSpacing(10);
-    const ModelTexts model = TextsOf(document.Image);
+    const InformationModel model =
+        InformationModelOf(document.Image.At(address::Family), document.Image.At(address::Market));
     AddField(*fields, "lblModelType", Text::ModelType, "LabModel", ToQString(model.model));
     AddField(*fields, "lblFrequency", Text::FrequencyOfRadio, "LabFreq", ToQString(model.range));
-    AddField(*fields, "lblSerialNum", Text::SerialNumber, "LabSN", SerialNumber());
-    AddField(*fields, "lblVersion", Text::Version, "LabVersion", FixedVersion);
+    AddField(*fields, "lblSerialNum", Text::SerialNumber, "LabSN", ToQString(SerialNumberOf(service.RadioInfoRecord)));
+    AddField(*fields, "lblVersion", Text::Version, "LabVersion", ToQString(InformationVersion));
 
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
@@ -103,17 +78,6 @@ void DJJInfoForm::AddField(QGridLayout& layout, const char* labelName, Text labe
     const int row = layout.rowCount();
     layout.addWidget(caption, row, 0);
     layout.addWidget(value, row, 1);
-}
-
-QString DJJInfoForm::SerialNumber() const {
-    const auto& record = service_.RadioInfoRecord;
-    QString text(u' ');
-    text += QChar(Windows1252Character(record[SerialPrefix]));
-    text += u' ';
-    for (std::size_t i = SerialFirst; i <= SerialLast; ++i) {
-        text += QChar(Windows1252Character(record[i]));
-    }
-    return text;
 }
 
 void DJJInfoForm::ShowHelp() {

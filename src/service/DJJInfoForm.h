@@ -31,10 +31,8 @@ protected:
 
 private:
     void AddField(QGridLayout& layout, const char* labelName, Text label, const char* name, const QString& text);
-    [[nodiscard]] QString SerialNumber() const;
     void ShowHelp();
 
-    const ServiceState& service_;
     const Language language_;
     Services& services_;
 };

@@ -127,10 +127,9 @@ void EntryEngine::Receive() {
 
 bool EntryEngine::TakeReply() {
     switch (State()) {
-    case AskIdentity: {
-        const std::vector<std::uint8_t> identity = port_.Read(wire::IdentityLength);
-        return !identity.empty() && identity.front() == service::IdentityFirstByte;
-    }
+    case AskIdentity:
+        identity_ = port_.Read(wire::IdentityLength);
+        return !identity_.empty() && identity_.front() == service::IdentityFirstByte;
     case AskRecord: {
         if (InfoMode) {
             return TakeInformationRecord();

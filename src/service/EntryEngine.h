@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
+#include <vector>
 
 #include "service/RadioExchange.h"
 
@@ -41,6 +43,8 @@ public:
     void Abort();
 
     [[nodiscard]] bool IsInfoMode() const { return InfoMode; }
+    /// What the radio told of itself at the start of the exchange; eight bytes where all of it came.
+    [[nodiscard]] const std::vector<std::uint8_t>& Identity() const { return identity_; }
     [[nodiscard]] bool IsEntryDone() const { return EntryDone; }
 
 private:
@@ -78,6 +82,7 @@ private:
     Document& document_;
     ServiceState& service_;
     EntryObserver& observer_;
+    std::vector<std::uint8_t> identity_;
     int replies_ = 0;
     bool InfoMode = false;
     bool EntryDone = false; // all test channels agree, and test mode opens

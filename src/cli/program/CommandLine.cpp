@@ -106,6 +106,7 @@ void Describe(CLI::App& app, Language language, Action& action, std::string& lan
     AddFileCommands(app, language, action);
     AddFieldCommands(app, language, action);
     AddChannelCommands(app, language, action);
+    AddRadioCommands(app, language, action);
 }
 
 const TextPair& KindOf(const CLI::ParseError& error) {

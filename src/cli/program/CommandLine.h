@@ -34,5 +34,6 @@ struct CommandLine {
 void AddFileCommands(CLI::App& app, Language language, Action& action);
 void AddFieldCommands(CLI::App& app, Language language, Action& action);
 void AddChannelCommands(CLI::App& app, Language language, Action& action);
+void AddRadioCommands(CLI::App& app, Language language, Action& action);
 
 } // namespace zelvor::cli

@@ -1,0 +1,70 @@
+#include "cli/RadioCable.h"
+
+#include "cli/RadioProgress.h"
+#include "cli/RadioTexts.h"
+#include "data/Document.h"
+#include "link/CloneFrames.h"
+#include "platform/FileStore.h"
+
+namespace zelvor::cli {
+
+namespace {
+
+constexpr TextPair Reading{"Reading", "正在读取"};
+constexpr TextPair ReadingBack{"Reading back", "正在回读"};
+constexpr TextPair Writing{"Writing", "正在写入"};
+
+constexpr TextPair NotKept{"a backup could not be kept in this folder", "无法在此文件夹中保存备份"};
+
+} // namespace
+
+RadioCable::RadioCable(RadioMachine& machine, const RadioRequest& request, const Console& console)
+    : machine_(machine), request_(request), console_(console), backups_(machine.store, machine.backups, machine.clock),
+      port_(machine.ports.Make("MSComm1")), answers_(request, machine.progress, console) {
+    state_.CommPortNumber = request.port;
+}
+
+TransferReport RadioCable::Read(Document& document) {
+    return Transfer(document, transfer::Reading, Reading);
+}
+
+TransferReport RadioCable::ReadBack(Document& document) {
+    return Transfer(document, transfer::Reading, ReadingBack);
+}
+
+TransferReport RadioCable::Write(Document& document) {
+    return Transfer(document, transfer::Writing, Writing);
+}
+
+TransferReport RadioCable::Transfer(Document& document, int mode, const TextPair& what) {
+    state_.TransferMode = mode;
+    return RadioTransfer(document, Link(), port_, answers_, machine_.progress, console_.Say(what)).Run();
+}
+
+RadioLink RadioCable::Link() {
+    return {state_, port_, machine_.clock, answers_, console_.language};
+}
+
+void RadioCable::BeginExchange() {
+    answers_.Begin();
+    answers_.OnPrompt = [this] { port_.LetGo(); };
+}
+
+std::optional<std::string> RadioCable::Keep(const DataImage& image, BackupDirection direction) {
+    std::optional<std::string> path = backups_.Keep(image, direction);
+    if (!path) {
+        console_.Complain(backups_.FolderPath(), NotKept);
+    }
+    return path;
+}
+
+bool RadioCable::IsReadBackup(const std::string& path) const {
+    const auto name = BackupName::Parse(path.substr(path.find_last_of("/\\") + 1));
+    return name && name->direction == BackupDirection::Read && path == backups_.PathOf(*name);
+}
+
+void RadioCable::TellNoRadio(const PortFailure& failure) const {
+    console_.Complain(NoConnectionText(failure, request_.port, console_.language));
+}
+
+} // namespace zelvor::cli
