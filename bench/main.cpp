@@ -1,8 +1,9 @@
-// zelvor-bench [clone] [start] [data] [print]: measures those parts, or all of them, and prints the table.
+// zelvor-bench [clone] [start] [data] [print] [cli]: measures those parts, or all of them, and prints the table.
 
 #include <QApplication>
 #include <QTemporaryDir>
 
+#include "CliFigures.h"
 #include "CloneFigures.h"
 #include "DataFigures.h"
 #include "PrintFigures.h"
@@ -46,6 +47,9 @@ int main(int argc, char** argv) {
     }
     if (isWanted("print")) {
         zelvor::bench::AddPrintFigures(report);
+    }
+    if (isWanted("cli")) {
+        zelvor::bench::AddCliFigures(report);
     }
     report.Print();
     return report.IsComplete() ? 0 : 1;
