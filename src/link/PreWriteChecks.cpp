@@ -4,7 +4,7 @@
 #include <string>
 
 #include "data/Document.h"
-#include "data/MemoryMap.h"
+#include "data/ImageChecks.h"
 #include "text/CommonTexts.h"
 
 namespace zelvor {
@@ -24,11 +24,6 @@ constexpr int BeginCode = 1;
 constexpr int EndCode = 2;
 constexpr int BothCodes = 3;
 
-// Byte of a channel that tells whether its transmissions send the code.
-constexpr int CodeByte = 14;
-constexpr std::uint8_t LowNibble = 0x0F;
-constexpr std::uint8_t CodeBit = 0x01;
-
 enum class EmptyLine { No, Yes };
 
 Message ErrorBox(Language language, EmptyLine emptyLine, std::initializer_list<TextPair> names) {
@@ -45,20 +40,6 @@ Message ErrorBox(Language language, EmptyLine emptyLine, std::initializer_list<T
             .icon = MessageIcon::Critical,
             .buttons = MessageButtons::Ok,
             .defaultButton = MessageAnswer::Ok};
-}
-
-bool UsesCode(const DataImage& image, int channel) {
-    const std::uint8_t byte = image.At(address::Channel(channel) + CodeByte);
-    return (byte & LowNibble) != LowNibble && (byte & CodeBit) != 0;
-}
-
-bool AnyChannelUsesCode(const DataImage& image) {
-    for (int channel = 1; channel <= address::ChannelCount; ++channel) {
-        if (UsesCode(image, channel)) {
-            return true;
-        }
-    }
-    return false;
 }
 
 std::optional<Message> TxCodeBox(Language language, int kind) {
@@ -87,7 +68,7 @@ std::optional<Message> CheckBeforeWrite(Document& document, Language language) {
     if (!document.Flags.TxCodeError) {
         return std::nullopt;
     }
-    if (!AnyChannelUsesCode(document.Image)) {
+    if (!AnyChannelSendsCode(document.Image)) {
         document.Flags.TxCodeError = false;
         return std::nullopt;
     }
