@@ -36,7 +36,7 @@ MessageAnswer RadioAnswers::AnswerPrompt() {
         OnPrompt();
     }
     progress_.Clear();
-    if (retries_ >= request_.retries) {
+    if (hasGivenUp_ || retries_ >= request_.retries) {
         return MessageAnswer::Cancel;
     }
     ++retries_;

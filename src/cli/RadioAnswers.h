@@ -17,6 +17,9 @@ public:
 
     /// Another exchange begins, with all its retries.
     void Begin();
+    /// Answers Cancel from now on, and says nothing.
+    void GiveUp() { hasGivenUp_ = true; }
+    [[nodiscard]] bool HasGivenUp() const { return hasGivenUp_; }
     MessageAnswer Show(const Message& message) override;
     /// Whether the exchange was ended because the radio is another model.
     [[nodiscard]] bool HasRefusedModel() const { return hasRefusedModel_; }
@@ -33,6 +36,7 @@ private:
     const Console& console_;
     int retries_ = 0; // so far
     bool hasRefusedModel_ = false;
+    bool hasGivenUp_ = false;
 };
 
 } // namespace zelvor::cli

@@ -14,6 +14,10 @@ constexpr TextPair Reading{"Reading", "正在读取"};
 constexpr TextPair ReadingBack{"Reading back", "正在回读"};
 constexpr TextPair Writing{"Writing", "正在写入"};
 
+constexpr TextPair Interrupted{"interrupted", "已中断"};
+constexpr TextPair ModelDiffers{
+    "the radio is another model than the file is for; --overwrite-model writes all the same",
+    "对讲机的机型与文件不同；用 --overwrite-model 仍可写入"};
 constexpr TextPair NotKept{"a backup could not be kept in this folder", "无法在此文件夹中保存备份"};
 
 } // namespace
@@ -38,7 +42,7 @@ TransferReport RadioCable::Write(Document& document) {
 
 TransferReport RadioCable::Transfer(Document& document, int mode, const TextPair& what) {
     state_.TransferMode = mode;
-    return RadioTransfer(document, Link(), port_, answers_, machine_.progress, console_.Say(what)).Run();
+    return RadioTransfer(document, Link(), port_, answers_, machine_, console_.Say(what)).Run();
 }
 
 RadioLink RadioCable::Link() {
@@ -63,8 +67,20 @@ bool RadioCable::IsReadBackup(const std::string& path) const {
     return name && name->direction == BackupDirection::Read && path == backups_.PathOf(*name);
 }
 
-void RadioCable::TellNoRadio(const PortFailure& failure) const {
-    console_.Complain(NoConnectionText(failure, request_.port, console_.language));
+void RadioCable::TellFailure(const TransferReport& report) const {
+    switch (report.end) {
+    case TransferEnd::Done:
+        break;
+    case TransferEnd::NoRadio:
+        console_.Complain(NoConnectionText(report.failure, request_.port, console_.language));
+        break;
+    case TransferEnd::Interrupted:
+        console_.Complain(console_.Say(Interrupted));
+        break;
+    case TransferEnd::ModelDiffers:
+        console_.Complain(console_.Say(ModelDiffers));
+        break;
+    }
 }
 
 } // namespace zelvor::cli

@@ -32,8 +32,8 @@ public:
     /// Whether the file is a backup of what was read from a radio.
     [[nodiscard]] bool IsReadBackup(const std::string& path) const;
 
-    /// Says that there is no connection, and why.
-    void TellNoRadio(const PortFailure& failure) const;
+    /// Says why an exchange has not come to its end.
+    void TellFailure(const TransferReport& report) const;
 
 private:
     [[nodiscard]] TransferReport Transfer(Document& document, int mode, const TextPair& what);

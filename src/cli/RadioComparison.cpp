@@ -9,7 +9,7 @@ namespace zelvor::cli {
 
 namespace {
 
-constexpr int PageSize = 256;
+constexpr std::size_t PageSize = 256;
 
 } // namespace
 
@@ -19,7 +19,7 @@ SentBytes SentByWrite(DataImage image) {
     link.TransferMode = transfer::Writing;
     for (link.StepCount = 1; link.StepCount <= WritePacketCount;) {
         BuildWritePacket(link, image);
-        auto address = static_cast<std::size_t>(link.TxBuffer[1] * PageSize + link.TxBuffer[2]);
+        std::size_t address = link.TxBuffer[1] * PageSize + link.TxBuffer[2];
         for (std::size_t i = wire::HeadLength; i < link.TxBuffer.size(); ++i) {
             sent.at(address++) = link.TxBuffer[i];
         }

@@ -21,14 +21,13 @@ constexpr int Round = 2;
 /// One exchange by an EntryEngine, from its beginning to its end, without a window.
 class RadioInfo : private EntryObserver {
 public:
-    RadioInfo(RadioCable& cable, RadioProgress& progress, const Console& console)
-        : link_(cable.Link()), progress_(progress), console_(console), engine_(document_, service_, link_, *this) {}
+    RadioInfo(RadioCable& cable, const RadioMachine& machine, const Console& console)
+        : link_(cable.Link()), machine_(machine), console_(console), engine_(document_, service_, link_, *this) {}
     RadioInfo(const RadioInfo&) = delete;
     RadioInfo& operator=(const RadioInfo&) = delete;
     ~RadioInfo() override = default;
 
-    /// False where there is no connection.
-    [[nodiscard]] bool Read();
+    [[nodiscard]] TransferEnd Read();
     void Print() const;
 
 private:
@@ -36,34 +35,39 @@ private:
     void OnExchangeDone() override {}
     void OnInformationReady() override;
     void OnTestModeReady() override {}
-    void OnProgress(int replies, int all) override { progress_.Show(console_.Say(Reading), replies, all); }
+    void OnProgress(int replies, int all) override { machine_.progress.Show(console_.Say(Reading), replies, all); }
     void OnExchangeEnded() override { isOver_ = true; }
 
     void PrintLine(Text label, std::string_view value) const;
     [[nodiscard]] std::uint8_t IdentityByte(int address) const;
 
     const RadioLink link_;
-    RadioProgress& progress_;
+    const RadioMachine& machine_;
     const Console& console_;
     Document document_;    // of no use to this exchange
     ServiceState service_; // likewise
     EntryEngine engine_;
     std::vector<std::uint8_t> record_;
-    bool isRead_ = false;
+    TransferEnd end_ = TransferEnd::NoRadio;
     bool isOver_ = false;
 };
 
-bool RadioInfo::Read() {
+TransferEnd RadioInfo::Read() {
     engine_.StartInformation();
     while (!isOver_) {
         link_.clock.WaitProcessingEvents(Round);
+        if (!isOver_ && machine_.isInterrupted()) {
+            engine_.Abort();
+            end_ = TransferEnd::Interrupted;
+            isOver_ = true;
+        }
     }
-    progress_.Clear();
-    return isRead_;
+    machine_.progress.Clear();
+    return end_;
 }
 
 void RadioInfo::OnInformationReady() {
-    isRead_ = true;
+    end_ = TransferEnd::Done;
     isOver_ = true;
 }
 
@@ -91,9 +95,9 @@ std::uint8_t RadioInfo::IdentityByte(int address) const {
 ExitStatus InfoOfRadio(const RadioRequest& request, RadioMachine& machine, const Console& console) {
     RadioCable cable(machine, request, console);
     cable.BeginExchange();
-    RadioInfo info(cable, machine.progress, console);
-    if (!info.Read()) {
-        cable.TellNoRadio(cable.Failure());
+    RadioInfo info(cable, machine, console);
+    if (const TransferEnd end = info.Read(); end != TransferEnd::Done) {
+        cable.TellFailure({.end = end, .failure = cable.Failure()});
         return ExitStatus::NoRadio;
     }
     info.Print();

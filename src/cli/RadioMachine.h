@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 namespace zelvor {
 class Clock;
 class FileStore;
@@ -18,6 +20,7 @@ struct RadioMachine {
     FileStore& store;
     Folder& backups;
     RadioProgress& progress;
+    std::function<bool()> isInterrupted = [] { return false; }; // the user wants the command to end
 };
 
 /// What they are told of the radio.

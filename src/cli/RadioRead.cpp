@@ -18,7 +18,7 @@ ExitStatus ReadRadio(const ReadRequest& request, RadioMachine& machine, const Co
     Document document;
     const TransferReport report = cable.Read(document);
     if (report.end != TransferEnd::Done) {
-        cable.TellNoRadio(report.failure);
+        cable.TellFailure(report);
         return ExitStatus::NoRadio;
     }
     const std::optional<std::string> backup = cable.Keep(document.Image, BackupDirection::Read);

@@ -14,8 +14,8 @@ constexpr int Round = 2;         // of the event loop; all that happens, happens
 } // namespace
 
 RadioTransfer::RadioTransfer(Document& document, const RadioLink& link, RadioHeldPort& port, RadioAnswers& answers,
-                             RadioProgress& progress, std::string_view what)
-    : link_(link), port_(port), answers_(answers), progress_(progress), what_(what), engine_(document, link, *this),
+                             const RadioMachine& machine, std::string_view what)
+    : link_(link), port_(port), answers_(answers), machine_(machine), what_(what), engine_(document, link, *this),
       progressTimer_(link.clock.MakeTimer("progressTimer")) {
     progressTimer_->SetInterval(ProgressDelay);
     progressTimer_->OnTick = [this] { ShowProgress(); };
@@ -27,16 +27,28 @@ RadioTransfer::~RadioTransfer() {
 }
 
 TransferReport RadioTransfer::Run() {
+    if (machine_.isInterrupted()) {
+        return {.end = TransferEnd::Interrupted};
+    }
     answers_.Begin();
     port_.Hold();
     engine_.Load();
     engine_.Start();
     while (!isOver_) {
         link_.clock.WaitProcessingEvents(Round);
+        WatchUser();
     }
     progressTimer_->SetEnabled(false);
-    progress_.Clear();
+    machine_.progress.Clear();
     return report_;
+}
+
+/// A user who does not want to wait gets what a prompt answered with Cancel does: the radio is told the end.
+void RadioTransfer::WatchUser() {
+    if (!isOver_ && !answers_.HasGivenUp() && machine_.isInterrupted()) {
+        answers_.GiveUp();
+        engine_.OnTimeout();
+    }
 }
 
 void RadioTransfer::OnProgress(int /*value*/) {
@@ -64,11 +76,18 @@ void RadioTransfer::OnWriteCompleted() {
 
 void RadioTransfer::OnUnloadRequested() {
     if (report_.end != TransferEnd::Done) {
-        report_.end = answers_.HasRefusedModel() ? TransferEnd::ModelDiffers : TransferEnd::NoRadio;
+        report_.end = EndWithoutSuccess();
         report_.failure = engine_.Failure();
     }
     engine_.Unload();
     isOver_ = true;
+}
+
+TransferEnd RadioTransfer::EndWithoutSuccess() const {
+    if (answers_.HasGivenUp()) {
+        return TransferEnd::Interrupted;
+    }
+    return answers_.HasRefusedModel() ? TransferEnd::ModelDiffers : TransferEnd::NoRadio;
 }
 
 void RadioTransfer::NotePrompt() {
@@ -80,7 +99,7 @@ void RadioTransfer::NotePrompt() {
 
 void RadioTransfer::ShowProgress() {
     progressTimer_->SetEnabled(false);
-    progress_.Show(what_, engine_.Progress(), engine_.ProgressMaximum());
+    machine_.progress.Show(what_, engine_.Progress(), engine_.ProgressMaximum());
 }
 
 } // namespace zelvor::cli

@@ -9,12 +9,11 @@
 
 namespace zelvor::cli {
 
-class RadioProgress;
-
 /// How a transfer ended.
 enum class TransferEnd {
     Done,
     NoRadio,
+    Interrupted,
     ModelDiffers, // and the radio is as it was
 };
 
@@ -29,7 +28,7 @@ class RadioTransfer : private CloneObserver {
 public:
     /// The link's port is `port` and its messages are `answers`. `what` is shown with the progress.
     RadioTransfer(Document& document, const RadioLink& link, RadioHeldPort& port, RadioAnswers& answers,
-                  RadioProgress& progress, std::string_view what);
+                  const RadioMachine& machine, std::string_view what);
     RadioTransfer(const RadioTransfer&) = delete;
     RadioTransfer& operator=(const RadioTransfer&) = delete;
     ~RadioTransfer() override;
@@ -46,13 +45,15 @@ private:
     void OnWriteCompleted() override;
     void OnUnloadRequested() override;
 
+    void WatchUser();
+    [[nodiscard]] TransferEnd EndWithoutSuccess() const;
     void NotePrompt();
     void ShowProgress();
 
     const RadioLink link_;
     RadioHeldPort& port_;
     RadioAnswers& answers_;
-    RadioProgress& progress_;
+    const RadioMachine& machine_;
     const std::string_view what_;
     CloneEngine engine_;
     std::unique_ptr<Timer> progressTimer_;

@@ -24,7 +24,7 @@ ExitStatus VerifyRadio(const VerifyRequest& request, RadioMachine& machine, cons
     Document document;
     const TransferReport report = cable.Read(document);
     if (report.end != TransferEnd::Done) {
-        cable.TellNoRadio(report.failure);
+        cable.TellFailure(report);
         return ExitStatus::NoRadio;
     }
     cable.Keep(document.Image, BackupDirection::Read);

@@ -23,9 +23,6 @@ constexpr TextPair NotReadBack{"all was written and acknowledged, but could not 
                                "已全部写入并得到确认，但无法回读比较"};
 constexpr TextPair WrongAfterWrite{"the radio does not hold what was written, bytes: {count}",
                                    "对讲机中的内容与所写的不同，字节数：{count}"};
-constexpr TextPair ModelDiffers{
-    "the radio is another model than the file is for; --overwrite-model writes all the same",
-    "对讲机的机型与文件不同；用 --overwrite-model 仍可写入"};
 constexpr TextPair NeedsBackup{"without a backup of the radio nothing is written; --no-backup writes without one",
                                "没有对讲机的备份就不写入；用 --no-backup 可不备份而写入"};
 constexpr TextPair Restore{"what the radio held before is in {backup}; this puts it back: {command}",
@@ -96,7 +93,7 @@ RadioWrite::Failure RadioWrite::KeepRadio() {
     Document radio;
     const TransferReport report = cable_.Read(radio);
     if (report.end != TransferEnd::Done) {
-        cable_.TellNoRadio(report.failure);
+        cable_.TellFailure(report);
         Tell(NothingWritten);
         return ExitStatus::NoRadio;
     }
@@ -115,27 +112,18 @@ RadioWrite::Failure RadioWrite::Write() {
     document.Image = file_.image;
     cable_.Keep(document.Image, BackupDirection::Write);
     const TransferReport report = cable_.Write(document);
-    switch (report.end) {
-    case TransferEnd::Done:
+    if (report.end == TransferEnd::Done) {
         return std::nullopt;
-    case TransferEnd::ModelDiffers:
-        Tell(ModelDiffers);
-        if (report.reachedData) { // by an attempt before this one, which then has changed the model
-            break;
-        }
-        Tell(NothingWritten);
-        return ExitStatus::Unsafe;
-    case TransferEnd::NoRadio:
-        cable_.TellNoRadio(report.failure);
-        break;
     }
+    cable_.TellFailure(report);
+    const ExitStatus status = report.end == TransferEnd::ModelDiffers ? ExitStatus::Unsafe : ExitStatus::NoRadio;
     if (!report.reachedData) {
         Tell(NothingWritten);
-        return ExitStatus::NoRadio;
+        return status;
     }
     Tell(PartlyWritten);
     TellWayBack();
-    return report.end == TransferEnd::ModelDiffers ? ExitStatus::Unsafe : ExitStatus::NoRadio;
+    return status;
 }
 
 RadioWrite::Failure RadioWrite::Verify() {
@@ -145,7 +133,7 @@ RadioWrite::Failure RadioWrite::Verify() {
     Document radio;
     const TransferReport report = cable_.ReadBack(radio);
     if (report.end != TransferEnd::Done) {
-        cable_.TellNoRadio(report.failure);
+        cable_.TellFailure(report);
         Tell(NotReadBack);
         TellWayBack();
         return ExitStatus::NoRadio;

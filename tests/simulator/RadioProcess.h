@@ -26,6 +26,9 @@ public:
     [[nodiscard]] bool WaitForOut(const std::string& text) { return WaitFor(outPath_, text); }
     [[nodiscard]] bool WaitForErr(const std::string& text) { return WaitFor(errPath_, text); }
 
+    /// Where what it prints to standard output is kept.
+    [[nodiscard]] const std::filesystem::path& OutPath() const { return outPath_; }
+
     void Signal(int signal) const;
 
     /// Waits for the end; the exit code, or -1 where it does not end by itself within some seconds.

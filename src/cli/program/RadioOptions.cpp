@@ -1,6 +1,5 @@
-#include <unistd.h>
-
 #include <QCoreApplication>
+#include <csignal>
 #include <iostream>
 
 #include "cli/BackupCommands.h"
@@ -14,6 +13,7 @@
 #include "platform/QtClock.h"
 #include "platform/QtFolder.h"
 #include "platform/QtSerialPorts.h"
+#include "platform/Terminal.h"
 
 namespace zelvor::cli {
 
@@ -40,6 +40,19 @@ constexpr TextPair OverwriteText{"Write also where the radio is another model th
 constexpr int LastPort = 20;
 constexpr int MostRetries = 1000;
 
+volatile std::sig_atomic_t isStopRequested = 0;
+
+/// The next signal of the kind ends the program as usual.
+void RequestStop(int signal) {
+    isStopRequested = 1;
+    std::signal(signal, SIG_DFL);
+}
+
+void CatchStopSignals() {
+    std::signal(SIGINT, RequestStop);
+    std::signal(SIGTERM, RequestStop);
+}
+
 /// Runs a command with the machine's port, time and backups, on an event loop.
 template<typename Request>
 ExitStatus RunOnMachine(ExitStatus (*run)(const Request& request, RadioMachine& machine, const Console& console),
@@ -53,8 +66,9 @@ ExitStatus RunOnMachine(ExitStatus (*run)(const Request& request, RadioMachine& 
     QtFolder backups(BackupFolderPath());
     RadioProgress none;
     RadioProgressBar bar(std::cerr);
-    RadioProgress& progress = ::isatty(STDERR_FILENO) != 0 ? bar : none;
-    RadioMachine machine{ports, clock, store, backups, progress};
+    RadioProgress& progress = IsStandardErrorTerminal() ? bar : none;
+    CatchStopSignals();
+    RadioMachine machine{ports, clock, store, backups, progress, [] { return isStopRequested != 0; }};
     return run(request, machine, console);
 }
 

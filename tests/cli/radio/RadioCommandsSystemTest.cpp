@@ -158,6 +158,20 @@ TEST_F(RadioCommandsSystemTest, WriteRefusesAnotherModel) {
     EXPECT_EQ(MemoryAt(0x1BD), 33);
 }
 
+TEST_F(RadioCommandsSystemTest, AnInterruptedWriteTellsWhatItLeaves) {
+    RadioProcess radio(directory, RadioArguments({"--trace"}));
+    ASSERT_TRUE(radio.WaitForOut("ready: "));
+    ASSERT_EQ(Run("zelvor-cli new --model 4618 --market M -o new.dat").status, 0);
+    std::ofstream(Path("run.sh")) << "zelvor-cli --language en write --port 3 new.dat & writer=$!\n"
+                                     "until grep -q '> 57 00 80' \"$1\"; do sleep 0.02; done\n"
+                                     "kill -TERM $writer\nwait $writer\n";
+    const Result write = Run("timeout 60 sh run.sh '" + radio.OutPath().string() + "'");
+    EXPECT_EQ(write.status, 4);
+    EXPECT_EQ(write.err.substr(0, 24), "zelvor-cli: interrupted\n");
+    EXPECT_NE(write.err.find("the radio may be partly written"), std::string::npos) << write.err;
+    EXPECT_NE(write.err.find("this puts it back: zelvor-cli write --port 3 "), std::string::npos) << write.err;
+}
+
 TEST_F(RadioCommandsSystemTest, AFleetIsWrittenRadioByRadio) {
     RadioProcess radio(directory, RadioArguments({"--serve-many", "3"}));
     ASSERT_TRUE(radio.WaitForOut("ready: "));

@@ -13,13 +13,14 @@ namespace {
 class RadioInfoTest : public ::testing::Test, protected ServiceRig {
 protected:
     ExitStatus Info(int retries = 0) {
-        RadioMachine machine{ports, clock, store, backups, progress_};
+        RadioMachine machine{ports, clock, store, backups, progress_, [this] { return isInterrupted_; }};
         const Console console{out_, err_, language_};
         return InfoOfRadio({.port = 3, .retries = retries}, machine, console);
     }
 
     std::ostringstream out_;
     std::ostringstream err_;
+    bool isInterrupted_ = false;
     Language language_ = Language::English;
 
 private:
@@ -72,6 +73,13 @@ TEST_F(RadioInfoTest, EndsAtEveryFaultWithNoRadioAndGetsOverItWithARetry) {
         }
     }
     EXPECT_EQ(FaultsFired(), 32);
+}
+
+TEST_F(RadioInfoTest, EndsWhenTheUserInterruptsIt) {
+    isInterrupted_ = true;
+    EXPECT_EQ(Info(), ExitStatus::NoRadio);
+    EXPECT_EQ(err_.str(), "zelvor-cli: interrupted\n");
+    EXPECT_EQ(out_.str(), "");
 }
 
 TEST_F(RadioInfoTest, SaysThatAPortIsMissing) {

@@ -74,7 +74,8 @@ private:
 public:
     /// What was shown last of each transfer: "Reading 16 of 16".
     std::vector<std::string> shown;
-    RadioMachine machine{ports, clock, store, folder, progress_};
+    bool isInterrupted = false;
+    RadioMachine machine{ports, clock, store, folder, progress_, [this] { return isInterrupted; }};
 };
 
 /// An image of model 4618, market M, whose other bytes differ from neighbour to neighbour, and are legal where a check

@@ -143,5 +143,31 @@ INSTANTIATE_TEST_SUITE_P(EveryFault, RadioWriteRetriesTest,
                          ::testing::Values(Fault::Drop, Fault::Cut, Fault::Corrupt, Fault::Late, Fault::Vanish),
                          NameOf);
 
+/// The user interrupts the command when the n-th command of all has gone to the radio: a read has 3, two for each of
+/// its 17 blocks and the End, a write 3, its 49 packets and the End.
+TEST(RadioWriteInterrupted, TellsTheTruthAboutTheRadioAndTheWayBack) {
+    constexpr int ReadCommands = 3 + 17 * 2 + 1;
+    constexpr int WriteCommands = 3 + 49 + 1;
+    for (int last = 0; last <= 2 * ReadCommands + WriteCommands - 1; ++last) {
+        SCOPED_TRACE(last);
+        RadioRig rig;
+        rig.PutFile("/mine/new.dat", PatternImage(100));
+        int commands = 0;
+        rig.isInterrupted = last == 0;
+        rig.OnCommand = [&](const std::string&) { rig.isInterrupted = rig.isInterrupted || ++commands == last; };
+        EXPECT_EQ(WriteRadio({.radio = {.port = 3, .retries = 2}, .file = "/mine/new.dat"}, rig.machine, rig.console),
+                  ExitStatus::NoRadio);
+        const bool isNothingWritten = last < ReadCommands + 4;
+        const bool isAllWritten = last >= ReadCommands + WriteCommands;
+        EXPECT_TRUE(rig.Said("zelvor-cli: interrupted\n")) << rig.Err();
+        EXPECT_FALSE(rig.Said("beginning again")) << rig.Err();
+        EXPECT_EQ(rig.Said(std::string(NothingWritten)), isNothingWritten) << rig.Err();
+        EXPECT_EQ(rig.Said(std::string(PartlyWritten)), !isNothingWritten && !isAllWritten) << rig.Err();
+        EXPECT_EQ(rig.Said(std::string(NotReadBack)), isAllWritten) << rig.Err();
+        EXPECT_EQ(rig.Said(std::string(WayBack)), !isNothingWritten) << rig.Err();
+        EXPECT_EQ(rig.RadioImage() == PatternImage(3), isNothingWritten);
+    }
+}
+
 } // namespace
 } // namespace zelvor::cli

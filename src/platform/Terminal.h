@@ -1,0 +1,8 @@
+#pragma once
+
+namespace zelvor {
+
+/// Whether somebody watches what is written to standard error, line over line.
+[[nodiscard]] bool IsStandardErrorTerminal();
+
+} // namespace zelvor

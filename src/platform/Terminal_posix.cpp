@@ -1,0 +1,11 @@
+#include <unistd.h>
+
+#include "platform/Terminal.h"
+
+namespace zelvor {
+
+bool IsStandardErrorTerminal() {
+    return ::isatty(STDERR_FILENO) != 0;
+}
+
+} // namespace zelvor
