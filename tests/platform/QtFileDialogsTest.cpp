@@ -69,14 +69,14 @@ protected:
         }
     }
     /// Looks at the dialog and cancels it.
-    static void WillLook(std::function<void(QFileDialog&)> look) {
+    static void WillLook(const std::function<void(QFileDialog&)>& look) {
         WithNextDialog<QFileDialog>([look](QFileDialog& dialog) {
             look(dialog);
             dialog.reject();
         });
     }
     static void WillAnswer(
-        QMessageBox::StandardButton button, std::function<void()> then = [] {}) {
+        QMessageBox::StandardButton button, const std::function<void()>& then = [] {}) {
         WithNextDialog<QMessageBox>([button, then](QMessageBox& box) {
             then();
             QTest::mouseClick(box.button(button), Qt::LeftButton);
