@@ -6,6 +6,7 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -187,6 +188,19 @@ TEST_F(RadioCommandsSystemTest, AFleetIsWrittenRadioByRadio) {
     EXPECT_EQ(channels.out, "1,145.12500\n1,145.12500\n1,145.12500\n") << channels.err;
     const Result list = Run("zelvor-cli backup list");
     EXPECT_EQ(std::count(list.out.begin(), list.out.end(), '\n'), 9) << list.out;
+}
+
+TEST_F(RadioCommandsSystemTest, RadiosThatAreReadAtOnceKeepABackupEach) {
+    std::vector<std::unique_ptr<RadioProcess>> radios;
+    for (const char* port : {"1", "2", "3", "4", "5", "6"}) {
+        radios.push_back(std::make_unique<RadioProcess>(directory, std::vector<std::string>{"--port", port}));
+        ASSERT_TRUE(radios.back()->WaitForOut("ready: "));
+    }
+    std::ofstream(Path("run.sh")) << "for i in 1 2 3 4 5 6; do zelvor-cli read --port $i -o $i.dat & done\nwait\n"
+                                     "for f in data/Zelvor/backups/*; do cmp $f 1.dat && echo same; done\n";
+    const Result reads = Run("sh run.sh");
+    EXPECT_EQ(reads.out, "same\nsame\nsame\nsame\nsame\nsame\n") << reads.err;
+    EXPECT_EQ(reads.err, "");
 }
 
 TEST_F(RadioCommandsSystemTest, NoRadioAndWrongUsageHaveTheirStatus) {
