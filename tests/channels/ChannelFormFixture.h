@@ -1,29 +1,16 @@
 #pragma once
 
-#include <QApplication>
-#include <QClipboard>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
 #include <QMainWindow>
-#include <QPushButton>
-#include <QTest>
-#include <gtest/gtest.h>
-#include <memory>
 #include <span>
 
+#include "GridFormFixture.h"
 #include "channels/ChannelForm.h"
-#include "controls/EditGrid.h"
-#include "controls/WindowState.h"
 #include "data/BlankImage.h"
-#include "data/Document.h"
-#include "fakes/FakeServices.h"
-#include "platform/Toolkit.h"
 
 namespace zelvor {
 
 /// A channel window on a blank document of the default model, active, with real key and mouse events.
-class ChannelFormTest : public testing::Test {
+class ChannelFormTest : public GridFormTest<ChannelForm> {
 protected:
     void SetUp() override {
         document.Image.Set(0x1BD, 0x01);
@@ -33,27 +20,15 @@ protected:
 
     /// Shows the window over the image as it is now.
     void Show(Language language = Language::English) {
-        windows.LanguageFlag = language;
-        form = std::make_unique<ChannelForm>(document, windows, services.Get());
-        document.Channels.DecodeImageToGrid(document.Image, windows.LanguageFlag);
-        form->show();
-        form->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
-        Grid().setFocus();
-        ASSERT_TRUE(Grid().hasFocus());
+        Load(language);
+        document.Channels.DecodeImageToGrid(document.Image, language);
+        ShowInGrid();
     }
 
-    template<typename Control>
-    Control& Find(const char* name) {
-        auto* control = form->findChild<Control*>(name);
-        EXPECT_NE(control, nullptr) << name;
-        return *control;
-    }
-    EditGrid& Grid() { return Find<EditGrid>("ChannelGrid"); }
+    EditGrid& Grid() override { return Find<EditGrid>("ChannelGrid"); }
     QLineEdit& TextBox() { return Find<QLineEdit>("txtInputBox"); }
     QComboBox& List() { return Find<QComboBox>("comInputStep"); }
 
-    std::string Cell(int row, int column) { return FromQString(Grid().Text(row, column)); }
     std::vector<std::string> Row(int row) {
         std::vector<std::string> cells;
         for (int column = 1; column <= 9; ++column) {
@@ -62,21 +37,7 @@ protected:
         return cells;
     }
 
-    void Key(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
-    void Type(const char* text) {
-        for (const char* c = text; *c != '\0'; ++c) {
-            QTest::keyClick(QApplication::focusWidget(), *c);
-        }
-    }
-    void ClickCell(int row, int column) {
-        const QRect cell = Grid().visualItemRect(Grid().item(row - 1, column - 1));
-        QTest::mouseClick(Grid().viewport(), Qt::LeftButton, {}, cell.center());
-    }
     void GoTo(int row, int column) { form->SelectCell(row, column); }
-    void ExpectCursor(int row, int column) {
-        EXPECT_EQ(Grid().Row(), row);
-        EXPECT_EQ(Grid().Column(), column);
-    }
 
     void PutRecord(int k, const std::array<std::uint8_t, 16>& record) {
         for (int j = 0; j < 16; ++j) {
@@ -95,11 +56,6 @@ protected:
         return {"Caution", "Frequency is out of range.", MessageIcon::Exclamation, MessageButtons::Ok,
                 MessageAnswer::Ok};
     }
-
-    FakeServices services;
-    Document document;
-    WindowState windows;
-    std::unique_ptr<ChannelForm> form;
 };
 
 /// 145.12500 both ways, no tones, High, Wide, no signalling, PTT ID off, autodial 1.

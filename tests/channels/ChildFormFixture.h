@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QStyleOptionSpinBox>
 #include <QTest>
 #include <gtest/gtest.h>
 #include <memory>
@@ -14,6 +15,7 @@
 #include <vector>
 
 #include "controls/ChildForm.h"
+#include "controls/SpinText.h"
 #include "controls/WindowState.h"
 #include "data/Document.h"
 #include "fakes/FakeServices.h"
@@ -35,6 +37,9 @@ protected:
     /// The same, active, with the focus where the window puts it.
     void Show(Language language = Language::English) {
         Load(language);
+        Activate();
+    }
+    void Activate() {
         form->show();
         form->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
@@ -52,10 +57,27 @@ protected:
     QLineEdit& Box(const char* name) { return Find<QLineEdit>(name); }
     QComboBox& List(const char* name) { return Find<QComboBox>(name); }
     std::string Text(const char* name) { return Box(name).text().toStdString(); }
+    int Spin(const char* name) { return Find<UpDown>(name).Value(); }
 
     void Key(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
-    void Type(const char* text) { QTest::keyClicks(QApplication::focusWidget(), text); }
+    /// Each key goes to the control that has the focus by then.
+    void Type(const char* text) {
+        for (; *text != '\0'; ++text) {
+            QTest::keyClick(QApplication::focusWidget(), *text);
+        }
+    }
     void Click(const char* name) { QTest::mouseClick(&Find<QPushButton>(name), Qt::LeftButton); }
+    /// Clicks one of the two buttons beside a number.
+    void Step(const char* upDown, bool up) {
+        auto& pair = Find<UpDown>(upDown);
+        QStyleOptionSpinBox option;
+        option.initFrom(&pair);
+        option.subControls = QStyle::SC_All;
+        option.buttonSymbols = pair.buttonSymbols();
+        const auto which = up ? QStyle::SC_SpinBoxUp : QStyle::SC_SpinBoxDown;
+        const QRect button = pair.style()->subControlRect(QStyle::CC_SpinBox, &option, which, &pair);
+        QTest::mouseClick(&pair, Qt::LeftButton, {}, button.center());
+    }
     void Paste(const QString& text) {
         QApplication::clipboard()->setText(text);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_V, Qt::ControlModifier);
@@ -88,6 +110,13 @@ protected:
     }
 
     int At(int address) const { return document.Image.At(address); }
+    std::vector<int> From(int address, int count) const {
+        std::vector<int> bytes;
+        for (int i = 0; i < count; ++i) {
+            bytes.push_back(At(address + i));
+        }
+        return bytes;
+    }
     void Put(int address, std::initializer_list<int> bytes) {
         for (const int byte : bytes) {
             document.Image.Set(address++, static_cast<std::uint8_t>(byte));

@@ -2,7 +2,6 @@
 
 #include "channels/ChildFormFixture.h"
 #include "channels/ScanForm.h"
-#include "controls/SpinText.h"
 
 namespace zelvor {
 
@@ -19,14 +18,7 @@ protected:
             document.Image.Set(channel * 16, 0x00);
         }
     }
-    std::vector<int> Block() const {
-        std::vector<int> bytes;
-        for (int address = 0x160; address <= 0x168; ++address) {
-            bytes.push_back(At(address));
-        }
-        return bytes;
-    }
-    int Spin(const char* name) { return Find<UpDown>(name).Value(); }
+    std::vector<int> Block() const { return From(0x160, 9); }
     std::string Chosen(const char* name) { return List(name).currentText().toStdString(); }
 
     void ExpectError() {

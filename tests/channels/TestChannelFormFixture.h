@@ -1,29 +1,16 @@
 #pragma once
 
-#include <QApplication>
-#include <QClipboard>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QSignalSpy>
-#include <QTest>
-#include <gtest/gtest.h>
-#include <memory>
 #include <string_view>
 #include <vector>
 
+#include "GridFormFixture.h"
 #include "channels/TestChannelForm.h"
-#include "controls/EditGrid.h"
-#include "controls/WindowState.h"
-#include "data/Document.h"
-#include "fakes/FakeServices.h"
-#include "platform/Toolkit.h"
 
 namespace zelvor {
 
 /// The test frequency window on an erased image of market 0x01 (136 to 174 MHz), active, with real key and mouse
 /// events.
-class TestChannelFormTest : public testing::Test {
+class TestChannelFormTest : public GridFormTest<TestChannelForm> {
 protected:
     using Pair = std::vector<std::string>;
 
@@ -50,33 +37,15 @@ protected:
     }
 
     void Show(Language language = Language::English) {
-        windows.LanguageFlag = language;
-        form = std::make_unique<TestChannelForm>(document, windows, services.Get());
-        form->show();
-        form->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
-        Grid().setFocus();
-        ASSERT_TRUE(Grid().hasFocus());
+        Load(language);
+        ShowInGrid();
     }
 
-    template<typename Control>
-    Control& Find(const char* name) {
-        auto* control = form->findChild<Control*>(name);
-        EXPECT_NE(control, nullptr) << name;
-        return *control;
-    }
-    EditGrid& Grid() { return Find<EditGrid>("msgTestFreq"); }
+    EditGrid& Grid() override { return Find<EditGrid>("msgTestFreq"); }
     QLineEdit& Editor() { return Find<QLineEdit>("txtTestFreq"); }
 
-    std::string Cell(int row, int column) { return FromQString(Grid().Text(row, column)); }
     Pair Row(int row) { return {Cell(row, 1), Cell(row, 2)}; }
 
-    void Key(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
-    void Type(const char* text) {
-        for (const char* c = text; *c != '\0'; ++c) {
-            QTest::keyClick(QApplication::focusWidget(), *c);
-        }
-    }
     void Enter(int row, int column, const char* text) {
         Grid().MoveTo(row, column);
         Type(text);
@@ -89,16 +58,7 @@ protected:
         Key(Qt::Key_Backspace);
         Key(Qt::Key_Return);
     }
-    void ClickCell(int row, int column, Qt::MouseButton button = Qt::LeftButton) {
-        const QRect cell = Grid().visualItemRect(Grid().item(row - 1, column - 1));
-        QTest::mouseClick(Grid().viewport(), button, {}, cell.center());
-    }
-    void Click(const char* button) { QTest::mouseClick(&Find<QPushButton>(button), Qt::LeftButton); }
 
-    void ExpectCursor(int row, int column) {
-        EXPECT_EQ(Grid().Row(), row);
-        EXPECT_EQ(Grid().Column(), column);
-    }
     void ExpectEditorOver(int row, int column) {
         EXPECT_TRUE(Editor().isVisible());
         EXPECT_TRUE(Editor().hasFocus());
@@ -112,11 +72,6 @@ protected:
             MessageAnswer::Ok);
     }
     void ExpectOutOfRange() { ExpectMessage("Warning", "Frequency is out of range."); }
-
-    FakeServices services;
-    Document document;
-    WindowState windows;
-    std::unique_ptr<TestChannelForm> form;
 };
 
 } // namespace zelvor

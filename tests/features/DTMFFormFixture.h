@@ -2,13 +2,8 @@
 
 #include <QCheckBox>
 #include <QGroupBox>
-#include <QStyleOptionSpinBox>
-#include <QTabBar>
-#include <QTabWidget>
 
-#include "channels/ChildFormFixture.h"
-#include "controls/EditGrid.h"
-#include "controls/SpinText.h"
+#include "TabbedFormFixture.h"
 #include "features/DTMFForm.h"
 
 namespace zelvor {
@@ -16,7 +11,7 @@ namespace zelvor {
 /// A DTMF window over settings in which every byte is legal: 8 digits/s, 100 ms, 160 ms, 500 ms, 7 s, side tone on,
 /// group code B, 5 s, Continuous, ID Code, clear on; ID code 12345, stun code 7A*, TX/RX Inhibit; memory 2 holds
 /// 55512.
-class DTMFFormTest : public ChildFormTest<DTMFForm> {
+class DTMFFormTest : public TabbedFormTest<DTMFForm> {
 protected:
     using Bytes = std::vector<int>;
 
@@ -28,35 +23,13 @@ protected:
         Put(0x210, {'5', '5', '5', '1', '2', ' ', ' ', ' ', ' ', ' ', ' ', ' ', ' ', ' ', ' ', ' '});
     }
 
-    Bytes From(int address, int count) const {
-        Bytes bytes;
-        for (int i = 0; i < count; ++i) {
-            bytes.push_back(At(address + i));
-        }
-        return bytes;
-    }
     /// The ten bytes of a code as text, '.' for 0xFF.
     std::string Code(int address) const { return Characters(address, 10); }
     /// The sixteen bytes of a memory, the same way.
     std::string Memory(int n) const { return Characters(0x200 + 16 * (n - 1), 16); }
 
-    int Spin(const char* name) { return Find<UpDown>(name).Value(); }
     QCheckBox& Check(const char* name) { return Find<QCheckBox>(name); }
-    void Step(const char* upDown, bool up) {
-        auto& pair = Find<UpDown>(upDown);
-        QStyleOptionSpinBox option;
-        option.initFrom(&pair);
-        option.subControls = QStyle::SC_All;
-        option.buttonSymbols = pair.buttonSymbols();
-        const QRect button = pair.style()->subControlRect(QStyle::CC_SpinBox, &option,
-                                                          up ? QStyle::SC_SpinBoxUp : QStyle::SC_SpinBoxDown, &pair);
-        QTest::mouseClick(&pair, Qt::LeftButton, {}, button.center());
-    }
 
-    QTabWidget& Tabs() { return Find<QTabWidget>("SSTab1"); }
-    void ClickTab(int index) {
-        QTest::mouseClick(Tabs().tabBar(), Qt::LeftButton, {}, Tabs().tabBar()->tabRect(index).center());
-    }
     /// Shows the window with the focus in a control of a tab.
     void ShowAt(int tab, const char* name, Language language = Language::English) {
         Show(language);
@@ -73,12 +46,6 @@ protected:
         Find<QPushButton>("cmdClose").setFocus();
         ASSERT_FALSE(Find<QWidget>(name).hasFocus()) << name;
     }
-    /// Each key goes to the control that has the focus by then.
-    void Type(const char* text) {
-        for (; *text != '\0'; ++text) {
-            QTest::keyClick(QApplication::focusWidget(), *text);
-        }
-    }
     /// Replaces the text of the box with the focus.
     void Retype(const char* text) {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::ControlModifier);
@@ -86,9 +53,9 @@ protected:
         Type(text);
     }
 
-    EditGrid& Grid() { return Find<EditGrid>("msgAutodial"); }
+    EditGrid& Grid() override { return Find<EditGrid>("msgAutodial"); }
     QLineEdit& Editor() { return Box("txtAutodial"); }
-    std::string Cell(int row) { return FromQString(Grid().Text(row, 1)); }
+    std::string Cell(int row) { return TabbedFormTest::Cell(row, 1); }
 
     void ExpectInvalid(Language language = Language::English) {
         const bool english = language == Language::English;

@@ -1,8 +1,6 @@
 #include "DTMFFormFixture.h"
 
 #include <QHeaderView>
-#include <QLayout>
-#include <QRegularExpression>
 #include <QScrollBar>
 
 #include "data/BlankImage.h"
@@ -289,22 +287,7 @@ TEST_F(DTMFFormTest, ThePanelScrollsInASmallWindow) {
 }
 
 TEST_F(DTMFFormTest, FieldsAndLabelsOfEveryPageAreOnOneRaster) {
-    for (const Language language : {Language::English, Language::Chinese}) {
-        Show(language);
-        for (int tab = 0; tab < Tabs().count(); ++tab) {
-            ClickTab(tab);
-            const QWidget& page = *Tabs().widget(tab);
-            const int needed = page.layout() == nullptr ? 0 : page.layout()->minimumSize().height();
-            EXPECT_LE(needed, page.height()) << tab;
-            for (const QLabel* label : page.findChildren<QLabel*>(QRegularExpression("^lbl"))) {
-                const QWidget& field = *label->buddy();
-                EXPECT_EQ(field.mapTo(form.get(), QPoint()).x(), 216) << label->objectName().toStdString();
-                const int indent = label->parentWidget() == &page ? 8 : 13; // in a frame
-                EXPECT_NEAR(label->mapTo(&page, QPoint()).x(), indent, 2) << label->objectName().toStdString();
-                EXPECT_LE(label->heightForWidth(label->width()), label->height()) << label->objectName().toStdString();
-            }
-        }
-    }
+    ExpectOneRasterOnEveryPage();
 }
 
 } // namespace

@@ -246,13 +246,13 @@ TEST_F(OptionalFormTest, NumbersWrapBothWaysByKeyAndByButton) {
                 Box(c.row.box).setFocus();
             }
             for (const char* text : c.upward) {
-                byKey ? Key(Qt::Key_Up) : ClickButton(c.row.upDown, QStyle::SC_SpinBoxUp);
+                byKey ? Key(Qt::Key_Up) : Step(c.row.upDown, true);
                 EXPECT_EQ(Text(c.row.box), text);
                 EXPECT_EQ(Box(c.row.box).selectedText().toStdString(), text);
                 EXPECT_TRUE(Box(c.row.box).hasFocus());
             }
             for (const char* text : c.downward) {
-                byKey ? Key(Qt::Key_Down) : ClickButton(c.row.upDown, QStyle::SC_SpinBoxDown);
+                byKey ? Key(Qt::Key_Down) : Step(c.row.upDown, false);
                 EXPECT_EQ(Text(c.row.box), text);
             }
             EXPECT_EQ(At(c.row.address), c.start);

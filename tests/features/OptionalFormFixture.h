@@ -2,11 +2,8 @@
 
 #include <QCheckBox>
 #include <QGroupBox>
-#include <QStyle>
-#include <QStyleOptionSpinBox>
 
 #include "channels/ChildFormFixture.h"
-#include "controls/SpinText.h"
 #include "features/OptionalForm.h"
 
 namespace zelvor {
@@ -19,7 +16,6 @@ protected:
         Put(0x140, {'1', '2', '3', '4', '5'});
     }
 
-    int Spin(const char* name) { return Find<UpDown>(name).Value(); }
     QCheckBox& Check(const char* name) { return Find<QCheckBox>(name); }
     int Chosen(const char* name) { return List(name).currentIndex(); }
     bool IsEnabled(const char* name) { return Find<QWidget>(name).isEnabled(); }
@@ -34,14 +30,6 @@ protected:
         List(name).setFocus();
         ASSERT_TRUE(List(name).hasFocus()) << name;
         List(name).setCurrentIndex(index);
-    }
-    void ClickButton(const char* name, QStyle::SubControl which) {
-        auto& buttons = Find<UpDown>(name);
-        QStyleOptionSpinBox option;
-        option.initFrom(&buttons);
-        option.subControls = QStyle::SC_All;
-        const QRect place = buttons.style()->subControlRect(QStyle::CC_SpinBox, &option, which, &buttons);
-        QTest::mouseClick(&buttons, Qt::LeftButton, {}, place.center());
     }
     void PutCode(int address, const char* digits) {
         for (int i = 0; i < 16; ++i) {
