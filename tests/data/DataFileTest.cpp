@@ -6,25 +6,10 @@
 #include <random>
 #include <string>
 
-#include "data/BlankImage.h"
 #include "data/TestImages.h"
 
 namespace zelvor {
 namespace {
-
-/// The document of a new 4618 with one channel.
-DataImage SampleImage() {
-    DataImage image;
-    image.Set(0x1BD, 0x01);
-    image.Set(0x1BE, 0xF8);
-    InitAllFrameData(image);
-    testing::StoreHex(image, 0x010,
-                      "0025511425060045"
-                      "9E0213A8"
-                      "02BFB0F8");
-    image.Set(0x17E, 0x01);
-    return image;
-}
 
 TEST(DataFile, HasTheGoldenBytesOfASavedDocument) {
     const std::string erased(64, 'F');
@@ -57,7 +42,7 @@ TEST(DataFile, HasTheGoldenBytesOfASavedDocument) {
                                "FFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFF";
     ASSERT_EQ(golden.size(), 2080u);
     std::string hex;
-    for (const std::uint8_t byte : EncodeDataFile(SampleImage())) {
+    for (const std::uint8_t byte : EncodeDataFile(testing::SampleImage())) {
         constexpr std::string_view Digits = "0123456789ABCDEF";
         hex += Digits[byte >> 4];
         hex += Digits[byte & 0x0F];

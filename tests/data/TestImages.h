@@ -5,6 +5,7 @@
 #include <random>
 #include <string_view>
 
+#include "data/BlankImage.h"
 #include "data/DataImage.h"
 
 namespace zelvor::testing {
@@ -21,6 +22,20 @@ inline void StoreBytes(DataImage& image, int address, std::initializer_list<int>
     for (const int byte : bytes) {
         image.Set(address++, static_cast<std::uint8_t>(byte));
     }
+}
+
+/// The document of a new 4618 with one channel.
+inline DataImage SampleImage() {
+    DataImage image;
+    image.Set(0x1BD, 0x01);
+    image.Set(0x1BE, 0xF8);
+    InitAllFrameData(image);
+    StoreHex(image, 0x010,
+             "0025511425060045"
+             "9E0213A8"
+             "02BFB0F8");
+    image.Set(0x17E, 0x01);
+    return image;
 }
 
 inline DataImage RandomImage(std::mt19937& random) {

@@ -1,4 +1,4 @@
-#include "platform/DataFiles.h"
+#include "ProgramsFiles.h"
 
 #include <gtest/gtest.h>
 
@@ -6,45 +6,13 @@
 #include <string>
 #include <vector>
 
-#include "data/BlankImage.h"
 #include "data/Document.h"
 #include "data/TestImages.h"
-#include "platform/QtFileStore.h"
-#include "support/TestDirectory.h"
 
-namespace zelvor {
+namespace zelvor::testing {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::EntriesOf;
-using testing::FileContent;
-using testing::PutFile;
-using testing::TestDirectory;
-
-/// As the window program does.
-DataFileRead ReadDataFile(const fs::path& path) {
-    QtFileStore store;
-    return zelvor::ReadDataFile(store, testing::Utf8(path));
-}
-
-bool WriteDataFile(const fs::path& path, const DataImage& image) {
-    QtFileStore store;
-    return zelvor::WriteDataFile(store, testing::Utf8(path), image);
-}
-
-/// The document of a new 4618 with one channel.
-DataImage SampleImage() {
-    DataImage image;
-    image.Set(0x1BD, 0x01);
-    image.Set(0x1BE, 0xF8);
-    InitAllFrameData(image);
-    testing::StoreHex(image, 0x010,
-                      "0025511425060045"
-                      "9E0213A8"
-                      "02BFB0F8");
-    image.Set(0x17E, 0x01);
-    return image;
-}
 
 std::string FileOf(std::string_view magic, std::size_t size, char fill) {
     std::string content(magic);
@@ -206,4 +174,4 @@ TEST(DataFile, DoesNotReplaceAReadOnlyFile) {
 }
 
 } // namespace
-} // namespace zelvor
+} // namespace zelvor::testing

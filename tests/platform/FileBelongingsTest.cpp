@@ -3,11 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <fcntl.h>
-#include <grp.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
-#include <sys/wait.h>
 #include <sys/xattr.h>
 #include <unistd.h>
 
@@ -19,6 +17,7 @@
 #include <string>
 #include <vector>
 
+#include "ChildProcess.h"
 #include "platform/FileStore.h"
 #include "platform/QtFileStore.h"
 #include "support/TestDirectory.h"
@@ -51,24 +50,23 @@ extern "C" int rename(const char* from, const char* to) noexcept {
     return static_cast<int>(syscall(SYS_renameat2, AT_FDCWD, from, AT_FDCWD, to, 0));
 }
 
-namespace zelvor {
+namespace zelvor::testing {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::EntriesOf;
-using testing::FileContent;
-using testing::PutFile;
-using testing::TestDirectory;
-using testing::Utf8;
 
 using Names = std::vector<std::string>;
 
-constexpr uid_t Nobody = 65534;
-constexpr int Refused = 0;
-constexpr int Written = 1;
-constexpr int NoFault = 2;
-
 const std::string NewContent(1040, 'n');
+
+/// Owner rw-, user 65534 rw-, group r--, mask rw-, others ---.
+const std::string AccessList("\x02\x00\x00\x00"
+                             "\x01\x00\x06\x00\xFF\xFF\xFF\xFF"
+                             "\x02\x00\x06\x00\xFE\xFF\x00\x00"
+                             "\x04\x00\x04\x00\xFF\xFF\xFF\xFF"
+                             "\x10\x00\x06\x00\xFF\xFF\xFF\xFF"
+                             "\x20\x00\x00\x00\xFF\xFF\xFF\xFF",
+                             44);
 
 bool Save(const fs::path& path) {
     const std::vector<std::uint8_t> bytes(NewContent.begin(), NewContent.end());
@@ -82,32 +80,12 @@ struct stat StatusOf(const fs::path& path) {
     return status;
 }
 
-pid_t Fork(const std::function<int()>& work) {
-    const pid_t child = fork();
-    if (child == 0) {
-        _exit(work());
-    }
-    return child;
-}
-
-int AnswerOf(pid_t child) {
-    int status = -1;
-    EXPECT_EQ(waitpid(child, &status, 0), child);
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-}
-
-bool BecomeNobody() {
-    return geteuid() != 0 || (setgroups(0, nullptr) == 0 && setgid(Nobody) == 0 && setuid(Nobody) == 0);
-}
-
 /// Leaves in the folder what a process leaves that is killed just before it would give the new file its name.
 void LeaveAnUnfinishedSave(const fs::path& path) {
-    const pid_t child = Fork([&] {
+    const int status = EndOf(Fork([&] {
         beforeTheRenaming = [] { raise(SIGKILL); };
         return Save(path) ? Written : Refused;
-    });
-    int status = -1;
-    EXPECT_EQ(waitpid(child, &status, 0), child);
+    }));
     EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL) << "the fault did not fire";
 }
 
@@ -134,33 +112,18 @@ TEST_F(Belongings, AreTheExtendedAttributesToo) {
 }
 
 TEST_F(Belongings, AreTheAccessListToo) {
-    // owner rw-, user 65534 rw-, group r--, mask rw-, others ---
-    const std::string list("\x02\x00\x00\x00"
-                           "\x01\x00\x06\x00\xFF\xFF\xFF\xFF"
-                           "\x02\x00\x06\x00\xFE\xFF\x00\x00"
-                           "\x04\x00\x04\x00\xFF\xFF\xFF\xFF"
-                           "\x10\x00\x06\x00\xFF\xFF\xFF\xFF"
-                           "\x20\x00\x00\x00\xFF\xFF\xFF\xFF",
-                           44);
-    if (setxattr(Path().c_str(), "system.posix_acl_access", list.data(), list.size(), 0) != 0) {
+    if (setxattr(Path().c_str(), "system.posix_acl_access", AccessList.data(), AccessList.size(), 0) != 0) {
         GTEST_SKIP() << "the file system has no access lists";
     }
     ASSERT_TRUE(Save(Path()));
     std::array<char, 100> value{};
     ASSERT_EQ(getxattr(Path().c_str(), "system.posix_acl_access", value.data(), value.size()), 44);
-    EXPECT_EQ(std::string(value.data(), 44), list);
+    EXPECT_EQ(std::string(value.data(), 44), AccessList);
     EXPECT_EQ(StatusOf(Path()).st_mode & 07777U, 0660U);
 }
 
 TEST_F(Belongings, AreNotWhatAFolderHandsDownToNewFiles) {
-    const std::string list("\x02\x00\x00\x00"
-                           "\x01\x00\x06\x00\xFF\xFF\xFF\xFF"
-                           "\x02\x00\x06\x00\xFE\xFF\x00\x00"
-                           "\x04\x00\x04\x00\xFF\xFF\xFF\xFF"
-                           "\x10\x00\x06\x00\xFF\xFF\xFF\xFF"
-                           "\x20\x00\x00\x00\xFF\xFF\xFF\xFF",
-                           44);
-    if (setxattr(directory.Path().c_str(), "system.posix_acl_default", list.data(), list.size(), 0) != 0) {
+    if (setxattr(directory.Path().c_str(), "system.posix_acl_default", AccessList.data(), AccessList.size(), 0) != 0) {
         GTEST_SKIP() << "the file system has no access lists";
     }
     ASSERT_TRUE(Save(Path()));
@@ -216,7 +179,7 @@ TEST_F(Belongings, AreOwnerAndGroupWhereAnotherUserSaves) {
         GTEST_SKIP() << "needs an administrator to make somebody else's file";
     }
     ASSERT_EQ(chmod(Path().c_str(), 0666), 0);
-    EXPECT_EQ(AnswerOf(Fork([&] { return BecomeNobody() ? (Save(Path()) ? Written : Refused) : NoFault; })), Written);
+    EXPECT_EQ(AnswerOfChild([&] { return BecomeNobody() ? (Save(Path()) ? Written : Refused) : NoFault; }), Written);
     EXPECT_EQ(StatusOf(Path()).st_uid, 0U);
     EXPECT_EQ(StatusOf(Path()).st_gid, 0U);
     EXPECT_EQ(FileContent(Path()), NewContent);
@@ -359,4 +322,4 @@ TEST_F(Leftovers, OfAnotherUserStay) {
 }
 
 } // namespace
-} // namespace zelvor
+} // namespace zelvor::testing

@@ -2,11 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <grp.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <csignal>
@@ -15,66 +12,17 @@
 #include <string>
 #include <vector>
 
-#include "platform/DataFiles.h"
-#include "platform/QtFileStore.h"
-#include "support/TestDirectory.h"
+#include "ChildProcess.h"
+#include "ProgramsFiles.h"
 
-namespace zelvor {
+namespace zelvor::testing {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::EntriesOf;
-using testing::FileContent;
-using testing::PutFile;
-using testing::TestDirectory;
-
-/// As the window program does.
-DataFileRead ReadDataFile(const fs::path& path) {
-    QtFileStore store;
-    return zelvor::ReadDataFile(store, testing::Utf8(path));
-}
-
-bool WriteDataFile(const fs::path& path, const DataImage& image) {
-    QtFileStore store;
-    return zelvor::WriteDataFile(store, testing::Utf8(path), image);
-}
-
-// What a child process reports.
-constexpr int Refused = 0;
-constexpr int Written = 1;
-constexpr int NoFault = 2; // the fault was not there, so the answer means nothing
-
-/// Runs work in a child process and returns waitpid's status.
-template<typename Work>
-int InChild(Work work) {
-    const pid_t child = fork();
-    if (child == 0) {
-        _exit(work());
-    }
-    int status = -1;
-    EXPECT_EQ(waitpid(child, &status, 0), child);
-    return status;
-}
-
-template<typename Work>
-int AnswerOfChild(Work work) {
-    const int status = InChild(work);
-    EXPECT_TRUE(WIFEXITED(status));
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-}
 
 void LimitFileSize(rlim_t bytes) {
     const rlimit limit{bytes, bytes};
     setrlimit(RLIMIT_FSIZE, &limit);
-}
-
-/// Gives up the rights of an administrator, who may read and write everything.
-bool BecomeNobody() {
-    constexpr uid_t Nobody = 65534;
-    if (geteuid() != 0) {
-        return true;
-    }
-    return setgroups(0, nullptr) == 0 && setgid(Nobody) == 0 && setuid(Nobody) == 0;
 }
 
 DataImage SomeImage() {
@@ -142,13 +90,13 @@ TEST(FullDisk, DoesNotMatterWhereTheFileJustFits) {
 TEST(Crash, InTheMiddleOfAWriteLeavesTheOldFileWhole) {
     const TestDirectory directory;
     PutFile(directory / "radio.dat", "the old file");
-    const int status = InChild([&] {
+    const int status = EndOf(Fork([&] {
         const rlimit noCore{0, 0};
         setrlimit(RLIMIT_CORE, &noCore);
         std::signal(SIGXFSZ, SIG_DFL); // the write beyond the limit ends the process
         LimitFileSize(100);
         return WriteDataFile(directory / "radio.dat", SomeImage()) ? Written : Refused;
-    });
+    }));
     ASSERT_TRUE(WIFSIGNALED(status));
     EXPECT_EQ(WTERMSIG(status), SIGXFSZ);
     EXPECT_EQ(FileContent(directory / "radio.dat"), "the old file");
@@ -306,4 +254,4 @@ TEST(OddFiles, AreNeitherReadNorReplaced) {
 }
 
 } // namespace
-} // namespace zelvor
+} // namespace zelvor::testing
