@@ -6,17 +6,8 @@
 
 #include "Feed.h"
 
-namespace zelvor {
+namespace zelvor::test {
 namespace {
-
-using test::Bytes;
-using test::Enter;
-using test::Feed;
-using test::Joined;
-using test::Text;
-
-const Bytes Silence{};
-const Bytes Acknowledged{0x06};
 
 class CloneResponderTest : public ::testing::Test {
 protected:
@@ -225,4 +216,4 @@ TEST_F(CloneResponderTest, WritesOfEveryAddressAndCountStayInsideTheMemory) {
 }
 
 } // namespace
-} // namespace zelvor
+} // namespace zelvor::test

@@ -11,6 +11,10 @@ namespace zelvor::test {
 
 using Bytes = std::vector<std::uint8_t>;
 
+/// Answers.
+inline const Bytes Silence{};
+inline const Bytes Acknowledged{0x06};
+
 inline Bytes Text(std::string_view text) {
     return {text.begin(), text.end()};
 }

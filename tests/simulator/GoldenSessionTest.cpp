@@ -7,13 +7,8 @@
 #include "Feed.h"
 #include "simulator/RadioResponder.h"
 
-namespace zelvor {
+namespace zelvor::test {
 namespace {
-
-using test::Bytes;
-using test::Feed;
-using test::Joined;
-using test::Text;
 
 struct Exchange {
     Bytes command;
@@ -189,4 +184,4 @@ TEST(GoldenSession, CommandsInOneRunAreAnsweredLikeCommandsOneByOne) {
 }
 
 } // namespace
-} // namespace zelvor
+} // namespace zelvor::test

@@ -4,15 +4,10 @@
 
 #include "RadioLineRig.h"
 
-namespace zelvor {
+namespace zelvor::test {
 namespace {
 
 using std::chrono::milliseconds;
-using test::Bytes;
-using test::Joined;
-using test::OneByte;
-using test::RadioLineTest;
-using test::Text;
 
 TEST(LinePacer, BytesFollowEachOtherAndIdleTimeIsNotMadeUp) {
     LinePacer pacer;
@@ -178,4 +173,4 @@ TEST_F(RadioLineTest, UnansweredCommandsAreNoReplies) {
 }
 
 } // namespace
-} // namespace zelvor
+} // namespace zelvor::test

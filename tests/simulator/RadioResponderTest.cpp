@@ -10,17 +10,8 @@
 
 #include "ServiceMemory.h"
 
-namespace zelvor {
+namespace zelvor::test {
 namespace {
-
-using test::Bytes;
-using test::Enter;
-using test::Feed;
-using test::Joined;
-using test::Text;
-
-const Bytes Silence{};
-const Bytes Acknowledged{0x06};
 
 class RadioResponderTest : public ::testing::Test {
 protected:
@@ -30,7 +21,7 @@ protected:
         ASSERT_EQ(Feed(radio, Text("NRK")).size(), 34U);
     }
 
-    DataImage memory = test::ServiceMemory();
+    DataImage memory = ServiceMemory();
     RadioResponder radio{memory};
 };
 
@@ -80,7 +71,7 @@ TEST_F(RadioResponderTest, TuningStartsATuningSessionInEveryState) {
         EXPECT_EQ(replies.back(), 0x06);
         EXPECT_TRUE(radio.Service().IsActive()) << way.size() << " bytes before";
         EXPECT_EQ(radio.Clone().State(), CloneState::Idle);
-        EXPECT_EQ(Feed(radio, {0x05}), test::ServiceTuningRecord());
+        EXPECT_EQ(Feed(radio, {0x05}), ServiceTuningRecord());
     }
 }
 
@@ -229,9 +220,9 @@ TEST_F(RadioResponderTest, GarbageInTuningModeWithoutAStoreLeavesTheMemoryAlone)
         byte = byte == 0x0E ? 0x0D : byte;
         answered += radio.Take(byte) ? 1 : 0;
     }
-    EXPECT_EQ(memory, test::ServiceMemory()) << "seed " << Seed;
+    EXPECT_EQ(memory, ServiceMemory()) << "seed " << Seed;
     EXPECT_GT(answered, 0U) << "the garbage never met a command; seed " << Seed;
 }
 
 } // namespace
-} // namespace zelvor
+} // namespace zelvor::test

@@ -7,10 +7,8 @@
 
 #include "Feed.h"
 
-namespace zelvor {
+namespace zelvor::test {
 namespace {
-
-using test::Bytes;
 
 Bytes MemoryAt(const DataImage& memory, int address, int count) {
     Bytes bytes;
@@ -138,4 +136,4 @@ TEST_F(SampleRadioTest, SettingsAreLegal) {
 }
 
 } // namespace
-} // namespace zelvor
+} // namespace zelvor::test

@@ -7,12 +7,8 @@
 #include "ServiceMemory.h"
 #include "simulator/RadioResponder.h"
 
-namespace zelvor {
+namespace zelvor::test {
 namespace {
-
-using test::Bytes;
-using test::Feed;
-using test::Text;
 
 struct Exchange {
     Bytes command;
@@ -41,7 +37,7 @@ Session EntrySession() {
     Session session{{Text("TUNING "), {0x06}},
                     {{0x02}, Identity},
                     {{0x06}, {0x06}},
-                    {{0x05}, test::ServiceTuningRecord()},
+                    {{0x05}, ServiceTuningRecord()},
                     {{0x06}, {0x06}}};
     for (std::uint8_t n = 1; n <= 16; ++n) {
         Bytes record;
@@ -55,7 +51,7 @@ Session EntrySession() {
 }
 
 TEST(ServiceGolden, AnInformationSessionIsAnsweredByteForByte) {
-    DataImage memory = test::ServiceMemory();
+    DataImage memory = ServiceMemory();
     RadioResponder radio(memory);
     const Session session{
         {Text("PROGRAM"), {0x06}},
@@ -70,26 +66,26 @@ TEST(ServiceGolden, AnInformationSessionIsAnsweredByteForByte) {
         {{0x45}, {0x06}},
     };
     ExpectSession(session, radio);
-    EXPECT_EQ(memory, test::ServiceMemory());
+    EXPECT_EQ(memory, ServiceMemory());
     EXPECT_EQ(radio.Clone().State(), CloneState::Idle);
     ExpectSession(session, radio); // and again
 }
 
 TEST(ServiceGolden, AnEntryIntoTestModeIsAnsweredByteForByteAndStaysInTheMode) {
-    DataImage memory = test::ServiceMemory();
+    DataImage memory = ServiceMemory();
     RadioResponder radio(memory);
     const Session session = EntrySession();
     ASSERT_EQ(session.size(), 37U);
     ExpectSession(session, radio);
-    EXPECT_EQ(memory, test::ServiceMemory());
+    EXPECT_EQ(memory, ServiceMemory());
     EXPECT_TRUE(radio.Service().IsActive());
 }
 
 TEST(ServiceGolden, ATestModeSessionWithOneTuningIsAnsweredByteForByte) {
-    DataImage memory = test::ServiceMemory();
+    DataImage memory = ServiceMemory();
     RadioResponder radio(memory);
     ExpectSession(EntrySession(), radio);
-    Bytes tuned = test::ServiceTuningRecord();
+    Bytes tuned = ServiceTuningRecord();
     tuned[11] = 0xC8;
     ExpectSession({{{0x10, 0x01}, {0, 1, 2, 3, 4, 5, 6, 7}},
                    {{0x06}, {0x06}},
@@ -101,7 +97,7 @@ TEST(ServiceGolden, ATestModeSessionWithOneTuningIsAnsweredByteForByte) {
                    {{0x08, 0x0E}, {0x06}},
                    {{0x47}, {0x06}},
                    {{0x46}, {0x06}},
-                   {{0x05}, test::ServiceTuningRecord()},
+                   {{0x05}, ServiceTuningRecord()},
                    {{0x06}, {0x06}},
                    {{0x12, 0x0D}, {0x06}},
                    {{0x30, 0x0D}, {0x06}},
@@ -119,7 +115,7 @@ TEST(ServiceGolden, ATestModeSessionWithOneTuningIsAnsweredByteForByte) {
                    {{0x11, 0x03}, {0x06}},
                    {{0x45}, {0x06}}},
                   radio);
-    DataImage expected = test::ServiceMemory();
+    DataImage expected = ServiceMemory();
     expected.Set(0x185, 0xC8);
     expected.Set(0x1AC, 0x64);
     EXPECT_EQ(memory, expected);
@@ -127,4 +123,4 @@ TEST(ServiceGolden, ATestModeSessionWithOneTuningIsAnsweredByteForByte) {
 }
 
 } // namespace
-} // namespace zelvor
+} // namespace zelvor::test

@@ -5,15 +5,10 @@
 
 #include "RadioLineRig.h"
 
-namespace zelvor {
+namespace zelvor::test {
 namespace {
 
 using std::chrono::milliseconds;
-using test::Bytes;
-using test::Joined;
-using test::OneByte;
-using test::RadioLineTest;
-using test::Text;
 
 /// A radio that has been asked for its manufacturing record, whose next byte may be a bare 'P'.
 class BareRequestTest : public RadioLineTest {
@@ -133,4 +128,4 @@ TEST_F(ServiceLineTest, AnUnplugLeavesTheRadioInTuningMode) {
 }
 
 } // namespace
-} // namespace zelvor
+} // namespace zelvor::test

@@ -7,16 +7,8 @@
 #include "ServiceMemory.h"
 #include "simulator/RadioResponder.h"
 
-namespace zelvor {
+namespace zelvor::test {
 namespace {
-
-using test::Bytes;
-using test::Feed;
-using test::Joined;
-using test::Text;
-
-const Bytes Silence{};
-const Bytes Acknowledged{0x06};
 
 class ServiceResponderTest : public ::testing::Test {
 protected:
@@ -33,7 +25,7 @@ protected:
         return description;
     }
 
-    DataImage memory = test::ServiceMemory();
+    DataImage memory = ServiceMemory();
     RadioResponder radio{memory};
 };
 
@@ -54,7 +46,7 @@ TEST_F(ServiceResponderTest, OutsideTuningModeNoCommandOfItIsAnswered) {
     EXPECT_EQ(Feed(fresh, {0x02, 0x06, 0x05, 0x10, 0x01, 0x11, 0x01, 0x08, 0x0D, 'F', 'G', 0x12, 0x0D, 0x07, 0x45}),
               Silence);
     EXPECT_EQ(Feed(fresh, {0x12, 0x20, 0x99, 0x12, 0x0E}), Silence);
-    EXPECT_EQ(memory, test::ServiceMemory());
+    EXPECT_EQ(memory, ServiceMemory());
 }
 
 TEST_F(ServiceResponderTest, TheIdentityIsEightBytesOfTheMemory) {
@@ -69,7 +61,7 @@ TEST_F(ServiceResponderTest, AnAcknowledgementIsAcknowledged) {
 TEST_F(ServiceResponderTest, TheTuningRecordIsSixtyTwoBytesInTheOrderOfTheItems) {
     const Bytes record = Feed(radio, {0x05});
     EXPECT_EQ(record.size(), 62U);
-    EXPECT_EQ(record, test::ServiceTuningRecord());
+    EXPECT_EQ(record, ServiceTuningRecord());
 }
 
 TEST_F(ServiceResponderTest, EveryChannelIsAnsweredByItsRecord) {
@@ -212,4 +204,4 @@ TEST_F(ServiceResponderTest, EveryCommandIsNamed) {
 }
 
 } // namespace
-} // namespace zelvor
+} // namespace zelvor::test

@@ -7,15 +7,8 @@
 #include "ServiceMemory.h"
 #include "simulator/RadioResponder.h"
 
-namespace zelvor {
+namespace zelvor::test {
 namespace {
-
-using test::Bytes;
-using test::Enter;
-using test::Feed;
-using test::Text;
-
-const Bytes Acknowledged{0x06};
 
 class TuningSessionTest : public ::testing::Test {
 protected:
@@ -34,7 +27,7 @@ protected:
         return point.size() == 6 ? point[1] : -1;
     }
 
-    DataImage memory = test::ServiceMemory();
+    DataImage memory = ServiceMemory();
     RadioResponder radio{memory};
 };
 
@@ -58,12 +51,12 @@ const std::vector<Point> PointsOfMemory{
 
 TEST_F(TuningSessionTest, EachPointIsStoredAtItsPlaceInTheMemoryAndNowhereElse) {
     for (const Point& point : PointsOfMemory) {
-        memory = test::ServiceMemory();
+        memory = ServiceMemory();
         EnterTuning();
         ASSERT_EQ(Feed(radio, {static_cast<std::uint8_t>(point.narrow ? 'G' : 'F')}), Acknowledged);
         Set(point.code, 0xE7);
         Store(point.code);
-        DataImage expected = test::ServiceMemory();
+        DataImage expected = ServiceMemory();
         expected.SetIndex(point.imageIndex, 0xE7);
         EXPECT_EQ(memory, expected) << "code " << int(point.code) << (point.narrow ? " narrow" : " wide");
     }
@@ -78,23 +71,23 @@ const std::vector<TestValue> TestValues{{18, 11}, {20, 17}, {24, 29}, {23, 24}, 
                                         {26, 39}, {31, 46}, {13, 6},  {12, 1}};
 
 TEST_F(TuningSessionTest, ValuesAtTheTestFrequencyAreStoredBesideTheMemory) {
-    Bytes expected = test::ServiceTuningRecord();
+    Bytes expected = ServiceTuningRecord();
     for (const TestValue& value : TestValues) {
         Set(value.code, static_cast<std::uint8_t>(0x80 + value.code));
         Store(value.code);
         expected[value.recordByte - 1] = static_cast<std::uint8_t>(0x80 + value.code);
         EXPECT_EQ(Record(), expected) << "code " << int(value.code);
     }
-    EXPECT_EQ(memory, test::ServiceMemory());
+    EXPECT_EQ(memory, ServiceMemory());
 }
 
 TEST_F(TuningSessionTest, AValueThatIsSetCountsAtOnceAndIsReadOnlyWhenStored) {
     Set(48, 0xE7);
     EXPECT_EQ(Working(48), 0xE7);
-    EXPECT_EQ(Record(), test::ServiceTuningRecord());
-    EXPECT_EQ(memory, test::ServiceMemory());
+    EXPECT_EQ(Record(), ServiceTuningRecord());
+    EXPECT_EQ(memory, ServiceMemory());
     Store(48);
-    Bytes expected = test::ServiceTuningRecord();
+    Bytes expected = ServiceTuningRecord();
     expected[11] = 0xE7;
     EXPECT_EQ(Record(), expected);
 }
@@ -107,7 +100,7 @@ TEST_F(TuningSessionTest, OneStoreMakesAllValuesOfItsItemTheRadios) {
     Set(52, 5);
     Set(50, 6);
     Store(50);
-    Bytes expected = test::ServiceTuningRecord();
+    Bytes expected = ServiceTuningRecord();
     for (std::uint8_t i = 0; i < 6; ++i) {
         expected[10U + i] = static_cast<std::uint8_t>(i + 1);
     }
@@ -132,7 +125,7 @@ TEST_F(TuningSessionTest, TheItemsCodeIsTheTestValueInWideAndTheNarrowValueInNar
     EXPECT_EQ(Feed(radio, {'F'}), Acknowledged);
     EXPECT_EQ(Working(24), 0x91);
     Store(24);
-    Bytes expected = test::ServiceTuningRecord();
+    Bytes expected = ServiceTuningRecord();
     expected[28] = 0x91;
     expected[32] = 0x92;
     EXPECT_EQ(Record(), expected);
@@ -206,8 +199,8 @@ TEST_F(TuningSessionTest, GivingUpTuningStepByStepBringsTheOldValuesBack) {
         Set(codes[page], old[page]);
     }
     Store(50);
-    EXPECT_EQ(Record(), test::ServiceTuningRecord());
+    EXPECT_EQ(Record(), ServiceTuningRecord());
 }
 
 } // namespace
-} // namespace zelvor
+} // namespace zelvor::test

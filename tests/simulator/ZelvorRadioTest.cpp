@@ -15,17 +15,10 @@
 #include "RadioProcess.h"
 #include "TerminalHost.h"
 
-namespace zelvor {
+namespace zelvor::test {
 namespace {
 
 namespace fs = std::filesystem;
-using test::Bytes;
-using test::Joined;
-using test::RadioProcess;
-using test::TerminalHost;
-using test::Text;
-
-const Bytes Acknowledged{0x06};
 
 class ZelvorRadioTest : public ::testing::Test {
 protected:
@@ -140,7 +133,7 @@ TEST_F(ZelvorRadioTest, TakesAWriteAndSavesItAfterEnd) {
     EXPECT_EQ(host.Ask(packet, 1), Acknowledged);
     EXPECT_FALSE(fs::exists(saved));
     host.Send({0x45});
-    ASSERT_TRUE(test::Eventually([&] { return fs::exists(saved); }));
+    ASSERT_TRUE(Eventually([&] { return fs::exists(saved); }));
     const Bytes file = FileBytes(saved);
     ASSERT_EQ(file.size(), 1040U);
     EXPECT_EQ(Bytes(file.begin(), file.begin() + 16), Joined({Text("RQ6152"), Bytes(10, 0xFF)}));
@@ -378,7 +371,7 @@ TEST_F(ZelvorRadioTest, OfAFleetSavesTheRadioThatWasUsedLast) {
         Enter(host);
         EXPECT_EQ(host.Ask({0x57, 0x02, 0x00, 0x01, value}, 1), Acknowledged);
     }
-    ASSERT_TRUE(test::Eventually([&] {
+    ASSERT_TRUE(Eventually([&] {
         const Bytes file = FileBytes(saved);
         return file.size() == 1040 && file[16 + 0x200] == 0x44;
     }));
@@ -502,7 +495,7 @@ TEST_F(ZelvorRadioTest, ServesATuningSessionAndSavesWhatWasStored) {
     EXPECT_EQ(host.Ask({0x33, 0x20, 0xC9}, 1), Acknowledged);
     EXPECT_EQ(host.Ask({0x30, 0x0E}, 1), Acknowledged);
     EXPECT_EQ(host.Ask({0x45}, 1), Acknowledged);
-    ASSERT_TRUE(test::Eventually([&] { return fs::exists(saved) && fs::file_size(saved) == 1040; }));
+    ASSERT_TRUE(Eventually([&] { return fs::exists(saved) && fs::file_size(saved) == 1040; }));
     const Bytes file = FileBytes(saved);
     EXPECT_EQ(file[16 + 0x185], 0xC8);
     EXPECT_EQ(file[16 + 0x184], 0xC9);
@@ -571,7 +564,7 @@ TEST_F(ZelvorRadioTest, ThePortHasNoLinkWhileItIsUnplugged) {
     ASSERT_TRUE(radio.WaitForOut("ready: "));
     const TerminalHost host(Link());
     host.Send(Text("PROGRAM"));
-    EXPECT_TRUE(test::Eventually([&] { return !fs::is_symlink(Link()); }));
+    EXPECT_TRUE(Eventually([&] { return !fs::is_symlink(Link()); }));
     radio.Signal(SIGTERM);
     EXPECT_EQ(radio.ExitCode(), 0);
 }
@@ -587,4 +580,4 @@ TEST_F(ZelvorRadioTest, OneProgramAfterTheOtherMayOpenThePort) {
 }
 
 } // namespace
-} // namespace zelvor
+} // namespace zelvor::test
