@@ -1,16 +1,12 @@
 #include "link/ScriptedRadio.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace zelvor {
 
 void ScriptedRadio::Attach(FakeSerialPort& port) {
     port.OnSend = [this](std::span<const std::uint8_t> bytes) { Serve(bytes); };
-}
-
-void ScriptedRadio::Spoil(int reply, Fault fault) {
-    spoiledReply_ = reply;
-    fault_ = fault;
 }
 
 void ScriptedRadio::Serve(std::span<const std::uint8_t> command) {
@@ -43,31 +39,16 @@ void ScriptedRadio::Serve(std::span<const std::uint8_t> command) {
 }
 
 void ScriptedRadio::Reply(Bytes reply) {
-    ++replies_;
     bytesReplied_ += static_cast<int>(reply.size());
-    int delay = ReplyDelay;
-    if (replies_ == spoiledReply_) {
-        ++faultsFired_;
-        switch (fault_) {
-        case Fault::None:
-            break;
-        case Fault::Drop:
-            return;
-        case Fault::Cut:
-            reply.pop_back();
-            break;
-        case Fault::Corrupt:
-            reply.front() ^= 0x55;
-            break;
-        case Fault::Late:
-            delay = LateDelay;
-            break;
-        case Fault::Vanish:
-            clock_.At(ReplyDelay, [this] { ports_.Port("MSComm1")->Vanish(); });
-            return;
-        }
+    const auto delivery = replies_.Next(std::move(reply));
+    if (!delivery) {
+        return;
     }
-    DeliverAfter(delay, reply);
+    if (delivery->portVanishes) {
+        clock_.At(delivery->delay, [this] { ports_.Port("MSComm1")->Vanish(); });
+        return;
+    }
+    DeliverAfter(delivery->delay, delivery->bytes);
 }
 
 void ScriptedRadio::DeliverAfter(int milliseconds, const Bytes& reply) {

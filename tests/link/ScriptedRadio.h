@@ -8,7 +8,7 @@
 
 #include "fakes/FakeClock.h"
 #include "fakes/FakeSerialPort.h"
-#include "support/RadioTesting.h"
+#include "support/SpoiledReplies.h"
 
 namespace zelvor {
 
@@ -30,11 +30,11 @@ public:
     bool AnswersEnd = false;
 
     /// Spoils reply n, counted from 1 over the radio's life.
-    void Spoil(int reply, Fault fault);
+    void Spoil(int reply, Fault fault) { replies_.Spoil(reply, fault); }
 
-    [[nodiscard]] int Replies() const { return replies_; }
+    [[nodiscard]] int Replies() const { return replies_.Replies(); }
     [[nodiscard]] int BytesReplied() const { return bytesReplied_; }
-    [[nodiscard]] int FaultsFired() const { return faultsFired_; }
+    [[nodiscard]] int FaultsFired() const { return replies_.FaultsFired(); }
     [[nodiscard]] bool IsProgramming() const { return programming_; }
     /// Every command as it was sent.
     [[nodiscard]] const std::vector<std::string>& Commands() const { return commands_; }
@@ -48,11 +48,8 @@ private:
     FakeClock& clock_;
     FakeSerialPorts& ports_;
     bool programming_ = false;
-    int replies_ = 0;
+    SpoiledReplies replies_{{.delay = ReplyDelay, .lateDelay = LateDelay, .corruption = 0x55}};
     int bytesReplied_ = 0;
-    int spoiledReply_ = 0;
-    int faultsFired_ = 0;
-    Fault fault_ = Fault::None;
     std::vector<std::string> commands_;
 };
 

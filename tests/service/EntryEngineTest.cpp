@@ -260,38 +260,17 @@ INSTANTIATE_TEST_SUITE_P(EveryReply, EntryFaults, ::testing::ValuesIn(AllFaults(
 
 TEST_F(EntryEngineTest, ASilentRadioBringsThePromptAHundredMillisecondsBehindTheCommand) {
     rig.replies["50 52 4F 47 52 41 4D"] = "";
-    std::int64_t prompted = -1;
-    rig.messages.Expect(ConnectionPrompt(), [&] {
-        prompted = rig.clock.TickCount();
-        return MessageAnswer::Cancel;
-    });
-    engine.StartInformation();
-    rig.clock.Advance(1000);
-    EXPECT_EQ(prompted, 200);
+    EXPECT_EQ(rig.TimeOfPrompt([&] { engine.StartInformation(); }), 200);
 }
 
 TEST_F(EntryEngineTest, AWrongFirstIdentityByteFailsAtOnceWhateverTheRest) {
     rig.replies["02"] = "51 34 36 31 38 01 F8 FF";
-    std::int64_t prompted = -1;
-    rig.messages.Expect(ConnectionPrompt(), [&] {
-        prompted = rig.clock.TickCount();
-        return MessageAnswer::Cancel;
-    });
-    engine.StartInformation();
-    rig.clock.Advance(1000);
-    EXPECT_EQ(prompted, 100 + 3 + 2 + 1);
+    EXPECT_EQ(rig.TimeOfPrompt([&] { engine.StartInformation(); }), 100 + 3 + 2 + 1);
 }
 
 TEST_F(EntryEngineTest, APortThatCannotBeOpenedPromptsAtOnce) {
     rig.ports.Missing(1);
-    std::int64_t prompted = -1;
-    rig.messages.Expect(ConnectionPrompt(), [&] {
-        prompted = rig.clock.TickCount();
-        return MessageAnswer::Cancel;
-    });
-    engine.StartTestMode();
-    rig.clock.Advance(1000);
-    EXPECT_EQ(prompted, 101);
+    EXPECT_EQ(rig.TimeOfPrompt([&] { engine.StartTestMode(); }), 101);
     EXPECT_TRUE(rig.sent.empty());
 }
 

@@ -24,11 +24,6 @@ ServiceRig::ServiceRig() {
     };
 }
 
-void ServiceRig::Spoil(int reply, Fault fault) {
-    spoiledReply_ = reply;
-    fault_ = fault;
-}
-
 std::vector<std::string> ServiceRig::TakeSent() {
     times.clear();
     return std::exchange(sent, {});
@@ -44,37 +39,34 @@ bool ServiceRig::IsRunning(std::string_view timer) const {
     return found != nullptr && found->IsEnabled();
 }
 
+std::int64_t ServiceRig::TimeOfPrompt(const std::function<void()>& start) {
+    prompted_ = -1;
+    messages.Expect(ConnectionPrompt(), [this] {
+        prompted_ = clock.TickCount();
+        return MessageAnswer::Cancel;
+    });
+    start();
+    clock.Advance(1000);
+    return prompted_;
+}
+
 void ServiceRig::Serve(FakeSerialPort& port, const std::string& command) {
     const auto special = replies.find(command);
     std::vector<std::uint8_t> reply = Bytes(special != replies.end() ? special->second : UsualReply(command));
     if (reply.empty()) {
         return;
     }
-    int delay = ReplyDelay;
-    if (++replies_ == spoiledReply_) {
-        ++faultsFired_;
-        switch (fault_) {
-        case Fault::None:
-            break;
-        case Fault::Drop:
-            return;
-        case Fault::Cut:
-            reply.pop_back();
-            break;
-        case Fault::Corrupt:
-            reply.front() ^= 0xFF;
-            break;
-        case Fault::Late:
-            delay = 400;
-            break;
-        case Fault::Vanish:
-            clock.At(delay, [&port] { port.Vanish(); });
-            return;
-        }
+    const auto delivery = replies_.Next(std::move(reply));
+    if (!delivery) {
+        return;
     }
-    clock.At(delay, [this, reply] {
+    if (delivery->portVanishes) {
+        clock.At(delivery->delay, [&port] { port.Vanish(); });
+        return;
+    }
+    clock.At(delivery->delay, [this, bytes = delivery->bytes] {
         if (FakeSerialPort* living = ports.Port("MSComm1"); living != nullptr && living->IsOpen()) {
-            living->Deliver(reply);
+            living->Deliver(bytes);
         }
     });
 }

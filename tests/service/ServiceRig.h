@@ -21,7 +21,7 @@
 #include "link/RadioLink.h"
 #include "platform/Services.h"
 #include "service/ServiceState.h"
-#include "support/RadioTesting.h"
+#include "support/SpoiledReplies.h"
 
 namespace zelvor {
 
@@ -62,13 +62,16 @@ public:
     [[nodiscard]] RadioLink LinkOver(SerialPort& port) { return {link, port, clock, messages, language}; }
 
     /// Spoils reply n, counted from 1.
-    void Spoil(int reply, Fault fault);
-    [[nodiscard]] int FaultsFired() const { return faultsFired_; }
-    [[nodiscard]] int Replies() const { return replies_; }
+    void Spoil(int reply, Fault fault) { replies_.Spoil(reply, fault); }
+    [[nodiscard]] int FaultsFired() const { return replies_.FaultsFired(); }
+    [[nodiscard]] int Replies() const { return replies_.Replies(); }
 
     /// What was sent since the last call.
     std::vector<std::string> TakeSent();
     [[nodiscard]] bool IsPortOpen() const;
+    /// Does what starts an exchange, and lets it run for a second. When the box of a radio that does not answer came,
+    /// which is cancelled; -1 where it did not.
+    [[nodiscard]] std::int64_t TimeOfPrompt(const std::function<void()>& start);
     [[nodiscard]] bool IsRunning(std::string_view timer) const;
 
 private:
@@ -76,10 +79,8 @@ private:
     [[nodiscard]] std::string UsualReply(const std::string& command) const;
     [[nodiscard]] std::string ChannelRecord(int channel) const;
 
-    int replies_ = 0;
-    int spoiledReply_ = 0;
-    int faultsFired_ = 0;
-    Fault fault_ = Fault::None;
+    std::int64_t prompted_ = -1;
+    SpoiledReplies replies_{{.delay = ReplyDelay, .lateDelay = 400, .corruption = 0xFF}};
 };
 
 using Commands = std::vector<std::string>;

@@ -303,13 +303,7 @@ INSTANTIATE_TEST_SUITE_P(EveryReply, TestCommandFaults, ::testing::ValuesIn(AllF
 TEST_F(TestEngineTest, ASilentRadioPromptsTwoHundredMillisecondsBehindTheCommand) {
     Open();
     rig.replies["46"] = "";
-    std::int64_t prompted = -1;
-    rig.messages.Expect(ConnectionPrompt(), [&] {
-        prompted = rig.clock.TickCount();
-        return MessageAnswer::Cancel;
-    });
-    engine.ChooseWide(true);
-    rig.clock.Advance(1000);
+    const std::int64_t prompted = rig.TimeOfPrompt([&] { engine.ChooseWide(true); });
     EXPECT_EQ(prompted - rig.times.front(), 200);
 }
 
