@@ -1,8 +1,4 @@
-#include <QMdiSubWindow>
-#include <QTableWidget>
-#include <QTemporaryDir>
-
-#include "shell/ShellTest.h"
+#include "shell/FileCommandsTest.h"
 
 namespace zelvor {
 namespace {
@@ -19,13 +15,8 @@ constexpr int FleetByte = 0x170;
 constexpr int IdByte = 0x172;
 constexpr int PttIdTypeByte = 0x133;
 
-class DocumentCommandsTest : public ShellTest {
+class DocumentCommandsTest : public FileCommandsTest {
 protected:
-    void SetUp() override { oldDirectory_ = QDir::currentPath(); }
-    void TearDown() override { QDir::setCurrent(oldDirectory_); }
-
-    [[nodiscard]] std::string PathOf(const char* name) const { return directory.filePath(name).toStdString(); }
-
     /// Head, then a memory of 0xFF with model 5618, market M, and channel 1 on 450.12500 MHz, receive only.
     [[nodiscard]] static QByteArray FileOfModel5618() {
         QByteArray bytes("RQ6152");
@@ -51,11 +42,6 @@ protected:
         const QTableWidgetItem* item = Find<QTableWidget>("ChannelGrid")->item(row - 1, column - 1);
         return item == nullptr ? QString() : item->text();
     }
-
-    QTemporaryDir directory;
-
-private:
-    QString oldDirectory_;
 };
 
 // New
@@ -166,12 +152,7 @@ TEST_F(DocumentCommandsTest, NewShowsAHiddenGridAndTheWindowMenu) {
 
 TEST_F(DocumentCommandsTest, NewHidesAnOpenCellEditor) {
     OpenMainWindow();
-    auto* grid = Find<QTableWidget>("ChannelGrid");
-    grid->setFocus();
-    QTest::keyClicks(grid, "1");
-    auto* editor = Find<QWidget>("txtInputBox");
-    ASSERT_TRUE(editor->isVisible());
-    QTest::keyClicks(editor, "45");
+    const QWidget* editor = TypeIntoFirstCell("145");
     fakes.messages.Expect(NewQuestion, MessageAnswer::Ok);
     QTest::keyClick(window.get(), Qt::Key_N, Qt::ControlModifier);
     EXPECT_FALSE(editor->isVisible());

@@ -1,9 +1,4 @@
-#include <QDir>
-#include <QMdiSubWindow>
-#include <QTableWidget>
-#include <QTemporaryDir>
-
-#include "shell/ShellTest.h"
+#include "shell/FileCommandsTest.h"
 
 namespace zelvor {
 namespace {
@@ -15,13 +10,8 @@ Message OverwriteQuestion(const std::string& name) {
             MessageAnswer::Cancel};
 }
 
-class SaveCommandsTest : public ShellTest {
+class SaveCommandsTest : public FileCommandsTest {
 protected:
-    void SetUp() override { oldDirectory_ = QDir::currentPath(); }
-    void TearDown() override { QDir::setCurrent(oldDirectory_); }
-
-    [[nodiscard]] std::string PathOf(const char* name) const { return directory.filePath(name).toStdString(); }
-
     [[nodiscard]] QByteArray Content(const std::string& path) const {
         return QByteArray::fromStdString(fakes.store.Content(path));
     }
@@ -35,11 +25,6 @@ protected:
         }
         return bytes;
     }
-
-    QTemporaryDir directory;
-
-private:
-    QString oldDirectory_;
 };
 
 TEST_F(SaveCommandsTest, SaveOfANewDocumentAsksForAName) {
@@ -169,12 +154,7 @@ TEST_F(SaveCommandsTest, TheTitleSetWhileTheGridIsMaximisedIsThereWhenItIsNormal
 
 TEST_F(SaveCommandsTest, SaveFromTheToolbarCommitsTheEditInTheGrid) {
     OpenMainWindow();
-    auto* grid = Find<QTableWidget>("ChannelGrid");
-    grid->setFocus();
-    QTest::keyClicks(grid, "1");
-    auto* editor = Find<QWidget>("txtInputBox");
-    ASSERT_TRUE(editor->isVisible());
-    QTest::keyClicks(editor, "45.5");
+    TypeIntoFirstCell("145.5");
     fakes.files.ExpectSave({"Zelvor.dat", Filter, ""}, PathOf("Edited.dat"));
     ClickToolbar(3);
     EXPECT_EQ(Content(PathOf("Edited.dat")).mid(16 + 0x010, 4).toHex(), "00005514");
@@ -183,14 +163,11 @@ TEST_F(SaveCommandsTest, SaveFromTheToolbarCommitsTheEditInTheGrid) {
 
 TEST_F(SaveCommandsTest, SaveByItsShortcutCommitsTheEditInTheGridAndLeavesTheKeyboardThere) {
     OpenMainWindow();
-    auto* grid = Find<QTableWidget>("ChannelGrid");
-    grid->setFocus();
-    QTest::keyClicks(grid, "1");
-    QTest::keyClicks(Find<QWidget>("txtInputBox"), "46");
+    TypeIntoFirstCell("146");
     fakes.files.ExpectSave({"Zelvor.dat", Filter, ""}, PathOf("Edited.dat"));
     QTest::keyClick(window.get(), Qt::Key_S, Qt::ControlModifier);
     EXPECT_EQ(Content(PathOf("Edited.dat")).mid(16 + 0x010, 4).toHex(), "00006014");
-    EXPECT_TRUE(grid->hasFocus());
+    EXPECT_TRUE(Find<QTableWidget>("ChannelGrid")->hasFocus());
 }
 
 TEST_F(SaveCommandsTest, CtrlShiftSSavesUnderAnotherName) {
