@@ -196,17 +196,13 @@ TEST_F(ChannelEditTest, AnEmptyDtmfPttIdShowsOnWhenItTakesTheFocus) {
 TEST_F(ChannelEditTest, ACorvanePttIdShowsTheRecordWhenItTakesTheFocus) {
     document.Image.Set(0x133, 1);
     ShowBoth();
-    const char* shown[] = {"Off",          "Own",          "Fleet List 1", "Fleet List 2",
-                           "Fleet List 3", "Fleet List 4", "Fleet List 5", "Fleet List 6",
-                           "Fleet List 7", "Fleet List 8", "Off",          "Off",
-                           "Off",          "Off",          "Off",          "Off"};
     for (int nibble = 0; nibble < 16; ++nibble) {
         PutAll(SimplexWith(14, 0xB0));
         document.Channels.DecodeImageToGrid(document.Image, windows.LanguageFlag);
         Enter("txtChannel");
         document.Image.Set(0x1E, static_cast<std::uint8_t>(0xB0 + nibble));
         Enter("ComPTTID");
-        EXPECT_EQ(Shown("ComPTTID"), shown[nibble]);
+        EXPECT_EQ(Shown("ComPTTID"), CorvanePttIds[nibble]);
         EXPECT_EQ(Combo("ComPTTID").count(), 10);
         EXPECT_EQ(Byte(1, 14), 0xB0 + nibble);
     }

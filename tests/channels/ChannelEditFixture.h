@@ -141,4 +141,10 @@ inline std::array<std::uint8_t, 16> SimplexWith(int j, int value) {
 inline constexpr std::array<std::uint8_t, 16> OtherRecord{0x00, 0x25, 0x56, 0x14, 0x00, 0x00, 0x01, 0x15,
                                                           0xE8, 0x03, 0x13, 0xA8, 0x3B, 0xCF, 0xB1, 0xFB};
 
+/// What each low nibble of a record's byte 14 shows as PTT ID under Corvane.
+inline constexpr const char* CorvanePttIds[] = {"Off",          "Own",          "Fleet List 1", "Fleet List 2",
+                                                "Fleet List 3", "Fleet List 4", "Fleet List 5", "Fleet List 6",
+                                                "Fleet List 7", "Fleet List 8", "Off",          "Off",
+                                                "Off",          "Off",          "Off",          "Off"};
+
 } // namespace zelvor

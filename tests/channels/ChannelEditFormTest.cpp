@@ -241,14 +241,10 @@ TEST_F(ChannelEditTest, EveryStoredValueOfTheListsIsShown) {
 TEST_F(ChannelEditTest, CorvanePttIdsAreShownByTheirLowNibble) {
     document.Image.Set(0x133, 1);
     ShowBoth();
-    const char* shown[] = {"Off",          "Own",          "Fleet List 1", "Fleet List 2",
-                           "Fleet List 3", "Fleet List 4", "Fleet List 5", "Fleet List 6",
-                           "Fleet List 7", "Fleet List 8", "Off",          "Off",
-                           "Off",          "Off",          "Off",          "Off"};
     for (int nibble = 0; nibble < 16; ++nibble) {
         PutRecord(1, SimplexWith(14, 0xB0 + nibble));
         document.Channels.DecodeImageToGrid(document.Image, windows.LanguageFlag);
-        EXPECT_EQ(Shown("ComPTTID"), shown[nibble]);
+        EXPECT_EQ(Shown("ComPTTID"), CorvanePttIds[nibble]);
     }
 }
 

@@ -7,14 +7,24 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
+/// The entries of the two lists that depend on the channel's tone and signalling.
+struct Lists {
+    bool tone;
+    bool signalling;
+    Texts spMute;
+    Texts busyLock;
+};
+
+void ExpectLists(Language language, const std::vector<Lists>& rows) {
+    for (const Lists& row : rows) {
+        const DependentLists lists = DependentListsOf(row.tone, row.signalling, language);
+        EXPECT_EQ(lists.spMute, row.spMute) << row.tone << row.signalling;
+        EXPECT_EQ(lists.busyLock, row.busyLock) << row.tone << row.signalling;
+    }
+}
+
 TEST(ChannelEditListsTest, TheListsFollowToneAndSignallingInEnglish) {
-    struct Row {
-        bool tone;
-        bool signalling;
-        Texts spMute;
-        Texts busyLock;
-    };
-    const Row rows[] = {
+    const std::vector<Lists> rows{
         {false, false, {"Carrier"}, {"Off", "Carrier"}},
         {false,
          true,
@@ -26,31 +36,17 @@ TEST(ChannelEditListsTest, TheListsFollowToneAndSignallingInEnglish) {
          {"QT/DQT", "QT/DQT + Opt.Sig.", "QT/DQT or Opt.Sig."},
          {"Off", "Carrier", "QT/DQT", "Option Signalling"}},
     };
-    for (const Row& row : rows) {
-        const DependentLists lists = DependentListsOf(row.tone, row.signalling, Language::English);
-        EXPECT_EQ(lists.spMute, row.spMute) << row.tone << row.signalling;
-        EXPECT_EQ(lists.busyLock, row.busyLock) << row.tone << row.signalling;
-    }
+    ExpectLists(Language::English, rows);
 }
 
 TEST(ChannelEditListsTest, TheListsFollowToneAndSignallingInChinese) {
-    struct Row {
-        bool tone;
-        bool signalling;
-        Texts spMute;
-        Texts busyLock;
-    };
-    const Row rows[] = {
+    const std::vector<Lists> rows{
         {false, false, {"载波"}, {"关", "载波"}},
         {false, true, {"载波", "载波+可选信令", "载波或可选信令"}, {"关", "载波", "可选信令"}},
         {true, false, {"QT/DQT"}, {"关", "载波", "QT/DQT"}},
         {true, true, {"QT/DQT", "QT/DQT+可选信令", "QT/DQT或可选信令"}, {"关", "载波", "QT/DQT", "可选信令"}},
     };
-    for (const Row& row : rows) {
-        const DependentLists lists = DependentListsOf(row.tone, row.signalling, Language::Chinese);
-        EXPECT_EQ(lists.spMute, row.spMute) << row.tone << row.signalling;
-        EXPECT_EQ(lists.busyLock, row.busyLock) << row.tone << row.signalling;
-    }
+    ExpectLists(Language::Chinese, rows);
 }
 
 TEST(ChannelEditListsTest, EveryByteSelectsItsSpUnmuteEntry) {

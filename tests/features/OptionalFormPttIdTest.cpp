@@ -14,15 +14,18 @@ struct Codes {
     int kind;
 };
 
+/// A PTT ID, which of its codes are enabled, and what is expected of all combinations of codes.
+struct Choice {
+    int pttId;
+    bool begin;
+    bool end;
+    Codes codes[4];
+};
+
 // --- What is enabled, and the kind of error, by the PTT ID -----------------------------------------------------------
 
 TEST_F(OptionalFormPttIdTest, TheChoiceOfThePttIdEnablesItsCodesAndTellsWhichIsMissing) {
-    const struct {
-        int pttId;
-        bool begin;
-        bool end;
-        Codes codes[4];
-    } rows[] = {
+    const Choice rows[] = {
         {Bot, true, false, {{"1", "1", 0}, {"1", "", 0}, {"", "1", 1}, {"", "", 1}}},
         {Eot, false, true, {{"1", "1", 0}, {"1", "", 2}, {"", "1", 0}, {"", "", 2}}},
         {Both, true, true, {{"1", "1", 0}, {"1", "", 2}, {"", "1", 1}, {"", "", 3}}},
@@ -83,12 +86,7 @@ TEST_F(OptionalFormPttIdTest, ChoosingCorvaneStoresItAtOnceAndDisarmsTheCheckOfT
 }
 
 TEST_F(OptionalFormPttIdTest, ChoosingDtmfArmsTheCheckAndTakesBackNoComplaint) {
-    const struct {
-        int pttId;
-        bool begin;
-        bool end;
-        Codes codes[4];
-    } rows[] = {
+    const Choice rows[] = {
         {Bot, true, false, {{"1", "1", 77}, {"1", "", 77}, {"", "1", 1}, {"", "", 1}}},
         {Eot, false, true, {{"1", "1", 77}, {"1", "", 2}, {"", "1", 77}, {"", "", 2}}},
         {Both, true, true, {{"1", "1", 77}, {"1", "", 2}, {"", "1", 1}, {"", "", 3}}},
