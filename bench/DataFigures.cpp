@@ -6,12 +6,12 @@
 #include <string>
 #include <vector>
 
-#include "HeapCount.h"
 #include "Report.h"
 #include "data/ChannelCodec.h"
 #include "platform/DataFiles.h"
 #include "platform/QtFileStore.h"
 #include "simulator/SampleRadio.h"
+#include "support/AllocationCount.h"
 
 namespace zelvor::bench {
 
@@ -120,9 +120,9 @@ std::size_t AllocationsOfEncoding() {
         for (int k = 1; k <= static_cast<int>(all.size()); ++k) {
             codec.Texts = all[static_cast<std::size_t>(k - 1)];
             bool txCodeError = false;
-            const std::size_t before = HeapAllocations();
+            const std::size_t before = testing::AllocationCount();
             codec.EncodeChannel(image, language, k, txCodeError);
-            most = std::max(most, HeapAllocations() - before);
+            most = std::max(most, testing::AllocationCount() - before);
         }
     }
     return most;

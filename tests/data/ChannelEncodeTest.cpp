@@ -4,9 +4,9 @@
 #include <string>
 #include <string_view>
 
-#include "data/AllocationCount.h"
 #include "data/ChannelCodec.h"
 #include "data/TestImages.h"
+#include "support/AllocationCount.h"
 
 namespace zelvor {
 namespace {

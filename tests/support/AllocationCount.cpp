@@ -1,15 +1,19 @@
-#include "data/AllocationCount.h"
+#include "support/AllocationCount.h"
 
+#include <atomic>
 #include <cstdlib>
 #include <new>
 
 namespace {
-std::size_t count = 0;
-}
 
+std::atomic<std::size_t> count{0};
+
+} // namespace
+
+// The arrays' operators come to these.
 void* operator new(std::size_t size) {
-    ++count;
-    if (void* memory = std::malloc(size == 0 ? 1 : size)) {
+    count.fetch_add(1, std::memory_order_relaxed);
+    if (void* memory = std::malloc(size != 0 ? size : 1)) {
         return memory;
     }
     throw std::bad_alloc();
@@ -26,7 +30,7 @@ void operator delete(void* memory, std::size_t) noexcept {
 namespace zelvor::testing {
 
 std::size_t AllocationCount() {
-    return count;
+    return count.load(std::memory_order_relaxed);
 }
 
 } // namespace zelvor::testing

@@ -4,7 +4,7 @@
 
 namespace zelvor::testing {
 
-/// How often this program has taken memory from the heap.
+/// How often the C++ code of this program has taken memory from the heap so far.
 [[nodiscard]] std::size_t AllocationCount();
 
 } // namespace zelvor::testing
