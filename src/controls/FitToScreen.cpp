@@ -3,12 +3,11 @@
 #include <QDialog>
 #include <QEvent>
 #include <QLayout>
-#include <QScrollArea>
 #include <QScrollBar>
 #include <QStyle>
-#include <QVBoxLayout>
 
 #include "controls/FocusFollower.h"
+#include "platform/DialogContents.h"
 #include "platform/ScreenRoom.h"
 
 namespace zelvor {
@@ -16,23 +15,14 @@ namespace zelvor {
 namespace {
 
 /// What a dialog holds: as large as it wants to be, where the screen has room for it.
-class DialogView : public QScrollArea {
+class DialogView : public DialogContents {
 public:
-    explicit DialogView(QDialog& dialog) : QScrollArea(&dialog), panel_(new QWidget(this)) {
-        setFrameShape(QFrame::NoFrame);
-        setFocusPolicy(Qt::NoFocus);
-        setWidgetResizable(true);
-        // The panel is the dialog's from the start, or the order of the tab key would go.
-        const QMargins margins = dialog.layout()->contentsMargins(); // a window's are wider than a panel's
-        panel_->setLayout(dialog.layout());                          // takes it and its widgets from the dialog
-        panel_->layout()->setContentsMargins(margins);
-        panel_->layout()->setSizeConstraint(QLayout::SetFixedSize);
-        setWidget(panel_);
-        panel_->installEventFilter(this);
-        dialog.installEventFilter(this);
-        connect(new FocusFollower(*panel_), &FocusFollower::Moved, this, [this](const FocusPlace& place) {
+    explicit DialogView(QDialog& dialog) : DialogContents(dialog) {
+        dialog.layout()->setSizeConstraint(QLayout::SetFixedSize);
+        Panel().layout()->setSizeConstraint(QLayout::SetFixedSize);
+        connect(new FocusFollower(Panel()), &FocusFollower::Moved, this, [this](const FocusPlace& place) {
             BringIntoView(*horizontalScrollBar(), *verticalScrollBar(), viewport()->size(),
-                          place.Translated(panel_->pos()));
+                          place.Translated(Panel().pos()));
         });
     }
 
@@ -41,8 +31,8 @@ public:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override {
-        const bool handled = QScrollArea::eventFilter(watched, event);
-        const bool panelChanges = watched == panel_ && event->type() == QEvent::LayoutRequest;
+        const bool handled = DialogContents::eventFilter(watched, event);
+        const bool panelChanges = watched == &Panel() && event->type() == QEvent::LayoutRequest;
         const bool dialogShows = watched == window() && event->type() == QEvent::Show;
         if (panelChanges || dialogShows) {
             Fit();
@@ -56,8 +46,8 @@ protected:
 private:
     /// At once, and each bar told: otherwise bars show for a moment that nobody needs.
     void Fit() {
-        panel_->layout()->activate();
-        const QSize wanted = panel_->sizeHint();
+        Panel().layout()->activate();
+        const QSize wanted = Panel().sizeHint();
         const QSize room = ScreenRoom(*window());
         const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
         const bool isLow = wanted.height() > room.height();
@@ -70,18 +60,13 @@ private:
         window()->layout()->activate();
     }
 
-    QWidget* panel_;
     QSize size_;
 };
 
 } // namespace
 
 void FitToScreen(QDialog& dialog) {
-    auto* view = new DialogView(dialog);
-    auto* layout = new QVBoxLayout(&dialog);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(view);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
+    new DialogView(dialog);
 }
 
 } // namespace zelvor

@@ -2,13 +2,11 @@
 
 #include <QDialog>
 #include <QEvent>
-#include <QLayout>
 #include <QScreen>
-#include <QScrollArea>
 #include <QStyle>
-#include <QVBoxLayout>
 #include <algorithm>
 
+#include "platform/DialogContents.h"
 #include "platform/ScreenRoom.h"
 
 namespace zelvor {
@@ -28,28 +26,17 @@ void MoveOntoScreen(QWidget& window) {
 }
 
 /// What a dialog holds, as large as it has to be where the screen has room for it.
-class ScrolledContents : public QScrollArea {
+class ScrolledContents : public DialogContents {
 public:
-    explicit ScrolledContents(QDialog& dialog) : QScrollArea(&dialog), panel_(new QWidget(this)) {
-        setFrameShape(QFrame::NoFrame);
-        setFocusPolicy(Qt::NoFocus);
-        setWidgetResizable(true);
-        // The panel is the dialog's from the start, or the order of the tab key would go.
-        const QMargins margins = dialog.layout()->contentsMargins(); // a window's are wider than a panel's
-        panel_->setLayout(dialog.layout());                          // takes it and its widgets from the dialog
-        panel_->layout()->setContentsMargins(margins);
-        setWidget(panel_);
-        panel_->installEventFilter(this);
-        dialog.installEventFilter(this);
-    }
+    using DialogContents::DialogContents;
 
-    [[nodiscard]] QSize sizeHint() const override { return InRoom(panel_->sizeHint()); }
-    [[nodiscard]] QSize minimumSizeHint() const override { return InRoom(panel_->minimumSizeHint()); }
+    [[nodiscard]] QSize sizeHint() const override { return InRoom(Panel().sizeHint()); }
+    [[nodiscard]] QSize minimumSizeHint() const override { return InRoom(Panel().minimumSizeHint()); }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override {
-        const bool handled = QScrollArea::eventFilter(watched, event);
-        if (watched == panel_ && event->type() == QEvent::LayoutRequest) {
+        const bool handled = DialogContents::eventFilter(watched, event);
+        if (watched == &Panel() && event->type() == QEvent::LayoutRequest) {
             updateGeometry();
         } else if (watched == window() && event->type() == QEvent::Resize && window()->isVisible()) {
             MoveOntoScreen(*window());
@@ -64,20 +51,14 @@ private:
         const QSize bars(wanted.height() > room.height() ? bar : 0, wanted.width() > room.width() ? bar : 0);
         return (wanted + bars).boundedTo(room);
     }
-
-    QWidget* panel_;
 };
 
 } // namespace
 
 void ScrollOnScreen(QDialog& dialog) {
-    if (dialog.layout() == nullptr) {
-        return;
+    if (dialog.layout() != nullptr) {
+        new ScrolledContents(dialog);
     }
-    auto* contents = new ScrolledContents(dialog);
-    auto* layout = new QVBoxLayout(&dialog);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(contents);
 }
 
 } // namespace zelvor
