@@ -11,6 +11,7 @@
 #include "channels/ToneKeys.h"
 #include "controls/FieldList.h"
 #include "controls/FilteredLineEdit.h"
+#include "controls/NumbersTo.h"
 #include "controls/SpinText.h"
 #include "controls/WindowState.h"
 #include "data/Document.h"
@@ -28,14 +29,6 @@ constexpr int FrequencyLength = 9; // "000.00000"
 constexpr int ChannelDigits = 2;
 constexpr int FieldHeight = 24;
 constexpr QSize FieldSize(178, FieldHeight);
-
-QStringList NumbersTo(int last) {
-    QStringList numbers;
-    for (int n = 1; n <= last; ++n) {
-        numbers.append(QString::number(n));
-    }
-    return numbers;
-}
 
 } // namespace
 

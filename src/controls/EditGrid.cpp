@@ -15,6 +15,7 @@
 #include <utility>
 
 #include "controls/FilteredLineEdit.h"
+#include "controls/NumbersTo.h"
 
 namespace zelvor {
 
@@ -60,14 +61,6 @@ protected:
         }
     }
 };
-
-QStringList NumbersTo(int last) {
-    QStringList numbers;
-    for (int n = 1; n <= last; ++n) {
-        numbers.append(QString::number(n));
-    }
-    return numbers;
-}
 
 } // namespace
 
