@@ -1,15 +1,11 @@
 #include "controls/CellListEditor.h"
 
-#include <QAbstractItemView>
-#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QProxyStyle>
 #include <QStyleOptionComboBox>
-#include <QWheelEvent>
 #include <algorithm>
 
 #include "controls/EditGrid.h"
-#include "controls/EditWatch.h"
 
 namespace zelvor {
 
@@ -35,8 +31,7 @@ public:
 
 } // namespace
 
-CellListEditor::CellListEditor(QWidget* parent)
-    : QComboBox(parent), edit_(new FilteredLineEdit), watch_(new EditWatch(*this)) {
+CellListEditor::CellListEditor(QWidget* parent) : WatchedList(parent), edit_(new FilteredLineEdit) {
     setLineEdit(edit_);
     auto* inCell = new InCellStyle;
     inCell->setParent(this);
@@ -44,9 +39,7 @@ CellListEditor::CellListEditor(QWidget* parent)
     setFrame(false);
     setInsertPolicy(QComboBox::NoInsert);
     setCompleter(nullptr);
-    setContextMenuPolicy(Qt::PreventContextMenu);
     setMaxVisibleItems(12);
-    connect(watch_, &EditWatch::Left, this, &CellListEditor::FocusLeft);
     connect(this, &QComboBox::activated, this, [this](int index) { emit Chosen(itemText(index)); });
     hide();
 }
@@ -114,20 +107,7 @@ void CellListEditor::keyPressEvent(QKeyEvent* event) {
         event->accept();
         return;
     }
-    QComboBox::keyPressEvent(event);
-}
-
-void CellListEditor::wheelEvent(QWheelEvent* event) {
-    // Scrolling past an open editor must not change a channel.
-    event->ignore();
-}
-
-void CellListEditor::focusOutEvent(QFocusEvent* event) {
-    QComboBox::focusOutEvent(event);
-    // Opening the list gives the focus to the list's own window, in two steps with two reasons.
-    if (!view()->isVisible()) {
-        watch_->FocusOut(*event);
-    }
+    WatchedList::keyPressEvent(event);
 }
 
 } // namespace zelvor

@@ -1,16 +1,16 @@
 #pragma once
 
-#include <QComboBox>
 #include <QStringList>
 
 #include "controls/FilteredLineEdit.h"
+#include "controls/WatchedList.h"
 
 namespace zelvor {
 
 class EditGrid;
 
 /// The list that a grid's window lays over a cell: entries to choose from, and a text box where typing is allowed.
-class CellListEditor : public QComboBox {
+class CellListEditor : public WatchedList {
     Q_OBJECT
 
 public:
@@ -35,19 +35,15 @@ signals:
     void Stepped(int direction);
     /// Enter or Escape.
     void EditEnded();
-    void FocusLeft();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
-    void wheelEvent(QWheelEvent* event) override;
-    void focusOutEvent(QFocusEvent* event) override;
 
 private:
     /// The width in which no entry is cut off.
     [[nodiscard]] int ReadableWidth() const;
 
     FilteredLineEdit* edit_;
-    EditWatch* watch_;
     QChar enterLetter_;
 };
 

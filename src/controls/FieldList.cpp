@@ -1,20 +1,14 @@
 #include "controls/FieldList.h"
 
-#include <QAbstractItemView>
-#include <QFocusEvent>
 #include <QKeyEvent>
-#include <QWheelEvent>
 
-#include "controls/EditWatch.h"
 #include "controls/EnterAsTab.h"
 #include "controls/FilteredLineEdit.h"
 
 namespace zelvor {
 
-FieldList::FieldList(QWidget* parent) : QComboBox(parent), watch_(new EditWatch(*this)) {
-    setContextMenuPolicy(Qt::PreventContextMenu);
+FieldList::FieldList(QWidget* parent) : WatchedList(parent) {
     setFocusPolicy(Qt::StrongFocus);
-    connect(watch_, &EditWatch::Left, this, &FieldList::FocusLeft);
     connect(this, &QComboBox::currentIndexChanged, this, [this](int index) {
         if (!silent_) {
             told_ = true;
@@ -45,7 +39,7 @@ void FieldList::ShowEntry(int index) {
 void FieldList::showPopup() {
     // Only in its popup can the entry be taken that is selected already.
     told_ = false;
-    QComboBox::showPopup();
+    WatchedList::showPopup();
 }
 
 void FieldList::keyPressEvent(QKeyEvent* event) {
@@ -58,20 +52,7 @@ void FieldList::keyPressEvent(QKeyEvent* event) {
         event->ignore(); // the letter of a command finds no entry
         return;
     }
-    QComboBox::keyPressEvent(event);
-}
-
-void FieldList::wheelEvent(QWheelEvent* event) {
-    // Scrolling past a list must not change it.
-    event->ignore();
-}
-
-void FieldList::focusOutEvent(QFocusEvent* event) {
-    QComboBox::focusOutEvent(event);
-    // The popup takes the focus with another reason than its own.
-    if (!view()->isVisible()) {
-        watch_->FocusOut(*event);
-    }
+    WatchedList::keyPressEvent(event);
 }
 
 } // namespace zelvor
