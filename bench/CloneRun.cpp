@@ -31,7 +31,7 @@ struct Bed {
     AnsweringMessageBoxes messages;
     Services services{machine.Get().ports, machine.Get().settings, messages,
                       machine.Get().files, machine.Get().clock,    machine.Get().help,
-                      machine.Get().pages, machine.Get().store};
+                      machine.Get().pages, machine.Get().store,    machine.Get().backups};
     Document document;
     WindowState windows;
     LinkState link;
