@@ -120,7 +120,7 @@ void ChannelForm::SetTexts() {
     channelGrid_->SetFormat(ToQString(GridFormat.In(windows_.LanguageFlag)));
     channelGrid_->FitCells(ColumnWidths(PixelsOfTwips(GridPlace.width())));
     channelGrid_->setAccessibleName(text(Text::ChannelInformationTitle).trimmed());
-    labBlankChannel_->setAccessibleName(text(Text::FreeAreaBytes));
+    TellFreeArea();
 }
 
 void ChannelForm::OnTranslated() {
@@ -177,6 +177,12 @@ void ChannelForm::ShowChannelInCaption(int n) {
 
 void ChannelForm::UpdateFreeArea() {
     labBlankChannel_->setText(QString::number(document_.Channels.FreeBytes()));
+    TellFreeArea();
+}
+
+void ChannelForm::TellFreeArea() {
+    labBlankChannel_->setAccessibleName(ToQString(windows_.LoadText(Text::FreeAreaBytes)) + u' ' +
+                                        labBlankChannel_->text());
 }
 
 void ChannelForm::OnChannelEdit() {

@@ -63,6 +63,7 @@ private:
     /// Names channel n in the title; the cursor stays.
     void ShowChannelInCaption(int n);
     void UpdateFreeArea();
+    void TellFreeArea();
     void OnCursorMoved(int row, int column);
     void OnChannelEdit();
     void OnClose();

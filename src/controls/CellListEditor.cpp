@@ -46,7 +46,10 @@ CellListEditor::CellListEditor(QWidget* parent) : WatchedList(parent), edit_(new
 
 void CellListEditor::ShowOver(const EditGrid& grid, const QStringList& entries, const QString& text, bool typing) {
     const QRect cell = grid.CellRect(grid.Row(), grid.Column());
-    setAccessibleName(grid.ColumnName(grid.Column()));
+    const QString column = grid.ColumnName(grid.Column());
+    setAccessibleName(column);
+    edit_->setAccessibleName(column);
+    setAccessibleDescription(column); // some systems name a list by its value
     clear();
     addItems(entries);
     PutText(text);

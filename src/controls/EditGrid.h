@@ -62,6 +62,7 @@ protected:
     void keyboardSearch(const QString&) override {}
 
 private:
+    void FollowSelection();
     void FitHeaderFont();
     void SetColumnAlignment(int column, Qt::Alignment alignment);
 

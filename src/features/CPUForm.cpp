@@ -143,7 +143,6 @@ void CPUForm::LayOut() {
     connect(cmdCancel, &QPushButton::clicked, this, [this] { QDialog::reject(); });
     lblAddr_ = new QLabel(this);
     lblAddr_->setObjectName("lblAddr");
-    lblAddr_->setAccessibleName(ToQString(AddressName.In(language_)));
 
     auto* lblAddrCaption = new QLabel(ToQString(AddressCaption.In(language_)), this);
     lblAddrCaption->setObjectName("lblAddrCaption");
@@ -238,6 +237,7 @@ void CPUForm::MarkCell(QTableWidgetItem* cell) {
 
 void CPUForm::ShowAddress(int row, int column) {
     lblAddr_->setText(RowCaption(row).left(3) + ColumnCaption(column));
+    lblAddr_->setAccessibleName(ToQString(AddressName.In(language_)) + u' ' + lblAddr_->text());
 }
 
 void CPUForm::OpenEditor() {

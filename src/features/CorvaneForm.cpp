@@ -55,6 +55,7 @@ CorvaneForm::CorvaneForm(Document& document, const WindowState& windows, Service
     : FieldForm(ChildWindow::Corvane, "CorvaneForm", WindowSize, "picCorvane", Text::CorvaneTitle, document, windows,
                 services, parent) {
     auto* tabs = new FieldTabs("SSTab1", Panel());
+    tabs->setAccessibleName(windowTitle().trimmed());
     tabs->setGeometry(Panel()->rect().adjusted(raster::Margin, raster::TabsTop, -raster::Margin, 0));
     BuildFields(*tabs->AddPage(LoadText(Text::CorvanePage)));
     BuildFleetList(*tabs->AddPage(LoadText(Text::FleetList)));

@@ -72,6 +72,7 @@ DTMFForm::DTMFForm(Document& document, const WindowState& windows, Services& ser
     : FieldForm(ChildWindow::Dtmf, "DTMFForm", WindowSize, "picDTMF", Text::DtmfExplained, document, windows, services,
                 parent) {
     auto* tabs = new FieldTabs("SSTab1", Panel());
+    tabs->setAccessibleName(windowTitle().trimmed());
     tabs->setGeometry(Panel()->rect().adjusted(raster::Margin, raster::TabsTop, -raster::Margin, 0));
     BuildEncodePage(*tabs->AddPage(LoadText(Text::Encode)));
     BuildDecodePage(*tabs->AddPage(LoadText(Text::Decode)));

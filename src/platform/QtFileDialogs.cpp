@@ -1,10 +1,12 @@
 #include "platform/QtFileDialogs.h"
 
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QUrl>
@@ -31,6 +33,21 @@ void LetTypedNamesOpen(QFileDialog& dialog) {
             open->setEnabled(true);
         }
     });
+}
+
+/// The toolkit's own dialog does not say which label is whose list's.
+void LabelLists(const QFileDialog& dialog) {
+    struct Pair {
+        const char* label;
+        const char* list;
+    };
+    for (const Pair& pair : {Pair{"lookInLabel", "lookInCombo"}, Pair{"fileTypeLabel", "fileTypeCombo"}}) {
+        auto* label = dialog.findChild<QLabel*>(QString::fromLatin1(pair.label));
+        auto* list = dialog.findChild<QComboBox*>(QString::fromLatin1(pair.list));
+        if (label && list) { // not the system's dialog
+            label->setBuddy(list);
+        }
+    }
 }
 
 } // namespace
@@ -67,6 +84,7 @@ std::optional<std::string> QtFileDialogs::Ask(const FileDialogRequest& request, 
         dialog.setObjectName(QStringLiteral("dlgFile"));
         setUp(dialog);
         Preset(dialog, request);
+        LabelLists(dialog);
     });
     if (!file) {
         return std::nullopt;

@@ -26,6 +26,7 @@ TestFrame::TestFrame(const Names& names, Texts texts, QWidget* parent)
     list_->setObjectName(names.list);
     list_->setAccessibleName(texts_.list);
     listLabel_->setObjectName(names.listLabel);
+    listLabel_->setBuddy(list_);
     auto* grid = new QGridLayout(this);
     grid->addWidget(listLabel_, 0, 0, 1, 2);
     grid->addWidget(list_, 0, 2);

@@ -35,6 +35,7 @@ void LanguageForm::BuildControls() {
     comLanguage_ = new QComboBox(this);
     comLanguage_->setObjectName("ComLanguage");
     comLanguage_->setAccessibleName(labLanguage->text());
+    labLanguage->setBuddy(comLanguage_);
     comLanguage_->setMinimumWidth(ListWidth);
     comLanguage_->addItem(ToQString(windows_.LoadText(Text::English)));
     comLanguage_->addItem(ToQString(windows_.LoadText(Text::Chinese)));

@@ -36,8 +36,9 @@ QComboBox* MakeList(QDialog& dialog, const char* name, const QString& label) {
     return list;
 }
 
-QLabel* MakeLabel(QDialog& dialog, const char* name, const QString& text) {
-    auto* label = new QLabel(text, &dialog);
+QLabel* MakeLabel(QDialog& dialog, const char* name, QComboBox& list) {
+    auto* label = new QLabel(list.accessibleName(), &dialog);
+    label->setBuddy(&list);
     label->setObjectName(name);
     return label;
 }
@@ -74,8 +75,8 @@ void ModelTypeForm::BuildControls() {
     });
 
     auto* layout = new QFormLayout(this);
-    layout->addRow(MakeLabel(*this, "lblModelType", model), cboModelType_);
-    layout->addRow(MakeLabel(*this, "lblFreq", frequency), cboFreq_);
+    layout->addRow(MakeLabel(*this, "lblModelType", *cboModelType_), cboModelType_);
+    layout->addRow(MakeLabel(*this, "lblFreq", *cboFreq_), cboFreq_);
     layout->addRow(buttons.row);
     FitToScreen(*this);
 }

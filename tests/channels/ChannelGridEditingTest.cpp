@@ -234,12 +234,14 @@ TEST_F(ChannelFormTest, LeavingTheTextBoxForAButtonBringsTheFreeAreaUpToDate) {
     Type("145");
     Find<QPushButton>("cmdHelp").setFocus();
     EXPECT_EQ(Find<QLabel>("LabBlankChannel").text(), "240");
+    EXPECT_EQ(Find<QLabel>("LabBlankChannel").accessibleName(), "Free Area(Bytes): 240");
     GoTo(1, 1);
     Grid().setFocus();
     Key(Qt::Key_Return);
     Key(Qt::Key_Delete);
     Find<QPushButton>("cmdHelp").setFocus();
     EXPECT_EQ(Find<QLabel>("LabBlankChannel").text(), "256");
+    EXPECT_EQ(Find<QLabel>("LabBlankChannel").accessibleName(), "Free Area(Bytes): 256");
 }
 
 TEST_F(ChannelFormTest, AClickOnABlankRowOpensItsReceiveCell) {

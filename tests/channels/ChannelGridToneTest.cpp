@@ -248,6 +248,8 @@ TEST_F(ChannelGridToneTest, AnOpenEditorIsNamedAfterItsColumn) {
     Grid().setFocus();
     Key(Qt::Key_Return);
     EXPECT_EQ(List().accessibleName(), "W/N");
+    EXPECT_EQ(List().accessibleDescription(), "W/N");
+    EXPECT_EQ(List().lineEdit()->accessibleName(), "W/N");
 }
 
 TEST_F(ChannelGridToneTest, KeysTypedInColumnsFiveToNineAreRefused) {

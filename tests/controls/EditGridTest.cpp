@@ -1,5 +1,6 @@
 #include "controls/EditGrid.h"
 
+#include <QAccessible>
 #include <QHeaderView>
 #include <QLabel>
 #include <QScrollBar>
@@ -38,6 +39,33 @@ TEST_F(EditGridTest, CountsRowsAndColumnsFromOne) {
     EXPECT_EQ(grid.Text(4, 1), "");
     EXPECT_EQ(grid.Row(), 1);
     EXPECT_EQ(grid.Column(), 1);
+}
+
+TEST_F(EditGridTest, ACellThatAssistiveTechnologySelectsGetsTheCursorAndTheKeys) {
+    QWidget other(&panel);
+    other.setFocusPolicy(Qt::StrongFocus);
+    other.show();
+    other.setFocus();
+    ASSERT_FALSE(grid.hasFocus());
+    const QSignalSpy moved(&grid, &EditGrid::CursorMoved);
+    QAccessibleInterface* table = QAccessible::queryAccessibleInterface(&grid);
+    table->tableInterface()->cellAt(2, 1)->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(grid.Row(), 3);
+    EXPECT_EQ(grid.Column(), 2);
+    EXPECT_TRUE(grid.hasFocus());
+    ASSERT_EQ(moved.count(), 1);
+    EXPECT_EQ(moved.front().at(0).toInt(), 3);
+    EXPECT_EQ(moved.front().at(1).toInt(), 2);
+}
+
+TEST_F(EditGridTest, AMoveOfTheCursorByTheProgramLeavesTheKeysWhereTheyAre) {
+    grid.clearFocus();
+    const QSignalSpy moved(&grid, &EditGrid::CursorMoved);
+    grid.MoveTo(2, 2);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(moved.count(), 1);
+    EXPECT_FALSE(grid.hasFocus());
 }
 
 TEST_F(EditGridTest, SharesItsHeightOutAmongHeaderAndRows) {

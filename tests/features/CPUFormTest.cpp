@@ -14,7 +14,7 @@ TEST_F(CPUFormTest, ShowsItsTextsInEnglish) {
     EXPECT_EQ(Button("cmdOK").text(), "&OK");
     EXPECT_EQ(Button("cmdCancel").text(), "&Cancel");
     EXPECT_EQ(Grid().accessibleName(), "Memory Map");
-    EXPECT_EQ(form->findChild<QLabel*>("lblAddr")->accessibleName(), "Address");
+    EXPECT_EQ(form->findChild<QLabel*>("lblAddr")->accessibleName(), "Address 0000");
     EXPECT_EQ(form->findChild<QLabel*>("lblAddrCaption")->text(), "Address:");
     EXPECT_TRUE(form->isModal());
 }
@@ -24,7 +24,7 @@ TEST_F(CPUFormTest, ShowsItsTextsInChinese) {
     EXPECT_EQ(form->windowTitle(), "内存指针图");
     EXPECT_EQ(Button("cmdOK").text(), "确定(&O)");
     EXPECT_EQ(Button("cmdCancel").text(), "取消(&C)");
-    EXPECT_EQ(form->findChild<QLabel*>("lblAddr")->accessibleName(), "地址");
+    EXPECT_EQ(form->findChild<QLabel*>("lblAddr")->accessibleName(), "地址 0000");
     EXPECT_EQ(form->findChild<QLabel*>("lblAddrCaption")->text(), "地址：");
 }
 
@@ -135,6 +135,7 @@ TEST_F(CPUFormTest, TheAddressFollowsTheCursor) {
     EXPECT_EQ(Address(), "0001");
     Key(Qt::Key_Down);
     EXPECT_EQ(Address(), "0011");
+    EXPECT_EQ(form->findChild<QLabel*>("lblAddr")->accessibleName(), "Address 0011");
     Grid().MoveTo(28, 14);
     EXPECT_EQ(Address(), "01BD");
     Grid().MoveTo(64, 16);

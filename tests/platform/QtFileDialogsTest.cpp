@@ -1,9 +1,11 @@
+#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QMessageBox>
@@ -96,6 +98,21 @@ TEST_F(QtFileDialogsInUse, PresetTheFileName) {
     WillLook(
         [](QFileDialog& dialog) { EXPECT_EQ(dialog.findChild<QLineEdit*>("fileNameEdit")->text(), "Zelvor.dat"); });
     EXPECT_EQ(dialogs_.Save(Request("Zelvor.dat")), std::nullopt);
+}
+
+TEST_F(QtFileDialogsInUse, SayWhichLabelIsOfWhichList) {
+    const auto look = [](const QFileDialog& dialog) {
+        for (const char* name : {"lookIn", "fileType"}) {
+            const QString part(name);
+            const auto* list = dialog.findChild<QComboBox*>(part + "Combo");
+            ASSERT_NE(list, nullptr) << name;
+            EXPECT_EQ(dialog.findChild<QLabel*>(part + "Label")->buddy(), list) << name;
+        }
+    };
+    WillLook(look);
+    EXPECT_EQ(dialogs_.Save(Request()), std::nullopt);
+    WillLook(look);
+    EXPECT_EQ(dialogs_.Open(Request()), std::nullopt);
 }
 
 TEST_F(QtFileDialogsInUse, StartInTheFolderOfAPresetPath) {

@@ -225,7 +225,7 @@ TEST_F(LanguageSwitchTest, TheGridsTextsFollow) {
     EXPECT_EQ(Find<QLabel>("LabFreeArea")->text(), "空位(Bytes):");
     EXPECT_EQ(Find<QLabel>("LabHint")->text(), "按回车键或单击可编辑单元格，上下方向键选择数值，Esc 键还原频率。");
     EXPECT_EQ(Grid().accessibleName(), "信道信息");
-    EXPECT_EQ(Find<QLabel>("LabBlankChannel")->accessibleName(), "空位(Bytes):");
+    EXPECT_EQ(Find<QLabel>("LabBlankChannel")->accessibleName(), "空位(Bytes): 256");
     SwitchToEnglish();
     EXPECT_EQ(Headings(), QStringList({"Channel No.", "RX Frequency", "TX Frequency", "QT/DQT Dec", "QT/DQT Enc",
                                        "TX Power", "W/N", "Scan Add", "Opt Signal", "PTT ID"}));
