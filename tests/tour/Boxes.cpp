@@ -66,6 +66,16 @@ void Boxes::Answer(QMessageBox::StandardButton button) {
         const QMessageBox* up = BoxOnTop();
         return up ? up->button(button) : nullptr;
     });
+    WaitForAnother(box);
+}
+
+void Boxes::Confirm() {
+    const QWidget* box = windows_.Ask([] { return static_cast<const QWidget*>(BoxOnTop()); });
+    user_.Press(Qt::Key_Return);
+    WaitForAnother(box);
+}
+
+void Boxes::WaitForAnother(const QWidget* box) {
     windows_.WaitUntil("the message box to close", [box] { return QApplication::activeModalWidget() != box; });
 }
 
@@ -94,6 +104,10 @@ void Boxes::ExpectFileDialog(QFileDialog::AcceptMode mode, const QString& fileNa
 
 void Boxes::EnterPath(const QString& path) {
     user_.ClickOn("the file name", [] { return NameEditOf(FileDialogOnTop()); });
+    TypePath(path);
+}
+
+void Boxes::TypePath(const QString& path) {
     user_.Press(Qt::Key_A, Qt::ControlModifier);
     user_.Type(path);
     windows_.WaitUntil("the path typed", [&] {

@@ -30,16 +30,23 @@ public:
     /// Clicks a button of the message box that is up, and waits until it is gone.
     void Answer(QMessageBox::StandardButton button);
 
+    /// Presses Enter in the message box that is up, which takes its default button, and waits until it is gone.
+    void Confirm();
+
     /// Waits for a dialog by its object name and checks its title.
     void ExpectDialog(const QString& name, const QString& title);
     void WaitUntilGone(const QString& name);
 
     /// Waits for the file dialog and checks its kind, the name that it proposes and its one filter.
     void ExpectFileDialog(QFileDialog::AcceptMode mode, const QString& fileName, const QString& filter);
-    /// Types a path into the file dialog and confirms it by Enter.
+    /// Clicks the name in the file dialog, types a path over it and confirms it by Enter.
     void EnterPath(const QString& path);
+    /// The same where the name has the keys, as it has at first.
+    void TypePath(const QString& path);
 
 private:
+    void WaitForAnother(const QWidget* box);
+
     WindowThread& windows_;
     User& user_;
 };

@@ -1,5 +1,5 @@
 // Drives the real windows through the whole job with synthetic user input, against a real zelvor-radio on a real
-// pseudo-terminal: once in English, once in Chinese.
+// pseudo-terminal: once in English, once in Chinese, and a shorter one by the keyboard alone in both.
 
 #include <QApplication>
 #include <QDir>
@@ -9,8 +9,10 @@
 #include <thread>
 
 #include "shell/Icons.h"
+#include "tour/Checks.h"
 #include "tour/Failure.h"
 #include "tour/Job.h"
+#include "tour/KeyboardJob.h"
 #include "tour/Options.h"
 #include "tour/PrivateHome.h"
 #include "tour/RadioProgram.h"
@@ -22,9 +24,9 @@ namespace {
 
 using namespace zelvor::tour;
 
-void RememberChinese() {
+void Remember(const Words& words) {
     QSettings settings(SettingsFile(), QSettings::IniFormat);
-    settings.setValue("BackUp/Language", "1");
+    settings.setValue("BackUp/Language", words.settings);
 }
 
 void RunRounds(const PrivateHome& home, WindowThread& windows, RadioProgram& radio, Screenshots& screenshots) {
@@ -41,7 +43,7 @@ void RunRounds(const PrivateHome& home, WindowThread& windows, RadioProgram& rad
          .dataFile = home.DataFile("english.dat"),
          .exitFile = QString()})
         .Run();
-    RememberChinese();
+    Remember(Chinese());
     Job(windows, radio, screenshots,
         {.words = Chinese(),
          .rows = WrittenRowsInChinese(),
@@ -54,6 +56,28 @@ void RunRounds(const PrivateHome& home, WindowThread& windows, RadioProgram& rad
          .memoryByte = "39",
          .dataFile = home.DataFile("chinese.dat"),
          .exitFile = home.DataFile("exit.dat")})
+        .Run();
+}
+
+/// After the rounds: the radio's channel 10 is as it was at first.
+void RunByKeys(const PrivateHome& home, WindowThread& windows, RadioProgram& radio) {
+    Remember(Chinese());
+    KeyboardJob(windows, radio,
+                {.words = Chinese(),
+                 .channel = 10,
+                 .before = "156.80000",
+                 .typed = "157.40000",
+                 .record = Hex("00 00 74 15  00 00 68 15  FF FF FF FF  00 BF B0 F8"),
+                 .dataFile = home.DataFile("chinese-keys.dat")})
+        .Run();
+    Remember(English());
+    KeyboardJob(windows, radio,
+                {.words = English(),
+                 .channel = 10,
+                 .before = "157.40000",
+                 .typed = "158.12500",
+                 .record = Hex("00 25 81 15  00 00 68 15  FF FF FF FF  00 BF B0 F8"),
+                 .dataFile = home.DataFile("english-keys.dat")})
         .Run();
 }
 
@@ -71,6 +95,7 @@ void RunWithRadio(const PrivateHome& home, WindowThread& windows, Screenshots& s
     std::cout << "ok  zelvor-radio is ready on port 1" << std::endl;
     try {
         RunRounds(home, windows, radio, screenshots);
+        RunByKeys(home, windows, radio);
     } catch (const Failure&) {
         std::cout << "The radio's last lines:\n" << radio.LastLines().toStdString() << std::endl;
         ReportWindows(windows, screenshots);
