@@ -1,3 +1,5 @@
+#include <QAccessible>
+
 #include "service/ServiceWindows.h"
 
 namespace zelvor {
@@ -26,6 +28,15 @@ TEST_F(TestFormRadioTest, PressingPttTwiceKeysAndUnkeysTheRadio) {
     rig.clock.Advance(50);
     EXPECT_EQ(Lamps(), IdleLamps);
     EXPECT_EQ(rig.sent, (Commands{"08 0D", "08 0E"}));
+}
+
+TEST_F(TestFormRadioTest, LampsArePicturesToAssistiveTechnology) {
+    Open();
+    for (const char* name : {"PicPtt", "PicWide", "PicChannelRx"}) {
+        QAccessibleInterface* told = QAccessible::queryAccessibleInterface(&In<QWidget>(*form, name));
+        EXPECT_EQ(told->role(), QAccessible::Graphic) << name;
+        EXPECT_FALSE(told->text(QAccessible::Name).isEmpty()) << name;
+    }
 }
 
 TEST_F(TestFormRadioTest, LampsTellWhatTheyShow) {
