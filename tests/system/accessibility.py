@@ -1,5 +1,6 @@
 """Does a user's whole job by what the accessibility bus offers, in English and in Chinese: reads a radio, edits a
-channel, saves it, writes it back, and leaves. For scripts/check-accessibility; argument: the folder of the programs.
+channel, saves it, writes it back, asks and keys the radio, and leaves. For scripts/check-accessibility; argument: the
+folder of the programs.
 
 The one key that is pressed is Enter, in the grid: it opens a cell's editor and ends it. All else are actions, texts and
 values of the tree.
@@ -21,6 +22,7 @@ POWER_COLUMN = 5
 
 VALUE_CHANGED = "object:property-change:accessible-value"
 NAME_CHANGED = "object:property-change:accessible-name"
+DESCRIPTION_CHANGED = "object:property-change:accessible-description"
 FOCUS_CHANGED = "object:state-changed:focused"
 
 
@@ -67,6 +69,15 @@ class Words:
     frequency: str
     high: str
     channel_edit: str
+    tools: str
+    information: str
+    information_title: str
+    version: str
+    test: str
+    test_title: str
+    receiving: str
+    transmitting: str
+    close: str
     dialogs: tuple
 
 
@@ -103,6 +114,15 @@ ENGLISH = Words(
     frequency="RX Frequency",
     high="High",
     channel_edit="Channel Edit",
+    tools="Tools",
+    information="Radio Information",
+    information_title="Radio Information",
+    version="Version V1.0",
+    test="Test Mode",
+    test_title="Test Mode",
+    receiving="RX",
+    transmitting="TX",
+    close="Close",
     dialogs=(
         Dialog("File", "Print", "dialog", "Print Out List", "Cancel"),
         Dialog("Model", "Model Information", "dialog", "Model Information", "Cancel"),
@@ -145,6 +165,15 @@ CHINESE = Words(
     frequency="接收频率",
     high="高",
     channel_edit="信道编辑(E)",
+    tools="工具(T)",
+    information="对讲机信息(R)",
+    information_title="对讲机信息",
+    version="版本 V1.0",
+    test="测试模式(T)",
+    test_title="测试模式",
+    receiving="接收",
+    transmitting="发射",
+    close="关闭(C)",
     dialogs=(
         Dialog("文件(F)", "打印(P)", "dialog", "打印列表", "取消(C)"),
         Dialog("机型(M)", "机型信息(M)", "dialog", "机型信息", "取消(C)"),
@@ -182,6 +211,8 @@ class Round:
             self.save()
             self.look_into_windows()
             self.write()
+            self.ask_radio()
+            self.key_radio()
             self.leave()
         finally:
             self.end_processes()
@@ -346,6 +377,30 @@ class Round:
         self.program.wait_for("the radio's memory", self.radio_file().exists)
         self.expect_frequency(self.radio_file())
         self.done("the radio holds the frequency")
+
+    def ask_radio(self):
+        self.program.choose(self.words.tools, self.words.information)
+        dialog = self.program.window("dialog", self.words.information_title)
+        self.program.find("label", self.words.version, dialog)
+        self.controls += self.program.check_names()
+        self.program.press("push button", self.words.close, dialog)
+        self.program.wait_until_gone("dialog", self.words.information_title)
+        self.done("the radio's version is told")
+
+    def key_radio(self):
+        """Test mode: the lamp beside PTT tells whether the radio transmits."""
+        self.program.choose(self.words.program, self.words.test)
+        dialog = self.program.window("dialog", self.words.test_title)
+        lamp = self.program.find("image", "PTT", dialog)
+        self.controls += self.program.check_names()
+        for state in (self.words.transmitting, self.words.receiving):
+            self.program.hear_from_now()
+            self.program.press("push button", "PTT", dialog)
+            self.program.wait_for(f"the lamp to tell {state}", lambda: lamp.get_description() == state)
+            self.program.wait_for_announcement(DESCRIPTION_CHANGED, "image", "PTT")
+        self.program.press("push button", self.words.close, dialog)
+        self.program.wait_until_gone("dialog", self.words.test_title)
+        self.done("test mode: the radio is keyed and released, and the lamp announces it")
 
     def expect_frequency(self, file):
         field = [self.programs / "zelvor-cli", "get", file, "channels.1.rx_mhz"]

@@ -80,6 +80,7 @@ class Program:
         for kind in (
             "object:property-change:accessible-value",
             "object:property-change:accessible-name",
+            "object:property-change:accessible-description",
             "object:state-changed:focused",
         ):
             self._listener.register(kind)
