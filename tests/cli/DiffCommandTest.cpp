@@ -77,6 +77,89 @@ TEST_F(DiffTest, TellsTheByteWhereAFieldShowsTheSame) {
               "0x02C: 00 -> 80\n0x030: FF -> 00\n0x136: 01 -> 02\n0x1BF: FF -> 00\n");
 }
 
+TEST_F(DiffTest, TellsAByteTooWhereItsFieldsDoNotTellAllOfItsBits) {
+    // Channel 2 is in use; 1 and 8 are blank, and their Scan Add bits show nowhere.
+    EXPECT_EQ(Differences({{0x17E, "81"}}, ExitStatus::No), "channels.2.scan_add: yes -> no\n0x17E: 02 -> 81\n");
+    EXPECT_EQ(Differences({{0x17E, "00"}}, ExitStatus::No), "channels.2.scan_add: yes -> no\n");
+    EXPECT_EQ(Differences({{0x17E, "83"}}, ExitStatus::No), "0x17E: 02 -> 83\n");
+    // Bit 7 of byte 12 has no meaning, bits 0 to 3 and 7 of byte 13 have none.
+    EXPECT_EQ(Differences({{0x02C, "81"}}, ExitStatus::No), "channels.2.compander: no -> yes\n0x02C: 00 -> 81\n");
+    EXPECT_EQ(Differences({{0x02C, "01"}}, ExitStatus::No), "channels.2.compander: no -> yes\n");
+    EXPECT_EQ(Differences({{0x02D, "1E"}}, ExitStatus::No), "channels.2.power: High -> Low\n0x02D: BF -> 1E\n");
+    EXPECT_EQ(Differences({{0x02D, "8F"}}, ExitStatus::No),
+              "channels.2.power: High -> Low\nchannels.2.width: Wide -> Narrow\n");
+    // The memory of Autodial is the last three bits.
+    EXPECT_EQ(Differences({{0x02F, "FF"}}, ExitStatus::No), "channels.2.autodial: 1 -> 8\n");
+    EXPECT_EQ(Differences({{0x02F, "07"}}, ExitStatus::No), "channels.2.autodial: 1 -> 8\n0x02F: F8 -> 07\n");
+    // Of a DQT word bits 1 to 4 and 6 of the high byte have no meaning; a tone more or less tells both bytes.
+    EXPECT_EQ(Differences({{0x02A, "1338"}}, ExitStatus::No), "0x02B: 28 -> 38\n");
+    EXPECT_EQ(Differences({{0x02A, "13B8"}}, ExitStatus::No),
+              "channels.2.encode: D023N -> D023I\n0x02B: 28 -> B8\n");
+    EXPECT_EQ(Differences({{0x02A, "FFFF"}}, ExitStatus::No), "channels.2.encode: D023N -> None\n");
+    EXPECT_EQ(Differences({{0x02A, "55FF"}}, ExitStatus::No), "channels.2.encode: D023N -> None\n0x02A: 13 -> 55\n");
+}
+
+TEST_F(DiffTest, TellsTheBytesBehindTheEndOfAText) {
+    DataImage a = Programmed();
+    DataImage b = Programmed();
+    testing::StoreHex(a, 0x300, "4142FF");
+    testing::StoreHex(b, 0x300, "4143FF3132");
+    Put("a.dat", a);
+    Put("b.dat", b);
+    EXPECT_EQ(Diff({"a.dat", "b.dat"}, store, console), ExitStatus::No);
+    EXPECT_EQ(Out(), "message.line.1: AB -> AC\n0x303: FF -> 31\n0x304: FF -> 32\n");
+    testing::StoreHex(b, 0x300, "4142434445");
+    Put("b.dat", b);
+    EXPECT_EQ(Diff({"a.dat", "b.dat"}, store, console), ExitStatus::No);
+    EXPECT_EQ(Out(), "message.line.1: AB -> ABCDE\n");
+    EXPECT_EQ(Diff({"b.dat", "a.dat"}, store, console), ExitStatus::No);
+    EXPECT_EQ(Out(), "message.line.1: ABCDE -> AB\n");
+}
+
+TEST_F(DiffTest, TellsTheBytesOfAnIdentityThatDoNotGoWithTheModel) {
+    EXPECT_EQ(Differences({{0x1BC, "3301F9"}}, ExitStatus::No), "identity.model: 4618 -> 4613\n");
+    EXPECT_EQ(Differences({{0x1B9, "37"}, {0x1BC, "3401F900"}}, ExitStatus::No),
+              "identity.model: 4618 -> 4613\n0x1B9: 34 -> 37\n0x1BC: 38 -> 34\n0x1BF: FF -> 00\n");
+}
+
+TEST_F(DiffTest, TellsAChannelMoreByItsValuesAndWhatIsLeftBehindABlankOneByItsBytes) {
+    EXPECT_EQ(Differences({{0x030, "0000601400006014FFFFFFFF00BFB0F8"}, {0x17E, "06"}}, ExitStatus::No),
+              "channels.3.rx_mhz:  -> 146.00000\n"
+              "channels.3.tx_mhz:  -> 146.00000\n"
+              "channels.3.decode:  -> None\n"
+              "channels.3.encode:  -> None\n"
+              "channels.3.power:  -> High\n"
+              "channels.3.width:  -> Wide\n"
+              "channels.3.scan_add:  -> yes\n"
+              "channels.3.option_signalling:  -> None\n"
+              "channels.3.ptt_id:  -> Off\n"
+              "channels.3.sp_unmute:  -> Carrier\n"
+              "channels.3.busy_lockout:  -> Off\n"
+              "channels.3.autodial:  -> 1\n"
+              "channels.3.beat_shift:  -> no\n"
+              "channels.3.compander:  -> no\n");
+    Put("a.dat", Programmed());
+    DataImage blanked = Programmed();
+    testing::StoreHex(blanked, 0x103, "00");
+    testing::StoreHex(blanked, 0x10C, "11");
+    Put("b.dat", blanked);
+    EXPECT_EQ(Diff({"a.dat", "b.dat"}, store, console), ExitStatus::No);
+    const std::string told = Out();
+    EXPECT_TRUE(told.starts_with("channels.16.rx_mhz: 150.00000 -> \n")) << told;
+    EXPECT_TRUE(told.ends_with("channels.16.compander: no -> \n0x10C: 00 -> 11\n")) << told;
+}
+
+/// Byte by byte: a field of its own tells the byte, and nobody else does.
+TEST_F(DiffTest, TellsAChangedByteOfAFieldOnce) {
+    EXPECT_EQ(Differences({{0x136, "00"}}, ExitStatus::No), "optional.beep: On -> Off\n");
+    EXPECT_EQ(Differences({{0x11D, "01"}}, ExitStatus::No), "keys.pf1: None -> Autodial\n");
+    EXPECT_EQ(Differences({{0x130, "00"}}, ExitStatus::No), "optional.time-out-timer: 60 -> 0\n");
+    EXPECT_EQ(Differences({{0x168, "01"}}, ExitStatus::No), "scan.tx-dwell-time: 3 -> 259\n");
+    EXPECT_EQ(Differences({{0x141, "41"}}, ExitStatus::No), "optional.begin-of-tx: 12345 -> 1A345\n");
+    EXPECT_EQ(Differences({{0x141, "FF"}}, ExitStatus::No), "optional.begin-of-tx: 12345 -> 1345\n");
+    EXPECT_EQ(Differences({{0x1C0, "01"}}, ExitStatus::No), "corvane.fleet-list.1.fleet:  -> 100\n");
+}
+
 TEST_F(DiffTest, SpeaksTheLanguageButNotInItsJson) {
     DataImage other = Programmed();
     other.Set(0x136, 0);
@@ -102,11 +185,11 @@ TEST_F(DiffTest, OfAFileThatCannotBeReadTellsOfBothAndPrintsNothing) {
     EXPECT_EQ(Err(), "zelvor-cli: a.dat: cannot be read\nzelvor-cli: b.dat: cannot be read\n");
 }
 
-/// Whatever differs is told once, as a value or as a byte.
+/// A bit that differs alone is told once, as a value or as a byte, whatever else the image holds.
 TEST(ImageDifferences, CoverEveryDifferingByte) {
     constexpr unsigned Seed = 8128;
     std::mt19937 random(Seed);
-    for (int run = 0; run < 200; ++run) {
+    for (int run = 0; run < 2000; ++run) {
         const DataImage a = zelvor::testing::RandomImage(random);
         DataImage b = a;
         const int address = static_cast<int>(random() % 1024);
@@ -114,6 +197,7 @@ TEST(ImageDifferences, CoverEveryDifferingByte) {
         const ImageDifferences differences = DifferencesOf(a, b);
         EXPECT_FALSE(differences.AreNone()) << "seed " << Seed << ", run " << run;
         EXPECT_LE(differences.addresses.size(), 1U);
+        EXPECT_NE(differences.fields.empty(), differences.addresses.empty()) << "seed " << Seed << ", run " << run;
         if (!differences.addresses.empty()) {
             EXPECT_EQ(differences.addresses[0], address) << "seed " << Seed << ", run " << run;
         }
