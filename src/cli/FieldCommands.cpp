@@ -1,11 +1,14 @@
 #include "cli/FieldCommands.h"
 
+#include <algorithm>
+#include <optional>
 #include <utility>
 
 #include "cli/HexText.h"
 #include "cli/LegalText.h"
 #include "cli/RadioFile.h"
 #include "cli/Refusal.h"
+#include "data/FieldRules.h"
 #include "data/ImageSections.h"
 
 namespace zelvor::cli {
@@ -17,12 +20,26 @@ constexpr TextPair NoSuchKey{"there is no such key; \"zelvor-cli keys\" lists th
 constexpr TextPair NoFiles{"no file is named", "没有指定文件"};
 constexpr TextPair NoAssignments{"no KEY=VALUE is given", "没有给出 KEY=VALUE"};
 constexpr TextPair OneFileOnly{"-o goes with one file only", "-o 只能用于一个文件"};
+constexpr TextPair GivenTwice{"the key is given twice", "此键给出了两次"};
+
 /// Complains of every key that does not exist.
 bool AreKeys(const std::vector<std::string>& keys, const Console& console) {
     bool areAll = true;
     for (const std::string& key : keys) {
         if (FindImageField(key) == nullptr) {
             console.Complain(key, NoSuchKey);
+            areAll = false;
+        }
+    }
+    return areAll;
+}
+
+/// Complains of every key that stands a second time.
+bool AreDifferent(const std::vector<std::string>& keys, const Console& console) {
+    bool areAll = true;
+    for (auto key = keys.begin(); key != keys.end(); ++key) {
+        if (std::count(keys.begin(), key, *key) == 1) {
+            console.Complain(*key, GivenTwice);
             areAll = false;
         }
     }
@@ -48,7 +65,7 @@ bool IsUsable(const SetRequest& request, const Console& console) {
     for (const Assignment& assignment : request.assignments) {
         keys.push_back(assignment.key);
     }
-    return AreKeys(keys, console);
+    return AreKeys(keys, console) && AreDifferent(keys, console);
 }
 
 /// Complains of every value that the image does not take.
@@ -59,6 +76,27 @@ bool Assign(const std::vector<Assignment>& assignments, RadioFile& file, const C
         if (!field.Parse(assignment.value, file.image)) {
             console.Complain(Printable(file.path) + ": " + assignment.key + ": " +
                              RefusalOf(field, assignment.value, file.image, console.language));
+            areAll = false;
+        }
+    }
+    return areAll;
+}
+
+/// The first assignment to one of the fields; null where there is none.
+const Assignment* AssignmentTo(const std::vector<Field>& fields, const std::vector<Assignment>& assignments) {
+    const auto found = std::ranges::find_if(assignments, [&fields](const Assignment& assignment) {
+        return std::ranges::find(fields, assignment.key, &Field::Key) != fields.end();
+    });
+    return found == assignments.end() ? nullptr : &*found;
+}
+
+/// Complains of values that do not go together once all are stored, where any of them was assigned.
+bool GoTogether(const std::vector<Assignment>& assignments, const RadioFile& file, const Console& console) {
+    bool areAll = true;
+    for (const BrokenRule& broken : BrokenRules(file.image)) {
+        if (const Assignment* assignment = AssignmentTo(broken.fields, assignments)) {
+            console.Complain(Printable(file.path) + ": " + assignment->key + ": " +
+                             TextOf(broken.fault, console.language));
             areAll = false;
         }
     }
@@ -116,7 +154,7 @@ ExitStatus Set(const SetRequest& request, FileStore& store, const Console& conso
         std::optional<RadioFile> file = ReadRadioFile(store, path, console);
         if (!file) {
             status = ExitStatus::File;
-        } else if (Assign(request.assignments, *file, console)) {
+        } else if (Assign(request.assignments, *file, console) && GoTogether(request.assignments, *file, console)) {
             changed.push_back(std::move(*file));
         } else {
             isRefused = true;

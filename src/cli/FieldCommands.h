@@ -37,8 +37,9 @@ struct SetRequest {
 /// assignment.
 [[nodiscard]] SetRequest ReadSetArguments(const std::vector<std::string>& arguments,
                                           const std::optional<std::string>& output);
-/// Stores the values in every file, in the order given. A value that any of the files cannot take is refused, and then
-/// no file is written; a file that cannot be read or written does not hold up the others.
+/// Stores the values in every file, in the order given; a key that is given twice is wrong usage. A value that any of
+/// the files cannot take is refused, and so is one that does not go with the others as the file has them in the end;
+/// then no file is written. A file that cannot be read or written does not hold up the others.
 [[nodiscard]] ExitStatus Set(const SetRequest& request, FileStore& store, const Console& console);
 
 } // namespace zelvor::cli

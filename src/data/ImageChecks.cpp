@@ -4,8 +4,8 @@
 
 #include "data/ChannelFields.h"
 #include "data/ChannelRecord.h"
-#include "data/CorvaneFields.h"
 #include "data/FieldRegistry.h"
+#include "data/FieldRules.h"
 #include "data/FrequencyCodec.h"
 #include "data/IdentityFields.h"
 #include "data/MemoryMap.h"
@@ -50,8 +50,6 @@ void CheckPriority(const DataImage& image, Findings& findings) {
     const int channel = image.At(scan::PriorityChannel.address);
     if (channel < 1 || channel > address::ChannelCount) {
         findings.push_back({ImageFault::NoPriorityChannel, scan::PriorityChannel});
-    } else if (IsChannelBlank(image, channel)) {
-        findings.push_back({ImageFault::BlankPriorityChannel, scan::PriorityChannel});
     }
 }
 
@@ -61,11 +59,9 @@ void CheckModel(const DataImage& image, Findings& findings) {
     }
 }
 
-void CheckOwnNumber(const DataImage& image, Findings& findings) {
-    const bool hasFleet = LoadNumber(image, corvane::OwnFleet, Language::English).value != 0;
-    const bool hasId = LoadNumber(image, corvane::OwnId, Language::English).value != 0;
-    if (hasFleet != hasId) {
-        findings.push_back({ImageFault::HalfOwnNumber, hasFleet ? Field(corvane::OwnId) : Field(corvane::OwnFleet)});
+void CheckRules(const DataImage& image, Findings& findings) {
+    for (const BrokenRule& broken : BrokenRules(image)) {
+        findings.push_back({broken.fault, broken.fields.front()});
     }
 }
 
@@ -165,6 +161,10 @@ FaultWeight WeightOf(ImageFault fault) {
         return FaultWeight::Spoils;
     case ImageFault::OutOfMarket:
     case ImageFault::NoSpUnmute:
+    case ImageFault::BlankIdlePriorityChannel:
+    case ImageFault::RevertNotOffered:
+    case ImageFault::HalfFleetListEntry:
+    case ImageFault::EncodeWithoutTransmit:
         break;
     }
     return FaultWeight::Hint;
@@ -182,7 +182,11 @@ std::string TextOf(ImageFault fault, Language language) {
          {"the frequency is outside 100 to 550 MHz", "频率超出 100 至 550 MHz"},
          {"the frequency is no multiple of 5 kHz or 6.25 kHz", "频率不是 5 kHz 或 6.25 kHz 的倍数"},
          {"the frequency is outside the market's range", "频率超出该市场的范围"},
-         {"the channel has no legal SP Unmute", "信道没有合法的 SP 不发音设置"}});
+         {"the channel has no legal SP Unmute", "信道没有合法的 SP 不发音设置"},
+         {"the priority channel is not programmed", "优先信道未编程"},
+         {"the priority mode does not offer this revert channel", "该优先模式下没有此返回信道"},
+         {"of the entry's fleet and ID only one is set", "此条目的队列和 ID 只设置了一个"},
+         {"the channel has an encode tone and no transmit frequency", "信道有编码音而没有发射频率"}});
     return std::string(texts[static_cast<std::size_t>(fault)].In(language));
 }
 
@@ -190,8 +194,8 @@ std::vector<ImageFinding> CheckImage(const DataImage& image) {
     Findings findings;
     CheckCodes(image, findings);
     CheckPriority(image, findings);
+    CheckRules(image, findings);
     CheckModel(image, findings);
-    CheckOwnNumber(image, findings);
     CheckFields(image, findings);
     CheckChannels(image, findings);
     return findings;

@@ -18,10 +18,14 @@ enum class ImageFault : std::uint8_t {
     BlankPriorityChannel, // it is not programmed
     HalfOwnNumber,        // an own fleet without an own ID, or the other way round
     IllegalValue,
-    OutOfRange,  // a frequency outside 100 to 550 MHz
-    OffRaster,   // a frequency that is no multiple of 5 or 6.25 kHz
-    OutOfMarket, // a channel's frequency outside the market's band
-    NoSpUnmute,  // a channel without a legal one: the windows themselves leave such
+    OutOfRange,               // a frequency outside 100 to 550 MHz
+    OffRaster,                // a frequency that is no multiple of 5 or 6.25 kHz
+    OutOfMarket,              // a channel's frequency outside the market's band
+    NoSpUnmute,               // a channel without a legal one: the windows themselves leave such
+    BlankIdlePriorityChannel, // it is not programmed, and the priority mode has no use for it
+    RevertNotOffered,         // a revert channel that the priority mode does not offer
+    HalfFleetListEntry,       // a fleet without an ID, or the other way round
+    EncodeWithoutTransmit,    // an encode tone on a channel without a transmit frequency
 };
 
 enum class FaultWeight : std::uint8_t {

@@ -93,8 +93,7 @@ TEST_F(DiffTest, TellsAByteTooWhereItsFieldsDoNotTellAllOfItsBits) {
     EXPECT_EQ(Differences({{0x02F, "07"}}, ExitStatus::No), "channels.2.autodial: 1 -> 8\n0x02F: F8 -> 07\n");
     // Of a DQT word bits 1 to 4 and 6 of the high byte have no meaning; a tone more or less tells both bytes.
     EXPECT_EQ(Differences({{0x02A, "1338"}}, ExitStatus::No), "0x02B: 28 -> 38\n");
-    EXPECT_EQ(Differences({{0x02A, "13B8"}}, ExitStatus::No),
-              "channels.2.encode: D023N -> D023I\n0x02B: 28 -> B8\n");
+    EXPECT_EQ(Differences({{0x02A, "13B8"}}, ExitStatus::No), "channels.2.encode: D023N -> D023I\n0x02B: 28 -> B8\n");
     EXPECT_EQ(Differences({{0x02A, "FFFF"}}, ExitStatus::No), "channels.2.encode: D023N -> None\n");
     EXPECT_EQ(Differences({{0x02A, "55FF"}}, ExitStatus::No), "channels.2.encode: D023N -> None\n0x02A: 13 -> 55\n");
 }

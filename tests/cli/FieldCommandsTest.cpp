@@ -118,6 +118,68 @@ TEST_F(FieldCommandsTest, SetTellsWhyAChannelDoesNotTakeAValue) {
               "another model\n");
 }
 
+TEST_F(FieldCommandsTest, SetRefusesValuesThatDoNotGoTogetherInTheEnd) {
+    const std::string before = store.Content("a.dat");
+    const auto expectRefused = [&](const std::vector<std::string>& assignments, const std::string& told) {
+        std::vector<std::string> arguments{"a.dat"};
+        arguments.insert(arguments.end(), assignments.begin(), assignments.end());
+        EXPECT_EQ(SetIn(arguments), ExitStatus::File) << assignments.front();
+        EXPECT_EQ(Err(), "zelvor-cli: a.dat: " + told + '\n');
+        EXPECT_EQ(store.Content("a.dat"), before);
+    };
+    const std::string half = ": of the own fleet and the own ID only one is set";
+    expectRefused({"corvane.own-fleet=100"}, "corvane.own-fleet" + half);
+    expectRefused({"corvane.own-id=1000"}, "corvane.own-id" + half);
+    expectRefused({"corvane.fleet-list.8.id=All"},
+                  "corvane.fleet-list.8.id: of the entry's fleet and ID only one is set");
+    expectRefused({"channels.16.encode=88.5"},
+                  "channels.16.encode: the channel has an encode tone and no transmit frequency");
+    expectRefused({"channels.2.tx_mhz="},
+                  "channels.2.tx_mhz: the channel has an encode tone and no transmit frequency");
+    expectRefused({"scan.priority-channel=3"}, "scan.priority-channel: the priority channel is not programmed");
+    expectRefused({"scan.priority=Fixed", "scan.priority-channel=3"},
+                  "scan.priority-channel: the priority channel is not programmed");
+    const std::string notOffered = ": the priority mode does not offer this revert channel";
+    expectRefused({"scan.revert-channel=Priority"}, "scan.revert-channel" + notOffered);
+    expectRefused({"scan.priority=Selected"}, "scan.priority" + notOffered);
+    expectRefused({"scan.priority=Selected", "scan.revert-channel=Selected"}, "scan.priority" + notOffered);
+}
+
+TEST_F(FieldCommandsTest, SetJudgesItsAssignmentsTogether) {
+    EXPECT_EQ(SetIn({"a.dat", "corvane.own-fleet=100", "corvane.own-id=1000", "corvane.fleet-list.1.id=1001",
+                     "corvane.fleet-list.1.fleet=All"}),
+              ExitStatus::Done);
+    EXPECT_EQ(SetIn({"a.dat", "channels.16.encode=88.5", "channels.16.tx_mhz=150"}), ExitStatus::Done);
+    EXPECT_EQ(SetIn({"a.dat", "channels.2.tx_mhz=", "channels.2.encode=None"}), ExitStatus::Done);
+    EXPECT_EQ(SetIn({"a.dat", "scan.revert-channel=Priority", "scan.priority=Selected"}), ExitStatus::Done);
+    EXPECT_EQ(SetIn({"a.dat", "scan.priority=Fixed", "scan.priority-channel=3", "channels.3.rx_mhz=146"}),
+              ExitStatus::Done);
+    EXPECT_EQ(Err(), "");
+    const std::string before = store.Content("a.dat");
+    EXPECT_EQ(SetIn({"a.dat", "corvane.own-fleet="}), ExitStatus::File);
+    EXPECT_EQ(SetIn({"a.dat", "channels.3.rx_mhz="}), ExitStatus::File);
+    EXPECT_EQ(Err(), "zelvor-cli: a.dat: corvane.own-fleet: of the own fleet and the own ID only one is set\n"
+                     "zelvor-cli: a.dat: channels.3.rx_mhz: the priority channel is not programmed\n");
+    EXPECT_EQ(store.Content("a.dat"), before);
+    EXPECT_EQ(SetIn({"a.dat", "corvane.own-fleet=", "corvane.own-id="}), ExitStatus::Done);
+}
+
+TEST_F(FieldCommandsTest, SetLeavesAloneWhatDidNotGoTogetherBefore) {
+    DataImage image = Programmed();
+    image.Set(0x170, 1);    // an own fleet without an own ID
+    image.Set(0x164, 3);    // a revert channel of another priority mode
+    image.Set(0x161, 9);    // a priority channel that is blank
+    image.Set(0x1C0, 0x01); // an entry without an ID
+    testing::StoreHex(image, 0x024, "FFFFFFFF");
+    Put("a.dat", image);
+    EXPECT_EQ(SetIn({"a.dat", "optional.beep=Off", "channels.2.power=Low", "optional.ptt-id=Both",
+                     "channels.2.ptt_id=On"}), // a missing code is no matter of its own
+              ExitStatus::Done);
+    EXPECT_EQ(Err(), "");
+    EXPECT_EQ(SetIn({"a.dat", "corvane.own-fleet=101"}), ExitStatus::File);
+    EXPECT_EQ(SetIn({"a.dat", "corvane.own-id=1000"}), ExitStatus::Done);
+}
+
 TEST_F(FieldCommandsTest, SetStoresInOrderSoThatAChannelCanBeMade) {
     EXPECT_EQ(SetIn({"a.dat", "channels.5.rx_mhz=146", "channels.5.tx_mhz=146.6", "channels.5.encode=88.5"}),
               ExitStatus::Done);
@@ -135,6 +197,10 @@ TEST_F(FieldCommandsTest, SetOfTooLittleOrTooMuchIsWrongUsage) {
     EXPECT_EQ(SetIn({"a.dat", "b.dat", "optional.beep=Off"}, "o.dat"), ExitStatus::Usage);
     EXPECT_EQ(Err(), "zelvor-cli: -o goes with one file only\n");
     EXPECT_EQ(SetIn({"a.dat", "optional.boop=Off"}), ExitStatus::Usage);
+    Err();
+    EXPECT_EQ(SetIn({"a.dat", "optional.beep=Off", "optional.vox-gain-level=3", "optional.beep=On"}, "o.dat"),
+              ExitStatus::Usage);
+    EXPECT_EQ(Err(), "zelvor-cli: optional.beep: the key is given twice\n");
     EXPECT_FALSE(store.Has("o.dat"));
 }
 

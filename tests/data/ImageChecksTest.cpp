@@ -60,7 +60,8 @@ TEST(ImageChecks, MissThePriorityChannelOfAFixedMode) {
     EXPECT_EQ(Findings(With({{0x160, "01"}, {0x161, "02"}})), Lines());
     EXPECT_EQ(Findings(With({{0x160, "01"}, {0x161, "03"}})),
               Lines{"spoils scan.priority-channel: the priority channel is not programmed"});
-    EXPECT_EQ(Findings(With({{0x160, "02"}, {0x161, "03"}})), Lines());
+    EXPECT_EQ(Findings(With({{0x160, "02"}, {0x164, "02"}, {0x161, "03"}})),
+              Lines{"hint scan.priority-channel: the priority channel is not programmed"});
 }
 
 TEST(ImageChecks, TellFrequenciesOffRasterOutOfRangeAndOutOfMarket) {
@@ -89,8 +90,8 @@ TEST(ImageChecks, TellIllegalBytesOfFields) {
     EXPECT_EQ(Findings(With({{0x134, "0A"}})), illegal("optional.squelch-level"));
     EXPECT_EQ(Findings(With({{0x164, "04"}})), illegal("scan.revert-channel"));
     EXPECT_EQ(Findings(With({{0x120, "FF"}})), illegal("dtmf.id-code"));
-    EXPECT_EQ(Findings(With({{0x1C0, "FB"}})), illegal("corvane.fleet-list.1.fleet"));
-    EXPECT_EQ(Findings(With({{0x1C1, "A10F"}})), illegal("corvane.fleet-list.1.id"));
+    EXPECT_EQ(Findings(With({{0x1C0, "FB0100"}})), illegal("corvane.fleet-list.1.fleet"));
+    EXPECT_EQ(Findings(With({{0x1C0, "01A10F"}})), illegal("corvane.fleet-list.1.id"));
     EXPECT_EQ(Findings(With({{0x028, "1040"}})), illegal("channels.2.decode"));
     EXPECT_EQ(Findings(With({{0x02C, "06"}})), illegal("channels.2.option_signalling"));
     EXPECT_EQ(Findings(With({{0x133, "02"}})), illegal("optional.ptt-id-type"));
@@ -108,8 +109,17 @@ TEST(ImageChecks, TellAnUnknownModelAndAHalfOwnNumber) {
     EXPECT_EQ(Findings(With({{0x170, "010100"}})), Lines());
 }
 
+TEST(ImageChecks, HintAtValuesThatDoNotGoTogether) {
+    EXPECT_EQ(Findings(With({{0x164, "02"}})),
+              Lines{"hint scan.revert-channel: the priority mode does not offer this revert channel"});
+    EXPECT_EQ(Findings(With({{0x1C0, "01"}})),
+              Lines{"hint corvane.fleet-list.1.id: of the entry's fleet and ID only one is set"});
+    EXPECT_EQ(Findings(With({{0x024, "FFFFFFFF"}, {0x02A, "1328"}})),
+              Lines{"hint channels.2.encode: the channel has an encode tone and no transmit frequency"});
+}
+
 TEST(ImageChecks, HaveATextInBothLanguagesForEveryFault) {
-    for (int fault = 0; fault <= static_cast<int>(ImageFault::NoSpUnmute); ++fault) {
+    for (int fault = 0; fault <= static_cast<int>(ImageFault::EncodeWithoutTransmit); ++fault) {
         EXPECT_NE(TextOf(static_cast<ImageFault>(fault), Language::English), "");
         EXPECT_NE(TextOf(static_cast<ImageFault>(fault), Language::Chinese), "");
         EXPECT_NE(TextOf(static_cast<ImageFault>(fault), Language::Chinese),
