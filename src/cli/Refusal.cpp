@@ -8,6 +8,7 @@
 #include "data/ChannelWords.h"
 #include "data/IdentityFields.h"
 #include "data/LegalFrequency.h"
+#include "data/TestFrequencies.h"
 
 namespace zelvor::cli {
 
@@ -21,6 +22,10 @@ constexpr TextPair NoPttIds{"under the PTT ID Type of the image there is none", 
 constexpr TextPair NoNumber{"is no frequency in MHz", "不是以 MHz 为单位的频率"};
 constexpr TextPair OutOfRange{"is outside the range in MHz of ", "超出范围 (MHz)："};
 constexpr TextPair OffRaster{"is no multiple of 5 kHz or 6.25 kHz", "不是 5 kHz 或 6.25 kHz 的倍数"};
+constexpr TextPair NoDigits{"has other characters than 0 to 9", "含有 0 至 9 以外的字符"};
+constexpr TextPair NoDtmfDigits{"has other characters than 0 to 9, A to D, * and #",
+                                "含有 0 至 9、A 至 D、* 和 # 以外的字符"};
+constexpr TextPair NotStorable{"has characters that cannot be stored", "含有无法存储的字符"};
 
 std::string Quoted(std::string_view text) {
     return '"' + Printable(text) + "\" ";
@@ -62,6 +67,18 @@ std::string ChannelRefusal(const ChannelField& field, std::string_view text, con
     return words.empty() ? std::string(NoPttIds.In(language)) : NoneOfText(text, {.words = words}, language);
 }
 
+const TextPair& OtherCharacters(TextField::Characters kind) {
+    switch (kind) {
+    case TextField::Characters::Digits:
+        return NoDigits;
+    case TextField::Characters::Dtmf:
+        return NoDtmfDigits;
+    case TextField::Characters::Windows1252:
+        break;
+    }
+    return NotStorable;
+}
+
 } // namespace
 
 std::string RefusalOf(const Field& field, std::string_view text, const DataImage& image, Language language) {
@@ -70,6 +87,13 @@ std::string RefusalOf(const Field& field, std::string_view text, const DataImage
     }
     if (field.As<IdentityField>() != nullptr) {
         return std::string(NotSettable.In(language));
+    }
+    if (field.As<TestFrequencyField>() != nullptr) {
+        return FrequencyRefusal(text, image, language);
+    }
+    const auto* code = field.As<TextField>();
+    if (code != nullptr && !HasItsCharacters(*code, text)) {
+        return Quoted(text) + std::string(OtherCharacters(code->characters).In(language));
     }
     return NoneOfText(text, field.Legal(Language::English), language);
 }

@@ -295,14 +295,19 @@ LegalValues LegalValuesOf(const TextField& field, Language /*language*/) {
 
 /// Unlike a dialog's commit it leaves no tail of the text before.
 bool ParseValue(const TextField& field, std::string_view text, DataImage& image) {
-    const auto stored = Storable(field, Utf16Of(text));
-    const int length = stored ? static_cast<int>(stored->size()) : 0;
-    if (!stored || length > field.size || !IsLegalLength(field, length)) {
+    const std::u16string typed = Utf16Of(text);
+    const auto length = static_cast<int>(typed.size());
+    if (!HasItsCharacters(field, text) || length > field.size || !IsLegalLength(field, length)) {
         return false;
     }
     Erase(image, field);
-    StoreCode(image, field, *stored);
+    StoreCode(image, field, typed);
     return true;
+}
+
+bool HasItsCharacters(const TextField& field, std::string_view text) {
+    const std::u16string typed = Utf16Of(text);
+    return Storable(field, typed) == typed;
 }
 
 bool HoldsLegalValue(const TextField& field, const DataImage& image) {

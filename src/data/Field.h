@@ -159,6 +159,8 @@ void StoreBlankValue(const NumberField& field, DataImage& image);
 [[nodiscard]] std::string LabelOf(const TextField& field, Language language);
 [[nodiscard]] std::string ShowValue(const TextField& field, const DataImage& image, Language language);
 [[nodiscard]] LegalValues LegalValuesOf(const TextField& field, Language language);
+/// Whether a text has no character that the field does not take as it stands.
+[[nodiscard]] bool HasItsCharacters(const TextField& field, std::string_view text);
 [[nodiscard]] bool ParseValue(const TextField& field, std::string_view text, DataImage& image);
 [[nodiscard]] bool HoldsLegalValue(const TextField& field, const DataImage& image);
 void StoreBlankValue(const TextField& field, DataImage& image);

@@ -133,20 +133,20 @@ LegalValues LegalValuesOf(const TestFrequencyField& /*field*/, Language /*langua
 }
 
 bool ParseValue(const TestFrequencyField& field, std::string_view text, DataImage& image) {
-    const std::string typed(Trimmed(text));
+    const std::string_view typed = Trimmed(text);
     if (typed.empty()) {
         EraseTestChannel(image, field.channel);
         return true;
     }
-    const NormalisedFrequency normalised = NormaliseFrequency(typed, SetBandLimits(image));
-    if (normalised.outOfRange || normalised.text != typed) {
+    const TypedFrequency frequency = ReadTypedFrequency(typed, SetBandLimits(image));
+    if (frequency.fault != FrequencyFault::None) {
         return false;
     }
     TestFrequencyTexts texts = ReadTestChannel(image, field.channel);
     if (texts == TestFrequencyTexts{}) {
-        texts = {typed, typed};
+        texts = {frequency.text, frequency.text};
     }
-    (field.isTransmit ? texts.transmit : texts.receive) = typed;
+    (field.isTransmit ? texts.transmit : texts.receive) = frequency.text;
     WriteTestChannel(image, field.channel, texts);
     return true;
 }

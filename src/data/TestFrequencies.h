@@ -72,7 +72,7 @@ inline constexpr std::array<TestFrequencyField, 2 * TestChannelCount> TestFreque
 [[nodiscard]] std::string LabelOf(const TestFrequencyField& field, Language language);
 [[nodiscard]] std::string ShowValue(const TestFrequencyField& field, const DataImage& image, Language language);
 [[nodiscard]] LegalValues LegalValuesOf(const TestFrequencyField& field, Language language);
-/// A frequency of the raster, in the range of every document, as "000.00000"; an empty text empties the channel. As in
+/// A frequency as ReadTypedFrequency takes it, within the limits of the image; an empty text empties the channel. As in
 /// the window, the first frequency of an empty channel becomes both.
 [[nodiscard]] bool ParseValue(const TestFrequencyField& field, std::string_view text, DataImage& image);
 [[nodiscard]] bool HoldsLegalValue(const TestFrequencyField& field, const DataImage& image);

@@ -118,6 +118,30 @@ TEST_F(FieldCommandsTest, SetTellsWhyAChannelDoesNotTakeAValue) {
               "another model\n");
 }
 
+TEST_F(FieldCommandsTest, SetTellsWhyATextOrATestFrequencyIsRefused) {
+    DataImage image = Programmed();
+    image.Set(0x1BE, 0xFF); // without a model the limits are narrower
+    Put("b.dat", image);
+    const std::string before = store.Content("a.dat");
+    const auto expectRefused = [&](const char* file, const char* assignment, const std::string& told) {
+        EXPECT_EQ(SetIn({file, assignment}), ExitStatus::File) << assignment;
+        EXPECT_EQ(Err(), std::string("zelvor-cli: ") + file + ": " + told + '\n');
+    };
+    expectRefused("a.dat", "optional.begin-of-tx=abcd",
+                  "optional.begin-of-tx: \"abcd\" has other characters than 0 to 9, A to D, * and #");
+    expectRefused("a.dat", "dtmf.id-code=12A", "dtmf.id-code: \"12A\" has other characters than 0 to 9");
+    expectRefused("a.dat", "dtmf.id-code=12", "dtmf.id-code: \"12\" is none of: 3 to 10 digits");
+    expectRefused("a.dat", "message.line.1=日本", "message.line.1: \"日本\" has characters that cannot be stored");
+    expectRefused("a.dat", "test.1.receive=600", "test.1.receive: \"600\" is outside the range in MHz of 100-550");
+    expectRefused("b.dat", "test.1.receive=180", "test.1.receive: \"180\" is outside the range in MHz of 136-174");
+    expectRefused("a.dat", "test.1.transmit=145.123",
+                  "test.1.transmit: \"145.123\" is no multiple of 5 kHz or 6.25 kHz");
+    EXPECT_EQ(store.Content("a.dat"), before);
+    EXPECT_EQ(SetIn({"a.dat", "test.1.receive=145", "optional.begin-of-tx=ABCD"}), ExitStatus::Done);
+    EXPECT_EQ(store.Content("a.dat").substr(16 + 0x280, 4), std::string("\x00\x00\x50\x14", 4));
+    EXPECT_EQ(store.Content("a.dat").substr(16 + 0x140, 5), "ABCD\xFF");
+}
+
 TEST_F(FieldCommandsTest, SetRefusesValuesThatDoNotGoTogetherInTheEnd) {
     const std::string before = store.Content("a.dat");
     const auto expectRefused = [&](const std::vector<std::string>& assignments, const std::string& told) {

@@ -133,8 +133,8 @@ TEST(Field, ACheckIsOnOrOff) {
 TEST(Field, ACodeHasItsCharactersAndItsLength) {
     ExpectParses(dtmf::IdCode, {{"123", "313233FFFFFFFFFFFFFF"}, {"0123456789", "30313233343536373839"}});
     ExpectRefuses(dtmf::IdCode, {"", "12", "12345678901", "12A4"});
-    ExpectParses(dtmf::StunCode, {{"", "FFFFFFFFFFFFFFFFFFFF"}, {"1a*#", "31412A23FFFFFFFFFFFF"}});
-    ExpectRefuses(dtmf::StunCode, {"12", "12E", "关关关"});
+    ExpectParses(dtmf::StunCode, {{"", "FFFFFFFFFFFFFFFFFFFF"}, {"1A*#", "31412A23FFFFFFFFFFFF"}});
+    ExpectRefuses(dtmf::StunCode, {"12", "12E", "1a*#", "关关关"});
     using Characters = LegalValues::Characters;
     EXPECT_EQ(Field(dtmf::IdCode).Legal(En),
               (LegalValues{.characters = Characters{TextField::Characters::Digits, 3, 10}}));
@@ -191,11 +191,18 @@ TEST(Field, ATestFrequencyLiesOnTheRasterAndTheFirstOfAChannelBecomesBoth) {
     ASSERT_TRUE(transmit.Parse("155.10000", image));
     EXPECT_EQ(receive.Show(image, En), "155.05000");
     EXPECT_EQ(transmit.Show(image, En), "155.10000");
-    for (const char* text : {"155.05", "155.05001", "99.00000", "551.00000", "0", "None"}) {
+    for (const char* text :
+         {"155.05001", "155.050000001", "+155.05", "155.05 MHz", "99.00000", "551.00000", "0", "None"}) {
         const DataImage before = image;
         EXPECT_FALSE(receive.Parse(text, image)) << text;
         EXPECT_TRUE(image == before) << text;
     }
+    ASSERT_TRUE(receive.Parse(" 155.125 ", image));
+    EXPECT_EQ(receive.Show(image, En), "155.12500");
+    ASSERT_TRUE(receive.Parse("400", image));
+    EXPECT_EQ(receive.Show(image, En), "400.00000");
+    image.Set(0x1BE, 0xFF); // without a model the limits are 136 to 174 MHz
+    EXPECT_FALSE(receive.Parse("400", image));
     ASSERT_TRUE(transmit.Parse("", image));
     EXPECT_EQ(receive.Show(image, En), "");
 }
