@@ -99,11 +99,20 @@ ImageFault FaultOfField(const DataImage& image, const Field& field) {
     return field.As<TestFrequencyField>() != nullptr ? FaultOfFrequency(image, field) : ImageFault::IllegalValue;
 }
 
+bool IsTestOutOfMarket(const DataImage& image, const Field& field, const ModelVariant* variant) {
+    const auto* test = field.As<TestFrequencyField>();
+    return test != nullptr && variant != nullptr && !IsTestChannelEmpty(image, test->channel) &&
+           IsOutOfMarket(image, field, *variant);
+}
+
 void CheckFields(const DataImage& image, Findings& findings) {
+    const ModelVariant* variant = FindVariant(image.At(address::Family), image.At(address::Market));
     for (const FieldSection section : FieldSections) {
         for (const Field& field : FieldsOf(section)) {
             if (!field.HoldsLegal(image)) {
                 findings.push_back({FaultOfField(image, field), field});
+            } else if (IsTestOutOfMarket(image, field, variant)) {
+                findings.push_back({ImageFault::OutOfMarket, field});
             }
         }
     }

@@ -20,7 +20,7 @@ enum class ImageFault : std::uint8_t {
     IllegalValue,
     OutOfRange,               // a frequency outside 100 to 550 MHz
     OffRaster,                // a frequency that is no multiple of 5 or 6.25 kHz
-    OutOfMarket,              // a channel's frequency outside the market's band
+    OutOfMarket,              // a channel's or a test frequency outside the market's band
     NoSpUnmute,               // a channel without a legal one: the windows themselves leave such
     BlankIdlePriorityChannel, // it is not programmed, and the priority mode has no use for it
     RevertNotOffered,         // a revert channel that the priority mode does not offer

@@ -76,6 +76,11 @@ TEST(ImageChecks, TellFrequenciesOffRasterOutOfRangeAndOutOfMarket) {
     EXPECT_EQ(Findings(With({{0x024, "FFFFFFFF"}})), Lines());
     EXPECT_EQ(Findings(With({{0x284, "01000015"}})),
               Lines{"spoils test.1.transmit: the frequency is no multiple of 5 kHz or 6.25 kHz"});
+    EXPECT_EQ(Findings(With({{0x284, "00000040"}})),
+              Lines{"hint test.1.transmit: the frequency is outside the market's range"});
+    EXPECT_EQ(Findings(With({{0x280, "FF000040"}})), Lines()); // an empty test channel has none
+    EXPECT_EQ(Findings(With({{0x284, "00000040"}, {0x1BD, "07"}})),
+              Lines{"spoils identity.model: the model is unknown"});
     EXPECT_EQ(Findings(With({{0x030, "FFFFFF00"}})), Lines()); // a blank channel has no values
 }
 
