@@ -100,6 +100,7 @@ private:
             const std::optional<ChannelColumn> column = ColumnOf(heading);
             if (!column && heading != ChannelHeading) {
                 Tell(record.line, heading, UnknownColumn.In(language_));
+                hasKnownColumns_ = false;
             } else if (std::ranges::find(headings_, heading) != headings_.end()) {
                 Tell(record.line, heading, DoubledColumn.In(language_));
             }
@@ -144,7 +145,7 @@ private:
             ReadValues(record, *channel, import_.image);
             return;
         }
-        if (channel && !PlaceOf(NameOf(ChannelColumn::Receive)) && HasValues(record)) {
+        if (channel && hasKnownColumns_ && !PlaceOf(NameOf(ChannelColumn::Receive)) && HasValues(record)) {
             Tell(record.line, ChannelHeading, BlankChannel.In(language_));
         }
         DataImage probe = import_.image; // only to look at the values
@@ -218,7 +219,8 @@ private:
     SheetImport import_;
     Language language_;
     std::vector<std::string> headings_;
-    std::map<int, int> lines_; // of the channels that were there
+    bool hasKnownColumns_ = true; // only; an unknown one may be meant for any
+    std::map<int, int> lines_;    // of the channels that were there
 };
 
 } // namespace

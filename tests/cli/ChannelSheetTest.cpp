@@ -109,6 +109,8 @@ TEST_F(ChannelSheetTest, TellsAFaultyHeading) {
     EXPECT_EQ(Faults("channel,RX_MHZ,power,power,channel\n2,,High,High,2\n"),
               (Lines{"1:RX_MHZ: there is no such column", "1:power: the column is there already",
                      "1:channel: the column is there already"}));
+    EXPECT_EQ(Faults("channel, rx_mhz,power\n2,145,High\n3,146,Low\n4,147,Mid\n"),
+              (Lines{"1: rx_mhz: there is no such column", "4:power: \"Mid\" is none of: High, Low"}));
     EXPECT_EQ(Faults("channel,power\n2,High,\n"), Lines{"2:power: 3 fields instead of 2"});
     EXPECT_EQ(Faults("channel,power\n2,High\n\n"), Lines{"3:power: 1 fields instead of 2"});
     EXPECT_EQ(Faults("channel,power\n2,\"High\n"), Lines{"2:power: the closing quotation mark is missing"});
