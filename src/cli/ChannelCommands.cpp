@@ -7,6 +7,7 @@
 
 #include "cli/ChannelSheet.h"
 #include "cli/RadioFile.h"
+#include "cli/SameFile.h"
 #include "platform/FileStore.h"
 
 namespace zelvor::cli {
@@ -37,6 +38,9 @@ void Tell(std::vector<SheetFault> faults, const std::string& table, const Consol
 } // namespace
 
 ExitStatus ExportChannels(const ExportRequest& request, FileStore& store, const Console& console) {
+    if (request.output && OverwritesInput(*request.output, request.file, console)) {
+        return ExitStatus::Usage;
+    }
     const std::optional<RadioFile> file = ReadRadioFile(store, request.file, console);
     if (!file) {
         return ExitStatus::File;
@@ -51,6 +55,9 @@ ExitStatus ExportChannels(const ExportRequest& request, FileStore& store, const 
 }
 
 ExitStatus ImportChannels(const ImportRequest& request, FileStore& store, const Console& console) {
+    if (request.output && OverwritesInput(*request.output, request.table, console)) {
+        return ExitStatus::Usage;
+    }
     std::optional<RadioFile> file = ReadRadioFile(store, request.file, console);
     const std::optional<std::string> table = ReadTable(store, request.table, console);
     if (!file || !table) {

@@ -1,5 +1,7 @@
 #include "cli/Console.h"
 
+#include <algorithm>
+
 #include "text/Utf8.h"
 
 namespace zelvor::cli {
@@ -25,7 +27,10 @@ char16_t PrintableOf(char16_t character) {
 } // namespace
 
 void Console::Complain(std::string_view text) const {
-    err << "zelvor-cli: " << text << '\n';
+    for (std::size_t end = 0; end != std::string_view::npos; text.remove_prefix(std::min(end + 1, text.size()))) {
+        end = text.find('\n');
+        err << "zelvor-cli: " << text.substr(0, end) << '\n';
+    }
 }
 
 void Console::Complain(std::string_view about, const TextPair& text) const {

@@ -15,7 +15,7 @@ struct Console {
     Language language = Language::English;
 
     [[nodiscard]] std::string_view Say(const TextPair& text) const { return text.In(language); }
-    /// A line behind the name of the program.
+    /// Each of its lines behind the name of the program.
     void Complain(std::string_view text) const;
     /// The same, behind the name of what it is about.
     void Complain(std::string_view about, const TextPair& text) const;

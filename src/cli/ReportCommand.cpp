@@ -4,6 +4,7 @@
 #include <QFileInfo>
 
 #include "cli/RadioFile.h"
+#include "cli/SameFile.h"
 #include "cli/Sections.h"
 #include "platform/FontCheck.h"
 #include "platform/PdfFile.h"
@@ -36,6 +37,9 @@ QPageSize::PageSizeId PaperOf(ReportPaper paper) {
 } // namespace
 
 ExitStatus Report(const ReportRequest& request, FileStore& store, const Console& console) {
+    if (OverwritesInput(request.output, request.file, console)) {
+        return ExitStatus::Usage;
+    }
     const std::optional<RadioFile> file = ReadRadioFile(store, request.file, console);
     if (!file) {
         return ExitStatus::File;

@@ -23,7 +23,8 @@ struct ReportRequest {
     LocalTime now;
 };
 
-/// Prints the data report into a PDF file, as the windows would. Needs the toolkit's application with fonts.
+/// Prints the data report into a PDF file, as the windows would; never over the data file itself. Needs the toolkit's
+/// application with fonts.
 [[nodiscard]] ExitStatus Report(const ReportRequest& request, FileStore& store, const Console& console);
 
 } // namespace zelvor::cli

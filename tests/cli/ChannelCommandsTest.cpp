@@ -24,6 +24,16 @@ TEST_F(ChannelCommandsTest, ExportGoesToStandardOutputOrToAFile) {
     EXPECT_EQ(Err(), "zelvor-cli: d.csv: cannot be written\nzelvor-cli: gone.dat: cannot be read\n");
 }
 
+TEST_F(ChannelCommandsTest, NeitherGoesOverWhatItReads) {
+    store.Put("c.csv", "channel,power\n2,Low\n");
+    EXPECT_EQ(ExportChannels({"a.dat", "a.dat"}, store, console), ExitStatus::Usage);
+    EXPECT_EQ(ImportChannels({"a.dat", "c.csv", "c.csv"}, store, chinese), ExitStatus::Usage);
+    EXPECT_EQ(Err(), "zelvor-cli: a.dat: is what the command reads; the output must be another file\n"
+                     "zelvor-cli: c.csv: 是命令要读取的文件；输出须为另一个文件\n");
+    EXPECT_EQ(store.Content("a.dat"), ContentOf(Programmed()));
+    EXPECT_EQ(store.Content("c.csv"), "channel,power\n2,Low\n");
+}
+
 TEST_F(ChannelCommandsTest, ImportGoesInPlaceOrToAFileAndKeepsTheRest) {
     std::string content = ContentOf(Programmed());
     content.replace(6, 10, "0123456789"); // reserved

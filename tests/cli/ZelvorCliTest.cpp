@@ -86,6 +86,11 @@ TEST_F(ZelvorCli, AWrongCommandLineEndsWithTwoAndALineThatSaysSo) {
                                          {"new", "--model", "4618"},
                                          {"report", "a.dat"},
                                          {"report", "a.dat", "-o", "r.pdf", "--paper", "A3"},
+                                         {"report", "a.dat", "-o", "r.pdf", "--paper", "0"},
+                                         {"report", "a.dat", "-o", "r.pdf", "--paper", "1"},
+                                         {"report", "a.dat", "-o", "r.pdf", "--paper=-1"},
+                                         {"report", "a.dat", "-o", "r.pdf", "--paper", ""},
+                                         {"report", "a.dat", "-o", "r.pdf", "--paper", "a4"},
                                          {"report", "a.dat", "-o", "r.pdf", "--section", "identity"},
                                          {"ports", "stray"},
                                          {"--language", "fr", "keys"},
@@ -93,10 +98,54 @@ TEST_F(ZelvorCli, AWrongCommandLineEndsWithTwoAndALineThatSaysSo) {
         EXPECT_EQ(Run(arguments), 2) << arguments.join(' ').toStdString();
         EXPECT_EQ(out, "") << arguments.join(' ').toStdString();
         EXPECT_TRUE(err.starts_with("zelvor-cli: ")) << err;
-        EXPECT_TRUE(err.ends_with("\nTry \"zelvor-cli --help\".\n")) << err;
+        EXPECT_TRUE(err.ends_with("\nzelvor-cli: Try \"zelvor-cli --help\".\n")) << err;
         EXPECT_EQ(std::ranges::count(err, '\n'), 2) << err;
     }
     EXPECT_EQ(EntriesOf(folder.Path()), std::vector<std::string>());
+}
+
+TEST_F(ZelvorCli, AComplaintNamesTheWordThatIsWrongInTheLanguage) {
+    const auto expectComplaint = [this](const QStringList& arguments, const std::string& english,
+                                        const std::string& chinese) {
+        EXPECT_EQ(Run(arguments), 2) << arguments.join(' ').toStdString();
+        EXPECT_EQ(err, "zelvor-cli: " + english + "\nzelvor-cli: Try \"zelvor-cli --help\".\n");
+        EXPECT_EQ(Run(QStringList{"--language", "zh"} + arguments), 2) << arguments.join(' ').toStdString();
+        EXPECT_EQ(err, "zelvor-cli: " + chinese + "\nzelvor-cli: 请试 \"zelvor-cli --help\"。\n");
+    };
+    expectComplaint({}, "a command is required", "缺少命令或参数：命令");
+    expectComplaint({"channels"}, "a command is required", "缺少命令或参数：命令");
+    expectComplaint({"nosuch"}, "there is no command nosuch", "没有命令 nosuch");
+    expectComplaint({"nosuch", "a.dat"}, "there is no command nosuch", "没有命令 nosuch");
+    expectComplaint({"--", "nosuch", "a.dat"}, "there is no command nosuch", "没有命令 nosuch");
+    expectComplaint({"channels", "nosuch"}, "there is no command nosuch", "没有命令 nosuch");
+    expectComplaint({"--foo", "show"}, "there is no option --foo here", "此处没有选项 --foo");
+    expectComplaint({"diff", "--foo", "a.dat"}, "there is no option --foo here", "此处没有选项 --foo");
+    expectComplaint({"check", "a.dat", "--foo"}, "there is no option --foo here", "此处没有选项 --foo");
+    expectComplaint({"ports", "a", "b"}, "not expected: a b", "多余的参数：a b");
+    expectComplaint({"show"}, "FILE is required", "缺少命令或参数：FILE");
+    expectComplaint({"report", "a.dat"}, "--output is required", "缺少命令或参数：--output");
+    expectComplaint({"info", "--port"}, "--port needs a value", "选项 --port 缺少值");
+    expectComplaint({"info", "--port", "21"}, "--port: 21 is outside the range 1 to 20",
+                    "不允许的值：--port：21 超出范围 1 至 20");
+    expectComplaint({"report", "a.dat", "-o", "r.pdf", "--paper", "A3"}, "--paper: A3 is none of {A4,Letter}",
+                    "不允许的值：--paper: A3 不属于 {A4,Letter}");
+    expectComplaint({"report", "a.dat", "-o", "r.pdf", "--paper", "A4", "--paper", "A4"},
+                    "--paper may be given once only", "--paper 只能给出一次");
+}
+
+TEST_F(ZelvorCli, HelpIsAllInTheLanguageAndTellsWhatAnOptionTakes) {
+    EXPECT_EQ(Run({"report", "--help"}), 0);
+    EXPECT_NE(out.find("--paper PAPER:{A4,Letter} "), std::string::npos) << out;
+    EXPECT_EQ(out.find("->"), std::string::npos) << out;
+    for (const QStringList& arguments : {QStringList{"--help"}, {"report", "--help"}, {"channels", "--help"}}) {
+        EXPECT_EQ(Run(QStringList{"--language=zh"} + arguments), 0);
+        EXPECT_NE(out.find("\n选项:\n"), std::string::npos) << out;
+        for (const char* english :
+             {"Options", "OPTIONS", "Subcommands", "SUBCOMMAND", "Positionals", "Usage", "REQUIRED"}) {
+            EXPECT_EQ(out.find(english), std::string::npos) << out;
+        }
+    }
+    EXPECT_NE(out.find("\n命令:\n"), std::string::npos) << out;
 }
 
 TEST_F(ZelvorCli, NewSetGetDiffAndCheckWorkTogether) {
@@ -173,6 +222,29 @@ TEST_F(ZelvorCli, ChannelsGoOutAndIn) {
     EXPECT_EQ(FileContent(folder / "b.dat"), FileContent(folder / "a.dat"));
 }
 
+TEST_F(ZelvorCli, NeverWritesAReportOrATableOverWhatItReads) {
+    MakeNew();
+    const std::string before = FileContent(folder / "a.dat");
+    std::filesystem::create_directory(folder / "d");
+    std::filesystem::create_symlink("a.dat", folder / "link.dat");
+    std::filesystem::create_hard_link(folder / "a.dat", folder / "hard.dat");
+    const QString full = QString::fromStdString((folder / "a.dat").string());
+    for (const QString& other : QStringList{"a.dat", "./a.dat", "d/../a.dat", "link.dat", "hard.dat", full}) {
+        for (const QStringList& arguments : {QStringList{"report", "a.dat", "-o", other},
+                                             {"report", other, "-o", "a.dat"},
+                                             {"channels", "export", "a.dat", "-o", other},
+                                             {"channels", "import", "link.dat", "a.dat", "-o", other}}) {
+            EXPECT_EQ(Run(arguments), 2) << arguments.join(' ').toStdString();
+            EXPECT_TRUE(err.ends_with(": is what the command reads; the output must be another file\n")) << err;
+            EXPECT_EQ(std::ranges::count(err, '\n'), 1);
+            EXPECT_EQ(FileContent(folder / "a.dat"), before);
+        }
+    }
+    PutFile(folder / "c.csv", "channel,rx_mhz\n1,145\n");
+    EXPECT_EQ(Run({"channels", "import", "a.dat", "c.csv", "-o", "link.dat"}), 0) << err; // in place
+    EXPECT_NE(FileContent(folder / "a.dat"), before);
+}
+
 TEST_F(ZelvorCli, ReportNeedsNoDisplay) {
     MakeNew();
     EXPECT_EQ(Run({"report", "a.dat", "-o", "r.pdf", "--section", "scan", "--paper", "Letter"}), 0) << err;
@@ -196,12 +268,39 @@ TEST_F(ZelvorCli, TheLocaleIsTheLanguageUnlessOneIsNamed) {
     EXPECT_TRUE(err.starts_with("zelvor-cli: 缺少命令或参数：")) << err;
 }
 
+TEST_F(ZelvorCli, OfTwoLanguagesTheLastOneCounts) {
+    EXPECT_EQ(Run({"--language", "en", "check", "gone.dat", "--language=zh"}), 3);
+    EXPECT_EQ(err, "zelvor-cli: gone.dat: 无法读取\n");
+    EXPECT_EQ(Run({"--language", "zh", "--language", "en", "check", "gone.dat"}), 3);
+    EXPECT_EQ(err, "zelvor-cli: gone.dat: cannot be read\n");
+}
+
+TEST_F(ZelvorCli, TheVariableLanguageCountsInALocaleThatHasALanguage) {
+    const auto said = [this](const char* locale) {
+        QProcessEnvironment environment = process.processEnvironment();
+        for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+            environment.remove(name);
+        }
+        environment.insert("LC_ALL", locale);
+        environment.insert("LANGUAGE", "zh");
+        process.setProcessEnvironment(environment);
+        EXPECT_EQ(Run({"check", "gone.dat"}), 3);
+        return err;
+    };
+    EXPECT_EQ(said("C"), "zelvor-cli: gone.dat: cannot be read\n");
+    EXPECT_EQ(said("POSIX"), "zelvor-cli: gone.dat: cannot be read\n");
+    EXPECT_EQ(said(""), "zelvor-cli: gone.dat: cannot be read\n");
+    EXPECT_EQ(said("de_DE.UTF-8"), "zelvor-cli: gone.dat: 无法读取\n");
+}
+
 TEST_F(ZelvorCli, TellsOfAStandardOutputThatIsFull) {
     MakeNew();
-    for (const char* command :
-         {"show a.dat", "show a.dat --json", "keys", "get a.dat optional.beep", "channels export a.dat", "ports"}) {
-        EXPECT_EQ(RunInShell(std::string(command) + " >/dev/full"), 3) << command;
-        EXPECT_EQ(err, "zelvor-cli: standard output cannot be written\n") << command;
+    for (const char* command : {"show a.dat", "show a.dat --json", "keys", "get a.dat optional.beep",
+                                "channels export a.dat", "ports", "--help", "show --help", "--version"}) {
+        for (const char* place : {" >/dev/full", " >&-"}) {
+            EXPECT_EQ(RunInShell(std::string(command) + place), 3) << command << place;
+            EXPECT_EQ(err, "zelvor-cli: standard output cannot be written\n") << command << place;
+        }
     }
     EXPECT_EQ(RunInShell("diff a.dat /dev/null >/dev/full"), 3);
 }

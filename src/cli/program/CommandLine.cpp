@@ -5,11 +5,15 @@
 #include <iostream>
 #include <optional>
 #include <span>
+#include <sstream>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include <CLI/CLI.hpp>
+
+#include "cli/program/Complaint.h"
+#include "cli/program/Describing.h"
 
 namespace zelvor::cli {
 
@@ -23,13 +27,8 @@ constexpr TextPair LanguageText{"Language of texts and messages: en or zh; other
                                 "文字和消息的语言：en 或 zh；否则按区域设置"};
 constexpr TextPair HelpText{"Print this help and end", "显示此帮助并退出"};
 constexpr TextPair VersionText{"Print the version and end", "显示版本并退出"};
+constexpr TextPair CommandsText{"Subcommands", "命令"};
 constexpr TextPair TryHelp{"Try \"zelvor-cli --help\".", "请试 \"zelvor-cli --help\"。"};
-
-// What the command line's own reader says, by its kinds of complaint; its details follow in English.
-constexpr TextPair IsMissing{"", "缺少命令或参数："};
-constexpr TextPair IsTooMuch{"", "多余的参数："};
-constexpr TextPair IsNotAllowed{"", "不允许的值："};
-constexpr TextPair IsWrong{"", "命令行有误："};
 
 std::optional<Language> LanguageOfName(std::string_view name) {
     if (name == "zh") {
@@ -38,23 +37,35 @@ std::optional<Language> LanguageOfName(std::string_view name) {
     return name == "en" ? std::optional(Language::English) : std::nullopt;
 }
 
+/// Of texts: the first of these that is set. In this locale LANGUAGE does not count.
+bool IsPosixLocale() {
+    for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+        if (const QByteArray value = qgetenv(name); !value.isEmpty()) {
+            return value == "C" || value == "POSIX";
+        }
+    }
+    return QLocale::system().language() == QLocale::C;
+}
+
 Language LanguageOfLocale() {
+    if (IsPosixLocale()) {
+        return Language::English;
+    }
     return QLocale::system().uiLanguages().value(0).startsWith(u"zh") ? Language::Chinese : Language::English;
 }
 
-/// Before all else, since it is the language of the descriptions too.
+/// Before all else, since it is the language of the descriptions too. The last one counts.
 Language LookForLanguage(int argc, char** argv) {
-    for (int i = 1; i < argc; ++i) {
-        std::string_view argument = argv[i];
+    std::optional<Language> language;
+    for (int i = 1; i < argc && argv[i] != std::string_view("--"); ++i) {
+        const std::string_view argument = argv[i];
         if (argument == LanguageOption && i + 1 < argc) {
-            return LanguageOfName(argv[i + 1]).value_or(LanguageOfLocale());
-        }
-        if (argument.starts_with(LanguageOption) && argument.substr(LanguageOption.size()).starts_with('=')) {
-            argument.remove_prefix(LanguageOption.size() + 1);
-            return LanguageOfName(argument).value_or(LanguageOfLocale());
+            language = LanguageOfName(argv[++i]);
+        } else if (argument.starts_with(LanguageOption) && argument.substr(LanguageOption.size()).starts_with('=')) {
+            language = LanguageOfName(argument.substr(LanguageOption.size() + 1));
         }
     }
-    return LanguageOfLocale();
+    return language.value_or(LanguageOfLocale());
 }
 
 /// The reader takes a name in brackets as a list, and braces as none.
@@ -84,12 +95,12 @@ void NameLabels(CLI::App& app, Language language) {
     if (language == Language::English) {
         return;
     }
+    app.option_defaults()->group(std::string(OptionsText.In(language)));
+    app.group(std::string(CommandsText.In(language)));
     app.get_formatter()->label("Usage", "用法");
     app.get_formatter()->label("OPTIONS", "选项");
-    app.get_formatter()->label("Options", "选项");
     app.get_formatter()->label("SUBCOMMAND", "命令");
     app.get_formatter()->label("SUBCOMMANDS", "命令");
-    app.get_formatter()->label("Subcommands", "命令");
     app.get_formatter()->label("Positionals", "参数");
     app.get_formatter()->label("REQUIRED", "必需");
 }
@@ -100,6 +111,7 @@ void Describe(CLI::App& app, Language language, Action& action, std::string& lan
     app.set_version_flag("--version", "zelvor-cli " ZELVOR_VERSION, std::string(VersionText.In(language)));
     app.add_option(std::string(LanguageOption), languageName, std::string(LanguageText.In(language)))
         ->type_name("LANGUAGE")
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeLast)
         ->check(CLI::IsMember({"en", "zh"}));
     app.require_subcommand(1);
     app.fallthrough();
@@ -109,27 +121,20 @@ void Describe(CLI::App& app, Language language, Action& action, std::string& lan
     AddRadioCommands(app, language, action);
 }
 
-const TextPair& KindOf(const CLI::ParseError& error) {
-    switch (static_cast<CLI::ExitCodes>(error.get_exit_code())) {
-    case CLI::ExitCodes::RequiredError:
-    case CLI::ExitCodes::ArgumentMismatch:
-        return IsMissing;
-    case CLI::ExitCodes::ExtrasError:
-        return IsTooMuch;
-    case CLI::ExitCodes::ValidationError:
-    case CLI::ExitCodes::ConversionError:
-        return IsNotAllowed;
-    default:
-        return IsWrong;
-    }
+void Complain(const CLI::App& app, const CLI::ParseError& error, Language language) {
+    const Console console{std::cout, std::cerr, language};
+    console.Complain(Printable(ComplaintOf(app, error, language)));
+    console.Complain(console.Say(TryHelp));
 }
 
-void Complain(const CLI::ParseError& error, Language language) {
-    std::string complaint = error.what();
-    std::ranges::replace(complaint, '\n', ' ');
-    const Console console{std::cout, std::cerr, language};
-    console.Complain(std::string(KindOf(error).In(language)) + Printable(complaint));
-    std::cerr << TryHelp.In(language) << '\n';
+/// What help and version print, as data like those of any other command.
+Action PrintingOf(const CLI::App& app, const CLI::Success& request) {
+    std::ostringstream text;
+    app.exit(request, text, text);
+    return [text = text.str()](FileStore& /*store*/, const Console& console) {
+        console.out << text;
+        return ExitStatus::Done;
+    };
 }
 
 } // namespace
@@ -142,12 +147,10 @@ CommandLine ReadCommandLine(int argc, char** argv) {
     try {
         app.parse(ArgumentsOf(argc, argv));
     } catch (const CLI::Success& request) {
-        commandLine.action = nullptr;
-        commandLine.exitCode = app.exit(request);
+        commandLine.action = PrintingOf(app, request);
     } catch (const CLI::ParseError& error) {
-        Complain(error, commandLine.language);
+        Complain(app, error, commandLine.language);
         commandLine.action = nullptr;
-        commandLine.exitCode = static_cast<int>(ExitStatus::Usage);
     }
     return commandLine;
 }

@@ -20,12 +20,11 @@ using Action = std::function<ExitStatus(FileStore& store, const Console& console
 
 struct CommandLine {
     Language language = Language::English;
-    Action action;    // empty where the program is to end at once
-    int exitCode = 0; // with this code
+    Action action; // empty where it is wrong
 };
 
-/// Reads the command line. Help and version go to standard output, in the language; a complaint of one line, and where
-/// to read more, to standard error.
+/// Reads the command line. Help and version are actions too. Of a wrong one a line tells what is wrong with it, and
+/// another where to read more.
 [[nodiscard]] CommandLine ReadCommandLine(int argc, char** argv);
 
 // The commands, group by group. Each sets the action when it is given. Both must outlive the reading of the command

@@ -13,6 +13,8 @@
 /// What the descriptions of all commands are made with.
 namespace zelvor::cli {
 
+inline constexpr TextPair OptionsText{"Options", "选项"};
+
 /// A command under its name; what is read into `request` is handed to `run`.
 template<typename Request, typename Run>
 std::shared_ptr<Request> MakeRequest(CLI::App& command, Action& action, Run run) {
@@ -24,7 +26,9 @@ std::shared_ptr<Request> MakeRequest(CLI::App& command, Action& action, Run run)
 }
 
 inline CLI::App& AddCommand(CLI::App& app, const char* name, Language language, const TextPair& text) {
-    return *app.add_subcommand(name, std::string(text.In(language)));
+    CLI::App& command = *app.add_subcommand(name, std::string(text.In(language)));
+    command.get_help_ptr()->group(std::string(OptionsText.In(language))); // the reader gives it no group of ours
+    return command;
 }
 
 inline CLI::Option& AddFile(CLI::App& command, const char* name, std::string& file, Language language,

@@ -1,5 +1,4 @@
 #include <QGuiApplication>
-#include <map>
 
 #include "cli/CheckCommand.h"
 #include "cli/DiffCommand.h"
@@ -78,10 +77,12 @@ void AddReport(CLI::App& app, Language language, Action& action) {
     AddFile(command, "FILE", request->file, language, DataFileText);
     AddFile(command, "-o,--output", request->output, language, ReportOutputText).type_name("PDF");
     AddSections(command, request->sections, ReportSectionNames(), language, SectionText);
-    const std::map<std::string, ReportPaper> papers{{"A4", ReportPaper::A4}, {"Letter", ReportPaper::Letter}};
-    command.add_option("--paper", request->paper, std::string(PaperText.In(language)))
-        ->type_name("A4|Letter")
-        ->transform(CLI::Transformer(papers));
+    const auto choose = [request](const std::string& paper) {
+        request->paper = paper == "Letter" ? ReportPaper::Letter : ReportPaper::A4;
+    };
+    command.add_option_function<std::string>("--paper", choose, std::string(PaperText.In(language)))
+        ->type_name("PAPER")
+        ->check(CLI::IsMember({"A4", "Letter"}));
 }
 
 void AddPorts(CLI::App& app, Language language, Action& action) {

@@ -14,7 +14,7 @@ constexpr zelvor::TextPair NoOutput{"standard output cannot be written", "无法
 /// What the toolkit warns of (a locale without UTF-8, no runtime folder) is nothing to a command.
 void PassOnErrors(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
     if (type == QtCriticalMsg || type == QtFatalMsg) {
-        std::cerr << "zelvor-cli: " << text.toStdString() << '\n';
+        Console{std::cout, std::cerr}.Complain(text.toStdString());
     }
 }
 
@@ -35,5 +35,5 @@ int main(int argc, char** argv) {
     std::ios::sync_with_stdio(false);
     qInstallMessageHandler(PassOnErrors);
     const zelvor::cli::CommandLine commandLine = zelvor::cli::ReadCommandLine(argc, argv);
-    return commandLine.action ? static_cast<int>(Run(commandLine)) : commandLine.exitCode;
+    return static_cast<int>(commandLine.action ? Run(commandLine) : ExitStatus::Usage);
 }
