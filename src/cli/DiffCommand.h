@@ -17,8 +17,8 @@ struct DiffRequest {
     bool json = false;
 };
 
-/// Prints the fields of all sections that show different values, and every byte that differs beside: one that is no
-/// field's, or of fields that show the same all the same. As JSON the values are as `get` has them in English.
+/// Prints the fields of all sections that show different values, and every byte that differs in more than these values
+/// tell. As JSON the values are as `get` has them in English.
 [[nodiscard]] ExitStatus Diff(const DiffRequest& request, FileStore& store, const Console& console);
 
 } // namespace zelvor::cli

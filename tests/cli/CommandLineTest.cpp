@@ -75,6 +75,7 @@ TEST_F(CommandLine, AComplaintNamesTheWordThatIsWrongInTheLanguage) {
     expectComplaint({"check", "a.dat", "--foo"}, "there is no option --foo here", "此处没有选项 --foo");
     expectComplaint({"ports", "a", "b"}, "not expected: a b", "多余的参数：a b");
     expectComplaint({"show"}, "FILE is required", "缺少命令或参数：FILE");
+    expectComplaint({"set"}, "FILE... KEY=VALUE is required", "缺少命令或参数：FILE... KEY=VALUE");
     expectComplaint({"report", "a.dat"}, "--output is required", "缺少命令或参数：--output");
     expectComplaint({"info", "--port"}, "--port needs a value", "选项 --port 缺少值");
     expectComplaint({"info", "--port", "21"}, "--port: 21 is outside the range 1 to 20",

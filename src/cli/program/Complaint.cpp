@@ -39,9 +39,9 @@ std::string Say(const TextPair& text, std::string_view about, Language language)
     return sentence.replace(sentence.find(Place), Place.size(), about);
 }
 
-/// The option or argument that the reader's sentence begins with.
-std::string_view NameIn(std::string_view sentence) {
-    return sentence.substr(0, sentence.find_first_of(": "));
+/// The option or argument that the reader's sentence begins with, before these words.
+std::string_view NameIn(std::string_view sentence, std::string_view before) {
+    return sentence.substr(0, sentence.find(before));
 }
 
 bool IsWaitingForCommand(const CLI::App& app) {
@@ -64,7 +64,8 @@ std::string ComplaintOfUnknown(const CLI::App& app, const std::vector<std::strin
 }
 
 std::string ComplaintOfMissing(const CLI::App& app, std::string_view sentence, Language language) {
-    return Say(IsRequired, IsWaitingForCommand(LastRead(app)) ? Command.In(language) : NameIn(sentence), language);
+    return Say(IsRequired, IsWaitingForCommand(LastRead(app)) ? Command.In(language) : NameIn(sentence, " is required"),
+               language);
 }
 
 std::string ComplaintOfValue(std::string sentence, Language language) {
@@ -87,7 +88,8 @@ std::string ComplaintOf(const CLI::App& app, const CLI::ParseError& error, Langu
         return unknown.empty() ? ComplaintOfMissing(app, sentence, language)
                                : ComplaintOfUnknown(app, unknown, language);
     case CLI::ExitCodes::ArgumentMismatch:
-        return Say(sentence.find("At Most") == std::string::npos ? NeedsValue : GivenTwice, NameIn(sentence), language);
+        return Say(sentence.find("At Most") == std::string::npos ? NeedsValue : GivenTwice, NameIn(sentence, ": "),
+                   language);
     case CLI::ExitCodes::ValidationError:
     case CLI::ExitCodes::ConversionError:
         return ComplaintOfValue(sentence, language);
