@@ -28,12 +28,22 @@ RadioCable::RadioCable(RadioMachine& machine, const RadioRequest& request, const
     state_.CommPortNumber = request.port;
 }
 
-TransferReport RadioCable::Read(Document& document) {
-    return Transfer(document, transfer::Reading, Reading);
+std::optional<DataImage> RadioCable::Read() {
+    return ReadImage(Reading);
 }
 
-TransferReport RadioCable::ReadBack(Document& document) {
-    return Transfer(document, transfer::Reading, ReadingBack);
+std::optional<DataImage> RadioCable::ReadBack() {
+    return ReadImage(ReadingBack);
+}
+
+std::optional<DataImage> RadioCable::ReadImage(const TextPair& what) {
+    Document document;
+    const TransferReport report = Transfer(document, transfer::Reading, what);
+    if (report.end != TransferEnd::Done) {
+        TellFailure(report);
+        return std::nullopt;
+    }
+    return document.Image;
 }
 
 TransferReport RadioCable::Write(Document& document) {

@@ -17,10 +17,10 @@ class RadioCable {
 public:
     RadioCable(RadioMachine& machine, const RadioRequest& request, const Console& console);
 
-    /// Into the document.
-    [[nodiscard]] TransferReport Read(Document& document);
-    /// Reads again what was just written.
-    [[nodiscard]] TransferReport ReadBack(Document& document);
+    /// What the radio holds; nothing, and told, where it cannot be read to its end.
+    [[nodiscard]] std::optional<DataImage> Read();
+    /// The same, of what was just written.
+    [[nodiscard]] std::optional<DataImage> ReadBack();
     [[nodiscard]] TransferReport Write(Document& document);
     /// For another exchange.
     [[nodiscard]] RadioLink Link();
@@ -36,6 +36,7 @@ public:
     void TellFailure(const TransferReport& report) const;
 
 private:
+    [[nodiscard]] std::optional<DataImage> ReadImage(const TextPair& what);
     [[nodiscard]] TransferReport Transfer(Document& document, int mode, const TextPair& what);
 
     RadioMachine& machine_;

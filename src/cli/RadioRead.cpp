@@ -3,7 +3,6 @@
 #include "cli/RadioCable.h"
 #include "cli/RadioFile.h"
 #include "cli/RadioTexts.h"
-#include "data/Document.h"
 
 namespace zelvor::cli {
 
@@ -15,14 +14,12 @@ constexpr TextPair InBackup{"what was read is in the backup {backup}", "所读�
 
 ExitStatus ReadRadio(const ReadRequest& request, RadioMachine& machine, const Console& console) {
     RadioCable cable(machine, request.radio, console);
-    Document document;
-    const TransferReport report = cable.Read(document);
-    if (report.end != TransferEnd::Done) {
-        cable.TellFailure(report);
+    const std::optional<DataImage> image = cable.Read();
+    if (!image) {
         return ExitStatus::NoRadio;
     }
-    const std::optional<std::string> backup = cable.Keep(document.Image, BackupDirection::Read);
-    if (WriteBytes(machine.store, request.output, EncodeDataFile(document.Image), console)) {
+    const std::optional<std::string> backup = cable.Keep(*image, BackupDirection::Read);
+    if (WriteBytes(machine.store, request.output, EncodeDataFile(*image), console)) {
         return ExitStatus::Done;
     }
     if (backup) {

@@ -4,7 +4,6 @@
 #include "cli/RadioComparison.h"
 #include "cli/RadioFile.h"
 #include "cli/RadioTexts.h"
-#include "data/Document.h"
 
 namespace zelvor::cli {
 
@@ -21,14 +20,12 @@ ExitStatus VerifyRadio(const VerifyRequest& request, RadioMachine& machine, cons
         return ExitStatus::File;
     }
     RadioCable cable(machine, request.radio, console);
-    Document document;
-    const TransferReport report = cable.Read(document);
-    if (report.end != TransferEnd::Done) {
-        cable.TellFailure(report);
+    const std::optional<DataImage> image = cable.Read();
+    if (!image) {
         return ExitStatus::NoRadio;
     }
-    cable.Keep(document.Image, BackupDirection::Read);
-    const std::vector<WrongByte> wrong = CompareWithFile(document.Image, file->image);
+    cable.Keep(*image, BackupDirection::Read);
+    const std::vector<WrongByte> wrong = CompareWithFile(*image, file->image);
     for (const WrongByte& byte : wrong) {
         console.out << WrongByteText(byte) << '\n';
     }

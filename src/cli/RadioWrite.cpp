@@ -90,19 +90,17 @@ RadioWrite::Failure RadioWrite::KeepRadio() {
     if (!request_.keepsBackup) {
         return std::nullopt;
     }
-    Document radio;
-    const TransferReport report = cable_.Read(radio);
-    if (report.end != TransferEnd::Done) {
-        cable_.TellFailure(report);
+    const std::optional<DataImage> radio = cable_.Read();
+    if (!radio) {
         Tell(NothingWritten);
         return ExitStatus::NoRadio;
     }
-    const std::optional<std::string> path = cable_.Keep(radio.Image, BackupDirection::Read);
+    const std::optional<std::string> path = cable_.Keep(*radio, BackupDirection::Read);
     if (!path) {
         Tell(NeedsBackup);
         return ExitStatus::File;
     }
-    before_ = radio.Image;
+    before_ = radio;
     backup_ = *path;
     return std::nullopt;
 }
@@ -130,16 +128,14 @@ RadioWrite::Failure RadioWrite::Verify() {
     if (!request_.verifies) {
         return std::nullopt;
     }
-    Document radio;
-    const TransferReport report = cable_.ReadBack(radio);
-    if (report.end != TransferEnd::Done) {
-        cable_.TellFailure(report);
+    const std::optional<DataImage> radio = cable_.ReadBack();
+    if (!radio) {
         Tell(NotReadBack);
         TellWayBack();
         return ExitStatus::NoRadio;
     }
-    cable_.Keep(radio.Image, BackupDirection::Read);
-    const std::vector<WrongByte> wrong = CompareAfterWrite(radio.Image, file_.image, before_);
+    cable_.Keep(*radio, BackupDirection::Read);
+    const std::vector<WrongByte> wrong = CompareAfterWrite(*radio, file_.image, before_);
     if (wrong.empty()) {
         return std::nullopt;
     }

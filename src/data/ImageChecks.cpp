@@ -180,23 +180,40 @@ FaultWeight WeightOf(ImageFault fault) {
 }
 
 std::string TextOf(ImageFault fault, Language language) {
-    constexpr std::array texts = std::to_array<TextPair>(
-        {{"the code is missing that a channel's PTT ID sends", "缺少信道 PTT ID 所发送的代码"},
-         {"the code is missing that a channel's PTT ID sends", "缺少信道 PTT ID 所发送的代码"},
-         {"the priority mode is Fixed, and no channel is chosen", "优先模式为固定，但未选择信道"},
-         {"the model is unknown", "未知机型"},
-         {"the priority channel is not programmed", "优先信道未编程"},
-         {"of the own fleet and the own ID only one is set", "自身队列和自身 ID 只设置了一个"},
-         {"the value is not legal", "值不合法"},
-         {"the frequency is outside 100 to 550 MHz", "频率超出 100 至 550 MHz"},
-         {"the frequency is no multiple of 5 kHz or 6.25 kHz", "频率不是 5 kHz 或 6.25 kHz 的倍数"},
-         {"the frequency is outside the market's range", "频率超出该市场的范围"},
-         {"the channel has no legal SP Unmute", "信道没有合法的 SP 不发音设置"},
-         {"the priority channel is not programmed", "优先信道未编程"},
-         {"the priority mode does not offer this revert channel", "该优先模式下没有此返回信道"},
-         {"of the entry's fleet and ID only one is set", "此条目的队列和 ID 只设置了一个"},
-         {"the channel has an encode tone and no transmit frequency", "信道有编码音而没有发射频率"}});
-    return std::string(texts[static_cast<std::size_t>(fault)].In(language));
+    const auto text = [fault]() -> TextPair {
+        switch (fault) {
+        case ImageFault::MissingBeginCode:
+        case ImageFault::MissingEndCode:
+            return {"the code is missing that a channel's PTT ID sends", "缺少信道 PTT ID 所发送的代码"};
+        case ImageFault::NoPriorityChannel:
+            return {"the priority mode is Fixed, and no channel is chosen", "优先模式为固定，但未选择信道"};
+        case ImageFault::UnknownModel:
+            return {"the model is unknown", "未知机型"};
+        case ImageFault::BlankPriorityChannel:
+        case ImageFault::BlankIdlePriorityChannel:
+            return {"the priority channel is not programmed", "优先信道未编程"};
+        case ImageFault::HalfOwnNumber:
+            return {"of the own fleet and the own ID only one is set", "自身队列和自身 ID 只设置了一个"};
+        case ImageFault::IllegalValue:
+            return {"the value is not legal", "值不合法"};
+        case ImageFault::OutOfRange:
+            return {"the frequency is outside 100 to 550 MHz", "频率超出 100 至 550 MHz"};
+        case ImageFault::OffRaster:
+            return {"the frequency is no multiple of 5 kHz or 6.25 kHz", "频率不是 5 kHz 或 6.25 kHz 的倍数"};
+        case ImageFault::OutOfMarket:
+            return {"the frequency is outside the market's range", "频率超出该市场的范围"};
+        case ImageFault::NoSpUnmute:
+            return {"the channel has no legal SP Unmute", "信道没有合法的 SP 不发音设置"};
+        case ImageFault::RevertNotOffered:
+            return {"the priority mode does not offer this revert channel", "该优先模式下没有此返回信道"};
+        case ImageFault::HalfFleetListEntry:
+            return {"of the entry's fleet and ID only one is set", "此条目的队列和 ID 只设置了一个"};
+        case ImageFault::EncodeWithoutTransmit:
+            return {"the channel has an encode tone and no transmit frequency", "信道有编码音而没有发射频率"};
+        }
+        return {};
+    };
+    return std::string(text().In(language));
 }
 
 std::vector<ImageFinding> CheckImage(const DataImage& image) {
