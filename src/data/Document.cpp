@@ -32,7 +32,7 @@ void Document::Rename(std::string fileName) {
     CurrentFileName = std::move(fileName);
 }
 
-bool Document::IsChanged() {
+bool Document::IsDocumentChanged() {
     SavedImage.Set(address::PttIdType, Image.At(address::PttIdType));
     return Image != SavedImage;
 }

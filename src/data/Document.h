@@ -50,7 +50,7 @@ public:
     [[nodiscard]] const DataImage& Snapshot() const { return SavedImage; }
     /// Whether the image differs from the snapshot. The PTT ID Type is first copied into the snapshot: a change of that
     /// byte alone never counts, and the copy stays.
-    [[nodiscard]] bool IsChanged();
+    [[nodiscard]] bool IsDocumentChanged();
 
 private:
     DataImage SavedImage;

@@ -47,7 +47,7 @@ void CommandExchange::StopCommands() {
 bool CommandExchange::EndCommands() {
     refusing_ = true;
     StopCommands();
-    return !std::exchange(ended_, true);
+    return !std::exchange(CloseDone, true);
 }
 
 bool CommandExchange::IsWaiting(int kind, int argument) const {

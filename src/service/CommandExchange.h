@@ -90,7 +90,7 @@ private:
     std::optional<bool> pttSent_;        // the reply that is due answers a PTT on or a PTT off
     bool mayBeKeyed_ = false;
     bool refusing_ = false;
-    bool ended_ = false;
+    bool CloseDone = false; // by EndCommands
 };
 
 } // namespace zelvor

@@ -193,7 +193,7 @@ bool SessionCommands::QueryExit() {
         return false;
     }
     windows_.ExitConfirmed = true;
-    return !document_.IsChanged() || SaveBeforeExit();
+    return !document_.IsDocumentChanged() || SaveBeforeExit();
 }
 
 bool SessionCommands::SaveBeforeExit() {

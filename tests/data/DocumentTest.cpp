@@ -22,9 +22,9 @@ TEST(Document, StartsWithoutAFileAndWithoutAComplaint) {
 TEST(Document, IsCleanAfterASnapshot) {
     Document document;
     InitAllFrameData(document.Image);
-    EXPECT_TRUE(document.IsChanged());
+    EXPECT_TRUE(document.IsDocumentChanged());
     document.TakeSnapshot();
-    EXPECT_FALSE(document.IsChanged());
+    EXPECT_FALSE(document.IsDocumentChanged());
 }
 
 TEST(Document, CountsAChangeOfAnyByteButThePttIdType) {
@@ -33,7 +33,7 @@ TEST(Document, CountsAChangeOfAnyByteButThePttIdType) {
         InitAllFrameData(document.Image);
         document.TakeSnapshot();
         document.Image.Set(address, static_cast<std::uint8_t>(document.Image.At(address) ^ 0x10));
-        EXPECT_EQ(document.IsChanged(), address != 0x133) << address;
+        EXPECT_EQ(document.IsDocumentChanged(), address != 0x133) << address;
     }
 }
 
@@ -43,7 +43,7 @@ TEST(Document, KeepsTheCopyOfThePttIdTypeInTheSnapshot) {
     document.TakeSnapshot();
     document.Image.Set(0x133, 1);
     document.Image.Set(0x010, 0x25);
-    EXPECT_TRUE(document.IsChanged());
+    EXPECT_TRUE(document.IsDocumentChanged());
     EXPECT_EQ(document.Snapshot().At(0x133), 1);
     EXPECT_EQ(document.Snapshot().At(0x010), 0xFF);
 }

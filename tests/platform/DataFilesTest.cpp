@@ -30,7 +30,7 @@ TEST(DataFile, BringsADocumentBackUnchanged) {
     const DataFileRead read = ReadDataFile(path);
     ASSERT_EQ(read.error, DataFileError::None);
     document.Image = read.image;
-    EXPECT_FALSE(document.IsChanged());
+    EXPECT_FALSE(document.IsDocumentChanged());
     EXPECT_EQ(read.image.ToAddressOrder(), SampleImage().ToAddressOrder());
 }
 

@@ -61,7 +61,7 @@ TEST_F(DocumentCommandsTest, NewAsksAndClearsEverything) {
     EXPECT_EQ(document.Image.At(0x1BE), 0xF8);
     EXPECT_EQ(document.FileName(), "Zelvor.dat");
     EXPECT_EQ(window->windowTitle(), "Zelvor [4618: VHF: 136-174 MHz(M)] [ File Name:Zelvor.dat]");
-    EXPECT_FALSE(document.IsChanged());
+    EXPECT_FALSE(document.IsDocumentChanged());
 }
 
 TEST_F(DocumentCommandsTest, NewIsAskedInChinese) {
@@ -88,11 +88,11 @@ TEST_F(DocumentCommandsTest, NewCancelledChangesNothing) {
 TEST_F(DocumentCommandsTest, NewNeverOffersToSaveAChangedDocument) {
     OpenMainWindow();
     document.Image.Set(0x100, 0x12);
-    ASSERT_TRUE(document.IsChanged());
+    ASSERT_TRUE(document.IsDocumentChanged());
     fakes.messages.Expect(NewQuestion, MessageAnswer::Ok);
     ClickToolbar(1);
     EXPECT_EQ(fakes.messages.Shown().size(), 1U);
-    EXPECT_FALSE(document.IsChanged());
+    EXPECT_FALSE(document.IsDocumentChanged());
 }
 
 TEST_F(DocumentCommandsTest, NewListsTheGridWithoutBlanksRoundTheDash) {
@@ -170,7 +170,7 @@ TEST_F(DocumentCommandsTest, OpenTakesTheFileAsTheDocument) {
     EXPECT_EQ(document.Image.At(0x013), 0x45);
     EXPECT_EQ(document.FileName(), path);
     EXPECT_EQ(window->windowTitle(), "Zelvor [5618: UHF: 450-490 MHz(M)] [ File Name:Fleet.dat]");
-    EXPECT_FALSE(document.IsChanged());
+    EXPECT_FALSE(document.IsDocumentChanged());
     EXPECT_EQ(Cell(1, 1), "450.12500");
     EXPECT_EQ(Cell(2, 1), "");
     EXPECT_EQ(TextOf("MnuWindowSub(0)"), " Channel Information [ Channel-1 ]");

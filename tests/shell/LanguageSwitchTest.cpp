@@ -314,7 +314,7 @@ TEST_F(LanguageSwitchTest, UnsavedChangesStayUnsavedAndNothingIsAsked) {
     SwitchToChinese();
     EXPECT_EQ(document.Image, image);
     EXPECT_EQ(document.Snapshot(), saved);
-    EXPECT_TRUE(document.IsChanged());
+    EXPECT_TRUE(document.IsDocumentChanged());
 }
 
 TEST_F(LanguageSwitchTest, AnEditUnderWayIsStoredInTheLanguageItWasMadeIn) {

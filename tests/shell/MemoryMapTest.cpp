@@ -252,7 +252,7 @@ TEST_F(MemoryMapTest, OkStoresWhatWasTypedAndClosesTheEditors) {
         Click(dialog, "cmdOK");
     });
     EXPECT_EQ(document.Image, expected);
-    EXPECT_TRUE(document.IsChanged());
+    EXPECT_TRUE(document.IsDocumentChanged());
     ExpectOnlyTheGrid();
 }
 
@@ -300,7 +300,7 @@ TEST_F(MemoryMapTest, AChangedMarketMakesABlankDocumentAndDropsEveryOtherEdit) {
     EXPECT_EQ(document.Image.At(0x010), 0xFF);
     EXPECT_EQ(document.Image.At(0x300), 0xFF);
     EXPECT_EQ(document.Image.At(0x283), 0x47); // the first test frequency, 470.05000
-    EXPECT_FALSE(document.IsChanged());
+    EXPECT_FALSE(document.IsDocumentChanged());
     EXPECT_EQ(document.FileName(), "Zelvor.dat");
     EXPECT_EQ(window->windowTitle(), "Zelvor [5618: UHF: 450-490 MHz(M)] [ File Name:Zelvor.dat]");
     EXPECT_EQ(Find<QTableWidget>("ChannelGrid")->item(0, 0)->text(), "");

@@ -176,7 +176,7 @@ TEST_F(ModelTypeFormTest, AnotherMarketRebuildsTheDocument) {
     EXPECT_EQ(document.Image.At(0x281), 0x50);
     EXPECT_EQ(document.Image.At(0x282), 0x10);
     EXPECT_EQ(document.Image.At(0x283), 0x49);
-    EXPECT_FALSE(document.IsChanged());
+    EXPECT_FALSE(document.IsDocumentChanged());
     EXPECT_EQ(document.FileName(), "Zelvor.dat");
     EXPECT_EQ(Title(), "Zelvor [5613: UHF: 470-512 MHz(K2)] [ File Name:Zelvor.dat]");
     EXPECT_EQ(Child("TreeViewForm"), nullptr);
@@ -218,7 +218,7 @@ TEST_F(ModelTypeFormTest, OkWithoutAChangeAsksNothing) {
     document.Image.Set(0x100, 0x12);
     Pick(2, 0);
     EXPECT_EQ(document.Image.At(0x100), 0x12);
-    EXPECT_TRUE(document.IsChanged());
+    EXPECT_TRUE(document.IsDocumentChanged());
 }
 
 TEST_F(ModelTypeFormTest, OkForTheUnlistedMarketWithoutAChangeAsksNothing) {

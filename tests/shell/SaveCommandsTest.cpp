@@ -36,7 +36,7 @@ TEST_F(SaveCommandsTest, SaveOfANewDocumentAsksForAName) {
     EXPECT_EQ(document.FileName(), PathOf("First.dat"));
     EXPECT_EQ(Commands().LastDirectory(), "");
     EXPECT_EQ(window->windowTitle(), "Zelvor [4618: VHF: 136-174 MHz(M)] [ File Name:First.dat]");
-    EXPECT_FALSE(document.IsChanged());
+    EXPECT_FALSE(document.IsDocumentChanged());
 }
 
 TEST_F(SaveCommandsTest, TheNextSaveAsksWhetherToOverwriteThatName) {
@@ -47,7 +47,7 @@ TEST_F(SaveCommandsTest, TheNextSaveAsksWhetherToOverwriteThatName) {
     fakes.messages.Expect(OverwriteQuestion("First.dat"), MessageAnswer::Ok);
     ClickToolbar(3);
     EXPECT_EQ(Content(PathOf("First.dat")), FileOfTheImage());
-    EXPECT_FALSE(document.IsChanged());
+    EXPECT_FALSE(document.IsDocumentChanged());
 }
 
 TEST_F(SaveCommandsTest, OverwritingIsAskedInChinese) {
@@ -68,7 +68,7 @@ TEST_F(SaveCommandsTest, OverwritingRefusedWritesNothing) {
     fakes.messages.Expect(OverwriteQuestion("First.dat"), MessageAnswer::Cancel);
     Choose("MnuFileSave");
     EXPECT_FALSE(fakes.store.Has(PathOf("First.dat")));
-    EXPECT_TRUE(document.IsChanged());
+    EXPECT_TRUE(document.IsDocumentChanged());
 }
 
 TEST_F(SaveCommandsTest, SaveCancelledChangesNothing) {
@@ -77,7 +77,7 @@ TEST_F(SaveCommandsTest, SaveCancelledChangesNothing) {
     fakes.files.ExpectSave({"Zelvor.dat", Filter, ""}, std::nullopt);
     Choose("MnuFileSave");
     EXPECT_EQ(document.FileName(), "Zelvor.dat");
-    EXPECT_TRUE(document.IsChanged());
+    EXPECT_TRUE(document.IsDocumentChanged());
     EXPECT_FALSE(Commands().IsSaveCancelled());
 }
 
@@ -90,7 +90,7 @@ TEST_F(SaveCommandsTest, SaveToAPathThatCannotBeWrittenIsSilentAndKeepsTheSnapsh
     Choose("MnuFileSave");
     EXPECT_TRUE(fakes.messages.Shown().empty());
     EXPECT_EQ(document.Snapshot(), saved);
-    EXPECT_TRUE(document.IsChanged());
+    EXPECT_TRUE(document.IsDocumentChanged());
     EXPECT_EQ(document.FileName(), PathOf("missing/First.dat"));
     EXPECT_EQ(window->windowTitle(), "Zelvor [4618: VHF: 136-174 MHz(M)] [ File Name:Zelvor.dat]");
 }
@@ -107,7 +107,7 @@ TEST_F(SaveCommandsTest, SaveAsStartsFromTheCurrentNameAndRemembersTheFolder) {
     EXPECT_EQ(document.FileName(), PathOf("Second.dat"));
     EXPECT_EQ(Commands().LastDirectory(), QDir(directory.path()).canonicalPath().toStdString());
     EXPECT_FALSE(Commands().IsSaveCancelled());
-    EXPECT_FALSE(document.IsChanged());
+    EXPECT_FALSE(document.IsDocumentChanged());
     EXPECT_EQ(window->windowTitle(), "Zelvor [4618: VHF: 136-174 MHz(M)] [ File Name:Second.dat]");
 
     fakes.files.ExpectSave({PathOf("Second.dat"), Filter, Commands().LastDirectory()}, std::nullopt);
@@ -130,7 +130,7 @@ TEST_F(SaveCommandsTest, SaveAsToAPathThatCannotBeWrittenCountsAsCancelled) {
     fakes.files.ExpectSave({"Zelvor.dat", Filter, ""}, PathOf("missing/Second.dat"));
     Choose("MnuFileSaveAs");
     EXPECT_TRUE(Commands().IsSaveCancelled());
-    EXPECT_TRUE(document.IsChanged());
+    EXPECT_TRUE(document.IsDocumentChanged());
     EXPECT_TRUE(fakes.messages.Shown().empty());
 }
 
@@ -158,7 +158,7 @@ TEST_F(SaveCommandsTest, SaveFromTheToolbarCommitsTheEditInTheGrid) {
     fakes.files.ExpectSave({"Zelvor.dat", Filter, ""}, PathOf("Edited.dat"));
     ClickToolbar(3);
     EXPECT_EQ(Content(PathOf("Edited.dat")).mid(16 + 0x010, 4).toHex(), "00005514");
-    EXPECT_FALSE(document.IsChanged());
+    EXPECT_FALSE(document.IsDocumentChanged());
 }
 
 TEST_F(SaveCommandsTest, SaveByItsShortcutCommitsTheEditInTheGridAndLeavesTheKeyboardThere) {

@@ -65,7 +65,7 @@ TEST_F(StartUpTest, TheSessionStartsCleanWhateverItHeld) {
     EXPECT_FALSE(windows.ExitConfirmed || Commands().IsSaveCancelled());
     EXPECT_EQ(link.SentState, 55);
     EXPECT_EQ(link.CommPortNumber, 1);
-    EXPECT_FALSE(document.IsChanged());
+    EXPECT_FALSE(document.IsDocumentChanged());
 }
 
 TEST_F(StartUpTest, TheGridIsOpenListedAndActive) {

@@ -63,7 +63,7 @@ TEST_F(TransferCommandsTest, AReadBecomesANewDocumentThatCountsAsChanged) {
     EXPECT_EQ(Find<QTableWidget>("ChannelGrid")->item(0, 0)->text(), "450.12500");
     EXPECT_EQ(document.FileName(), "Zelvor.dat");
     EXPECT_EQ(window->windowTitle(), "Zelvor [5618: UHF: 450-490 MHz(M)] [ File Name:Zelvor.dat]");
-    EXPECT_TRUE(document.IsChanged());
+    EXPECT_TRUE(document.IsDocumentChanged());
     EXPECT_FALSE(document.Priority.PriorityChannelError());
     EXPECT_FALSE(document.Flags.OwnIdError);
     EXPECT_FALSE(document.Flags.TxCodeError);
