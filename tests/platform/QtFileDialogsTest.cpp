@@ -259,6 +259,30 @@ TEST_F(QtFileDialogsInUse, OpenATypedNameThatTheFilterDoesNotShow) {
     }
 }
 
+// The first of its folder in every folder on the way: the toolkit mistakes the same row for the same file.
+TEST_F(QtFileDialogsInUse, OpenAPathThatIsTypedLetterByLetter) {
+    ASSERT_TRUE(QDir(folder_.path()).mkpath("a/b/c"));
+    MakeFile("a/b/c/radio.dat");
+    const auto type = [&](QFileDialog& dialog, const char* path) {
+        auto* box = dialog.findChild<QLineEdit*>("fileNameEdit");
+        box->selectAll();
+        for (const char letter : Path(path)) {
+            QTest::keyClick(box, letter);
+            QTest::qWait(5); // the folders on the way are listed meanwhile
+        }
+        QTest::keyClick(box, Qt::Key_Return);
+        const bool isOpen = dialog.isVisible();
+        EXPECT_FALSE(isOpen);
+        if (isOpen) {
+            dialog.reject();
+        }
+    };
+    WithNextDialog<QFileDialog>([&](QFileDialog& dialog) { type(dialog, "a/b/c/radio.dat"); });
+    EXPECT_EQ(dialogs_.Open(Request()), Path("a/b/c/radio.dat"));
+    WithNextDialog<QFileDialog>([&](QFileDialog& dialog) { type(dialog, "a/b/c/fresh.dat"); });
+    EXPECT_EQ(dialogs_.Save(Request()), Path("a/b/c/fresh.dat"));
+}
+
 TEST_F(QtFileDialogsInUse, KeepTheButtonForAFolderAndForNoFile) {
     ASSERT_TRUE(QDir(folder_.path()).mkdir("below"));
     WillLook([](QFileDialog& dialog) {
