@@ -2,6 +2,10 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFileSystemModel>
+#include <QItemSelectionModel>
+#include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QPointer>
 
@@ -11,6 +15,26 @@
 namespace zelvor {
 
 namespace {
+
+/// The toolkit's own dialog selects the folders that a path leads through while it is typed, and forgets some of them:
+/// it then opens such a folder in place of the file.
+void DropFoldersOnTheWay(const QFileDialog& dialog) {
+    auto* name = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    auto* list = dialog.findChild<QListView*>(QStringLiteral("listView")); // the other view has the same selection
+    if (!name || !list) {                                                  // the system's dialog
+        return;
+    }
+    QObject::connect(name, &QLineEdit::textChanged, list, [&dialog, list](const QString& text) {
+        const QString typed = QFileInfo(dialog.directory(), text).absoluteFilePath();
+        QItemSelectionModel* selection = list->selectionModel();
+        for (const QModelIndex& row : selection->selectedRows()) {
+            const QString folder = row.data(QFileSystemModel::FilePathRole).toString();
+            if (typed != folder && typed.startsWith(folder.endsWith(u'/') ? folder : folder + u'/')) {
+                selection->select(row, QItemSelectionModel::Deselect | QItemSelectionModel::Rows);
+            }
+        }
+    });
+}
 
 /// The system's dialog, if it is one, asks about the name that was typed; the toolkit then adds the suffix. So the file
 /// that would be replaced may be another one, and is asked about here. Returns whether the choice stands.
@@ -39,6 +63,7 @@ std::optional<QString> FileQuestion::Ask(const std::function<void(QFileDialog& d
     const QPointer<QFileDialog> dialog = new QFileDialog(DialogParent());
     dialog->setIconProvider(&icons_);
     setUp(*dialog);
+    DropFoldersOnTheWay(*dialog);
     KeepOnScreen(*dialog);
     QString file;
     bool isAsking = true;

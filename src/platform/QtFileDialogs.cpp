@@ -6,11 +6,8 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QFileSystemModel>
-#include <QItemSelectionModel>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListView>
 #include <QPushButton>
 #include <QUrl>
 #include <utility>
@@ -34,26 +31,6 @@ void LetTypedNamesOpen(QFileDialog& dialog) {
         QPushButton* open = buttons->button(QDialogButtonBox::Open);
         if (open && QFileInfo(dialog.directory(), text).isFile()) {
             open->setEnabled(true);
-        }
-    });
-}
-
-/// The toolkit's own dialog selects the folders that a path leads through while it is typed, and forgets some of them:
-/// it then opens such a folder in place of the file.
-void DropFoldersOnTheWay(const QFileDialog& dialog) {
-    auto* name = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-    auto* list = dialog.findChild<QListView*>(QStringLiteral("listView")); // the other view has the same selection
-    if (!name || !list) {                                                  // the system's dialog
-        return;
-    }
-    QObject::connect(name, &QLineEdit::textChanged, list, [&dialog, list](const QString& text) {
-        const QString typed = QFileInfo(dialog.directory(), text).absoluteFilePath();
-        QItemSelectionModel* selection = list->selectionModel();
-        for (const QModelIndex& row : selection->selectedRows()) {
-            const QString folder = row.data(QFileSystemModel::FilePathRole).toString();
-            if (typed != folder && typed.startsWith(folder.endsWith(u'/') ? folder : folder + u'/')) {
-                selection->select(row, QItemSelectionModel::Deselect | QItemSelectionModel::Rows);
-            }
         }
     });
 }
@@ -107,7 +84,6 @@ std::optional<std::string> QtFileDialogs::Ask(const FileDialogRequest& request, 
         dialog.setObjectName(QStringLiteral("dlgFile"));
         setUp(dialog);
         Preset(dialog, request);
-        DropFoldersOnTheWay(dialog);
         LabelLists(dialog);
     });
     if (!file) {
