@@ -8,7 +8,7 @@ namespace zelvor::tour {
 /// What the command line of zelvor-tour asks for.
 struct Options {
     std::string screenshots; // directory; empty for none
-    int timeout = 100;       // seconds for all of the tour
+    int timeout = 300;       // seconds for all of the tour
 };
 
 struct OptionsResult {
