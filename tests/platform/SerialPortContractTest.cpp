@@ -197,6 +197,7 @@ TEST_P(SerialPortContract, RaisesNoEventForALowerThresholdAlone) {
     Count(*port);
     port->SetReceiveThreshold(68);
     bench_->FarEndSends({1, 2});
+    ASSERT_TRUE(bench_->WaitFor([&] { return port->WaitingBytes() == 2; }));
     bench_->Settle();
     port->SetReceiveThreshold(1);
     bench_->Settle();
