@@ -12,8 +12,7 @@ namespace {
 
 QStringList InstalledFolders() {
     const QString program = QCoreApplication::applicationDirPath();
-    return {program + QStringLiteral("/../share/zelvor/help"), program + QStringLiteral("/help"),
-            QStringLiteral(ZELVOR_HELP_SOURCES)};
+    return {program + QStringLiteral("/../share/zelvor/help"), program + QStringLiteral("/help")};
 }
 
 } // namespace
