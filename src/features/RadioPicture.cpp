@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "controls/Picture.h"
 #include "platform/Toolkit.h"
 
 namespace zelvor {
@@ -22,6 +23,7 @@ constexpr TextPair Pf2Name{"The radio, key PF2 marked", "对讲机图，已标�
 } // namespace
 
 RadioPicture::RadioPicture(Language language, QWidget* parent) : QWidget(parent), language_(language) {
+    TellAsPicture(*this);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     Mark(RadioKey::Pf1);
 }

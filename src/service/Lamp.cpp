@@ -1,10 +1,11 @@
 #include "service/Lamp.h"
 
-#include <QAccessibleWidget>
 #include <QPainter>
 #include <QRadialGradient>
 #include <algorithm>
 #include <utility>
+
+#include "controls/Picture.h"
 
 namespace zelvor {
 
@@ -26,17 +27,11 @@ QColor ColorOf(int picture) {
     }
 }
 
-/// Without a role of its own, a lamp would be taken for a part of the window's layout, which is passed over.
-QAccessibleInterface* MakeAccessible(const QString& /*className*/, QObject* object) {
-    auto* lamp = qobject_cast<Lamp*>(object);
-    return lamp ? new QAccessibleWidget(lamp, QAccessible::Graphic) : nullptr;
-}
-
 } // namespace
 
 Lamp::Lamp(const QString& objectName, LampWords words, QWidget* parent) : QWidget(parent), words_(std::move(words)) {
     setObjectName(objectName);
-    QAccessible::installFactory(MakeAccessible); // once, however often it is called
+    TellAsPicture(*this);
     setAccessibleName(words_.name);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     Describe();
