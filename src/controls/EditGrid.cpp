@@ -16,6 +16,7 @@
 
 #include "controls/FilteredLineEdit.h"
 #include "controls/NumbersTo.h"
+#include "platform/SelectionCursor.h"
 
 namespace zelvor {
 
@@ -96,9 +97,7 @@ EditGrid::EditGrid(int rows, int columns, QWidget* parent) : QTableWidget(parent
     corner_->setAttribute(Qt::WA_TransparentForMouseEvents);
     connect(this, &QTableWidget::currentCellChanged, this,
             [this](int row, int column) { emit CursorMoved(row + 1, column + 1); });
-    // Queued: the user's own moves select before they move the cursor.
-    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, &EditGrid::FollowSelection,
-            Qt::QueuedConnection);
+    LetCursorFollowSelection(*this);
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &EditGrid::Scrolled);
     connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, &EditGrid::Scrolled);
     setCurrentCell(0, 0);
@@ -109,15 +108,6 @@ void EditGrid::CatchFocus() {
     const bool onFrame = qobject_cast<const QMdiSubWindow*>(focus) != nullptr && focus->isAncestorOf(this);
     if (isVisible() && (focus == nullptr || onFrame)) {
         setFocus(Qt::OtherFocusReason);
-    }
-}
-
-/// Assistive technology cannot move the cursor nor give the focus: it selects a cell. That then is as good as a click.
-void EditGrid::FollowSelection() {
-    const QModelIndexList selected = selectedIndexes();
-    if (selected.size() == 1 && selected.front() != currentIndex()) {
-        setFocus(Qt::OtherFocusReason);
-        setCurrentIndex(selected.front());
     }
 }
 

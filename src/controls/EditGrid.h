@@ -62,7 +62,6 @@ protected:
     void keyboardSearch(const QString&) override {}
 
 private:
-    void FollowSelection();
     void FitHeaderFont();
     void SetColumnAlignment(int column, Qt::Alignment alignment);
 

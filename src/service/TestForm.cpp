@@ -15,6 +15,7 @@
 #include "controls/FitToScreen.h"
 #include "data/Document.h"
 #include "data/TuneItems.h"
+#include "platform/SelectionCursor.h"
 #include "platform/Services.h"
 #include "platform/Toolkit.h"
 #include "service/Lamp.h"
@@ -143,6 +144,7 @@ void TestForm::BuildItemList() {
     }
     LvwTuneSel_->setFixedWidth(width + ListMargin);
     LvwTuneSel_->setMinimumHeight(TuneItemCount * rowHeight + 2 * LvwTuneSel_->frameWidth());
+    LetCursorFollowSelection(*LvwTuneSel_);
     connect(LvwTuneSel_, &QListWidget::itemSelectionChanged, this, &TestForm::OnItemChosen);
     connect(LvwTuneSel_, &QListWidget::itemDoubleClicked, this, [this] { engine_.Tune(); });
     OnEnter(*LvwTuneSel_, [this] { CmdTune_->click(); }); // disabled until an item is chosen
@@ -248,12 +250,18 @@ void TestForm::OnSignallingChosen(int index) {
 
 void TestForm::OnItemChosen() {
     const QList<QListWidgetItem*> chosen = LvwTuneSel_->selectedItems();
-    if (chosen.isEmpty()) { // a click with Ctrl takes the mark away, and an item stays chosen
-        LvwTuneSel_->currentItem()->setSelected(true);
+    if (chosen.isEmpty()) { // by a click with Ctrl; or another one is about to be chosen
+        QMetaObject::invokeMethod(this, &TestForm::KeepItemChosen, Qt::QueuedConnection);
         return;
     }
     service_.TuneItem = LvwTuneSel_->row(chosen.front()) + 1;
     CmdTune_->setEnabled(true);
+}
+
+void TestForm::KeepItemChosen() {
+    if (LvwTuneSel_->selectedItems().isEmpty()) {
+        LvwTuneSel_->item(service_.TuneItem - 1)->setSelected(true);
+    }
 }
 
 void TestForm::OnWidthPressed(bool wide) {

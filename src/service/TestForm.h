@@ -65,6 +65,7 @@ private:
     void OnChannelChosen(int index);
     void OnSignallingChosen(int index);
     void OnItemChosen();
+    void KeepItemChosen();
     void OnWidthPressed(bool wide);
 
     Document& document_;
