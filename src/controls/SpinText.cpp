@@ -25,6 +25,15 @@ UpDown::UpDown(QWidget* parent) : QAbstractSpinBox(parent) {
     lineEdit()->hide(); // the text is in the box beside it
 }
 
+void UpDown::SetRange(int first, int last) {
+    first_ = first;
+    last_ = last;
+}
+
+void UpDown::TellText(const QString& text) {
+    lineEdit()->setText(text);
+}
+
 /// A step may bring up a message box, which takes the release of the mouse: nothing else would end the repeating.
 void UpDown::EndRepeating() {
     QMouseEvent release(QEvent::MouseButtonRelease, QPointF(), QPointF(), Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
@@ -59,12 +68,14 @@ SpinText::SpinText(const QString& textName, const QString& upDownName, SpinTextR
 
     box_->setObjectName(textName);
     upDown_->setObjectName(upDownName);
+    upDown_->SetRange(rules_.first, rules_.last);
     upDown_->SetValue(rules_.first);
     box_->SetFilter(rules_.filter);
     box_->SetLengthLimit(rules_.lengthLimit);
     box_->SelectAllOnFocus();
     box_->installEventFilter(this);
     connect(upDown_, &UpDown::StepAsked, this, &SpinText::Step);
+    connect(box_, &QLineEdit::textChanged, upDown_, &UpDown::TellText);
     connect(box_, &FilteredLineEdit::EnterPressed, this, [this] { MoveOn(*box_); });
 }
 

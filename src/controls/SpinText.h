@@ -28,16 +28,23 @@ struct SpinTextRules {
     std::function<std::optional<int>(const QString& text, bool up)> step = nullptr;
 };
 
-/// The two buttons of a SpinText, and the value that they step.
+/// The two buttons of a SpinText, and the value that they step. Range and text are for assistive technology.
 class UpDown : public QAbstractSpinBox {
     Q_OBJECT
     Q_PROPERTY(int value READ Value)
+    Q_PROPERTY(int minimum READ First)
+    Q_PROPERTY(int maximum READ Last)
 
 public:
     explicit UpDown(QWidget* parent);
 
     [[nodiscard]] int Value() const { return value_; }
     void SetValue(int value) { value_ = value; }
+    [[nodiscard]] int First() const { return first_; }
+    [[nodiscard]] int Last() const { return last_; }
+    void SetRange(int first, int last);
+    /// What the box beside it shows.
+    void TellText(const QString& text);
 
     void stepBy(int steps) override { emit StepAsked(steps > 0); }
 
@@ -54,6 +61,8 @@ private:
     void EndRepeating();
 
     int value_ = 0;
+    int first_ = 0;
+    int last_ = 0;
 };
 
 /// A text box with an up-down pair: a number of a range, typed or stepped through.

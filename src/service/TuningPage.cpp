@@ -87,6 +87,8 @@ void TuningPage::BuildControls(const QString& suffix, const Texts& texts) {
     txtTuneValue_ = MakeTuneValueBox("txtTuneValue" + suffix, this);
     txtTuneValue_->installEventFilter(this);
     updValue_->setObjectName("updValue" + suffix);
+    updValue_->SetRange(0, Highest);
+    connect(txtTuneValue_, &QLineEdit::textChanged, updValue_, &UpDown::TellText);
     PrgValue_ = MakeTuneValueBar("PrgValue" + suffix, this);
     for (QWidget* control : std::initializer_list<QWidget*>{SldValue_, txtTuneValue_, updValue_, PrgValue_}) {
         control->setAccessibleName(texts.value);
