@@ -232,7 +232,9 @@ void CPUForm::MarkCell(QTableWidgetItem* cell) {
     font.setBold(changed);
     cell->setFont(font);
     cell->setForeground(changed ? palette().link() : QBrush());
-    cell->setToolTip(changed ? ToQString(ChangedByte.In(language_)).arg(stored) : QString());
+    const QString told = changed ? ToQString(ChangedByte.In(language_)).arg(stored) : QString();
+    cell->setToolTip(told);
+    cell->setData(Qt::AccessibleDescriptionRole, told);
 }
 
 void CPUForm::ShowAddress(int row, int column) {
@@ -242,7 +244,7 @@ void CPUForm::ShowAddress(int row, int column) {
 
 void CPUForm::OpenEditor() {
     edit_->Open();
-    txtMemory_->setAccessibleName(lblAddr_->text());
+    txtMemory_->setAccessibleName(lblAddr_->accessibleName());
 }
 
 void CPUForm::OnGridKey(QKeyEvent* event) {
