@@ -20,6 +20,7 @@
 #include "help/HelpHitDelegate.h"
 #include "platform/QtDialogs.h"
 #include "platform/ScreenRoom.h"
+#include "platform/SelectionCursor.h"
 #include "platform/Toolkit.h"
 
 namespace zelvor {
@@ -27,10 +28,13 @@ namespace zelvor {
 namespace {
 
 constexpr TextPair WindowTitle{"Zelvor Help", "Zelvor 帮助"};
+constexpr TextPair ToolbarText{"Toolbar", "工具栏"};
 constexpr TextPair ContentsText{"Contents", "目录"};
 constexpr TextPair ResultsText{"Pages found", "找到的页面"};
 constexpr TextPair PageText{"Help page", "帮助页面"};
 constexpr TextPair SearchText{"Search all pages", "搜索所有页面"};
+constexpr TextPair ClearText{"Clear", "清除"};
+constexpr TextPair FoundPages{"Pages found: %1", "找到的页面：%1"};
 constexpr TextPair NothingText{"No page has these words.", "没有页面包含这些文字。"};
 
 constexpr QSize WindowSize{980, 680};
@@ -109,13 +113,13 @@ void HelpWindow::ConnectActions() {
 }
 
 void HelpWindow::BuildToolbar() {
-    auto* toolbar = addToolBar(QString());
-    toolbar->setObjectName("HelpToolbar");
-    toolbar->setMovable(false);
-    toolbar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    toolbar->addActions({actions_.back, actions_.forward, actions_.home});
-    toolbar->addSeparator();
-    toolbar->addActions({actions_.zoomOut, actions_.zoomReset, actions_.zoomIn});
+    toolbar_ = addToolBar(QString());
+    toolbar_->setObjectName("HelpToolbar");
+    toolbar_->setMovable(false);
+    toolbar_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    toolbar_->addActions({actions_.back, actions_.forward, actions_.home});
+    toolbar_->addSeparator();
+    toolbar_->addActions({actions_.zoomOut, actions_.zoomReset, actions_.zoomIn});
 }
 
 QWidget* HelpWindow::BuildSidePanel() {
@@ -138,6 +142,7 @@ void HelpWindow::BuildLists() {
     lists_->addWidget(contents_);
     lists_->addWidget(results_);
     for (QListWidget* list : {contents_, results_}) {
+        LetCursorFollowSelection(*list);
         connect(list, &QListWidget::currentItemChanged, this, &HelpWindow::OpenItem);
         connect(list, &QListWidget::itemActivated, this, [this] { page_->setFocus(); });
     }
@@ -187,11 +192,16 @@ void HelpWindow::ApplyTexts() {
     setAccessibleName(text(WindowTitle));
     search_->setPlaceholderText(text(SearchText));
     search_->setAccessibleName(text(SearchText));
+    search_->findChild<QToolButton*>()->setAccessibleName(text(ClearText));
     search_->setToolTip(text(SearchText) + QStringLiteral(" (Ctrl+F)"));
     contents_->setAccessibleName(text(ContentsText));
     results_->setAccessibleName(text(ResultsText));
     page_->setAccessibleName(text(PageText));
     actions_.ApplyTexts(book_->BookLanguage());
+    toolbar_->setAccessibleName(text(ToolbarText));
+    for (QAction* action : {actions_.zoomOut, actions_.zoomReset, actions_.zoomIn}) { // they show a mark
+        toolbar_->widgetForAction(action)->setAccessibleName(action->text());
+    }
 }
 
 void HelpWindow::FollowPage(const QUrl& url) {
@@ -231,6 +241,7 @@ void HelpWindow::Search() {
     UpdateMarkActions();
     FillResults(book_ ? book_->Search(search_->text()) : std::vector<HelpHit>());
     lists_->setCurrentWidget(words.isEmpty() ? contents_ : results_);
+    search_->setAccessibleDescription(words.isEmpty() ? QString() : FoundText());
 }
 
 void HelpWindow::FillResults(const std::vector<HelpHit>& hits) {
@@ -249,8 +260,18 @@ void HelpWindow::FillResults(const std::vector<HelpHit>& hits) {
     SelectShownPage(*results_);
 }
 
+bool HelpWindow::HasResults() const {
+    return results_->item(0)->flags() != Qt::NoItemFlags;
+}
+
+/// The list beside the search box is out of sight of a screen reader.
+QString HelpWindow::FoundText() const {
+    return HasResults() ? ToQString(FoundPages.In(book_->BookLanguage())).arg(results_->count())
+                        : results_->item(0)->text();
+}
+
 void HelpWindow::EnterResults() {
-    if (lists_->currentWidget() == results_ && results_->item(0)->flags() != Qt::NoItemFlags) {
+    if (lists_->currentWidget() == results_ && HasResults()) {
         results_->setFocus(Qt::TabFocusReason);
         const QSignalBlocker block(results_);
         results_->setCurrentRow(0);

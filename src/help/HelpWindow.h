@@ -11,6 +11,7 @@ class QLineEdit;
 class QListWidget;
 class QListWidgetItem;
 class QStackedWidget;
+class QToolBar;
 
 namespace zelvor {
 
@@ -47,11 +48,14 @@ private:
 
     void Search();
     void FillResults(const std::vector<HelpHit>& hits);
+    [[nodiscard]] bool HasResults() const;
+    [[nodiscard]] QString FoundText() const;
     void EnterResults();
     void LeaveSearchOrClose();
     void UpdateMarkActions();
     void StayUsable();
 
+    QToolBar* toolbar_ = nullptr;
     HelpBrowser* page_ = nullptr;
     QLineEdit* search_ = nullptr;
     QListWidget* contents_ = nullptr;

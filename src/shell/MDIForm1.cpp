@@ -15,6 +15,7 @@
 #include "platform/LayoutUnits.h"
 #include "platform/ScreenRoom.h"
 #include "platform/Services.h"
+#include "platform/Toolkit.h"
 #include "service/ServiceState.h"
 #include "shell/ChildWindowRows.h"
 #include "shell/ChildWindows.h"
@@ -153,6 +154,7 @@ void MDIForm1::InitAllFrameData() {
 void MDIForm1::ApplyMenuCaptions() {
     menus_->ApplyCaptions(state_.windows.LanguageFlag);
     toolbar1_->ApplyToolTips(state_.windows.LanguageFlag);
+    statusBar1_->setAccessibleName(SpokenName(ToQString(state_.windows.LoadText(Text::MenuStatusBar))));
 }
 
 void MDIForm1::ApplyLanguage() {

@@ -11,6 +11,7 @@
 #include "help/HelpViewer.h"
 #include "platform/Clock.h"
 #include "platform/LayoutUnits.h"
+#include "platform/SelectionCursor.h"
 #include "platform/Services.h"
 #include "platform/Toolkit.h"
 #include "shell/ChildWindowRows.h"
@@ -47,7 +48,10 @@ void TreeViewForm::BuildControls() {
     treView_ = new QTreeWidget(Content());
     treView_->setObjectName("treView");
     treView_->setAccessibleName(windowTitle());
+    treView_->setHeaderLabel(windowTitle()); // for assistive technology
     treView_->setHeaderHidden(true);
+    // Where rows are selected, the toolkit lets assistive technology select the row before the one that was asked for.
+    treView_->setSelectionBehavior(QAbstractItemView::SelectItems);
     treView_->setGeometry(LaidOut(QRect(Margin, Margin, TreeWidth, ButtonTop - 2 * Margin)));
     treView_->installEventFilter(this);
     treView_->viewport()->installEventFilter(this);
@@ -79,6 +83,7 @@ void TreeViewForm::BuildTree() {
     }
     root->setExpanded(true);
     treView_->setCurrentItem(root);
+    LetCursorFollowSelection(*treView_);
 }
 
 bool TreeViewForm::eventFilter(QObject* watched, QEvent* event) {
