@@ -7,9 +7,9 @@
 namespace zelvor {
 namespace {
 
-using wire::Acknowledge;
-using wire::End;
-using wire::IdentityRequest;
+using command::Acknowledge;
+using command::End;
+using command::IdentityRequest;
 
 constexpr std::uint8_t Read = 'R';
 constexpr std::uint8_t Write = 'W'; // also heads the reply to a read

@@ -9,13 +9,13 @@
 /// What the radio's modes have in common.
 namespace zelvor {
 
-namespace wire {
+namespace command {
 
 inline constexpr std::uint8_t IdentityRequest = 0x02;
 inline constexpr std::uint8_t Acknowledge = 0x06;
 inline constexpr std::uint8_t End = 'E';
 
-} // namespace wire
+} // namespace command
 
 /// The radio's side of one of its modes. RadioResponder finds the entry of the mode among the bytes of the line.
 class ModeResponder : public Responder {

@@ -9,9 +9,9 @@
 namespace zelvor {
 namespace {
 
-using wire::Acknowledge;
-using wire::End;
-using wire::IdentityRequest;
+using command::Acknowledge;
+using command::End;
+using command::IdentityRequest;
 
 constexpr std::uint8_t TuningDataRequest = 0x05;
 constexpr std::uint8_t PointRequest = 0x07;
