@@ -200,7 +200,11 @@ void BeginChannel(DataImage& image, int channel, std::string_view receive) {
     SetScanAdd(image, channel, texts.ScanAddText == TableText(English, Text::Yes));
 }
 
+/// A legal frequency can be stored again also where the model has narrower limits for a new one.
 bool ParseFrequency(const ChannelField& field, std::string_view text, DataImage& image) {
+    if (HoldsLegalValue(field, image) && IsNumberOnShow(text, ShowValue(field, image, Language::English))) {
+        return true;
+    }
     const TypedFrequency typed = text.empty() ? TypedFrequency{} : ReadTypedFrequency(text, SetBandLimits(image));
     if (typed.fault != FrequencyFault::None) {
         return false;

@@ -45,4 +45,8 @@ bool IsPlainNumber(std::string_view text) {
     return AreDigits(decimals) && decimals.size() <= static_cast<std::size_t>(Decimal::Places);
 }
 
+bool IsNumberOnShow(std::string_view text, std::string_view shown) {
+    return IsPlainNumber(text) && IsPlainNumber(shown) && Decimal::Leading(text) == Decimal::Leading(shown);
+}
+
 } // namespace zelvor

@@ -25,4 +25,7 @@ struct TypedFrequency {
 /// Whether a text is digits with at most one point between them, no longer than a Decimal keeps exactly.
 [[nodiscard]] bool IsPlainNumber(std::string_view text);
 
+/// Whether a typed text is the number that a field shows.
+[[nodiscard]] bool IsNumberOnShow(std::string_view text, std::string_view shown);
+
 } // namespace zelvor

@@ -138,6 +138,9 @@ bool ParseValue(const TestFrequencyField& field, std::string_view text, DataImag
         EraseTestChannel(image, field.channel);
         return true;
     }
+    if (HoldsLegalValue(field, image) && IsNumberOnShow(typed, ShowValue(field, image, Language::English))) {
+        return true; // also where the model has narrower limits for a new one
+    }
     const TypedFrequency frequency = ReadTypedFrequency(typed, SetBandLimits(image));
     if (frequency.fault != FrequencyFault::None) {
         return false;

@@ -215,6 +215,14 @@ TEST_F(ChannelSheetTest, BringsTheChannelsOfAnyLegalImageIntoAnyOther) {
     }
 }
 
+TEST_F(ChannelSheetTest, AFrequencyOutsideANarrowerRangeGoesBackAsItIs) {
+    DataImage image = Programmed();
+    testing::StoreHex(image, 0x020, "0000004500000045"); // 450 MHz
+    image.Set(0x1BE, 0xFF);                              // of a family that takes 136 to 174 MHz
+    EXPECT_TRUE(Imported(ExportChannels(image), image) == image);
+    EXPECT_EQ(Faults("channel,rx_mhz\n2,451\n", image).size(), 1U);
+}
+
 /// What the bytes of a value without a word are, a table cannot say; so its own table leaves them.
 TEST_F(ChannelSheetTest, OfAnyImageWithLegalFrequenciesAndTonesItsOwnTableChangesNothing) {
     constexpr unsigned Seed = 77;

@@ -202,7 +202,8 @@ TEST(Field, ATestFrequencyLiesOnTheRasterAndTheFirstOfAChannelBecomesBoth) {
     ASSERT_TRUE(receive.Parse("400", image));
     EXPECT_EQ(receive.Show(image, En), "400.00000");
     image.Set(0x1BE, 0xFF); // without a model the limits are 136 to 174 MHz
-    EXPECT_FALSE(receive.Parse("400", image));
+    EXPECT_FALSE(receive.Parse("401", image));
+    EXPECT_TRUE(receive.Parse("400", image)); // which it shows
     ASSERT_TRUE(transmit.Parse("", image));
     EXPECT_EQ(receive.Show(image, En), "");
 }
