@@ -1,0 +1,50 @@
+#pragma once
+
+#include <memory>
+
+#include "FuzzImages.h"
+#include "SpoiltRadio.h"
+#include "data/Document.h"
+#include "link/CloneEngine.h"
+#include "link/CloneFrames.h"
+
+namespace zelvor::fuzz {
+
+/// A transfer between a document and a spoilt radio, from the dialog's opening to its closing.
+class CloneFuzz : private CloneObserver {
+public:
+    /// transferMode is one of transfer::Reading and transfer::Writing.
+    CloneFuzz(FuzzInput& input, int transferMode);
+
+    /// Runs it, and looks at what every transfer has to keep to.
+    void Run();
+
+    [[nodiscard]] bool IsCompleted() const { return completed_ == 1; }
+    [[nodiscard]] const DataImage& Image() const { return document_.Image; }
+    [[nodiscard]] const SpoiltRadio& Radio() const { return radio_; }
+    [[nodiscard]] const FuzzedUser& User() const { return user_; }
+
+private:
+    void OnProgress(int value) override;
+    void OnButtonsEnabled(bool /*enabled*/) override {}
+    void OnStandstill() override {}
+    void OnTransferDone() override {}
+    void OnReadCompleted() override { ++completed_; }
+    void OnWriteCompleted() override { ++completed_; }
+    void OnUnloadRequested() override;
+
+    FuzzInput& input_;
+    FakeClock clock_;
+    FakeSerialPorts ports_;
+    SpoiltRadio radio_{input_, clock_, ports_};
+    FuzzedUser user_{input_, clock_, radio_};
+    Document document_;
+    LinkState link_;
+    std::unique_ptr<SerialPort> port_ = ports_.Make("MSComm1");
+    Language language_;
+    CloneEngine engine_;
+    int completed_ = 0;
+    int unloads_ = 0;
+};
+
+} // namespace zelvor::fuzz

@@ -1,0 +1,77 @@
+// Writing to a radio that answers with any bytes at any time.
+
+#include "CloneFuzz.h"
+#include "Require.h"
+#include "data/MemoryMap.h"
+
+namespace zelvor::fuzz {
+namespace {
+
+using Command = std::vector<std::uint8_t>;
+
+bool IsPacket(const Command& command) {
+    const bool isOther = command == Command{'P', 'R', 'O', 'G', 'R', 'A', 'M'} || command == Command{0x02} ||
+                         command == Command{0x06} || command == Command{'E'};
+    Require(isOther || (command.size() > 4 && command[0] == 'W' && command.size() == 4U + command[3]),
+            "a write sends commands of a write");
+    return !isOther;
+}
+
+/// Neither the tuning values, nor the last 192 bytes.
+bool IsWritten(int address) {
+    return address < 0x180 || (address >= 0x1B8 && address < 0x340);
+}
+
+/// Byte 12 of the first 17 records is set by every write.
+bool IsPrepared(int address) {
+    return address % 16 == 12 && address <= 0x10C;
+}
+
+void CheckPacket(const Command& packet, const DataImage& image) {
+    const int first = packet[1] * 256 + packet[2];
+    for (int i = 0; i < packet[3]; ++i) {
+        Require(IsWritten(first + i), "a packet keeps to what a write sends");
+        Require(first == 0 || packet[4 + static_cast<std::size_t>(i)] == image.At(first + i),
+                "a packet has the image's bytes");
+    }
+}
+
+void CheckWrite(const CloneFuzz& transfer, const DataImage& before, const DataImage& memory) {
+    const DataImage& image = transfer.Image();
+    int packets = 0;
+    for (const Command& command : transfer.Radio().Commands()) {
+        if (IsPacket(command)) {
+            ++packets;
+            CheckPacket(command, image);
+        }
+    }
+    for (int address = 0; address < 0x400; ++address) {
+        Require((packets > 0 && IsPrepared(address)) || image.At(address) == before.At(address),
+                "a write prepares its own bytes of the image only");
+        Require(IsWritten(address) || transfer.Radio().Memory.At(address) == memory.At(address),
+                "a write leaves the radio's other bytes");
+        const bool isImages = address >= 0x10 && IsWritten(address);
+        Require(!transfer.IsCompleted() || !transfer.Radio().IsUnspoilt() || !isImages ||
+                    transfer.Radio().Memory.At(address) == image.At(address),
+                "a write without a fault brings the image to the radio");
+    }
+    Require(!transfer.IsCompleted() || packets >= 49, "a completed write has sent all packets");
+    const bool isOtherModel = memory.At(address::Market) != before.At(address::Market);
+    Require(packets == 0 || !isOtherModel || transfer.User().HasAgreed() || !transfer.Radio().IsUnspoilt(),
+            "another model is written with the user's word only");
+}
+
+} // namespace
+} // namespace zelvor::fuzz
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t count) {
+    using namespace zelvor;
+    using namespace zelvor::fuzz;
+    FuzzInput input(bytes, count);
+    CloneFuzz transfer(input, transfer::Writing);
+    const DataImage before = transfer.Image();
+    const DataImage memory = transfer.Radio().Memory;
+    transfer.Run();
+    CheckWrite(transfer, before, memory);
+    return 0;
+}

@@ -1,0 +1,83 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <vector>
+
+#include "FuzzInput.h"
+#include "data/DataImage.h"
+#include "fakes/FakeClock.h"
+#include "fakes/FakeSerialPort.h"
+#include "platform/MessageBoxes.h"
+#include "simulator/RadioResponder.h"
+
+namespace zelvor::fuzz {
+
+/// A simulated radio at the far end of the fake ports, whose replies the input spoils: it says how many of them come as
+/// they are, and what becomes of the next. Behind the input's end all come as they are.
+class SpoiltRadio {
+public:
+    SpoiltRadio(FuzzInput& input, FakeClock& clock, FakeSerialPorts& ports);
+    SpoiltRadio(const SpoiltRadio&) = delete;
+    SpoiltRadio& operator=(const SpoiltRadio&) = delete;
+
+    DataImage Memory;
+
+    /// Hands the radio bytes before the exchange, whose replies nobody gets.
+    void Prepare(std::span<const std::uint8_t> bytes);
+    /// Whether every reply so far has come whole, unchanged and soon.
+    [[nodiscard]] bool IsUnspoilt() const { return isUnspoilt_; }
+    /// All that was sent, a command each.
+    [[nodiscard]] const std::vector<std::vector<std::uint8_t>>& Commands() const { return commands_; }
+    /// The cable is plugged in again.
+    void PlugIn() { ports_.Present(1); }
+
+private:
+    void Serve(std::span<const std::uint8_t> command);
+    [[nodiscard]] std::vector<std::uint8_t> ReplyTo(std::span<const std::uint8_t> command);
+    void Spoil(std::vector<std::uint8_t> reply);
+    void Deliver(int milliseconds, std::vector<std::uint8_t> bytes);
+
+    FuzzInput& input_;
+    FakeClock& clock_;
+    FakeSerialPorts& ports_;
+    RadioResponder responder_{Memory};
+    std::vector<std::vector<std::uint8_t>> commands_;
+    int wholeReplies_ = 0; // still to come before one is spoilt
+    int next_ = -1;        // what becomes of that; -1 where the input has not told
+    bool isUnspoilt_ = true;
+};
+
+/// The user in front of the boxes: his answers are the input's, and Cancel behind its end.
+class FuzzedUser : public MessageBoxes {
+public:
+    FuzzedUser(FuzzInput& input, FakeClock& clock, SpoiltRadio& radio) : input_(input), clock_(clock), radio_(radio) {}
+
+    MessageAnswer Show(const Message& message) override;
+
+    [[nodiscard]] int Retries() const { return retries_; }
+    /// Whether he has answered Cancel to anything.
+    [[nodiscard]] bool HasGivenUp() const { return hasGivenUp_; }
+    /// Whether he has wanted a radio of another model to be written.
+    [[nodiscard]] bool HasAgreed() const { return hasAgreed_; }
+
+private:
+    FuzzInput& input_;
+    FakeClock& clock_;
+    SpoiltRadio& radio_;
+    int retries_ = 0;
+    bool hasGivenUp_ = false;
+    bool hasAgreed_ = false;
+};
+
+/// Lets time go by until the exchange is over; it has to be before so many milliseconds.
+template<typename IsOver>
+[[nodiscard]] bool RunsToItsEnd(FakeClock& clock, int milliseconds, IsOver isOver) {
+    constexpr int Step = 50;
+    for (; milliseconds > 0 && !isOver(); milliseconds -= Step) {
+        clock.Advance(Step);
+    }
+    return isOver();
+}
+
+} // namespace zelvor::fuzz
