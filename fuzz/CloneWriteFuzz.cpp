@@ -9,9 +9,11 @@ namespace {
 
 using Command = std::vector<std::uint8_t>;
 
+const Command Entry{'P', 'R', 'O', 'G', 'R', 'A', 'M'};
+const Command End{'E'};
+
 bool IsPacket(const Command& command) {
-    const bool isOther = command == Command{'P', 'R', 'O', 'G', 'R', 'A', 'M'} || command == Command{0x02} ||
-                         command == Command{0x06} || command == Command{'E'};
+    const bool isOther = command == Entry || command == Command{0x02} || command == Command{0x06} || command == End;
     Require(isOther || (command.size() > 4 && command[0] == 'W' && command.size() == 4U + command[3]),
             "a write sends commands of a write");
     return !isOther;
@@ -27,6 +29,13 @@ bool IsPrepared(int address) {
     return address % 16 == 12 && address <= 0x10C;
 }
 
+/// A radio of family 33 is taken on its market alone.
+bool IsOtherModel(const DataImage& memory, const DataImage& image) {
+    const int family = memory.At(address::Family);
+    return memory.At(address::Market) != image.At(address::Market) ||
+           (family != 0x33 && family != image.At(address::Family));
+}
+
 void CheckPacket(const Command& packet, const DataImage& image) {
     const int first = packet[1] * 256 + packet[2];
     for (int i = 0; i < packet[3]; ++i) {
@@ -39,12 +48,19 @@ void CheckPacket(const Command& packet, const DataImage& image) {
 void CheckWrite(const CloneFuzz& transfer, const DataImage& before, const DataImage& memory) {
     const DataImage& image = transfer.Image();
     int packets = 0;
+    int behindEnd = -1; // no End so far
     for (const Command& command : transfer.Radio().Commands()) {
+        behindEnd += behindEnd >= 0 ? 1 : 0;
+        behindEnd = command == End && behindEnd < 0 ? 0 : behindEnd;
         if (IsPacket(command)) {
             ++packets;
+        }
+        if (IsPacket(command) && behindEnd < 0) {
             CheckPacket(command, image);
         }
     }
+    Require(behindEnd <= 0 || (behindEnd == 1 && transfer.User().HasGivenUp()),
+            "behind an End there is at most the repeated command of one who has given up");
     for (int address = 0; address < 0x400; ++address) {
         Require((packets > 0 && IsPrepared(address)) || image.At(address) == before.At(address),
                 "a write prepares its own bytes of the image only");
@@ -56,8 +72,8 @@ void CheckWrite(const CloneFuzz& transfer, const DataImage& before, const DataIm
                 "a write without a fault brings the image to the radio");
     }
     Require(!transfer.IsCompleted() || packets >= 49, "a completed write has sent all packets");
-    const bool isOtherModel = memory.At(address::Market) != before.At(address::Market);
-    Require(packets == 0 || !isOtherModel || transfer.User().HasAgreed() || !transfer.Radio().IsUnspoilt(),
+    Require(packets == 0 || !IsOtherModel(memory, before) || transfer.User().HasAgreed() ||
+                !transfer.Radio().IsUnspoilt(),
             "another model is written with the user's word only");
 }
 

@@ -1,5 +1,6 @@
 // What zelvor-cli does with a radio, which answers with any bytes at any time.
 
+#include <algorithm>
 #include <sstream>
 
 #include "FuzzImages.h"
@@ -84,8 +85,17 @@ private:
         const bool isDone = kind_ % 4 == 0 && status == cli::ExitStatus::Done;
         Require(store_.Has(Output) == isDone, "a file is written where a read is done, and only then");
         Require(!isDone || store_.Content(Output).size() == DataFileSize, "a read writes a whole file");
+        Require(!isDone || IsReadToItsEnd(), "a read that is done has asked for all blocks");
         Require(!isDone || !radio_.IsUnspoilt() || store_.Content(Output) == ContentOf(memory),
                 "a read without a fault brings the radio's memory");
+    }
+
+    /// The last commands of a read: the last block, once more, and the End.
+    [[nodiscard]] bool IsReadToItsEnd() const {
+        const std::vector<std::uint8_t> block{'R', 0x03, 0xC0, 0x40};
+        const std::vector<std::vector<std::uint8_t>> last{block, {0x06}, block, {0x06}, {'E'}};
+        const auto& commands = radio_.Commands();
+        return commands.size() > last.size() && std::equal(last.rbegin(), last.rend(), commands.rbegin());
     }
 
     /// Nothing is written to a radio whose memory is not kept.

@@ -21,7 +21,8 @@ public:
     explicit SimulatorFuzz(FuzzInput& input) : input_(input), memory_(TakeImage(input)) {
         for (int faults = input.TakeByte() % 4; faults > 0; --faults) {
             const auto kind = static_cast<FaultKind>(input.TakeByte() % 6);
-            faults_.Add({kind, 1 + input.TakeByte(), 1 + input.TakeByte()});
+            const int value = 1 + input.TakeByte();
+            faults_.Add({kind, value, 1 + input.TakeByte() % LastFaultyReply});
         }
     }
 
@@ -90,7 +91,7 @@ private:
     void SessionStarted() override {}
     void SessionEnded() override {}
 
-    static constexpr int LastFaultyReply = 257;
+    static constexpr int LastFaultyReply = 16;
 
     FuzzInput& input_;
     DataImage memory_;
