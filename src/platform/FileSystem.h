@@ -3,13 +3,42 @@
 #include <QFile>
 #include <QString>
 #include <filesystem>
+#include <functional>
+#include <optional>
+#include <string_view>
 
 namespace zelvor {
 
-// What the toolkit's file classes leave to each system.
+// What the toolkit's file classes, and the standard library's, leave to each system. The standard library opens no long
+// path on Windows, and counts a file's names wrong there: nobody else looks at files by its means.
+
+/// The path that a text in UTF-8 spells. On Windows it is a full one; empty for the name of a device, which stands in
+/// every folder there.
+[[nodiscard]] std::filesystem::path FilePathOf(std::string_view text);
 
 /// The path as the toolkit wants it.
 [[nodiscard]] QString ToolkitName(const std::filesystem::path& path);
+
+/// What a symbolic link says; nothing where the path leads to none.
+[[nodiscard]] std::optional<std::filesystem::path> LinkTarget(const std::filesystem::path& path);
+
+enum class FileState {
+    Missing,
+    Writable,
+    ReadOnly, // for all; of the rights of single users it does not tell
+};
+
+/// Of what stands behind the path, and behind a link there.
+[[nodiscard]] FileState StateOf(const std::filesystem::path& path);
+
+/// Whether nothing has this name, not even a link that leads nowhere.
+[[nodiscard]] bool IsNameFree(const std::filesystem::path& path);
+
+void ForEachName(const std::filesystem::path& folder,
+                 const std::function<void(const std::filesystem::path& name)>& tell);
+
+/// Whether two paths lead to one file, whatever its names. False where one leads nowhere.
+[[nodiscard]] bool LeadToSameFile(std::string_view left, std::string_view right);
 
 /// Opens a file that exists, without waiting, and only where it is a regular one.
 [[nodiscard]] bool OpenRegularFile(QFile& file, const std::filesystem::path& path, QIODevice::OpenMode mode);
@@ -18,14 +47,17 @@ namespace zelvor {
 [[nodiscard]] bool HasOtherNames(const QFile& file);
 
 /// Makes owner, group, rights, access lists and extended attributes of one file those of another. False where
-/// something of it cannot be had.
+/// something of it cannot be had. Where PutInPlace does it, this does nothing.
 [[nodiscard]] bool TakeOverBelongings(const QFile& from, QFileDevice& to);
 
 /// Forces the content onto the disk. False where the disk did not take it.
 [[nodiscard]] bool SyncFile(QFileDevice& file);
 
-/// Forces a renaming within the folder onto the disk, where the system can.
-void SyncFolder(const std::filesystem::path& folder);
+/// Gives a closed file the name of another one in its folder, which it replaces in one step, and forces that onto the
+/// disk, where the system can. False leaves both where they are: another program may have the old file open.
+[[nodiscard]] bool PutInPlace(const std::filesystem::path& fresh, const std::filesystem::path& target);
+
+void RemoveFile(const std::filesystem::path& path);
 
 /// Tells other processes, as long as it lives, that this one is at work on the file. The file may be closed meanwhile.
 class FileClaim {

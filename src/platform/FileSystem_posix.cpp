@@ -2,7 +2,9 @@
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <system_error>
 #include <unistd.h>
+#include <utility>
 
 #include "platform/ExtendedAttributes.h"
 #include "platform/FileSystem.h"
@@ -10,6 +12,8 @@
 namespace zelvor {
 
 namespace {
+
+namespace fs = std::filesystem;
 
 constexpr mode_t RightsBits = 07777;
 
@@ -31,10 +35,57 @@ int OpenRegular(const std::filesystem::path& path, int flags) {
     return descriptor;
 }
 
+void SyncFolder(const fs::path& folder) {
+    const int descriptor = open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor >= 0) {
+        [[maybe_unused]] const int ignored = fsync(descriptor);
+        close(descriptor);
+    }
+}
+
 } // namespace
+
+std::filesystem::path FilePathOf(std::string_view text) {
+    return text;
+}
 
 QString ToolkitName(const std::filesystem::path& path) {
     return QFile::decodeName(path.c_str());
+}
+
+std::optional<std::filesystem::path> LinkTarget(const std::filesystem::path& path) {
+    std::error_code error;
+    fs::path target = fs::read_symlink(path, error);
+    return error ? std::nullopt : std::optional(std::move(target));
+}
+
+FileState StateOf(const std::filesystem::path& path) {
+    std::error_code error;
+    const fs::file_status status = fs::status(path, error);
+    if (status.type() == fs::file_type::not_found) {
+        return FileState::Missing;
+    }
+    constexpr fs::perms AnyWrite = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+    return (status.permissions() & AnyWrite) == fs::perms::none ? FileState::ReadOnly : FileState::Writable;
+}
+
+bool IsNameFree(const std::filesystem::path& path) {
+    std::error_code error;
+    return !fs::exists(fs::symlink_status(path, error));
+}
+
+void ForEachName(const std::filesystem::path& folder,
+                 const std::function<void(const std::filesystem::path& name)>& tell) {
+    std::error_code error;
+    for (auto entry = fs::directory_iterator(folder.empty() ? fs::path(".") : folder, error);
+         !error && entry != fs::directory_iterator(); entry.increment(error)) {
+        tell(entry->path().filename());
+    }
+}
+
+bool LeadToSameFile(std::string_view left, std::string_view right) {
+    std::error_code missing; // then they are not the same
+    return fs::equivalent(FilePathOf(left), FilePathOf(right), missing);
 }
 
 bool OpenRegularFile(QFile& file, const std::filesystem::path& path, QIODevice::OpenMode mode) {
@@ -73,12 +124,19 @@ bool SyncFile(QFileDevice& file) {
     return file.flush() && (fsync(file.handle()) == 0 || (errno != EIO && errno != ENOSPC && errno != EDQUOT));
 }
 
-void SyncFolder(const std::filesystem::path& folder) {
-    const int descriptor = open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (descriptor >= 0) {
-        [[maybe_unused]] const int ignored = fsync(descriptor);
-        close(descriptor);
+bool PutInPlace(const std::filesystem::path& fresh, const std::filesystem::path& target) {
+    std::error_code error;
+    fs::rename(fresh, target, error);
+    if (error) {
+        return false;
     }
+    SyncFolder(target.parent_path());
+    return true;
+}
+
+void RemoveFile(const std::filesystem::path& path) {
+    std::error_code ignored;
+    fs::remove(path, ignored);
 }
 
 FileClaim::FileClaim(QFileDevice& file) : descriptor_(fcntl(file.handle(), F_DUPFD_CLOEXEC, 0)) {

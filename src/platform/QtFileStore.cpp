@@ -5,7 +5,6 @@
 #include <filesystem>
 #include <random>
 #include <regex>
-#include <system_error>
 
 #include "platform/FileSystem.h"
 
@@ -19,41 +18,27 @@ using Bytes = std::span<const std::uint8_t>;
 
 constexpr qint64 CopyBlock = 64 * 1024;
 
-fs::path PathOf(const std::string& path) {
-    return {std::u8string(path.begin(), path.end())};
-}
-
 /// The file behind a chain of links, which need not exist; nothing for links in a circle.
 std::optional<fs::path> FollowLinks(fs::path path) {
     constexpr int MostLinks = 40;
-    std::error_code error;
     for (int i = 0; i < MostLinks; ++i) {
-        if (!fs::is_symlink(fs::symlink_status(path, error))) {
+        const std::optional<fs::path> target = LinkTarget(path);
+        if (!target) {
             return path;
         }
-        const fs::path target = fs::read_symlink(path, error);
-        if (error) {
-            return std::nullopt;
-        }
-        path = path.parent_path() / target;
+        path = path.parent_path() / *target;
     }
     return std::nullopt;
-}
-
-bool IsReadOnly(fs::perms permissions) {
-    constexpr fs::perms AnyWrite = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
-    return (permissions & AnyWrite) == fs::perms::none;
 }
 
 /// A name beside the target that no file has: only within one folder is the last step, the renaming, indivisible.
 fs::path UnusedNameBeside(const fs::path& target) {
     std::random_device random;
-    std::error_code ignored;
     fs::path path;
     do {
         const std::uint64_t number = (static_cast<std::uint64_t>(random()) << 32U) | random();
         path = target.parent_path() / (".zelvor-" + std::to_string(number) + ".tmp");
-    } while (fs::exists(fs::symlink_status(path, ignored)));
+    } while (!IsNameFree(path));
     return path;
 }
 
@@ -65,14 +50,12 @@ bool IsLeftoverName(const std::string& name) {
 }
 
 void SweepLeftovers(const fs::path& folder) {
-    std::error_code error;
-    for (auto entry = fs::directory_iterator(folder.empty() ? fs::path(".") : folder, error);
-         !error && entry != fs::directory_iterator(); entry.increment(error)) {
-        const std::u8string name = entry->path().filename().u8string();
-        if (IsLeftoverName(std::string(name.begin(), name.end()))) {
-            RemoveUnclaimedFile(entry->path());
+    ForEachName(folder, [&folder](const fs::path& name) {
+        const std::u8string text = name.u8string();
+        if (IsLeftoverName(std::string(text.begin(), text.end()))) {
+            RemoveUnclaimedFile(folder / name);
         }
-    }
+    });
 }
 
 bool WriteBytes(QFileDevice& file, Bytes bytes) {
@@ -102,7 +85,7 @@ enum class Replacement {
 };
 
 /// old is open where there is a file to replace.
-Replacement ReplaceFile(const fs::path& target, QFile& old, Bytes bytes, FileTail tail) {
+Replacement ReplaceWhole(const fs::path& target, QFile& old, Bytes bytes, FileTail tail) {
     const fs::path name = UnusedNameBeside(target);
     QSaveFile file(ToolkitName(name));
     if (!file.open(QIODevice::WriteOnly)) {
@@ -120,14 +103,10 @@ Replacement ReplaceFile(const fs::path& target, QFile& old, Bytes bytes, FileTai
         return Replacement::Failed;
     }
     old.close(); // an open file cannot be replaced everywhere
-    std::error_code error;
-    fs::rename(name, target, error);
-    if (error) {
-        std::error_code ignored;
-        fs::remove(name, ignored);
+    if (!PutInPlace(name, target)) {
+        RemoveFile(name);
         return Replacement::NotPossible;
     }
-    SyncFolder(target.parent_path());
     return Replacement::Done;
 }
 
@@ -153,7 +132,7 @@ bool WriteInPlace(QFile& file, Bytes bytes, FileTail tail) {
 
 std::optional<std::vector<std::uint8_t>> QtFileStore::Read(const std::string& path, std::size_t atMost) {
     QFile file;
-    if (!OpenRegularFile(file, PathOf(path), QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+    if (!OpenRegularFile(file, FilePathOf(path), QIODevice::ReadOnly | QIODevice::Unbuffered)) {
         return std::nullopt;
     }
     std::vector<std::uint8_t> bytes(atMost);
@@ -174,23 +153,22 @@ std::optional<std::vector<std::uint8_t>> QtFileStore::Read(const std::string& pa
 }
 
 bool QtFileStore::Write(const std::string& path, std::span<const std::uint8_t> bytes, FileTail tail) {
-    const std::optional<fs::path> target = FollowLinks(PathOf(path));
+    const std::optional<fs::path> target = FollowLinks(FilePathOf(path));
     if (!target || !target->has_filename()) {
         return false;
     }
-    std::error_code error;
-    const fs::file_status status = fs::status(*target, error);
-    const bool exists = status.type() != fs::file_type::not_found;
+    const FileState state = StateOf(*target);
+    const bool exists = state != FileState::Missing;
     QFile old;
     // The bits are looked at as well, since an administrator can open a read-only file.
-    if (exists && (IsReadOnly(status.permissions()) || !OpenRegularFile(old, *target, ForUpdate))) {
+    if (exists && (state == FileState::ReadOnly || !OpenRegularFile(old, *target, ForUpdate))) {
         return false;
     }
     SweepLeftovers(target->parent_path());
     if (exists && HasOtherNames(old)) {
         return WriteInPlace(old, bytes, tail);
     }
-    switch (ReplaceFile(*target, old, bytes, tail)) {
+    switch (ReplaceWhole(*target, old, bytes, tail)) {
     case Replacement::Done:
         return true;
     case Replacement::Failed:

@@ -1,4 +1,3 @@
-#include <filesystem>
 #include <gtest/gtest.h>
 #include <string>
 #include <vector>
@@ -11,6 +10,7 @@ namespace zelvor {
 namespace {
 
 using testing::FileContent;
+using testing::PathOfUtf8;
 using testing::PutFile;
 using testing::TestDirectory;
 using testing::Utf8;
@@ -33,12 +33,9 @@ struct RealMachine {
     TestDirectory directory;
     QtFileStore store;
 
-    [[nodiscard]] std::string Path(const char* name) const {
-        return Utf8(directory /
-                    std::filesystem::path(std::u8string(name, name + std::char_traits<char>::length(name))));
-    }
-    void Put(const char* name, const std::string& content) const { PutFile(Path(name), content); }
-    [[nodiscard]] std::string Content(const char* name) const { return FileContent(Path(name)); }
+    [[nodiscard]] std::string Path(const char* name) const { return Utf8(directory / PathOfUtf8(name)); }
+    void Put(const char* name, const std::string& content) const { PutFile(PathOfUtf8(Path(name)), content); }
+    [[nodiscard]] std::string Content(const char* name) const { return FileContent(PathOfUtf8(Path(name))); }
     [[nodiscard]] std::string RefusedPath() const { return Path("no folder/a.dat"); }
 };
 

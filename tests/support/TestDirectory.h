@@ -50,11 +50,15 @@ inline std::string Utf8(const std::filesystem::path& path) {
     return {text.begin(), text.end()};
 }
 
+inline std::filesystem::path PathOfUtf8(const std::string& text) {
+    return std::u8string(text.begin(), text.end());
+}
+
 /// Names of the entries of a directory, in order.
 inline std::vector<std::string> EntriesOf(const std::filesystem::path& directory) {
     std::vector<std::string> names;
     for (const auto& entry : std::filesystem::directory_iterator(directory)) {
-        names.push_back(entry.path().filename().string());
+        names.push_back(Utf8(entry.path().filename()));
     }
     std::sort(names.begin(), names.end());
     return names;
