@@ -8,4 +8,9 @@ bool IsStandardErrorTerminal() {
     return ::isatty(STDERR_FILENO) != 0;
 }
 
+struct StandardOutput::Console {};
+
+StandardOutput::StandardOutput() = default;
+StandardOutput::~StandardOutput() = default;
+
 } // namespace zelvor

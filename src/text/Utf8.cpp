@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <utility>
 
 namespace zelvor {
 namespace {
@@ -109,6 +110,17 @@ std::u16string Utf16Of(std::string_view text) {
         Append(utf16, valid ? character : Replacement);
     }
     return utf16;
+}
+
+std::size_t WholeCharacters(std::string_view text) {
+    constexpr std::size_t MostFollowing = 3;
+    for (std::size_t behind = 1; behind <= MostFollowing && behind <= text.size(); ++behind) {
+        const auto byte = static_cast<unsigned char>(text[text.size() - behind]);
+        if ((byte & 0xC0) != 0x80) { // the first one of the last character
+            return std::cmp_less_equal(behind, HeadOf(byte).following) ? text.size() - behind : text.size();
+        }
+    }
+    return text.size();
 }
 
 } // namespace zelvor

@@ -33,5 +33,26 @@ TEST(Utf8, PutsAReplacementInPlaceOfWhatIsNoText) {
     EXPECT_EQ(Utf8Of(std::u16string_view(u"\xDC00", 1)), "\xEF\xBF\xBD");
 }
 
+TEST(WholeCharacters, AreAllOfATextThatEndsWithOne) {
+    EXPECT_EQ(WholeCharacters(""), 0u);
+    EXPECT_EQ(WholeCharacters("a"), 1u);
+    EXPECT_EQ(WholeCharacters("é"), 2u);
+    EXPECT_EQ(WholeCharacters("信道"), 6u);
+    EXPECT_EQ(WholeCharacters("a\xF0\x9F\x98\x80"), 5u);
+}
+
+TEST(WholeCharacters, LeaveOutOneThatIsNotComplete) {
+    EXPECT_EQ(WholeCharacters("\xC3"), 0u);
+    EXPECT_EQ(WholeCharacters("a\xE4"), 1u);
+    EXPECT_EQ(WholeCharacters("a\xE4\xBF"), 1u);
+    EXPECT_EQ(WholeCharacters("信\xF0\x9F\x98"), 3u);
+}
+
+TEST(WholeCharacters, CountWhatNothingCanCompleteAsItIs) {
+    EXPECT_EQ(WholeCharacters("a\xFF"), 2u);
+    EXPECT_EQ(WholeCharacters("\x80\x80\x80\x80"), 4u);
+    EXPECT_EQ(WholeCharacters("a\x80"), 2u);
+}
+
 } // namespace
 } // namespace zelvor

@@ -55,14 +55,14 @@ Language LanguageOfLocale() {
 }
 
 /// Before all else, since it is the language of the descriptions too. The last one counts.
-Language LookForLanguage(int argc, char** argv) {
+Language LookForLanguage(std::span<const std::string> words) {
     std::optional<Language> language;
-    for (int i = 1; i < argc && argv[i] != std::string_view("--"); ++i) {
-        const std::string_view argument = argv[i];
-        if (argument == LanguageOption && i + 1 < argc) {
-            language = LanguageOfName(argv[++i]);
-        } else if (argument.starts_with(LanguageOption) && argument.substr(LanguageOption.size()).starts_with('=')) {
-            language = LanguageOfName(argument.substr(LanguageOption.size() + 1));
+    for (std::size_t i = 0; i < words.size() && words[i] != "--"; ++i) {
+        const std::string_view word = words[i];
+        if (word == LanguageOption && i + 1 < words.size()) {
+            language = LanguageOfName(words[++i]);
+        } else if (word.starts_with(LanguageOption) && word.substr(LanguageOption.size()).starts_with('=')) {
+            language = LanguageOfName(word.substr(LanguageOption.size() + 1));
         }
     }
     return language.value_or(LanguageOfLocale());
@@ -75,16 +75,16 @@ bool IsMisread(std::string_view argument) {
 
 /// As the reader wants them, the last one first. A file whose name it would take for something else gets its folder;
 /// so does one with a hyphen behind "--", which the reader lets no command have behind its first file.
-std::vector<std::string> ArgumentsOf(int argc, char** argv) {
+std::vector<std::string> ForReader(std::span<const std::string> words) {
     std::vector<std::string> arguments;
     bool areFiles = false;
-    for (const std::string_view argument : std::span(argv, static_cast<std::size_t>(argc)).subspan(1)) {
-        if (!areFiles && argument == "--") {
+    for (const std::string& word : words) {
+        if (!areFiles && word == "--") {
             areFiles = true;
-        } else if (IsMisread(argument) || (areFiles && argument.starts_with('-'))) {
-            arguments.push_back("./" + std::string(argument));
+        } else if (IsMisread(word) || (areFiles && word.starts_with('-'))) {
+            arguments.push_back("./" + word);
         } else {
-            arguments.emplace_back(argument);
+            arguments.push_back(word);
         }
     }
     std::ranges::reverse(arguments);
@@ -107,6 +107,7 @@ void NameLabels(CLI::App& app, Language language) {
 
 void Describe(CLI::App& app, Language language, Action& action, std::string& languageName) {
     NameLabels(app, language);
+    app.allow_windows_style_options(false); // a word that begins with a slash is a file, on every system
     app.set_help_flag("-h,--help", std::string(HelpText.In(language)));
     app.set_version_flag("--version", "zelvor-cli " ZELVOR_VERSION, std::string(VersionText.In(language)));
     app.add_option(std::string(LanguageOption), languageName, std::string(LanguageText.In(language)))
@@ -139,13 +140,13 @@ Action PrintingOf(const CLI::App& app, const CLI::Success& request) {
 
 } // namespace
 
-CommandLine ReadCommandLine(int argc, char** argv) {
-    CommandLine commandLine{.language = LookForLanguage(argc, argv), .action = {}};
+CommandLine ReadCommandLine(std::span<const std::string> words) {
+    CommandLine commandLine{.language = LookForLanguage(words), .action = {}};
     std::string languageName;
     CLI::App app(std::string(Summary.In(commandLine.language)), "zelvor-cli");
     Describe(app, commandLine.language, commandLine.action, languageName);
     try {
-        app.parse(ArgumentsOf(argc, argv));
+        app.parse(ForReader(words));
     } catch (const CLI::Success& request) {
         commandLine.action = PrintingOf(app, request);
     } catch (const CLI::ParseError& error) {

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <functional>
+#include <span>
+#include <string>
 
 #include "cli/Console.h"
 #include "cli/ExitStatus.h"
@@ -23,9 +25,9 @@ struct CommandLine {
     Action action; // empty where it is wrong
 };
 
-/// Reads the command line. Help and version are actions too. Of a wrong one a line tells what is wrong with it, and
-/// another where to read more.
-[[nodiscard]] CommandLine ReadCommandLine(int argc, char** argv);
+/// Reads the command line, which is told without the program's name. Help and version are actions too. Of a wrong one a
+/// line tells what is wrong with it, and another where to read more.
+[[nodiscard]] CommandLine ReadCommandLine(std::span<const std::string> words);
 
 // The commands, group by group. Each sets the action when it is given. Both must outlive the reading of the command
 // line.

@@ -1,5 +1,4 @@
 #include <QCoreApplication>
-#include <csignal>
 #include <iostream>
 
 #include "cli/BackupCommands.h"
@@ -13,6 +12,7 @@
 #include "platform/QtClock.h"
 #include "platform/QtFolder.h"
 #include "platform/QtSerialPorts.h"
+#include "platform/StopRequest.h"
 #include "platform/Terminal.h"
 
 namespace zelvor::cli {
@@ -40,19 +40,6 @@ constexpr TextPair OverwriteText{"Write also where the radio is another model th
 constexpr int LastPort = 20;
 constexpr int MostRetries = 1000;
 
-volatile std::sig_atomic_t isStopRequested = 0;
-
-/// The next signal of the kind ends the program as usual.
-void RequestStop(int signal) {
-    isStopRequested = 1;
-    std::signal(signal, SIG_DFL);
-}
-
-void CatchStopSignals() {
-    std::signal(SIGINT, RequestStop);
-    std::signal(SIGTERM, RequestStop);
-}
-
 /// Runs a command with the machine's port, time and backups, on an event loop.
 template<typename Request>
 ExitStatus RunOnMachine(ExitStatus (*run)(const Request& request, RadioMachine& machine, const Console& console),
@@ -67,8 +54,8 @@ ExitStatus RunOnMachine(ExitStatus (*run)(const Request& request, RadioMachine& 
     RadioProgress none;
     RadioProgressBar bar(std::cerr);
     RadioProgress& progress = IsStandardErrorTerminal() ? bar : none;
-    CatchStopSignals();
-    RadioMachine machine{ports, clock, store, backups, progress, [] { return isStopRequested != 0; }};
+    CatchStopRequests();
+    RadioMachine machine{ports, clock, store, backups, progress, IsStopRequested};
     return run(request, machine, console);
 }
 

@@ -2,7 +2,9 @@
 #include <iostream>
 
 #include "cli/program/CommandLine.h"
+#include "platform/Arguments.h"
 #include "platform/QtFileStore.h"
+#include "platform/Terminal.h"
 
 namespace {
 
@@ -33,7 +35,8 @@ ExitStatus Run(const zelvor::cli::CommandLine& commandLine) {
 
 int main(int argc, char** argv) {
     std::ios::sync_with_stdio(false);
+    const zelvor::StandardOutput output;
     qInstallMessageHandler(PassOnErrors);
-    const zelvor::cli::CommandLine commandLine = zelvor::cli::ReadCommandLine(argc, argv);
+    const zelvor::cli::CommandLine commandLine = zelvor::cli::ReadCommandLine(zelvor::ArgumentsOf(argc, argv));
     return static_cast<int>(commandLine.action ? Run(commandLine) : ExitStatus::Usage);
 }
