@@ -1,13 +1,17 @@
 #include "platform/DevicePresence.h"
 
-#include <QSerialPortInfo>
+#include <QSerialPort>
+#include <windows.h>
 
 namespace zelvor {
 
 bool HasDevice(const QSerialPort& port) {
-    return !QSerialPortInfo(port).isNull();
+    DCB settings{};
+    settings.DCBlength = sizeof settings;
+    return GetCommState(port.handle(), &settings) != 0;
 }
 
+// The reading that always waits in the driver fails where the device goes, and the port reports that.
 std::unique_ptr<QObject> WatchDevice(const QSerialPort&, std::function<void()>) {
     return nullptr;
 }

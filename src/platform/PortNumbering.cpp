@@ -153,6 +153,18 @@ PortNumbering::Holder* PortNumbering::GoneHolderBySerialNumber(const UsbIdentity
     return only;
 }
 
+std::vector<MachinePort> WithoutDialIn(std::vector<MachinePort> ports) {
+    constexpr std::string_view dialIn = "tty.";
+    constexpr std::string_view callOut = "cu.";
+    const std::vector<MachinePort> all = ports;
+    std::erase_if(ports, [&](const MachinePort& port) {
+        return port.name.starts_with(dialIn) &&
+               std::ranges::find(all, std::string(callOut) + port.name.substr(dialIn.size()), &MachinePort::name) !=
+                   all.end();
+    });
+    return ports;
+}
+
 PortNumbers NumbersByName(std::span<const MachinePort> ports) {
     PortNumbers numbers;
     for (const MachinePort& port : ports) {

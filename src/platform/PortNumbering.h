@@ -74,6 +74,10 @@ private:
     std::map<int, Holder> holders_;
 };
 
+/// Without the ports "tty.X" beside which there is a "cu.X": a Mac tells each device twice, and the former waits for a
+/// modem to answer.
+[[nodiscard]] std::vector<MachinePort> WithoutDialIn(std::vector<MachinePort> ports);
+
 /// On systems whose ports are named COM1, COM2 and so on: the number is the name's.
 [[nodiscard]] PortNumbers NumbersByName(std::span<const MachinePort> ports);
 

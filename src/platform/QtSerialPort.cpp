@@ -6,6 +6,7 @@
 #include "platform/DevicePresence.h"
 #include "platform/LowLatency.h"
 #include "platform/PortAccess.h"
+#include "platform/PortEvents.h"
 #include "platform/Toolkit.h"
 
 namespace zelvor {
@@ -91,6 +92,7 @@ void QtSerialPort::Close() {
 }
 
 void QtSerialPort::ClearInput() {
+    TakeInWithoutEventLoop(); // what the driver has handed over already
     if (port_.isOpen()) {
         port_.clear(QSerialPort::Input);
     }
@@ -100,7 +102,7 @@ void QtSerialPort::ClearInput() {
 
 void QtSerialPort::ClearOutput() {
     if (port_.isOpen()) {
-        port_.clear(QSerialPort::Output);
+        DropUnsent(port_);
     }
 }
 
@@ -120,6 +122,9 @@ int QtSerialPort::WaitingBytes() const {
 
 void QtSerialPort::Send(std::span<const std::uint8_t> bytes) {
     if (port_.isOpen()) {
+        NoteWhatIsSent(port_);
+    }
+    if (port_.isOpen()) {
         port_.write(reinterpret_cast<const char*>(bytes.data()), static_cast<qint64>(bytes.size()));
         port_.flush(); // or the bytes would wait for the event loop
     }
@@ -136,7 +141,7 @@ void QtSerialPort::TakeIn() const {
 
 void QtSerialPort::TakeInWithoutEventLoop() const {
     if (port_.isOpen()) {
-        port_.waitForReadyRead(0); // closes the port where its device has just gone
+        TakeInArrivals(port_); // closes the port where its device has just gone
     }
     if (port_.isOpen()) {
         TakeIn();
@@ -162,12 +167,21 @@ void QtSerialPort::OnError(QSerialPort::SerialPortError error) {
     if (!port_.isOpen()) {
         return;
     }
-    if (error == QSerialPort::ResourceError) {
+    switch (error) {
+    case QSerialPort::ResourceError:
         CloseWithoutDevice();
-    } else if (error == QSerialPort::ReadError) {
+        break;
+    case QSerialPort::ReadError:
         // A notification whose bytes were read or cleared before it came is reported in the same words as a device that
         // is gone.
+    case QSerialPort::WriteError:
+    case QSerialPort::PermissionError: // drivers of Windows have many words for it
+    case QSerialPort::DeviceNotFoundError:
+    case QSerialPort::UnknownError:
         CloseIfDeviceIsGone();
+        break;
+    default: // of the asking, and not of the device
+        break;
     }
 }
 

@@ -25,6 +25,12 @@ constexpr bool HasNumberedPorts = true;
 constexpr bool HasNumberedPorts = false;
 #endif
 
+/// What the user knows the port by. Where ports have numbers of their own the full path says no more than the name,
+/// which the toolkit opens as well, above COM9 too.
+QString DevicePathOf(const QSerialPortInfo& info) {
+    return HasNumberedPorts ? info.portName() : info.systemLocation();
+}
+
 std::string TargetOf(const QFileInfo& link) {
     const QString device = link.canonicalFilePath(); // empty where nothing is there
     return FromQString(device.isEmpty() ? link.symLinkTarget() : device);
@@ -50,11 +56,11 @@ std::vector<MachinePort> PortsOfMachine() {
         const QString name = info.portName();
         ports.push_back(
             {.name = FromQString(name),
-             .description = {FromQString(info.systemLocation()), FromQString(info.description())},
+             .description = {FromQString(DevicePathOf(info)), FromQString(info.description())},
              .isUsb = info.hasVendorIdentifier() || IsUsbByName(name),
              .identity = {info.vendorIdentifier(), info.productIdentifier(), FromQString(info.serialNumber())}});
     }
-    return ports;
+    return WithoutDialIn(std::move(ports));
 }
 
 QtSerialPorts::QtSerialPorts(std::function<std::vector<MachinePort>()> askMachine)

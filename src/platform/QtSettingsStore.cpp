@@ -38,6 +38,9 @@ bool QtSettingsStore::Exists() {
 }
 
 void QtSettingsStore::Create() {
+    if (Exists()) {
+        return;
+    }
     QSettings key(Location() + QStringLiteral(R"(\BackUp)"), QSettings::NativeFormat);
     key.setValue("LastModel", QString()); // a key is made with its first value
     key.remove("LastModel");

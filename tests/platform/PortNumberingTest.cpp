@@ -218,6 +218,17 @@ TEST(PortNumbers, ThoseOfNumberedSystemsAreTheirNames) {
     EXPECT_EQ(DevicesOf(NumbersByName(ports)), (Devices{{3, "\\\\.\\COM3"}, {12, "\\\\.\\COM12"}}));
 }
 
+TEST(PortNumbers, TheDialInSideOfADeviceHasNone) {
+    std::vector<std::string> names;
+    for (const MachinePort& port : WithoutDialIn({{"cu.usbserial-1", {"/dev/cu.usbserial-1", ""}, true},
+                                                  {"tty.usbserial-1", {"/dev/tty.usbserial-1", ""}, true},
+                                                  {"tty.alone", {"/dev/tty.alone", ""}, true},
+                                                  {"ttyUSB0", {"/dev/ttyUSB0", ""}, true}})) {
+        names.push_back(port.name);
+    }
+    EXPECT_EQ(names, (std::vector<std::string>{"cu.usbserial-1", "tty.alone", "ttyUSB0"}));
+}
+
 TEST(PortNames, AreComAndANumberFrom1To20) {
     EXPECT_EQ(NumberOfPortName("COM1"), 1);
     EXPECT_EQ(NumberOfPortName("COM20"), 20);
