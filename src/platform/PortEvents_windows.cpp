@@ -13,7 +13,7 @@ namespace zelvor {
 
 namespace {
 
-constexpr int LongestReading = 5; // milliseconds, of bytes that the driver has
+constexpr int LongestReading = 20; // milliseconds, of bytes that the driver has
 
 /// What the driver has reported waits as calls of objects that the port owns.
 void DeliverReports(QSerialPort& port) {
@@ -41,7 +41,7 @@ void TakeInArrivals(QSerialPort& port) {
     waited.start();
     DeliverReports(port); // that bytes have come; then the port reads them, which is reported as well
     while (port.isOpen() && mustRead && (!hasRead || DriverHasBytes(port)) && !waited.hasExpired(LongestReading)) {
-        QThread::yieldCurrentThread();
+        QThread::msleep(1);
         DeliverReports(port);
     }
     QObject::disconnect(reading);
