@@ -30,6 +30,12 @@ void UpDown::SetRange(int first, int last) {
     last_ = last;
 }
 
+void UpDown::StepTowards(int value) {
+    if (value != value_) {
+        emit StepAsked(value > value_);
+    }
+}
+
 void UpDown::TellText(const QString& text) {
     lineEdit()->setText(text);
 }

@@ -28,10 +28,12 @@ struct SpinTextRules {
     std::function<std::optional<int>(const QString& text, bool up)> step = nullptr;
 };
 
-/// The two buttons of a SpinText, and the value that they step. Range and text are for assistive technology.
+/// The two buttons of a SpinText, and the value that they step. Range, step size and text are for assistive technology,
+/// which steps by setting another value.
 class UpDown : public QAbstractSpinBox {
     Q_OBJECT
-    Q_PROPERTY(int value READ Value)
+    Q_PROPERTY(int value READ Value WRITE StepTowards)
+    Q_PROPERTY(int stepSize READ StepSize CONSTANT)
     Q_PROPERTY(int minimum READ First)
     Q_PROPERTY(int maximum READ Last)
 
@@ -43,6 +45,8 @@ public:
     [[nodiscard]] int First() const { return first_; }
     [[nodiscard]] int Last() const { return last_; }
     void SetRange(int first, int last);
+    [[nodiscard]] static int StepSize() { return 1; }
+    void StepTowards(int value);
     /// What the box beside it shows.
     void TellText(const QString& text);
 

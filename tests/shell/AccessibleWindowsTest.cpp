@@ -7,6 +7,7 @@
 #include <QListWidget>
 #include <QPrinter>
 #include <QPushButton>
+#include <QSlider>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTextBrowser>
@@ -94,6 +95,23 @@ TEST_P(AccessibleWindowsTest, EveryControlOfEveryTuningDialogIsSpoken) {
             ExpectPagesSpoken(*form);
         }
     }
+}
+
+TEST_P(AccessibleWindowsTest, TheArrowsOfATuningValueStepIt) {
+    service.TuneItem = 7; // of one page
+    const std::unique_ptr<TuningForm> form(
+        MakeTuningForm(document, link, service, GetParam(), fakes.services, nullptr));
+    Show(*form);
+    auto& slider = *form->findChild<QSlider*>("SldValue(0)");
+    slider.setValue(100);
+    QAccessibleValueInterface& arrows =
+        *QAccessible::queryAccessibleInterface(form->findChild<QWidget*>("updValue(0)"))->valueInterface();
+    for (const int expected : {101, 102}) {
+        arrows.setCurrentValue(arrows.currentValue().toDouble() + arrows.minimumStepSize().toDouble());
+        EXPECT_EQ(slider.value(), expected);
+    }
+    arrows.setCurrentValue(arrows.currentValue().toDouble() - arrows.minimumStepSize().toDouble());
+    EXPECT_EQ(slider.value(), 101);
 }
 
 TEST_P(AccessibleWindowsTest, EveryControlOfTheRadiosInformationIsSpoken) {
