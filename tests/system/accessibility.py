@@ -1,9 +1,9 @@
 """Does a user's whole job by what the accessibility bus offers, in English and in Chinese: reads a radio, edits a
-channel, saves it, writes it back, asks and keys the radio, and leaves. For scripts/check-accessibility; argument: the
-folder of the programs.
+channel, saves it, writes it back, asks, keys and tunes the radio, looks into every other window, and leaves. For
+scripts/check-accessibility; argument: the folder of the programs.
 
-The one key that is pressed is Enter, in the grid: it opens a cell's editor and ends it. All else are actions, texts and
-values of the tree.
+Keys that are pressed are Enter, which opens a cell's editor and ends it and opens a node of the navigator, and Escape,
+which closes the help. The hidden way to the memory map is a click. All else are actions, texts and values of the tree.
 """
 
 import os
@@ -14,7 +14,7 @@ import time
 from dataclasses import dataclass
 from pathlib import Path
 
-from accessible_program import PATIENCE, RETURN, Failure, Program
+from accessible_program import CHECKED, ENABLED, ESCAPE, PATIENCE, RETURN, Failure, Program, has
 
 READ_STEPS = 16
 WRITE_STEPS = 49
@@ -23,6 +23,7 @@ POWER_COLUMN = 5
 VALUE_CHANGED = "object:property-change:accessible-value"
 NAME_CHANGED = "object:property-change:accessible-name"
 DESCRIPTION_CHANGED = "object:property-change:accessible-description"
+TEXT_INSERTED = "object:text-changed:insert"
 FOCUS_CHANGED = "object:state-changed:focused"
 
 
@@ -72,13 +73,51 @@ class Words:
     tools: str
     information: str
     information_title: str
+    asking: str  # in the status bar, with the percentage to come
     version: str
     test: str
     test_title: str
     receiving: str
     transmitting: str
+    tuning: str
+    tuning_dialogs: tuple
+    start: str
+    on: str
+    off: str
+    cancel: str
+    toolkit_cancel: str
+    view: str
+    navigator: str
+    optional_features: str
+    vox: str
+    vox_gain: str
+    help: str
+    help_topics: str
+    help_title: str
+    help_contents: str
+    help_page: str
+    help_entry: str
+    search: str
+    search_words: str
+    found: str
+    memory_map: str
+    address: str
+    changed: str
+    print: str
+    print_list: str
+    print_setup: str
+    print_setup_title: str
     close: str
     dialogs: tuple
+
+
+@dataclass(frozen=True)
+class Tuning:
+    """A dialog of the tuning: its item in the list, its title, and the captions of its pages."""
+
+    item: str
+    title: str
+    pages: tuple
 
 
 ENGLISH = Words(
@@ -117,13 +156,48 @@ ENGLISH = Words(
     tools="Tools",
     information="Radio Information",
     information_title="Radio Information",
+    asking="Reading radio information: ",
     version="Version V1.0",
     test="Test Mode",
     test_title="Test Mode",
     receiving="RX",
     transmitting="TX",
+    tuning="Tuning Mode",
+    tuning_dialogs=(
+        Tuning("RF High Power", "RF High Power", ("Test", "Low", "Low'", "Center", "High'", "High")),
+        Tuning("Sensitivity", "Sensitivity", ("Test", "Low", "Center", "High")),
+        Tuning("DTMF Fine Deviation", "DTMF Fine Deviation(Wide)", ("Test",)),
+        Tuning("RSSI", "RSSI", ()),
+    ),
+    start="Start",
+    on="On",
+    off="Off",
+    cancel="Cancel",
+    toolkit_cancel="Cancel",
+    view="View",
+    navigator="Tree View",
+    optional_features="Optional Features",
+    vox="VOX Function",
+    vox_gain="VOX Gain Level",
+    help="Help",
+    help_topics="Help Topics",
+    help_title="Zelvor Help",
+    help_contents="Contents",
+    help_page="Help page",
+    help_entry="DTMF",
+    search="Search all pages",
+    search_words="xyzzy",
+    found="No page has these words.",
+    memory_map="Memory Map",
+    address="Address {}",
+    changed="Changed, was {}",
+    print="Print",
+    print_list="Print Out List",
+    print_setup="Print setup",
+    print_setup_title="Print",
     close="Close",
     dialogs=(
+        Dialog("File", "Open", "dialog", "Open", "Cancel"),
         Dialog("File", "Print", "dialog", "Print Out List", "Cancel"),
         Dialog("Model", "Model Information", "dialog", "Model Information", "Cancel"),
         Dialog("Setup", "Communication Port", "dialog", "Communication Port", "Cancel"),
@@ -168,13 +242,48 @@ CHINESE = Words(
     tools="工具(T)",
     information="对讲机信息(R)",
     information_title="对讲机信息",
+    asking="正在读取对讲机信息：",
     version="版本 V1.0",
     test="测试模式(T)",
     test_title="测试模式",
     receiving="接收",
     transmitting="发射",
+    tuning="调谐模式(T)",
+    tuning_dialogs=(
+        Tuning("RF高功率", "RF高功率", ("测试", "低", "较低", "中心", "较高", "高")),
+        Tuning("灵敏度", "灵敏度", ("测试", "低", "中心", "高")),
+        Tuning("DTMF细偏差", "DTMF细频差(宽带)", ("测试",)),
+        Tuning("RSSI", "RSSI", ()),
+    ),
+    start="开始",
+    on="开",
+    off="关",
+    cancel="取消(C)",
+    toolkit_cancel="取消",
+    view="视图(V)",
+    navigator="树视图(V)",
+    optional_features="可选功能(O)",
+    vox="VOX功能",
+    vox_gain="VOX增益电平",
+    help="帮助(H)",
+    help_topics="帮助主题(H)",
+    help_title="Zelvor 帮助",
+    help_contents="目录",
+    help_page="帮助页面",
+    help_entry="DTMF(双音多频)",
+    search="搜索所有页面",
+    search_words="xyzzy",
+    found="没有页面包含这些文字。",
+    memory_map="内存指针图",
+    address="地址 {}",
+    changed="已更改，原值 {}",
+    print="打印(P)",
+    print_list="打印列表",
+    print_setup="打印设置(R)",
+    print_setup_title="打印",
     close="关闭(C)",
     dialogs=(
+        Dialog("文件(F)", "打开(O)", "dialog", "打开", "取消"),
         Dialog("文件(F)", "打印(P)", "dialog", "打印列表", "取消(C)"),
         Dialog("机型(M)", "机型信息(M)", "dialog", "机型信息", "取消(C)"),
         Dialog("设置(S)", "通信端口(C)", "dialog", "通信端口", "取消(C)"),
@@ -210,9 +319,15 @@ class Round:
             self.open_list()
             self.save()
             self.look_into_windows()
+            self.switch_field()
+            self.use_navigator()
+            self.look_into_print_setup()
+            self.read_help()
+            self.change_byte()
             self.write()
             self.ask_radio()
             self.key_radio()
+            self.tune_radio()
             self.leave()
         finally:
             self.end_processes()
@@ -270,12 +385,102 @@ class Round:
     def look_into_windows(self):
         entries = [each.get_name() for each in self.program.entries(self.words.edit)]
         check_equal("the number of entries of the Edit menu", len(entries), 8)
+        pages = 0
         for entry in entries:
             self.program.choose(self.words.edit, entry)
-            self.controls += self.program.check_names()
+            pages += self.look_into_pages()
         self.program.press("push button", self.words.channel_edit)
+        pages += self.look_into_pages()
+        self.done(f"{len(entries) + 1} windows of the Edit menu and the grid, {pages} pages: every control named")
+
+    def look_into_pages(self):
+        """Every page of the window with the focus, the ones at the back, too, by the action of its tab."""
+        captions = self.program.tabs()
+        for caption in captions:
+            self.program.press("page tab", caption)
+            self.controls += self.program.check_names()
+        if not captions:
+            self.controls += self.program.check_names()
+        return max(1, len(captions))
+
+    def switch_field(self):
+        """What another field rules says that it cannot be used."""
+        self.program.choose(self.words.edit, self.words.optional_features)
+        ruling = self.program.find("check box", self.words.vox)
+        for wanted in (not has(ruling, CHECKED), has(ruling, CHECKED)):
+            self.program.act(ruling, "Toggle")
+            self.program.wait_for(
+                f"the field {self.words.vox_gain} to be {'enabled' if wanted else 'disabled'}",
+                lambda: has(self.program.find("text", self.words.vox_gain), ENABLED) == wanted,
+            )
+        self.done("a field that cannot be used says so")
+
+    def use_navigator(self):
+        self.program.choose(self.words.view, self.words.navigator)
+        tree = self.program.find("tree", self.words.navigator.split("(")[0]).get_table_iface()
+        rows = tree.get_n_rows()
+        check_equal("the number of nodes", rows, 9)
+        for row in (rows - 1, 2):
+            node = tree.get_accessible_at(row, 0)
+            self.program.choose(self.words.view, self.words.navigator)
+            self.program.act(node, "Toggle")
+            self.program.wait_for_focus(node)
+            self.program.key(RETURN)
+            self.program.find_window_in_front(node.get_name().strip())
+            self.controls += self.program.check_names()
+        self.done("the navigator: a node is chosen by its action and opens its window")
+
+    def look_into_print_setup(self):
+        self.program.choose(self.words.file, self.words.print)
+        selection = self.program.window("dialog", self.words.print_list)
+        self.program.press("push button", self.words.print_setup, selection)
+        dialog = self.program.window("dialog", self.words.print_setup_title)
         self.controls += self.program.check_names()
-        self.done(f"{len(entries) + 1} windows of the Edit menu and the grid: every control named")
+        self.program.press("push button", self.words.toolkit_cancel, dialog)
+        self.program.wait_until_gone("dialog", self.words.print_setup_title)
+        self.program.press("push button", self.words.cancel, selection)
+        self.program.wait_until_gone("dialog", self.words.print_list)
+        self.done("the print setup: every control named")
+
+    def read_help(self):
+        self.program.choose(self.words.help, self.words.help_topics)
+        window = self.program.window("frame", self.words.help_title)
+        self.controls += self.program.check_names()
+        page = lambda: self.program.find("label", self.words.help_page, window).get_text_iface().get_text(0, -1)
+        first = page()
+        contents = self.program.find("list", self.words.help_contents, window)
+        self.program.act(self.program.find("list item", self.words.help_entry, contents), "Toggle")
+        self.program.wait_for("another page", lambda: page() != first and self.words.help_entry in page())
+        search = self.program.find("text", self.words.search, window)
+        self.program.hear_from_now()
+        search.get_editable_text_iface().set_text_contents(self.words.search_words)
+        self.program.wait_for("what was found", lambda: search.get_description() == self.words.found)
+        self.program.wait_for_announcement(DESCRIPTION_CHANGED, "text", self.words.search)
+        self.controls += self.program.check_names()
+        for _ in range(2):  # the search is left, then the window
+            self.program.key(ESCAPE)
+        self.program.wait_until_gone("frame", self.words.help_title)
+        self.done("the help: a page is chosen and read, what a search found is announced")
+
+    def change_byte(self):
+        self.program.click_at_top_right(self.program.find("layered pane", ""))
+        dialog = self.program.window("dialog", self.words.memory_map)
+        self.controls += self.program.check_names()
+        table = self.program.find("table", self.words.memory_map, dialog).get_table_iface()
+        check_equal("the rows and columns of the memory", (table.get_n_rows(), table.get_n_columns()), (64, 16))
+        cell = table.get_accessible_at(1, 2)
+        check_equal("the column's header", table.get_column_header(2).get_name(), "2")
+        value = cell.get_name()
+        self.program.act(cell, "Toggle")
+        self.program.find("label", self.words.address.format("0012"), dialog)
+        self.program.key(RETURN)
+        editor = self.program.find("text", self.words.address.format("0012"), dialog)
+        editor.get_editable_text_iface().set_text_contents("A5" if value != "A5" else "5A")
+        self.program.key(RETURN)
+        self.program.wait_for("the mark of a change", lambda: cell.get_description() == self.words.changed.format(value))
+        self.program.press("push button", self.words.cancel, dialog)
+        self.program.wait_until_gone("dialog", self.words.memory_map)
+        self.done("the memory map: a byte is found by its address, changed and told as changed")
 
     def transfer(self, entry, title, steps, running, completed):
         self.program.choose(self.words.program, entry)
@@ -379,13 +584,15 @@ class Round:
         self.done("the radio holds the frequency")
 
     def ask_radio(self):
+        self.program.hear_from_now()
         self.program.choose(self.words.tools, self.words.information)
+        self.program.wait_for_announcement_beginning(NAME_CHANGED, "label", self.words.asking)
         dialog = self.program.window("dialog", self.words.information_title)
         self.program.find("label", self.words.version, dialog)
         self.controls += self.program.check_names()
         self.program.press("push button", self.words.close, dialog)
         self.program.wait_until_gone("dialog", self.words.information_title)
-        self.done("the radio's version is told")
+        self.done("the radio's answering is announced, its version is told")
 
     def key_radio(self):
         """Test mode: the lamp beside PTT tells whether the radio transmits."""
@@ -401,6 +608,53 @@ class Round:
         self.program.press("push button", self.words.close, dialog)
         self.program.wait_until_gone("dialog", self.words.test_title)
         self.done("test mode: the radio is keyed and released, and the lamp announces it")
+
+    def tune_radio(self):
+        self.program.choose(self.words.program, self.words.test)
+        test = self.program.window("dialog", self.words.test_title)
+        for dialog in self.words.tuning_dialogs:
+            self.program.act(self.program.find("list item", dialog.item, test), "Toggle")
+            self.program.press("push button", self.words.tuning, test)
+            window = self.program.window("dialog", dialog.title)
+            check_equal(f"the pages of {dialog.title}", tuple(self.program.tabs(window)), dialog.pages)
+            for page in dialog.pages:
+                self.program.press("page tab", page, window)
+                self.adjust(window, f"{dialog.title} {page}")
+            if not dialog.pages:
+                self.measure(window, dialog.title)
+            self.program.press("push button", self.words.cancel, window)
+            self.program.wait_until_gone("dialog", dialog.title)
+        self.program.press("push button", self.words.close, test)
+        self.program.wait_until_gone("dialog", self.words.test_title)
+        self.done(f"{len(self.words.tuning_dialogs)} tuning dialogs: chosen by their item, every value told and set")
+
+    def adjust(self, window, name):
+        self.controls += self.program.check_names()
+        slider = self.program.find("slider", name, window)
+        bar = self.program.find("progress bar", name, window).get_value_iface()
+        arrows = self.program.find("spin button", name, window)
+        text = self.program.find("text", name, window).get_text_iface()
+        value = int(slider.get_value_iface().get_current_value())
+        check_equal(f"the text of {name}", text.get_text(0, -1), str(value))
+        check_equal(f"the range of {name}", arrows.get_value_iface().get_maximum_value(), 255)
+        self.program.hear_from_now()
+        self.program.act(arrows, "Increase" if value < 255 else "Decrease")
+        changed = value + 1 if value < 255 else value - 1
+        self.program.wait_for(f"{name} to be {changed}", lambda: text.get_text(0, -1) == str(changed))
+        check_equal(f"the slider of {name}", slider.get_value_iface().get_current_value(), changed)
+        check_equal(f"the bar of {name}", bar.get_current_value(), changed)
+        check_equal(f"the arrows' text of {name}", arrows.get_text_iface().get_text(0, -1), str(changed))
+        for role in ("slider", "progress bar"):
+            self.program.wait_for_announcement(VALUE_CHANGED, role, name)
+
+    def measure(self, window, name):
+        self.controls += self.program.check_names()
+        lamp = self.program.find("image", self.words.start, window)
+        for state in (self.words.on, self.words.off):
+            self.program.hear_from_now()
+            self.program.press("push button", self.words.start, window)
+            self.program.wait_for(f"the lamp to tell {state}", lambda: lamp.get_description() == state)
+            self.program.wait_for_announcement(DESCRIPTION_CHANGED, "image", self.words.start)
 
     def expect_frequency(self, file):
         field = [self.programs / "zelvor-cli", "get", file, "channels.1.rx_mhz"]

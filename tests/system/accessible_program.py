@@ -4,6 +4,7 @@ Everything is found by role and name, and used through the interfaces that the t
 on the screen. A step that finds nothing raises a Failure that holds the tree.
 """
 
+import subprocess
 import time
 
 import gi
@@ -20,8 +21,10 @@ FOCUSABLE = Atspi.StateType.FOCUSABLE
 FOCUSED = Atspi.StateType.FOCUSED
 ACTIVE = Atspi.StateType.ACTIVE
 ENABLED = Atspi.StateType.ENABLED
+CHECKED = Atspi.StateType.CHECKED
 
-RETURN = 0xFF0D  # key symbol
+RETURN = 0xFF0D  # key symbols
+ESCAPE = 0xFF1B
 
 
 class Failure(Exception):
@@ -128,6 +131,10 @@ class Program:
         except Failure as failure:
             raise Failure(f"{failure}\nTold were\n{self.announced}") from None
 
+    def wait_for_announcement_beginning(self, kind, role, beginning):
+        heard = lambda: any(each[:2] == (kind, role) and each[2].startswith(beginning) for each in self.announced)
+        self.wait_for(f"'{beginning}...' told by {kind}", heard)
+
     def windows(self):
         return [each for each in children(self.root) if has(each, SHOWING)]
 
@@ -189,6 +196,37 @@ class Program:
         if not found:
             raise Failure(f"the menu entry {menu} > {entry}: not found in\n{self.tree()}")
         self.act(found[0], "Press")
+
+    def tabs(self, under=None):
+        """The captions of the tabs in sight: in the window with the focus, unless said otherwise."""
+        window = under or self.focused_window()
+        return [each.get_name() for each in walk(window) if each.get_role_name() == "page tab"]
+
+    def focused_window(self):
+        """Of the windows in the main window's pane, the one with the focus; the window in front where there is none."""
+        front = self.wait_for("the window in front", lambda: next((w for w in self.windows() if has(w, ACTIVE)), None))
+        inner = [each for each in walk(front) if each.get_role_name() == "frame" and has(each, FOCUSED)]
+        return inner[0] if inner else front
+
+    def find_window_in_front(self, name):
+        self.wait_for(f"the window '{name}' with the focus", lambda: self.focused_window().get_name().strip() == name)
+
+    def wait_for_focus(self, node):
+        self.wait_for(f"the focus on '{node.get_name()}'", lambda: has(node, FOCUSED))
+
+    @staticmethod
+    def click_at_top_right(node):
+        """The click of the left button with Ctrl and Alt that is the hidden way to the memory map."""
+        place = node.get_component_iface().get_extents(Atspi.CoordType.SCREEN)
+        corner = (str(place.x + place.width - 8), str(place.y + 8))
+        held = ("ctrl", "alt")
+        subprocess.run(
+            ["xdotool", "mousemove", *corner]
+            + [word for key in held for word in ("keydown", key)]
+            + ["click", "1"]
+            + [word for key in held for word in ("keyup", key)],
+            check=True,
+        )
 
     @staticmethod
     def key(symbol):
