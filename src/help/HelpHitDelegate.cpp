@@ -18,6 +18,23 @@ QFont BoldFont(const QFont& font) {
     return bold;
 }
 
+/// An excerpt that goes on behind the lines ends in dots.
+QString FittingText(const QString& text, const QFont& font, int width) {
+    QTextLayout layout(text, font);
+    layout.beginLayout();
+    QTextLine last;
+    for (int number = 0; number < ExcerptLines; ++number) {
+        last = layout.createLine();
+        if (!last.isValid()) {
+            return text;
+        }
+        last.setLineWidth(width);
+    }
+    const QString before = text.left(last.textStart());
+    layout.endLayout();
+    return before + QFontMetrics(font).elidedText(text.mid(before.size()), Qt::ElideRight, width);
+}
+
 /// Chinese characters may come from another font, whose lines are higher.
 int LineHeight(const QFont& font) {
     QTextLayout layout(QStringLiteral("Ag国"), font);
@@ -28,7 +45,7 @@ int LineHeight(const QFont& font) {
 }
 
 void DrawLines(QPainter& painter, const QString& text, const QFont& font, const QRect& area) {
-    QTextLayout layout(text, font);
+    QTextLayout layout(FittingText(text, font, area.width()), font);
     layout.beginLayout();
     for (int number = 0; number < ExcerptLines; ++number) {
         QTextLine line = layout.createLine();

@@ -8,8 +8,10 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QPushButton>
 #include <QUrl>
+#include <algorithm>
 #include <utility>
 
 #include "platform/StartDirectory.h"
@@ -18,6 +20,8 @@
 namespace zelvor {
 
 namespace {
+
+constexpr int WidestSideBar = 240; // logical pixels
 
 /// The toolkit's own dialog enables its button only for files that the filter shows. A name that was typed in full is
 /// meant, whatever its ending.
@@ -47,6 +51,14 @@ void LabelLists(const QFileDialog& dialog) {
         if (label && list) { // not the system's dialog
             label->setBuddy(list);
         }
+    }
+}
+
+/// The toolkit's own dialog gives the side bar the width of its first place.
+void ShowWholePlaces(const QFileDialog& dialog) {
+    if (auto* places = dialog.findChild<QListView*>(QStringLiteral("sidebar"))) { // not the system's dialog
+        const int wanted = places->sizeHintForColumn(0) + 2 * places->frameWidth();
+        places->setMinimumWidth(std::min(wanted, WidestSideBar));
     }
 }
 
@@ -85,6 +97,7 @@ std::optional<std::string> QtFileDialogs::Ask(const FileDialogRequest& request, 
         setUp(dialog);
         Preset(dialog, request);
         LabelLists(dialog);
+        ShowWholePlaces(dialog);
     });
     if (!file) {
         return std::nullopt;

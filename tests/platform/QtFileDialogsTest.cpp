@@ -155,6 +155,21 @@ TEST_F(QtFileDialogsInUse, OfferAFolderToOpenFilesOfBehindWhatTheSideBarHolds) {
     }
 }
 
+TEST_F(QtFileDialogsInUse, ShowTheWholeNamesOfThePlacesInTheSideBar) {
+    ASSERT_TRUE(QDir(folder_.path()).mkdir("backups of radios"));
+    dialogs_.OfferToOpen(folder_.filePath("backups of radios"));
+    WillLook([&](QFileDialog& dialog) {
+        const auto& bar = *dialog.findChild<QListView*>("sidebar");
+        for (int row = 0; row < bar.model()->rowCount(); ++row) {
+            const QModelIndex place = bar.model()->index(row, 0);
+            EXPECT_GE(bar.viewport()->width(), bar.sizeHintForIndex(place).width())
+                << place.data().toString().toStdString();
+        }
+        EXPECT_LT(bar.width(), dialog.width() / 2);
+    });
+    EXPECT_EQ(dialogs_.Open(Request()), std::nullopt);
+}
+
 TEST_F(QtFileDialogsInUse, OfferTheFolderInNoDialogForSavingAndToNoOtherProgram) {
     ASSERT_TRUE(QDir(folder_.path()).mkdir("backups"));
     const QUrl backups = QUrl::fromLocalFile(folder_.filePath("backups"));
