@@ -76,13 +76,14 @@ TestForm::TestForm(Document& document, LinkState& link, ServiceState& service, L
     setObjectName("TestForm");
     setWindowTitle(LoadText(Text::TestMode));
     BuildFrames();
+    QHBoxLayout* radioButtons = BuildRadioButtons(); // before the list, also on the tab key's way
     BuildItemList();
     auto* left = new QVBoxLayout;
     left->addWidget(frmTestChannel_);
     left->addStretch();
     left->addWidget(frmTestSignal_);
     left->addStretch();
-    left->addLayout(BuildRadioButtons());
+    left->addLayout(radioButtons);
     auto* upper = new QHBoxLayout;
     upper->setSpacing(ColumnSpacing);
     upper->addLayout(left);

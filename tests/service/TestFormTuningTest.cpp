@@ -219,6 +219,7 @@ TEST_F(TestFormTuningTest, AClickWithCtrlDoesNotTakeTheChoiceAway) {
     ClickItem(4);
     const QPoint place = Items().visualItemRect(Items().item(3)).center();
     QTest::mouseClick(Items().viewport(), Qt::LeftButton, Qt::ControlModifier, place);
+    QCoreApplication::processEvents();
     EXPECT_TRUE(Items().item(3)->isSelected());
     EXPECT_EQ(rig.service.TuneItem, 4);
 }

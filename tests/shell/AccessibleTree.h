@@ -125,11 +125,38 @@ inline void ExpectLabels(QWidget& window) {
     }
 }
 
+/// The tab key goes down or to the right: from each control to one that is not above it, or is in a column behind it.
+inline void ExpectReadingOrder(QWidget& window) {
+    const auto isStop = [](const QWidget& each) {
+        return each.isVisible() && each.isEnabled() && (each.focusPolicy() & Qt::TabFocus) != 0 &&
+               each.focusProxy() == nullptr;
+    };
+    const auto placeOf = [&](const QWidget& each) { return QRect(each.mapTo(&window, QPoint()), each.size()); };
+    const QWidget* last = nullptr;
+    const QWidget* each = &window;
+    while ((each = each->nextInFocusChain()) != &window) {
+        if (!window.isAncestorOf(each) || !isStop(*each)) {
+            continue;
+        }
+        if (last != nullptr) {
+            const QRect from = placeOf(*last);
+            const QRect to = placeOf(*each);
+            const bool isAbove = to.bottom() < from.top();
+            const bool isBeside = !isAbove && to.top() <= from.bottom();
+            EXPECT_FALSE((isAbove && to.left() < from.right()) || (isBeside && to.left() < from.left()))
+                << window.objectName().toStdString() << ": from " << last->objectName().toStdString() << " to "
+                << each->objectName().toStdString();
+        }
+        last = each;
+    }
+}
+
 inline void ExpectSpoken(QWidget& window) {
     ExpectNames(window);
     ExpectRoles(window);
     ExpectNumbers(window);
     ExpectLabels(window);
+    ExpectReadingOrder(window);
 }
 
 } // namespace zelvor
