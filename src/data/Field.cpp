@@ -311,8 +311,8 @@ bool HasItsCharacters(const TextField& field, std::string_view text) {
 }
 
 bool HoldsLegalValue(const TextField& field, const DataImage& image) {
-    const auto stored = Storable(field, LoadCode(image, field));
-    return stored && IsLegalLength(field, static_cast<int>(stored->size()));
+    const std::u16string text = LoadCode(image, field);
+    return Storable(field, text) == text && IsLegalLength(field, static_cast<int>(text.size()));
 }
 
 void StoreBlankValue(const TextField& field, DataImage& image) {

@@ -121,7 +121,7 @@ TEST(FieldRegistry, TellsLegalWordsOfTwoBytesAsItsTextsDo) {
 TEST(FieldRegistry, TellsLegalTextsAndFrequenciesAsTheirTextsDo) {
     constexpr unsigned Seed = 4711;
     std::mt19937 random(Seed);
-    const std::string usual = "0123456789ABCD*# \xFF\xFF\xFF";
+    const std::string usual = "0123456789ABCDabcd*# \xFF\xFF\xFF";
     for (int run = 0; run < 300; ++run) {
         for (const Field& field : AllFields()) {
             if (field.Size() <= 2) {
