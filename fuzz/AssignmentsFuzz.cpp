@@ -6,7 +6,10 @@
 #include "FuzzImages.h"
 #include "Require.h"
 #include "cli/FieldCommands.h"
+#include "cli/LegalText.h"
+#include "data/ChannelFields.h"
 #include "data/DataFile.h"
+#include "data/IdentityFields.h"
 #include "data/ImageSections.h"
 #include "fakes/FakeFileStore.h"
 
@@ -62,6 +65,19 @@ void CheckOne(const Field& field, const std::string& text, const DataImage& imag
     Require(field.Parse(text, again) && again == stored, "what is taken once more changes nothing");
 }
 
+/// All words that are offered are taken; those of a channel depend on it.
+void CheckWords(const Field& field, const DataImage& image, Language language) {
+    const LegalValues legal = field.Legal(language);
+    Require(!cli::LegalText(legal, language).empty(), "what a field takes can be told");
+    if (field.As<ChannelField>() != nullptr || field.As<IdentityField>() != nullptr) {
+        return;
+    }
+    for (const std::string& word : legal.words) {
+        DataImage stored = image;
+        Require(field.Parse(word, stored) && field.HoldsLegal(stored), "a word that is offered is taken");
+    }
+}
+
 struct Outcome {
     cli::ExitStatus status;
     std::string content;
@@ -115,6 +131,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t cou
         const std::size_t length = input.TakeByte();
         const std::string text = input.TakeText(length % (LongestValue + 1));
         CheckOne(field, text, image);
+        CheckWords(field, image, language);
         const std::string argument = length == 0xFF ? text : field.Key() + '=' + text; // FF: any at all
         if (cli::ReadSetArguments({argument}, std::nullopt).files.empty()) {
             arguments.push_back(argument);

@@ -4,12 +4,14 @@
 
 #include "FuzzInput.h"
 #include "Require.h"
-#include "data/ChannelRecord.h"
+#include "data/BlankImage.h"
 #include "data/ChannelTable.h"
 #include "data/DataFile.h"
 #include "data/Document.h"
+#include "data/FieldRegistry.h"
 #include "data/ImageChecks.h"
 #include "data/ImageSections.h"
+#include "data/ModelCatalogue.h"
 #include "data/TestFrequencies.h"
 #include "link/PreWriteChecks.h"
 #include "text/Utf8.h"
@@ -68,6 +70,7 @@ void CheckField(const Field& field, const DataImage& image, Language language) {
 void CheckFields(const DataImage& image) {
     for (const ImageSection& section : ImageSections()) {
         for (const Field& field : section.fields) {
+            Require(FindImageField(field.Key()) != nullptr, "a field is found by its key");
             for (const Language language : Languages) {
                 CheckField(field, image, language);
             }
@@ -169,9 +172,54 @@ void CheckChannels(const DataImage& image, Language language) {
     }
 }
 
+/// Another language changes words only, and what the PTT ID Type says only the last column.
+void CheckTexts(const DataImage& image, Language language) {
+    ChannelTable table;
+    table.DecodeImageToGrid(image, language);
+    const ChannelTable decoded = table;
+    const auto isSame = [&](int column) {
+        for (int k = 1; k <= address::ChannelCount; ++k) {
+            if (table.CellText(k, column) != decoded.CellText(k, column)) {
+                return false;
+            }
+        }
+        return true;
+    };
+    table.ShowPttIdsOfType(image, language);
+    table.RefreshPttIds(image, language);
+    for (int column = 1; column < column::PttId; ++column) {
+        Require(isSame(column), "a PTT ID Type changes the PTT IDs only");
+    }
+    table.Translate(image, language == Language::English ? Language::Chinese : Language::English);
+    Require(isSame(column::Rx) && isSame(column::Tx), "frequencies have no language");
+    Require(table.FreeBytes() == decoded.FreeBytes(), "another language leaves the free area");
+}
+
+/// A new document of the same model, and what names it.
+void CheckNewDocument(const DataImage& image) {
+    DataImage blank = image;
+    InitAllFrameData(blank);
+    Require(blank.At(address::Market) == image.At(address::Market) &&
+                blank.At(address::Family) == image.At(address::Family),
+            "a new document is of the same model");
+    for (const FieldSection section : FieldSections) {
+        for (const Field& field : FieldsOf(section)) {
+            const bool isTestFrequency = field.As<TestFrequencyField>() != nullptr; // of a market without a band 0
+            Require(isTestFrequency || field.HoldsLegal(blank), "a new document holds legal values");
+        }
+    }
+    DataImage again = blank;
+    InitAllFrameData(again);
+    Require(again == blank, "a new document once more is the same");
+    for (const Language language : Languages) {
+        Require(IsUtf8(BuildMainTitle(image, "a.dat", language)), "a title is UTF-8");
+    }
+}
+
 void CheckDocument(const DataImage& image) {
     for (const Language language : Languages) {
         CheckChannels(image, language);
+        CheckTexts(image, language);
         Document document;
         document.Image = image;
         document.Priority.SetError(true);
@@ -193,6 +241,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t cou
         CheckFile(file, *image);
         CheckFields(*image);
         CheckDocument(*image);
+        CheckNewDocument(*image);
     } else {
         const std::string_view magic(reinterpret_cast<const char*>(bytes), std::min<std::size_t>(count, 6));
         Require(count != 1040 || magic != "RQ6152", "what has the size and the magic is a data file");

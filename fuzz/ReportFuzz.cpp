@@ -43,7 +43,15 @@ void CheckPages(const FakePageDevice& device, double width, double height) {
     }
 }
 
-void CheckReport(const DataImage& image, ReportSelection selection, std::string_view fileName, Language language) {
+/// What can be printed on, from A5 to a metre of width, and a printer that may fail.
+struct Paper {
+    double width;
+    double height;
+    int failingPage; // 0 for none
+};
+
+void CheckReport(const DataImage& image, ReportSelection selection, std::string_view fileName, Language language,
+                 const Paper& paper) {
     const DataReport report = BuildDataReport(image, selection, fileName, language, {});
     Require(report.pages.empty() == selection.none(), "what is chosen has pages");
     CheckCells(report.head);
@@ -51,9 +59,13 @@ void CheckReport(const DataImage& image, ReportSelection selection, std::string_
         CheckCells(page);
     }
     FakePageDevice device;
+    device.SetPageSize(paper.width, paper.height);
+    device.FailAtPage(paper.failingPage);
     PrintDataReport(device, report);
-    Require(device.Pages().size() == report.pages.size(), "every page is printed");
-    CheckPages(device, 10800, 15840);
+    const std::size_t printed =
+        device.Failures() > 0 ? static_cast<std::size_t>(paper.failingPage) - 1 : report.pages.size();
+    Require(device.Pages().size() == printed, "every page is printed, up to one that the printer fails at");
+    CheckPages(device, paper.width, paper.height);
 }
 
 void CheckTuningReport(const DataImage& image, std::string_view fileName, Language language) {
@@ -74,8 +86,10 @@ void CheckCommands(const DataImage& image, const DataImage& other, Language lang
                 "every data file is shown");
     }
     Require(cli::Check({"a.dat"}, store, console) <= cli::ExitStatus::No, "every data file is checked");
-    const cli::ExitStatus compared = cli::Diff({"a.dat", "b.dat"}, store, console);
-    Require((compared == cli::ExitStatus::Done) == (image == other), "files are alike where their images are");
+    for (const bool json : {false, true}) {
+        const cli::ExitStatus compared = cli::Diff({.a = "a.dat", .b = "b.dat", .json = json}, store, console);
+        Require((compared == cli::ExitStatus::Done) == (image == other), "files are alike where their images are");
+    }
     Require(IsUtf8(out.str()), "what is shown is UTF-8");
     for (const char c : out.str()) {
         Require(c < 0 || c >= ' ' || c == '\n', "nothing that is shown controls a terminal");
@@ -93,9 +107,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t cou
     const Language language = input.TakeBool() ? Language::Chinese : Language::English;
     const ReportSelection selection(input.TakeByte());
     const std::string fileName = Utf8Of(Utf16Of(input.TakeText(input.TakeByte())));
+    const Paper paper{7000.0 + 200 * input.TakeByte(), 7000.0 + 200 * input.TakeByte(), input.TakeByte() % 12};
     const DataImage other = TakeImage(input);
     const DataImage image = input.TakeBool() ? TakeWholeImage(input) : TakeImage(input);
-    CheckReport(image, selection, fileName, language);
+    CheckReport(image, selection, fileName, language, paper);
     CheckTuningReport(image, fileName, language);
     CheckCommands(image, other, language);
     return 0;
