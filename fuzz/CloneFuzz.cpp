@@ -16,21 +16,25 @@ CloneFuzz::CloneFuzz(FuzzInput& input, int transferMode)
     document_.Image = TakeImage(input);
     radio_.Memory = TakeImage(input);
     link_.TransferMode = transferMode;
+    user_.OnTearDown = [this] {
+        isTornDown_ = true;
+        engine_.Unload();
+    };
 }
 
 void CloneFuzz::Run() {
     engine_.Load();
     engine_.Start();
     const int budget = LongestSession * (1 + 256); // no input has more retries
-    Require(RunsToItsEnd(clock_, budget, [this] { return unloads_ > 0; }), "a transfer ends");
+    Require(RunsToItsEnd(clock_, budget, [this] { return unloads_ > 0 || isTornDown_; }), "a transfer ends");
     Require(clock_.TickCount() <= LongestSession * (1 + user_.Retries()), "a transfer ends in time");
-    Require(unloads_ == 1, "a transfer ends once");
+    Require(unloads_ == 1 || isTornDown_, "a transfer ends once");
     Require(completed_ <= 1, "a transfer is completed once");
     Require(!port_->IsOpen(), "the port is closed behind a transfer");
     const std::size_t sent = radio_.Commands().size();
     clock_.Advance(LongestSession);
     Require(radio_.Commands().size() == sent && !port_->IsOpen(), "nothing is sent behind a transfer");
-    Require(completed_ == 1 || user_.HasGivenUp(), "a transfer that nobody gives up is completed");
+    Require(completed_ == 1 || user_.HasGivenUp() || isTornDown_, "a transfer that nobody gives up is completed");
 }
 
 void CloneFuzz::OnProgress(int value) {

@@ -45,6 +45,7 @@ private:
     CloneEngine engine_;
     int completed_ = 0;
     int unloads_ = 0;
+    bool isTornDown_ = false; // while a box was up
 };
 
 } // namespace zelvor::fuzz

@@ -104,14 +104,18 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t cou
     using namespace zelvor;
     using namespace zelvor::fuzz;
     FuzzInput input(bytes, count);
-    const Language language = input.TakeBool() ? Language::Chinese : Language::English;
+    const std::uint8_t kind = input.TakeByte();
+    const Language language = (kind & 1) != 0 ? Language::Chinese : Language::English;
     const ReportSelection selection(input.TakeByte());
     const std::string fileName = Utf8Of(Utf16Of(input.TakeText(input.TakeByte())));
     const Paper paper{7000.0 + 200 * input.TakeByte(), 7000.0 + 200 * input.TakeByte(), input.TakeByte() % 12};
     const DataImage other = TakeImage(input);
     const DataImage image = input.TakeBool() ? TakeWholeImage(input) : TakeImage(input);
-    CheckReport(image, selection, fileName, language, paper);
-    CheckTuningReport(image, fileName, language);
-    CheckCommands(image, other, language);
+    if ((kind & 2) != 0) {
+        CheckCommands(image, other, language);
+    } else {
+        CheckReport(image, selection, fileName, language, paper);
+        CheckTuningReport(image, fileName, language);
+    }
     return 0;
 }

@@ -110,6 +110,9 @@ MessageAnswer FuzzedUser::Show(const Message& message) {
     if ((told & 2) != 0) {
         radio_.PlugIn();
     }
+    if ((told & 0xF0) == 0x90 && OnTearDown) {
+        OnTearDown();
+    }
     const bool agrees = knows && (told & 1) != 0;
     const bool isAsked = message.buttons != MessageButtons::Ok;
     hasGivenUp_ = hasGivenUp_ || (isAsked && !agrees);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <span>
 #include <vector>
 
@@ -54,6 +55,9 @@ public:
     FuzzedUser(FuzzInput& input, FakeClock& clock, SpoiltRadio& radio) : input_(input), clock_(clock), radio_(radio) {}
 
     MessageAnswer Show(const Message& message) override;
+
+    /// Called while a box is up, where the input wants the exchange to be torn down then.
+    std::function<void()> OnTearDown;
 
     [[nodiscard]] int Retries() const { return retries_; }
     /// Whether he has answered Cancel to anything.
