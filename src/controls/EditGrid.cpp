@@ -236,6 +236,18 @@ void EditGrid::keyPressEvent(QKeyEvent* event) {
     }
 }
 
+// The toolkit asks for an input method wherever a cell could be edited by it. That would keep for itself, and for
+// nothing, the letters that open our editors.
+void EditGrid::focusInEvent(QFocusEvent* event) {
+    QTableWidget::focusInEvent(event);
+    setAttribute(Qt::WA_InputMethodEnabled, false);
+}
+
+void EditGrid::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    QTableWidget::currentChanged(current, previous);
+    setAttribute(Qt::WA_InputMethodEnabled, false);
+}
+
 void EditGrid::mousePressEvent(QMouseEvent* event) {
     pressed_ = event->button() == Qt::LeftButton ? indexAt(event->pos()) : QModelIndex();
     QTableWidget::mousePressEvent(event);

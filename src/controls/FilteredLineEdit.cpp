@@ -97,8 +97,18 @@ void FilteredLineEdit::Edit(QKeyEvent& event) {
 }
 
 void FilteredLineEdit::inputMethodEvent(QInputMethodEvent* event) {
+    ShowComposing(QInputMethodEvent());
     Enter(event->commitString());
+    ShowComposing(QInputMethodEvent(event->preeditString(), event->attributes()));
     event->accept();
+}
+
+/// What is not a character yet shows where any may come. A box with a filter would give its selection up for it, and
+/// then may refuse it.
+void FilteredLineEdit::ShowComposing(QInputMethodEvent composing) {
+    if (!filter_) {
+        QLineEdit::inputMethodEvent(&composing);
+    }
 }
 
 void FilteredLineEdit::mouseReleaseEvent(QMouseEvent* event) {

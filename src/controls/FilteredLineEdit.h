@@ -53,6 +53,7 @@ protected:
 
 private:
     void Edit(QKeyEvent& event);
+    void ShowComposing(QInputMethodEvent composing);
     void Insert(const QString& text, bool limited);
     void Paste(const QString& text);
 

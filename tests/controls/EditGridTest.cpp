@@ -33,6 +33,26 @@ protected:
     EditGrid grid{3, 2, &panel};
 };
 
+TEST_F(EditGridTest, GetsItsKeysPastTheInputMethod) {
+    EXPECT_FALSE(grid.testAttribute(Qt::WA_InputMethodEnabled));
+    grid.MoveTo(2, 2);
+    EXPECT_FALSE(grid.testAttribute(Qt::WA_InputMethodEnabled));
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, Qt::NoModifier, Center(3, 1));
+    grid.clearFocus();
+    grid.setFocus();
+    EXPECT_FALSE(grid.testAttribute(Qt::WA_InputMethodEnabled));
+}
+
+TEST(TypedCharacter, IsThatOfAKeyWithAltGrAndOfNoCommand) {
+    constexpr Qt::KeyboardModifiers altGr = Qt::ControlModifier | Qt::AltModifier;
+    EXPECT_EQ(TypedCharacter(QKeyEvent(QEvent::KeyPress, Qt::Key_NumberSign, altGr, "#")), QChar(u'#'));
+    EXPECT_EQ(TypedCharacter(QKeyEvent(QEvent::KeyPress, Qt::Key_Eacute, Qt::NoModifier, "é")), QChar(u'é'));
+    EXPECT_EQ(TypedCharacter(QKeyEvent(QEvent::KeyPress, Qt::Key_1, altGr, "")), QChar());
+    EXPECT_EQ(TypedCharacter(QKeyEvent(QEvent::KeyPress, Qt::Key_Dead_Acute, Qt::NoModifier, "")), QChar());
+    EXPECT_EQ(TypedCharacter(QKeyEvent(QEvent::KeyPress, Qt::Key_1, Qt::ControlModifier, "1")), QChar());
+    EXPECT_EQ(TypedCharacter(QKeyEvent(QEvent::KeyPress, Qt::Key_D, Qt::AltModifier, "d")), QChar());
+}
+
 TEST_F(EditGridTest, CountsRowsAndColumnsFromOne) {
     grid.SetText(3, 2, "last");
     EXPECT_EQ(grid.Text(3, 2), "last");

@@ -216,6 +216,75 @@ TEST_F(FilteredLineEditTest, WhatAltGrOrOptionTypesGoesThroughTheFilter) {
     EXPECT_EQ(edit.text(), "####");
 }
 
+TEST_F(FilteredLineEditTest, KeysHeldLikeAltGrThatTypeNothingEnterNothing) {
+    edit.SetFilter({});
+    for (int key = Qt::Key_A; key <= Qt::Key_Z; ++key) {
+        EXPECT_FALSE(Press(edit, key, AltGr, "")) << key;
+        EXPECT_FALSE(Press(edit, key, AltGr, QChar(key - Qt::Key_A + 1))) << key; // the control character of Ctrl
+    }
+    EXPECT_EQ(edit.text(), "");
+}
+
+TEST_F(FilteredLineEditTest, AShortcutOfCtrlIsNoneWithAltGr) {
+    QApplication::clipboard()->setText("12");
+    edit.SetFilter({});
+    EXPECT_TRUE(Press(edit, Qt::Key_V, AltGr, "„")); // as a layout of the keyboard has it
+    EXPECT_EQ(edit.text(), "„");
+}
+
+TEST_F(FilteredLineEditTest, ADeadKeyTypesNothingAndItsCharacterGoesThroughTheFilter) {
+    edit.SetFilter([](QChar entered) { return entered == u'é' || entered.isDigit() ? entered : QChar(); });
+    Press(edit, Qt::Key_Dead_Acute, Qt::NoModifier, "");
+    Press(edit, Qt::Key_Dead_Tilde, AltGr, "");
+    EXPECT_EQ(edit.text(), "");
+    Press(edit, Qt::Key_Eacute, Qt::NoModifier, "é");
+    Press(edit, Qt::Key_Atilde, Qt::NoModifier, "ã");
+    EXPECT_EQ(edit.text(), "é");
+    // Before a key that it does not go with, the accent comes as a character of its own.
+    Press(edit, Qt::Key_Apostrophe, Qt::NoModifier, "'");
+    Press(edit, Qt::Key_1, Qt::NoModifier, "1");
+    EXPECT_EQ(edit.text(), "é1");
+}
+
+/// A part of a character that an input method is at, and what it hands over.
+void Compose(QWidget& box, const QString& part, const QString& character = {}) {
+    QInputMethodEvent event(part, {});
+    event.setCommitString(character);
+    QApplication::sendEvent(&box, &event);
+    EXPECT_TRUE(event.isAccepted());
+}
+
+TEST_F(FilteredLineEditTest, ABoxWithAFilterKeepsItsSelectionUntilACharacterIsTaken) {
+    edit.setText("123");
+    edit.selectAll();
+    Compose(edit, "er");
+    EXPECT_EQ(edit.selectedText(), "123");
+    Compose(edit, "", "二");
+    EXPECT_EQ(edit.text(), "123");
+    Compose(edit, "", "2");
+    EXPECT_EQ(edit.text(), "2");
+}
+
+TEST_F(FilteredLineEditTest, ABoxOfAnyCharactersShowsWhatIsComposed) {
+    FilteredLineEdit box;
+    box.SetLengthLimit(3);
+    box.show();
+    box.setText("对");
+    const QImage before = box.grab().toImage();
+    Compose(box, "jiang");
+    EXPECT_EQ(box.text(), "对");
+    EXPECT_NE(box.grab().toImage(), before);
+    Compose(box, "", "讲");
+    EXPECT_EQ(box.text(), "对讲");
+    Compose(box, "ji", "机机");
+    EXPECT_EQ(box.text(), "对讲机");
+    Compose(box, "");
+    EXPECT_EQ(box.text(), "对讲机");
+    const QImage after = box.grab().toImage();
+    box.setText("对讲机");
+    EXPECT_EQ(box.grab().toImage(), after); // nothing that is not text is left
+}
+
 TEST_F(FilteredLineEditTest, WhatAltGrOrOptionTypesKeepsToTheLength) {
     FilteredLineEdit box;
     box.SetLengthLimit(2);
