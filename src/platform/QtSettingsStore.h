@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtGlobal>
 #include <optional>
 #include <string>
 
@@ -18,11 +19,13 @@ public:
     void Write(std::string_view entry, std::string_view value) override;
 
 private:
+#ifndef Q_OS_WIN
     /// Nothing where the settings file is none or cannot be read.
     [[nodiscard]] std::optional<std::string> Text();
     void Put(const std::string& text);
 
     QtFileStore store_;
+#endif
 };
 
 } // namespace zelvor

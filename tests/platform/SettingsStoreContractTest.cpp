@@ -68,8 +68,10 @@ TYPED_TEST(SettingsStoreContract, ExistsAfterAWriteAlone) {
 
 TYPED_TEST(SettingsStoreContract, KeepsItsEntriesWhenCreatedAgain) {
     this->store_.Write(LanguageEntry, "1");
+    this->store_.Write(LastModelEntry, "50:34");
     this->store_.Create();
     EXPECT_EQ(this->store_.Read(LanguageEntry), "1");
+    EXPECT_EQ(this->store_.Read(LastModelEntry), "50:34");
 }
 
 TYPED_TEST(SettingsStoreContract, GivesBackAnyText) {
