@@ -98,6 +98,11 @@ protected:
     QFont before;
 };
 
+TEST_P(LargeFontTest, IsOnADesktopOfTheScaleThatTheTestsRunAt) {
+    const double scale = qEnvironmentVariable("QT_SCALE_FACTOR", "1").toDouble();
+    EXPECT_EQ(window->devicePixelRatioF(), scale); // not rounded to a whole number
+}
+
 TEST_P(LargeFontTest, EveryTextOfEveryChildWindowHasItsRoom) {
     VisitChildWindows(ExpectRoomForTexts);
 }
