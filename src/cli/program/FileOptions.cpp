@@ -8,6 +8,7 @@
 #include "cli/Sections.h"
 #include "cli/ShowCommand.h"
 #include "cli/program/Describing.h"
+#include "platform/Display.h"
 #include "platform/QtClock.h"
 #include "platform/QtSerialPorts.h"
 
@@ -61,7 +62,7 @@ void AddNew(CLI::App& app, Language language, Action& action) {
 
 /// The report needs the toolkit's fonts, and no display.
 ExitStatus ReportWithoutDisplay(const ReportRequest& read, FileStore& store, const Console& console) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    DoWithoutDisplay();
     int argc = 1;
     char name[] = "zelvor-cli";
     char* argv[] = {name, nullptr};
