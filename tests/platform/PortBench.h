@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QtGlobal>
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <initializer_list>
@@ -15,10 +17,11 @@ using Bytes = std::vector<std::uint8_t>;
 /// A machine with a port whose far end the test holds, and a number without a port.
 class PortBench {
 public:
-    static constexpr int Number = 3;
-    static constexpr int MissingNumber = 7;
-
     virtual ~PortBench() = default;
+    [[nodiscard]] virtual int Number() const { return 3; }
+    [[nodiscard]] virtual int MissingNumber() const { return 7; }
+    /// How long a few bytes may be on their way.
+    [[nodiscard]] virtual std::chrono::milliseconds Transit() const { return std::chrono::milliseconds(5); }
     virtual SerialPorts& Ports() = 0;
 
     /// Runs the event loop until the condition holds; false where it never does.
@@ -41,7 +44,13 @@ public:
 };
 
 std::unique_ptr<PortBench> MakeFakePortBench();
+#ifdef Q_OS_UNIX
 /// A pseudo-terminal behind a link of the user's.
-std::unique_ptr<PortBench> MakeRealPortBench();
+std::unique_ptr<PortBench> MakeTerminalPortBench();
+#endif
+/// Two ports of this machine with a null-modem cable between them, which the variable ZELVOR_NULL_MODEM names as the
+/// system does: COM3,COM4 or /dev/ttyUSB0,/dev/ttyUSB1. None where it names none.
+std::unique_ptr<PortBench> MakeNullModemBench();
+[[nodiscard]] bool HasNullModem();
 
 } // namespace zelvor
