@@ -1,3 +1,5 @@
+include(cmake/LeftOut.cmake)
+
 # Tests are compiled for a quick build, not for speed.
 function(zelvor_test_settings target)
   zelvor_compile_settings(${target})
@@ -25,16 +27,38 @@ target_precompile_headers(
   <QLineEdit> <QListWidget> <QMainWindow> <QMdiArea> <QMdiSubWindow> <QMenuBar> <QMessageBox> <QPushButton> <QScrollBar>
   <QSignalSpy> <QTableWidget> <QTabWidget> <QTest> <QToolBar> <QToolButton> <QVBoxLayout> <QWindow>)
 
-# A test program: zelvor_test(<name> LABEL fast|gui|system [SHARES <n>] SOURCES ... LINKS ...).
-# Its cases run in one process, or in several of their own that share them out: each is one CTest test with the label.
-# A process for each case would spend most of its time on starting. One case alone: build/release/tests/<name>
-# --gtest_filter=<case>.
-
 # What every test passes over under the leak sanitizer: libraries that are not ours.
 set(ZELVOR_LEAKS "LSAN_OPTIONS=set:suppressions=${CMAKE_SOURCE_DIR}/tests/leaks.supp:print_suppressions=0")
 
+# The environment of every test. On Windows a program finds the toolkit and the compiler's libraries by the path: that of
+# Windows, or of Wine where the tests run there.
+set(ZELVOR_TEST_ENVIRONMENT "${ZELVOR_LEAKS}")
+if(WIN32)
+  get_target_property(toolkit Qt6::Core LOCATION)
+  cmake_path(GET toolkit PARENT_PATH toolkit)
+  if(CMAKE_CROSSCOMPILING)
+    set(folders ${toolkit} ${CMAKE_CXX_IMPLICIT_LINK_DIRECTORIES})
+    list(TRANSFORM folders PREPEND "Z:")
+    list(JOIN folders "\\;" folders)
+    list(APPEND ZELVOR_TEST_ENVIRONMENT "WINEPATH=set:${folders}")
+  else()
+    list(APPEND ZELVOR_TEST_ENVIRONMENT "PATH=path_list_prepend:${toolkit}")
+  endif()
+endif()
+if(ZELVOR_CASES_LEFT_OUT)
+  list(APPEND ZELVOR_TEST_ENVIRONMENT "GTEST_FILTER=set:-${ZELVOR_CASES_LEFT_OUT}")
+endif()
+
+# A test program: zelvor_test(<name> LABEL fast|gui|system [SHARES <n>] SOURCES ... LINKS ...).
+# Its cases run in one process, or in several of their own that share them out: each is one CTest test with the label.
+# A process for each case would spend most of its time on starting. One case alone: build/release/tests/<name>
+# --gtest_filter=<case>. A program of which this system can run no test is no target.
 function(zelvor_test name)
   cmake_parse_arguments(TEST "" "LABEL;SHARES;TIMEOUT" "SOURCES;LINKS" ${ARGN})
+  zelvor_sources_here(TEST_SOURCES ${TEST_SOURCES})
+  if(NOT TEST_SOURCES MATCHES "Test\\.cpp")
+    return()
+  endif()
   if(NOT TEST_TIMEOUT)
     set(TEST_TIMEOUT 600)
   endif()
@@ -67,6 +91,6 @@ function(zelvor_test name)
     set_tests_properties(
       ${test} PROPERTIES LABELS ${TEST_LABEL} TIMEOUT ${TEST_TIMEOUT}
                          ENVIRONMENT "QT_QPA_PLATFORM=offscreen;GTEST_TOTAL_SHARDS=${TEST_SHARES};GTEST_SHARD_INDEX=${index}"
-                         ENVIRONMENT_MODIFICATION "${ZELVOR_LEAKS}")
+                         ENVIRONMENT_MODIFICATION "${ZELVOR_TEST_ENVIRONMENT}")
   endforeach()
 endfunction()

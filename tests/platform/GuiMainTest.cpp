@@ -1,6 +1,7 @@
 #include <QDir>
 #include <QGuiApplication>
 #include <QScreen>
+#include <QSettings>
 #include <QStandardPaths>
 #include <gtest/gtest.h>
 
@@ -20,9 +21,16 @@ TEST(TestsWithWindows, HaveAScreenThatHoldsTheLargestWindow) {
 }
 
 TEST(TestsWithWindows, ReadAndWriteNothingOfTheUsers) {
+    const QString config = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+#ifdef Q_OS_WIN
+    EXPECT_TRUE(config.endsWith("/qttest")) << config.toStdString();
+    const QSettings registry("HKEY_CURRENT_USER", QSettings::NativeFormat);
+    EXPECT_FALSE(registry.childGroups().contains("Environment")) << "each user has this key, and the tests have not";
+#else
     const QString home = QDir::homePath();
     EXPECT_TRUE(home.startsWith(QDir::tempPath())) << home.toStdString();
-    EXPECT_EQ(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation), home + "/config");
+    EXPECT_EQ(config, home + "/config");
+#endif
 }
 
 } // namespace

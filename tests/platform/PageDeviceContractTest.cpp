@@ -2,13 +2,15 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
-#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <vector>
+#ifdef Q_OS_UNIX
+#include <csignal>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <vector>
+#endif
 
 #include "fakes/FakePageDevice.h"
 #include "platform/QtPageDevice.h"
@@ -185,6 +187,8 @@ TEST(QtPageDevice, PrintsOverAFileThroughALink) {
     EXPECT_TRUE(ContentOf(file).startsWith("%PDF-"));
 }
 
+#ifdef Q_OS_UNIX
+
 /// A device, a folder, a pipe, and a link to one.
 TEST(QtPageDevice, PrintsOverNothingButAFile) {
     const QTemporaryDir folder;
@@ -218,6 +222,8 @@ TEST(QtPageDevice, LeavesTheFormerFileWhereTheDiskIsFull) {
     std::signal(SIGXFSZ, handler);
     EXPECT_EQ(ContentOf(printer.file), "the report of another radio");
 }
+
+#endif
 
 TEST(QtPageDevice, DoesNotBeginWhereTheFileCannotBeWritten) {
     QtPageDevice device("/no such folder/report.pdf");

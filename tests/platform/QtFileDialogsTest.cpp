@@ -15,9 +15,11 @@
 #include <QTest>
 #include <array>
 #include <gtest/gtest.h>
+
+#ifdef Q_OS_UNIX
 #include <sys/stat.h>
 #include <unistd.h>
-
+#endif
 #ifdef Q_OS_LINUX
 #include <sys/inotify.h>
 #endif
@@ -213,6 +215,7 @@ TEST_F(QtFileDialogsInUse, LeaveAPlaceThatTheUserHasPutIntoTheSideBarHimself) {
     }
 }
 
+#ifdef Q_OS_UNIX
 TEST_F(QtFileDialogsInUse, BackupsAreInTheUsersLocalData) {
     const QByteArray data = qgetenv("XDG_DATA_HOME");
     qputenv("XDG_DATA_HOME", folder_.path().toLocal8Bit());
@@ -221,14 +224,17 @@ TEST_F(QtFileDialogsInUse, BackupsAreInTheUsersLocalData) {
     EXPECT_EQ(BackupFolderPath(), QDir::home().filePath(".local/share/Zelvor/backups"));
     qputenv("XDG_DATA_HOME", data);
 }
+#endif
 
 TEST_F(QtFileDialogsInUse, StartInDocumentsWhereTheProgramsFolderCannotBeWrittenTo) {
     EXPECT_EQ(StartDirectoryFor(folder_.path()), folder_.path());
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     EXPECT_EQ(StartDirectoryFor(folder_.filePath("no such folder")), documents);
+#ifdef Q_OS_UNIX
     if (geteuid() != 0) { // root may write everywhere
         EXPECT_EQ(StartDirectoryFor("/"), documents);
     }
+#endif
 }
 
 TEST_F(QtFileDialogsInUse, AskBeforeAnExistingFileIsOverwritten) {
@@ -373,6 +379,7 @@ TEST(StartDirectory, IsTheDocumentsForAProgramThatTheSystemInstalled) {
     qunsetenv("ProgramFiles");
 }
 
+#ifdef Q_OS_UNIX
 TEST(StartDirectory, IsTheProgramsOwnWithinTheHomeOfTheUser) {
     const QByteArray home = qgetenv("HOME");
     qputenv("HOME", "/usr/home/dealer");
@@ -380,6 +387,7 @@ TEST(StartDirectory, IsTheProgramsOwnWithinTheHomeOfTheUser) {
     EXPECT_TRUE(IsSystemFolder("/usr/home/other/zelvor"));
     qputenv("HOME", home);
 }
+#endif
 
 #ifdef Q_OS_LINUX
 

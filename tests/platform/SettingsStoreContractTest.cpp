@@ -15,6 +15,15 @@
 namespace zelvor {
 namespace {
 
+#ifdef Q_OS_WIN
+
+/// Those of the tests: the program's main function gives it a registry of its own.
+void RemoveSettings() {
+    QSettings(QStringLiteral(R"(HKEY_CURRENT_USER\SoftWare)"), QSettings::NativeFormat).remove("Zelvor");
+}
+
+#else
+
 QString Folder() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QStringLiteral("/Zelvor");
 }
@@ -24,11 +33,17 @@ QByteArray FileContent() {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
 }
 
+void RemoveSettings() {
+    QDir(Folder()).removeRecursively();
+}
+
+#endif
+
 template<class Store>
 class SettingsStoreContract : public testing::Test {
 protected:
-    SettingsStoreContract() { QDir(Folder()).removeRecursively(); }
-    ~SettingsStoreContract() override { QDir(Folder()).removeRecursively(); }
+    SettingsStoreContract() { RemoveSettings(); }
+    ~SettingsStoreContract() override { RemoveSettings(); }
 
     Store store_;
 };
@@ -88,6 +103,27 @@ TEST_F(QtSettingsStoreFile, SurvivesTheObject) {
     EXPECT_EQ(QtSettingsStore().Read(LanguageEntry), "1");
 }
 
+#ifdef Q_OS_WIN
+
+TEST_F(QtSettingsStoreFile, IsInTheRegistryOfTheUser) {
+    store_.Write(LastModelEntry, "50:34:36:31:38:01:F8:FF");
+    store_.Write(LanguageEntry, "1");
+    const QSettings key(QStringLiteral(R"(HKEY_CURRENT_USER\Software\Zelvor\BackUp)"), QSettings::NativeFormat);
+    EXPECT_EQ(key.value("LastModel"), "50:34:36:31:38:01:F8:FF");
+    EXPECT_EQ(key.value("Language"), "1");
+    EXPECT_EQ(key.allKeys().size(), 2);
+}
+
+TEST_F(QtSettingsStoreFile, IsReadAnewAtEveryQuestion) {
+    store_.Write(LanguageEntry, "0");
+    QSettings key(QStringLiteral(R"(HKEY_CURRENT_USER\Software\Zelvor\BackUp)"), QSettings::NativeFormat);
+    key.setValue("Language", "1");
+    key.sync();
+    EXPECT_EQ(store_.Read(LanguageEntry), "1");
+}
+
+#else
+
 TEST_F(QtSettingsStoreFile, IsOnDiskWhenAWriteReturns) {
     store_.Write(LastModelEntry, "50:34:36:31:38:01:F8:FF");
     EXPECT_EQ(FileContent(), "[BackUp]\nLastModel=50:34:36:31:38:01:F8:FF\n");
@@ -131,6 +167,8 @@ TEST_F(QtSettingsStoreFile, IsReadAsTheToolkitWroteIt) {
     EXPECT_EQ(later.value("BackUp/LastModel"), "50:34:36:31:38:01:F8:FF");
     EXPECT_EQ(later.value("Other/Word"), "kept");
 }
+
+#endif
 
 #ifdef Q_OS_UNIX
 

@@ -1,8 +1,13 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
+#ifdef Q_OS_WIN
+#include <string>
+#include <windows.h>
+#endif
 
 namespace {
 
@@ -14,12 +19,45 @@ constexpr auto OffscreenScreen = R"({"screens": [
     {"name": "Small", "x": 1600, "y": 0, "width": 427, "height": 267, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}
 ]})";
 
-QByteArray MakeFolder(const QTemporaryDir& home, const QString& name) {
+[[maybe_unused]] QByteArray MakeFolder(const QTemporaryDir& home, const QString& name) {
     const QString path = home.filePath(name);
     QDir().mkpath(path);
     QFile::setPermissions(path, OnlyOwner);
     return path.toLocal8Bit();
 }
+
+#ifdef Q_OS_WIN
+
+// The folders of a user cannot be moved for one process: the toolkit has others for tests.
+void UsePrivateFolders(const QTemporaryDir& /*home*/) {
+    QStandardPaths::setTestModeEnabled(true);
+}
+
+/// A branch of the registry that this process sees as the one of the user; gone with it.
+class PrivateRegistry {
+public:
+    PrivateRegistry() {
+        RegCreateKeyExW(HKEY_CURRENT_USER, name_.c_str(), 0, nullptr, REG_OPTION_VOLATILE, KEY_ALL_ACCESS, nullptr,
+                        &key_, nullptr);
+        RegOverridePredefKey(HKEY_CURRENT_USER, key_);
+    }
+    PrivateRegistry(const PrivateRegistry&) = delete;
+    PrivateRegistry& operator=(const PrivateRegistry&) = delete;
+    ~PrivateRegistry() {
+        RegOverridePredefKey(HKEY_CURRENT_USER, nullptr);
+        RegCloseKey(key_);
+        RegDeleteTreeW(HKEY_CURRENT_USER, name_.c_str());
+    }
+
+private:
+    std::wstring name_ = L"Software\\ZelvorTests" + std::to_wstring(GetCurrentProcessId());
+    HKEY key_ = nullptr;
+};
+
+#else
+
+/// The files of a user are all below his folders here.
+struct PrivateRegistry {};
 
 /// Nothing of the user's is read or written.
 void UsePrivateFolders(const QTemporaryDir& home) {
@@ -28,6 +66,8 @@ void UsePrivateFolders(const QTemporaryDir& home) {
     qputenv("XDG_DATA_HOME", MakeFolder(home, "data"));
     qputenv("XDG_RUNTIME_DIR", MakeFolder(home, "runtime"));
 }
+
+#endif
 
 void UseOffscreenPlatform(const QTemporaryDir& home) {
     const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
@@ -55,6 +95,7 @@ int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     const QTemporaryDir home;
     UsePrivateFolders(home);
+    [[maybe_unused]] const PrivateRegistry registry;
     UseOffscreenPlatform(home);
     usualHandler = qInstallMessageHandler(DropComplaintsOfThePlatform);
     const QApplication application(argc, argv);
