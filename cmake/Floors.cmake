@@ -10,7 +10,7 @@ function(zelvor_floor folder)
 
   set(exported ${CMAKE_BINARY_DIR}/floors/${folder})
   file(MAKE_DIRECTORY ${exported})
-  file(CREATE_LINK ${CMAKE_SOURCE_DIR}/src/${folder} ${exported}/${folder} COPY_ON_ERROR SYMBOLIC)
+  zelvor_link_folder(${CMAKE_SOURCE_DIR}/src/${folder} ${exported}/${folder})
 
   target_include_directories(${target} PUBLIC ${exported})
   target_link_libraries(${target} PUBLIC ${FLOOR_LINKS})
@@ -18,6 +18,22 @@ function(zelvor_floor folder)
   if("Qt6::Widgets" IN_LIST FLOOR_LINKS)
     set_target_properties(${target} PROPERTIES AUTOMOC ON)
     zelvor_precompiled_toolkit(${target})
+  endif()
+endfunction()
+
+# On Windows not every user may make symbolic links; a junction is everybody's.
+function(zelvor_link_folder folder link)
+  file(CREATE_LINK ${folder} ${link} RESULT fault SYMBOLIC)
+  if(fault AND CMAKE_HOST_WIN32)
+    if(EXISTS ${link})
+      return() # the one of an earlier run
+    endif()
+    cmake_path(NATIVE_PATH folder folder)
+    cmake_path(NATIVE_PATH link link)
+    execute_process(COMMAND cmd /c mklink /J ${link} ${folder} RESULT_VARIABLE fault OUTPUT_QUIET)
+  endif()
+  if(fault)
+    message(FATAL_ERROR "No link to ${folder} can be made: ${fault}")
   endif()
 endfunction()
 
