@@ -124,18 +124,18 @@ inline constexpr NumberField VoxGainLevel{.key = "optional.vox-gain-level",
 /// behind it keep what they held, so that only an empty text clears a code. Radios in the field hold tails left by
 /// shortened codes.
 inline constexpr int PttCodeLength = 16;
-inline constexpr std::array PttCodes{TextField{.key = "optional.begin-of-tx",
-                                               .label = Text::BeginOfTx,
-                                               .address = 0x140,
-                                               .size = PttCodeLength,
-                                               .layout = TextField::Layout::SkipsErased,
-                                               .blank = u"12345"},
-                                     TextField{.key = "optional.end-of-tx",
-                                               .label = Text::EndOfTx,
-                                               .address = 0x150,
-                                               .size = PttCodeLength,
-                                               .layout = TextField::Layout::SkipsErased,
-                                               .blank = u""}};
+inline constexpr std::array<TextField, 2> PttCodes{TextField{.key = "optional.begin-of-tx",
+                                                             .label = Text::BeginOfTx,
+                                                             .address = 0x140,
+                                                             .size = PttCodeLength,
+                                                             .layout = TextField::Layout::SkipsErased,
+                                                             .blank = u"12345"},
+                                                   TextField{.key = "optional.end-of-tx",
+                                                             .label = Text::EndOfTx,
+                                                             .address = 0x150,
+                                                             .size = PttCodeLength,
+                                                             .layout = TextField::Layout::SkipsErased,
+                                                             .blank = u""}};
 
 /// The entries of PttId.
 enum class PttIdChoice : std::uint8_t { Bot, Eot, Both };
