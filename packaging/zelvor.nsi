@@ -17,6 +17,10 @@ InstallDirRegKey HKCU "${UNINSTALL_KEY}" "InstallLocation"
 SetCompressor /SOLID lzma
 ManifestDPIAware true
 
+!if /FileExists "${__FILEDIR__}/../resources/windows/zelvor.ico"
+  !define MUI_ICON "${__FILEDIR__}/../resources/windows/zelvor.ico"
+  !define MUI_UNICON "${__FILEDIR__}/../resources/windows/zelvor.ico"
+!endif
 !define MUI_FINISHPAGE_RUN "$INSTDIR\zelvor.exe"
 !insertmacro MUI_PAGE_DIRECTORY
 !insertmacro MUI_PAGE_INSTFILES
