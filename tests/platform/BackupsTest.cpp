@@ -173,7 +173,8 @@ TYPED_TEST(BackupsTest, KeepTheOneJustMadeAlsoWhereTheClockWasSetBack) {
 }
 
 TYPED_TEST(BackupsTest, TellTheirFolder) {
-    EXPECT_EQ(this->backups_.FolderPath() + "/a.dat", this->machine_.Path("a.dat"));
+    EXPECT_EQ(std::filesystem::path(this->backups_.FolderPath()) / "a.dat",
+              std::filesystem::path(this->machine_.Path("a.dat")));
 }
 
 TEST(BackupsOnAFakeMachine, AreNotKeptWhereTheFolderCannotBeMade) {
