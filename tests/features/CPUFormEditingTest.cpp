@@ -32,7 +32,7 @@ TEST_F(CPUFormEditingTest, AClickOpensTheEditorOverTheCellWithAllItsTextSelected
     EXPECT_EQ(Editor().geometry(), Grid().CellRect(3, 5));
     EXPECT_EQ(Editor().text(), "1F");
     EXPECT_EQ(Editor().selectedText(), "1F");
-    EXPECT_EQ(Editor().accessibleName(), "0024");
+    EXPECT_EQ(Editor().accessibleName(), "Address 0024");
 }
 
 TEST_F(CPUFormEditingTest, EnterOfEitherBlockOpensTheEditor) {
