@@ -3,6 +3,7 @@
 #include <QLocale>
 #include <algorithm>
 #include <iostream>
+#include <memory>
 #include <optional>
 #include <span>
 #include <sstream>
@@ -91,6 +92,13 @@ std::vector<std::string> ForReader(std::span<const std::string> words) {
     return arguments;
 }
 
+class HelpFormatter : public CLI::Formatter {
+public:
+    std::string make_option_name(const CLI::Option* option, bool isPositional) const override {
+        return ShownNameOf(CLI::Formatter::make_option_name(option, isPositional));
+    }
+};
+
 void NameLabels(CLI::App& app, Language language) {
     if (language == Language::English) {
         return;
@@ -106,6 +114,7 @@ void NameLabels(CLI::App& app, Language language) {
 }
 
 void Describe(CLI::App& app, Language language, Action& action, std::string& languageName) {
+    app.formatter(std::make_shared<HelpFormatter>());
     NameLabels(app, language);
     app.allow_windows_style_options(false); // a word that begins with a slash is a file, on every system
     app.set_help_flag("-h,--help", std::string(HelpText.In(language)));

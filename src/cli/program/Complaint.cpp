@@ -6,6 +6,8 @@
 
 #include <CLI/CLI.hpp>
 
+#include "cli/program/Describing.h"
+
 namespace zelvor::cli {
 
 namespace {
@@ -64,8 +66,8 @@ std::string ComplaintOfUnknown(const CLI::App& app, const std::vector<std::strin
 }
 
 std::string ComplaintOfMissing(const CLI::App& app, std::string_view sentence, Language language) {
-    return Say(IsRequired, IsWaitingForCommand(LastRead(app)) ? Command.In(language) : NameIn(sentence, " is required"),
-               language);
+    const std::string name = ShownNameOf(NameIn(sentence, " is required"));
+    return Say(IsRequired, IsWaitingForCommand(LastRead(app)) ? Command.In(language) : name, language);
 }
 
 std::string ComplaintOfValue(std::string sentence, Language language) {

@@ -3,6 +3,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -14,6 +15,15 @@
 namespace zelvor::cli {
 
 inline constexpr TextPair OptionsText{"Options", "选项"};
+
+/// What the arguments of "set" are called. Some versions of the reader take no space and no equals sign in a
+/// name: they know them by another.
+inline constexpr const char* AssignmentsName = "ASSIGNMENTS";
+inline constexpr std::string_view ShownAssignmentsName = "FILE... KEY=VALUE";
+
+inline std::string ShownNameOf(std::string_view name) {
+    return std::string(name == AssignmentsName ? ShownAssignmentsName : name);
+}
 
 /// A command under its name; what is read into `request` is handed to `run`.
 template<typename Request, typename Run>

@@ -41,7 +41,7 @@ void AddSet(CLI::App& app, Language language, Action& action) {
         command, action, [](const SetArguments& read, FileStore& store, const Console& console) {
             return Set(ReadSetArguments(read.arguments, read.output), store, console);
         });
-    AddFiles(command, "FILE... KEY=VALUE", request->arguments, language, ArgumentsText);
+    AddFiles(command, AssignmentsName, request->arguments, language, ArgumentsText);
     AddOutput(command, request->output, "OUT", language, OutputText);
 }
 
