@@ -190,7 +190,8 @@ TEST_F(TuningFormTest, TheValueLooksLikeADisplayAndSaysHowItIsChanged) {
 
 TEST_F(TuningFormTest, NothingOfTheArrowsFrameShowsBesideTheValue) {
     OpenHighPower();
-    const auto& spin = In<QWidget>(*form, Of("updValue", 0));
+    const QString name = Of("updValue", 0);
+    const auto& spin = In<QWidget>(*form, name);
     EXPECT_LT(spin.mapTo(form, QPoint()).x(), Box().mapTo(form, QPoint(Box().width(), 0)).x());
     EXPECT_EQ(spin.height(), Box().height());
     // The pixel in the middle of the covered edge is the box's.
