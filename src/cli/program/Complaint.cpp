@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include <CLI/CLI.hpp>
@@ -70,7 +71,22 @@ std::string ComplaintOfMissing(const CLI::App& app, std::string_view sentence, L
     return Say(IsRequired, IsWaitingForCommand(LastRead(app)) ? Command.In(language) : name, language);
 }
 
+/// Some versions of the reader write a range as [1 - 20], others as 1 to 20.
+std::string WithPlainRange(std::string sentence) {
+    constexpr std::string_view Bracketed = " not in range [";
+    constexpr std::string_view Dash = " - ";
+    const std::size_t range = sentence.rfind(Bracketed);
+    const std::size_t dash = sentence.find(Dash, range);
+    if (range == std::string::npos || dash == std::string::npos || !sentence.ends_with(']')) {
+        return sentence;
+    }
+    sentence.pop_back();
+    sentence.replace(dash, Dash.size(), " to ");
+    return sentence.erase(range + Bracketed.size() - 1, 1);
+}
+
 std::string ComplaintOfValue(std::string sentence, Language language) {
+    sentence = WithPlainRange(std::move(sentence));
     for (const Phrase& phrase : ValuePhrases) {
         if (const std::size_t place = sentence.rfind(phrase.reader); place != std::string::npos) {
             sentence.replace(place, phrase.reader.size(), phrase.text.In(language));
