@@ -12,7 +12,7 @@ namespace zelvor {
 /// shows it.
 template<class Dialog>
 void WithNextDialog(std::function<void(Dialog&)> act) {
-    constexpr int Attempts = 400;
+    constexpr int Attempts = 12000; // a minute: a dialog that came after the last one would stay for ever
     auto* poll = new QTimer(qApp);
     poll->setInterval(5);
     QObject::connect(poll, &QTimer::timeout, poll, [poll, act = std::move(act), left = Attempts]() mutable {
