@@ -76,8 +76,14 @@ void UseOffscreenPlatform(const QTemporaryDir& home) {
     }
     QFile file(home.filePath("screen.json"));
     if (file.open(QIODevice::WriteOnly) && file.write(OffscreenScreen) > 0) {
-        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + file.fileName().toLocal8Bit());
+        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=screen.json");
     }
+#ifdef Q_OS_WIN
+    // This platform asks for no fonts of the system there.
+    if (!qEnvironmentVariableIsSet("QT_QPA_FONTDIR")) {
+        qputenv("QT_QPA_FONTDIR", qgetenv("SystemRoot") + "/Fonts");
+    }
+#endif
 }
 
 QtMessageHandler usualHandler = nullptr;
@@ -98,6 +104,10 @@ int main(int argc, char** argv) {
     [[maybe_unused]] const PrivateRegistry registry;
     UseOffscreenPlatform(home);
     usualHandler = qInstallMessageHandler(DropComplaintsOfThePlatform);
+    // The platform's file is named from its folder: in its option a colon, as of a drive, would end the name.
+    const QString folder = QDir::currentPath();
+    QDir::setCurrent(home.path());
     const QApplication application(argc, argv);
+    QDir::setCurrent(folder);
     return RUN_ALL_TESTS();
 }
