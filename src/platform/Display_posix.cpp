@@ -1,6 +1,6 @@
 #include "platform/Display.h"
 
-#include <QtGlobal>
+#include <QByteArray>
 
 namespace zelvor {
 
