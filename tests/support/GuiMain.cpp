@@ -37,7 +37,7 @@ void UsePrivateFolders(const QTemporaryDir& /*home*/) {
 class PrivateRegistry {
 public:
     PrivateRegistry() {
-        RegCreateKeyExW(HKEY_CURRENT_USER, name_.c_str(), 0, nullptr, REG_OPTION_VOLATILE, KEY_ALL_ACCESS, nullptr,
+        RegCreateKeyExW(HKEY_CURRENT_USER, name_.c_str(), 0, nullptr, REG_OPTION_NON_VOLATILE, KEY_ALL_ACCESS, nullptr,
                         &key_, nullptr);
         RegOverridePredefKey(HKEY_CURRENT_USER, key_);
     }
@@ -109,5 +109,8 @@ int main(int argc, char** argv) {
     QDir::setCurrent(home.path());
     const QApplication application(argc, argv);
     QDir::setCurrent(folder);
+    if (QGuiApplication::platformName() == QStringLiteral("offscreen")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen"); // programs that a test starts do not find that file
+    }
     return RUN_ALL_TESTS();
 }
