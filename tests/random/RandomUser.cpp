@@ -173,8 +173,8 @@ void RandomUser::Do(const Draw& draw) {
 }
 
 std::optional<Target> RandomUser::TargetOf(const Draw& draw) {
-    const auto [first, second, third, fourth] = draw.numbers;
-    return windows_.Ask([=]() -> std::optional<Target> {
+    return windows_.Ask([draw]() -> std::optional<Target> {
+        const auto [first, second, third, fourth] = draw.numbers;
         switch (draw.act) {
         case Act::ClickAnywhere:
             return SomePlace(first, second);
