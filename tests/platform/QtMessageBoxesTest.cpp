@@ -20,6 +20,8 @@ namespace {
 MessageAnswer LookAt(const Message& message, std::function<void(QMessageBox&)> look) {
     WithNextDialog<QMessageBox>([look](QMessageBox& box) {
         look(box);
+        box.activateWindow(); // or a shortcut of the window that is active still would take the key
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&box));
         QTest::keyClick(&box, Qt::Key_Escape);
     });
     return QtMessageBoxes().Show(message);
