@@ -11,7 +11,7 @@ constexpr int LongestSession = 60'000; // milliseconds, of 52 exchanges that eac
 } // namespace
 
 CloneFuzz::CloneFuzz(FuzzInput& input, int transferMode)
-    : input_(input), language_(input.TakeBool() ? Language::Chinese : Language::English),
+    : SpoiltExchange(input), language_(input.TakeBool() ? Language::Chinese : Language::English),
       engine_(document_, {link_, *port_, clock_, user_, language_}, *this) {
     document_.Image = TakeImage(input);
     radio_.Memory = TakeImage(input);

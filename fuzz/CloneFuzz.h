@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "FuzzImages.h"
-#include "SpoiltRadio.h"
+#include "SpoiltExchange.h"
 #include "data/Document.h"
 #include "link/CloneEngine.h"
 #include "link/CloneFrames.h"
@@ -11,7 +11,7 @@
 namespace zelvor::fuzz {
 
 /// A transfer between a document and a spoilt radio, from the dialog's opening to its closing.
-class CloneFuzz : private CloneObserver {
+class CloneFuzz : private SpoiltExchange, private CloneObserver {
 public:
     /// transferMode is one of transfer::Reading and transfer::Writing.
     CloneFuzz(FuzzInput& input, int transferMode);
@@ -33,14 +33,7 @@ private:
     void OnWriteCompleted() override { ++completed_; }
     void OnUnloadRequested() override;
 
-    FuzzInput& input_;
-    FakeClock clock_;
-    FakeSerialPorts ports_;
-    SpoiltRadio radio_{input_, clock_, ports_};
-    FuzzedUser user_{input_, clock_, radio_};
     Document document_;
-    LinkState link_;
-    std::unique_ptr<SerialPort> port_ = ports_.Make("MSComm1");
     Language language_;
     CloneEngine engine_;
     int completed_ = 0;

@@ -5,7 +5,7 @@
 
 #include "FuzzImages.h"
 #include "Require.h"
-#include "SpoiltRadio.h"
+#include "SpoiltExchange.h"
 #include "data/Document.h"
 #include "data/MemoryMap.h"
 #include "service/EntryEngine.h"
@@ -18,9 +18,9 @@ namespace {
 
 constexpr int LongestSession = 20'000; // milliseconds, of 37 exchanges that each take nearly their time-out
 
-class EntryFuzz : private EntryObserver {
+class EntryFuzz : private SpoiltExchange, private EntryObserver {
 public:
-    explicit EntryFuzz(FuzzInput& input) : input_(input) {
+    explicit EntryFuzz(FuzzInput& input) : SpoiltExchange(input) {
         isInformation_ = input.TakeBool();
         document_.Image = TakeImage(input);
         radio_.Memory = input.TakeBool() ? document_.Image : TakeImage(input);
@@ -109,15 +109,8 @@ private:
         isOpened_ = true;
     }
 
-    FuzzInput& input_;
-    FakeClock clock_;
-    FakeSerialPorts ports_;
-    SpoiltRadio radio_{input_, clock_, ports_};
-    FuzzedUser user_{input_, clock_, radio_};
     Document document_;
-    LinkState link_;
     ServiceState service_;
-    std::unique_ptr<SerialPort> port_ = ports_.Make("MSComm1");
     EntryEngine engine_{document_, service_, {link_, *port_, clock_, user_, Language::English}, *this};
     bool isInformation_ = false;
     int ends_ = 0;

@@ -5,6 +5,7 @@
 #include "FuzzImages.h"
 #include "Require.h"
 #include "ServiceRadio.h"
+#include "SpoiltExchange.h"
 #include "data/Document.h"
 #include "data/MemoryMap.h"
 #include "data/TuneItems.h"
@@ -15,9 +16,9 @@ namespace {
 
 constexpr std::uint8_t TuningEntry[]{'T', 'U', 'N', 'I', 'N', 'G', ' '};
 
-class TestModeFuzz : private TestObserver {
+class TestModeFuzz : private SpoiltExchange, private TestObserver {
 public:
-    explicit TestModeFuzz(FuzzInput& input) : input_(input) {
+    explicit TestModeFuzz(FuzzInput& input) : SpoiltExchange(input) {
         document_.Image = TakeImage(input);
         radio_.Memory = document_.Image;
         radio_.Prepare(TuningEntry);
@@ -117,15 +118,8 @@ private:
     }
     void OnClosed() override { ++closed_; }
 
-    FuzzInput& input_;
-    FakeClock clock_;
-    FakeSerialPorts ports_;
-    SpoiltRadio radio_{input_, clock_, ports_};
-    FuzzedUser user_{input_, clock_, radio_};
     Document document_;
-    LinkState link_;
     ServiceState service_;
-    std::unique_ptr<SerialPort> port_ = ports_.Make("MSComm1");
     TestEngine engine_{document_, service_, {link_, *port_, clock_, user_, Language::English}, *this};
     int closed_ = 0;
     bool isLeaving_ = false;

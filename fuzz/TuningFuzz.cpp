@@ -5,6 +5,7 @@
 #include "FuzzImages.h"
 #include "Require.h"
 #include "ServiceRadio.h"
+#include "SpoiltExchange.h"
 #include "data/MemoryMap.h"
 #include "service/FrequencyPoints.h"
 #include "service/LinkedValues.h"
@@ -17,10 +18,10 @@ namespace {
 constexpr std::uint8_t TuningEntry[]{'T', 'U', 'N', 'I', 'N', 'G', ' '};
 constexpr std::uint8_t Narrow[]{'G'};
 
-class TuningFuzz : private TuningSource, private TuningObserver {
+class TuningFuzz : private SpoiltExchange, private TuningSource, private TuningObserver {
 public:
     explicit TuningFuzz(FuzzInput& input)
-        : input_(input), isNarrow_(input.TakeBool()),
+        : SpoiltExchange(input), isNarrow_(input.TakeBool()),
           dialog_(TuningDialogOf(1 + input.TakeByte() % TuneItemCount, isNarrow_)), image_(TakeImage(input)),
           values_(LoadValues(input)),
           engine_(service_, {link_, *port_, clock_, user_, Language::English}, PlanOf(dialog_), *this, *this) {
@@ -159,14 +160,7 @@ private:
     void OnUnloadRequested() override { engine_.Close(TuningEngine::Ending::Cancel); }
     void OnClosed() override { ++closed_; }
 
-    FuzzInput& input_;
-    FakeClock clock_;
-    FakeSerialPorts ports_;
-    SpoiltRadio radio_{input_, clock_, ports_};
-    FuzzedUser user_{input_, clock_, radio_};
-    LinkState link_;
     ServiceState service_;
-    std::unique_ptr<SerialPort> port_ = ports_.Make("MSComm1");
     bool isNarrow_;
     TuningDialog dialog_;
     DataImage image_;
