@@ -40,7 +40,9 @@ void DropFoldersOnTheWay(const QFileDialog& dialog) {
 /// that would be replaced may be another one, and is asked about here. Returns whether the choice stands.
 bool ConfirmAddedSuffix(QFileDialog& dialog, const QString& file) {
     const bool isSystems = dialog.testAttribute(Qt::WA_DontShowOnScreen);
-    if (dialog.acceptMode() != QFileDialog::AcceptSave || !isSystems || !QFileInfo::exists(file)) {
+    const bool isAsked =
+        dialog.acceptMode() == QFileDialog::AcceptSave && !dialog.testOption(QFileDialog::DontConfirmOverwrite);
+    if (!isAsked || !isSystems || !QFileInfo::exists(file)) {
         return true;
     }
     const QString suffix = dialog.defaultSuffix();
@@ -81,6 +83,20 @@ std::optional<QString> FileQuestion::Ask(const std::function<void(QFileDialog& d
     settings_.Review();
     delete dialog;
     return file.isEmpty() ? std::nullopt : std::optional(file);
+}
+
+std::optional<QString> FileQuestion::AskForPdf(const QString& proposed, bool confirmsReplacing) {
+    return Ask([&](QFileDialog& dialog) {
+        dialog.setObjectName(QStringLiteral("dlgPrintFile"));
+        dialog.setAcceptMode(QFileDialog::AcceptSave);
+        dialog.setFileMode(QFileDialog::AnyFile);
+        dialog.setOption(QFileDialog::DontConfirmOverwrite, !confirmsReplacing);
+        dialog.setNameFilter(QStringLiteral("PDF (*.pdf)"));
+        dialog.setDefaultSuffix(QStringLiteral("pdf"));
+        const QFileInfo file(proposed);
+        dialog.setDirectory(file.absolutePath());
+        dialog.selectFile(file.fileName());
+    });
 }
 
 } // namespace zelvor

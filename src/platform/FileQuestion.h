@@ -18,6 +18,10 @@ class FileQuestion {
 public:
     /// Nothing where the dialog was cancelled, or went with its parent.
     [[nodiscard]] std::optional<QString> Ask(const std::function<void(QFileDialog& dialog)>& setUp);
+    /// The PDF file that is proposed, or another one. Whether a file may be replaced is asked about where that is said.
+    [[nodiscard]] std::optional<QString> AskForPdf(const QString& proposed, bool confirmsReplacing);
+
+    [[nodiscard]] FileIcons& Icons() { return icons_; }
 
 private:
     ToolkitSettings settings_;

@@ -1,7 +1,6 @@
 #include "platform/PrintChoice.h"
 
 #include <QDir>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QPointer>
 #include <QStandardPaths>
@@ -95,16 +94,7 @@ QString PrintChoice::FileToPropose(const QString& document) const {
 }
 
 bool PrintChoice::ChooseFile(const QString& document) {
-    const std::optional<QString> file = question_.Ask([&](QFileDialog& dialog) {
-        dialog.setObjectName(QStringLiteral("dlgPrintFile"));
-        dialog.setAcceptMode(QFileDialog::AcceptSave);
-        dialog.setFileMode(QFileDialog::AnyFile);
-        dialog.setNameFilter(QStringLiteral("PDF (*.pdf)"));
-        dialog.setDefaultSuffix(QStringLiteral("pdf"));
-        const QFileInfo proposed(FileToPropose(document));
-        dialog.setDirectory(proposed.absolutePath());
-        dialog.selectFile(proposed.fileName());
-    });
+    const std::optional<QString> file = question_.AskForPdf(FileToPropose(document), true);
     if (!file) {
         return false;
     }
@@ -115,7 +105,7 @@ bool PrintChoice::ChooseFile(const QString& document) {
 bool PrintChoice::ChooseFromAll(const QString& document) {
     settings_.Review(); // the dialog has a file dialog behind one of its buttons
     std::unique_ptr<QPrinter> printer = PrinterForSetup();
-    const QPointer<PrintSetupDialog> dialog = new PrintSetupDialog(*printer, *printers_, DialogParent());
+    const QPointer<PrintSetupDialog> dialog = new PrintSetupDialog(*printer, *printers_, question_, DialogParent());
     dialog->SetFile(FileToPropose(document));
     if (file_) {
         dialog->StartOnFile(file_->layout);

@@ -1,18 +1,23 @@
 #include "platform/PrintSetupDialog.h"
 
+#include <QAbstractButton>
 #include <QChildEvent>
 #include <QComboBox>
+#include <QCompleter>
 #include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QFileInfo>
+#include <QFileSystemModel>
 #include <QLineEdit>
 #include <QPageSize>
+#include <QPointer>
 #include <QPushButton>
 #include <QShowEvent>
 #include <QTabWidget>
 #include <algorithm>
 #include <utility>
 
+#include "platform/FileQuestion.h"
 #include "platform/NativePrinter.h"
 #include "platform/ScreenRoom.h"
 #include "platform/ScrolledDialog.h"
@@ -67,7 +72,8 @@ void SelectPaper(const QDialog& properties, const QPageSize& paper) {
 
 } // namespace
 
-PrintSetupDialog::PrintSetupDialog(QPrinter& printer, std::vector<InstalledPrinter> printers, QWidget* parent)
+PrintSetupDialog::PrintSetupDialog(QPrinter& printer, std::vector<InstalledPrinter> printers, FileQuestion& question,
+                                   QWidget* parent)
     : QPrintDialog(&printer, parent), printers_(std::move(printers)), firstPrinter_(printer.printerName()),
       firstLayout_(printer.pageLayout()), printerList_(findChild<QComboBox*>(QStringLiteral("printers"))),
       fileName_(findChild<QLineEdit*>(QStringLiteral("filename"))) {
@@ -78,6 +84,29 @@ PrintSetupDialog::PrintSetupDialog(QPrinter& printer, std::vector<InstalledPrint
     if (fileName_ != nullptr) {
         fileName_->installEventFilter(this);
         connect(fileName_, &QLineEdit::textChanged, this, &PrintSetupDialog::OfferWhatWorks);
+        LookIntoNoFile(question);
+    }
+}
+
+// The toolkit completes the name from a list of files of its own, and has a file dialog of its own.
+void PrintSetupDialog::LookIntoNoFile(FileQuestion& question) {
+    const QCompleter* completer = fileName_->completer();
+    if (auto* files = qobject_cast<QFileSystemModel*>(completer != nullptr ? completer->model() : nullptr)) {
+        files->setIconProvider(&question.Icons());
+    }
+    if (auto* browse = findChild<QAbstractButton*>(QStringLiteral("fileBrowser"))) {
+        disconnect(browse, &QAbstractButton::clicked, nullptr, nullptr);
+        connect(browse, &QAbstractButton::clicked, this, [this, &question] { Browse(question); });
+    }
+}
+
+// Whether it may be replaced is asked at OK, as for a name that is typed.
+void PrintSetupDialog::Browse(FileQuestion& question) {
+    const QPointer<PrintSetupDialog> self = this;
+    const std::optional<QString> file = question.AskForPdf(fileName_->text(), false);
+    if (self && file) {
+        fileName_->setText(*file);
+        printerList_->setCurrentIndex(printerList_->count() - 1);
     }
 }
 

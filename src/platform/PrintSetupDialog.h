@@ -13,6 +13,8 @@ class QLineEdit;
 
 namespace zelvor {
 
+class FileQuestion;
+
 /// The toolkit's print dialog, in which a printer or a PDF file is chosen for later documents. Its objectName is
 /// "dlgPrint". For a PDF file it offers paper, orientation and margins; the rest is the printing system's to do, and
 /// cannot be chosen there, and nothing but a file is taken. A printer that is chosen in it comes with its own paper;
@@ -21,7 +23,9 @@ namespace zelvor {
 /// On a system that has a dialog of its own, that one is shown as it is.
 class PrintSetupDialog : public QPrintDialog {
 public:
-    PrintSetupDialog(QPrinter& printer, std::vector<InstalledPrinter> printers, QWidget* parent);
+    /// question: asks for the file behind the button "..."; it lives longer than the dialog.
+    PrintSetupDialog(QPrinter& printer, std::vector<InstalledPrinter> printers, FileQuestion& question,
+                     QWidget* parent);
 
     /// The PDF file's name that the dialog starts with.
     void SetFile(const QString& file);
@@ -38,6 +42,8 @@ protected:
 
 private:
     void OnPrinterChosen();
+    void LookIntoNoFile(FileQuestion& question);
+    void Browse(FileQuestion& question);
     void OfferWhatWorks();
     [[nodiscard]] bool IsFileChosen() const;
     [[nodiscard]] bool IsFirstPrinterChosen() const;

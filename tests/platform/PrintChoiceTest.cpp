@@ -1,6 +1,8 @@
 #include "platform/PrintChoice.h"
 
+#include <QAbstractButton>
 #include <QComboBox>
+#include <QCompleter>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFile>
@@ -26,6 +28,9 @@
 
 #include "../support/InView.h"
 #include "platform/ModalDriver.h"
+#ifdef Q_OS_LINUX
+#include "platform/OpenedFiles.h"
+#endif
 #include "platform/PrintPropertiesDriver.h"
 
 namespace zelvor {
@@ -268,6 +273,40 @@ TEST_F(PrintSetup, AsksBeforeItTakesAFileThatIsThere) {
     EXPECT_TRUE(asked);
     EXPECT_TRUE(TargetOf(choice_).replacesFile);
 }
+
+TEST_F(PrintSetup, AsksForThePdfFileAsAllFilesAreAskedFor) {
+    Look(Path("radio.dat"), [this](QPrintDialog& dialog) {
+        WithNextDialog<QFileDialog>([this](QFileDialog& files) {
+            EXPECT_EQ(files.objectName(), "dlgPrintFile");
+            EXPECT_EQ(files.selectedFiles(), QStringList(Path("radio.pdf")));
+            files.selectFile(Path("mine"));
+            static_cast<QDialog&>(files).accept();
+        });
+        dialog.findChild<QAbstractButton*>("fileBrowser")->click();
+        EXPECT_EQ(dialog.findChild<QLineEdit*>("filename")->text(), Path("mine.pdf"));
+        EXPECT_TRUE(dialog.isVisible());
+    });
+}
+
+#ifdef Q_OS_LINUX
+// Completing a name lists a folder.
+TEST_F(PrintSetup, LooksIntoNoneOfTheFilesBesideTheName) {
+    for (const char* name : {"first", "second"}) {
+        QFile file(Path(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(name) > 0);
+    }
+    const OpenedFiles opened(folder_.path());
+    Look(Path("radio.dat"), [this](QPrintDialog& dialog) {
+        auto* name = dialog.findChild<QLineEdit*>("filename");
+        name->selectAll();
+        QTest::keyClicks(name, folder_.path() + "/");
+        const QAbstractItemModel* list = name->completer()->completionModel();
+        EXPECT_TRUE(QTest::qWaitFor([list] { return list->rowCount() == 2; }, 5000));
+        QTest::qWait(100); // names come first, and what they are follows
+    });
+    EXPECT_EQ(opened.Take(), QStringList());
+}
+#endif
 
 #ifdef Q_OS_UNIX
 TEST_F(PrintSetup, TakesNothingButAFileAndDoesNotWaitForAPipe) {

@@ -13,18 +13,17 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
-#include <array>
 #include <gtest/gtest.h>
 
 #ifdef Q_OS_UNIX
 #include <sys/stat.h>
 #include <unistd.h>
 #endif
-#ifdef Q_OS_LINUX
-#include <sys/inotify.h>
-#endif
 
 #include "ModalDriver.h"
+#ifdef Q_OS_LINUX
+#include "OpenedFiles.h"
+#endif
 #include "platform/QtFileDialogs.h"
 #include "platform/QtFolder.h"
 #include "platform/StartDirectory.h"
@@ -390,35 +389,6 @@ TEST(StartDirectory, IsTheProgramsOwnWithinTheHomeOfTheUser) {
 #endif
 
 #ifdef Q_OS_LINUX
-
-/// The files of a folder that anybody opens.
-class OpenedFiles {
-public:
-    explicit OpenedFiles(const QString& folder) : watch_(inotify_init1(IN_NONBLOCK | IN_CLOEXEC)) {
-        EXPECT_GE(inotify_add_watch(watch_, QFile::encodeName(folder).constData(), IN_OPEN), 0);
-    }
-    ~OpenedFiles() { close(watch_); }
-    OpenedFiles(const OpenedFiles&) = delete;
-    OpenedFiles& operator=(const OpenedFiles&) = delete;
-
-    [[nodiscard]] QStringList Take() const {
-        alignas(inotify_event) std::array<char, 4096> events{};
-        QStringList names;
-        for (ssize_t length = 0; (length = read(watch_, events.data(), events.size())) > 0;) {
-            for (ssize_t at = 0; at < length;) {
-                const auto* event = reinterpret_cast<const inotify_event*>(events.data() + at);
-                if ((event->mask & IN_ISDIR) == 0) {
-                    names.append(QFile::decodeName(event->name));
-                }
-                at += static_cast<ssize_t>(sizeof(inotify_event) + event->len);
-            }
-        }
-        return names;
-    }
-
-private:
-    int watch_;
-};
 
 // One that never gives a byte would hold the window up for ever.
 TEST_F(QtFileDialogsInUse, LookIntoNoneOfTheFilesThatTheyList) {
