@@ -17,6 +17,7 @@
 #include "data/TuneItems.h"
 #include "features/CPUForm.h"
 #include "help/QtHelpViewer.h"
+#include "platform/FileQuestion.h"
 #include "platform/PrintSetupDialog.h"
 #include "platform/QtFileDialogs.h"
 #include "platform/QtLanguage.h"
@@ -242,7 +243,8 @@ TEST_P(AccessibleWindowsTest, EveryControlOfTheFileDialogsIsSpoken) {
 
 TEST_P(AccessibleWindowsTest, EveryControlOfThePrintSetUpIsSpoken) {
     QPrinter printer;
-    PrintSetupDialog dialog(printer, {}, nullptr);
+    FileQuestion question;
+    PrintSetupDialog dialog(printer, {}, question, nullptr);
     Show(dialog);
     ExpectNames(dialog);
 }
