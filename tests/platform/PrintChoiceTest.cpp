@@ -97,6 +97,9 @@ void ExpectLike(const QPageLayout& layout, const QPageLayout& expected) {
 class PrintSetup : public testing::Test {
 protected:
     void SetUp() override {
+#ifndef Q_OS_UNIX
+        GTEST_SKIP() << "The system has a dialog of its own";
+#endif
         if (!QPrinterInfo::availablePrinterNames().isEmpty()) {
             GTEST_SKIP() << "This machine has a printer";
         }
@@ -357,7 +360,7 @@ TEST_F(PrintSetupWithoutAnswer, ChoosesAPdfFileWithoutThePrintingSystem) {
     });
     EXPECT_TRUE(choice_.ShowSetup(folder_.filePath("radio.dat")));
     EXPECT_EQ(TargetOf(choice_).kind, Kind::File);
-    EXPECT_EQ(TargetOf(choice_).name, folder_.filePath("mine.pdf").toStdString());
+    EXPECT_EQ(TargetOf(choice_).name, QDir::toNativeSeparators(folder_.filePath("mine.pdf")).toStdString());
 }
 
 TEST_F(PrintSetupWithoutAnswer, AsksBeforeItTakesAFileWhoseSuffixWasNotTyped) {
