@@ -41,8 +41,6 @@ if(WIN32)
     list(TRANSFORM folders PREPEND "Z:")
     list(JOIN folders "\\;" folders)
     list(APPEND ZELVOR_TEST_ENVIRONMENT "WINEPATH=set:${folders}")
-    # Wine has no font with Chinese characters: the one that the tests have on Debian.
-    list(APPEND ZELVOR_TEST_ENVIRONMENT "QT_QPA_FONTDIR=set:Z:/usr/share/fonts/truetype/wqy")
   else()
     list(APPEND ZELVOR_TEST_ENVIRONMENT "PATH=path_list_prepend:${toolkit}")
   endif()

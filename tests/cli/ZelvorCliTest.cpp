@@ -40,8 +40,12 @@ TEST_F(ZelvorCli, NewSetGetDiffAndCheckWorkTogether) {
 TEST_F(ZelvorCli, TakesFilesOfAnyName) {
     MakeNew("x");
     const std::string content = FileContent(folder / "x");
-    for (const char* name : {"{}", "[a]", "[a,b]", "a,b", "%%", "a b", "-x", "队列.dat", "keys", "*"}) {
-        PutFile(folder / name, content);
+    std::vector<const char*> names{"{}", "[a]", "[a,b]", "a,b", "%%", "a b", "-x", "队列.dat", "keys"};
+#ifdef Q_OS_UNIX
+    names.push_back("*"); // Windows has no file of that name
+#endif
+    for (const char* name : names) {
+        PutFile(folder / zelvor::testing::PathOfUtf8(name), content);
         EXPECT_EQ(Run({"set", "optional.beep=Off", "--", name}), 0) << name << ": " << err;
         EXPECT_EQ(Run({"get", "--", name, "optional.beep"}), 0) << name << ": " << err;
         EXPECT_EQ(out, "optional.beep=Off\n") << name;
@@ -68,6 +72,13 @@ TEST_F(ZelvorCli, ShowKeysAndPortsPrint) {
     EXPECT_TRUE(QJsonDocument::fromJson(QByteArray::fromStdString(out)).isObject());
     EXPECT_EQ(Run({"keys"}), 0);
     EXPECT_EQ(std::ranges::count(out, '\n'), 333);
+    EXPECT_EQ(Run({"ports"}), 0);
+    EXPECT_EQ(std::ranges::count(out, '\n'), 20);
+    EXPECT_EQ(err, "");
+}
+
+#ifdef Q_OS_UNIX
+TEST_F(ZelvorCli, PortsPrintsALinkOfTheUsers) {
     std::filesystem::create_directories(folder / "config/Zelvor/ports");
     std::filesystem::create_symlink("/dev/null", folder / "config/Zelvor/ports/COM7");
     EXPECT_EQ(Run({"ports"}), 0);
@@ -75,6 +86,7 @@ TEST_F(ZelvorCli, ShowKeysAndPortsPrint) {
     EXPECT_NE(out.find("\n7\t/dev/null\n"), std::string::npos) << out;
     EXPECT_EQ(err, "");
 }
+#endif
 
 TEST_F(ZelvorCli, ChannelsGoOutAndIn) {
     MakeNew();
@@ -97,23 +109,29 @@ TEST_F(ZelvorCli, NeverWritesAReportOrATableOverWhatItReads) {
     MakeNew();
     const std::string before = FileContent(folder / "a.dat");
     std::filesystem::create_directory(folder / "d");
-    std::filesystem::create_symlink("a.dat", folder / "link.dat");
     std::filesystem::create_hard_link(folder / "a.dat", folder / "hard.dat");
     const QString full = QString::fromStdString((folder / "a.dat").string());
-    for (const QString& other : QStringList{"a.dat", "./a.dat", "d/../a.dat", "link.dat", "hard.dat", full}) {
+    QStringList others{"a.dat", "./a.dat", "d/../a.dat", "hard.dat", full};
+#ifdef Q_OS_UNIX
+    std::filesystem::create_symlink("a.dat", folder / "link.dat");
+    others.append("link.dat");
+#endif
+    for (const QString& other : others) {
         for (const QStringList& arguments : {QStringList{"report", "a.dat", "-o", other},
                                              {"report", other, "-o", "a.dat"},
                                              {"channels", "export", "a.dat", "-o", other},
-                                             {"channels", "import", "link.dat", "a.dat", "-o", other}}) {
+                                             {"channels", "import", "hard.dat", "a.dat", "-o", other}}) {
             EXPECT_EQ(Run(arguments), 2) << arguments.join(' ').toStdString();
             EXPECT_TRUE(err.ends_with(": is what the command reads; the output must be another file\n")) << err;
             EXPECT_EQ(std::ranges::count(err, '\n'), 1);
             EXPECT_EQ(FileContent(folder / "a.dat"), before);
         }
     }
+#ifdef Q_OS_UNIX
     PutFile(folder / "c.csv", "channel,rx_mhz\n1,145\n");
     EXPECT_EQ(Run({"channels", "import", "a.dat", "c.csv", "-o", "link.dat"}), 0) << err; // in place
     EXPECT_NE(FileContent(folder / "a.dat"), before);
+#endif
 }
 
 TEST_F(ZelvorCli, ReportNeedsNoDisplay) {
@@ -126,6 +144,8 @@ TEST_F(ZelvorCli, ReportNeedsNoDisplay) {
     EXPECT_EQ(Run({"report", "gone.dat", "-o", "s.pdf"}), 3);
     EXPECT_FALSE(std::filesystem::exists(folder / "s.pdf"));
 }
+
+#ifdef Q_OS_UNIX
 
 TEST_F(ZelvorCli, TellsOfAStandardOutputThatIsFull) {
     MakeNew();
@@ -158,6 +178,8 @@ TEST_F(ZelvorCli, ADiskThatTakesNoMoreKeepsTheOldFiles) {
     EXPECT_EQ(FileContent(folder / "r.pdf"), "old");
     EXPECT_EQ(EntriesOf(folder.Path()), (std::vector<std::string>{"a.dat", "c.csv", "r.pdf"}));
 }
+
+#endif
 
 TEST_F(ZelvorCli, RefusesWhatIsNoFileAndLeavesNothingBehind) {
     MakeNew();

@@ -49,7 +49,7 @@ protected:
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
         QDir::setCurrent(folder_.path());
     }
-    ~FileDialogsContract() override { QDir::setCurrent(QDir::rootPath()); }
+    ~FileDialogsContract() override { QDir::setCurrent(folderBefore_); }
 
     [[nodiscard]] std::string Path(const char* name) const {
         return QDir::toNativeSeparators(folder_.filePath(QString::fromUtf8(name))).toStdString();
@@ -57,6 +57,7 @@ protected:
     static std::string CurrentFolder() { return QDir::toNativeSeparators(QDir::currentPath()).toStdString(); }
 
     QTemporaryDir folder_;
+    const QString folderBefore_ = QDir::currentPath();
     User user_;
     FileDialogRequest request_{"", "QPK Data Files(*.dat)|*.dat", folder_.path().toStdString()};
 };

@@ -36,7 +36,7 @@ namespace {
 class QtFileDialogsInUse : public testing::Test {
 protected:
     QtFileDialogsInUse() { MakeFile("old.dat"); }
-    ~QtFileDialogsInUse() override { QDir::setCurrent(QDir::rootPath()); }
+    ~QtFileDialogsInUse() override { QDir::setCurrent(folderBefore_); }
 
     void MakeFile(const char* name) {
         QFile file(folder_.filePath(QString::fromUtf8(name)));
@@ -87,6 +87,7 @@ protected:
     }
 
     QTemporaryDir folder_;
+    const QString folderBefore_ = QDir::currentPath();
     QtFileDialogs dialogs_;
 };
 

@@ -241,6 +241,7 @@ TEST_P(AccessibleWindowsTest, EveryControlOfTheFileDialogsIsSpoken) {
     }
 }
 
+#ifdef Q_OS_UNIX
 TEST_P(AccessibleWindowsTest, EveryControlOfThePrintSetUpIsSpoken) {
     QPrinter printer;
     FileQuestion question;
@@ -248,6 +249,7 @@ TEST_P(AccessibleWindowsTest, EveryControlOfThePrintSetUpIsSpoken) {
     Show(dialog);
     ExpectNames(dialog);
 }
+#endif
 
 TEST_P(AccessibleWindowsTest, AMessageBoxIsAnAlertThatTellsItsText) {
     QtMessageBoxes boxes;
