@@ -78,6 +78,12 @@ void UseOffscreenPlatform(const QTemporaryDir& home) {
     if (file.open(QIODevice::WriteOnly) && file.write(OffscreenScreen) > 0) {
         qputenv("QT_QPA_PLATFORM", "offscreen:configfile=screen.json");
     }
+#ifdef Q_OS_WIN
+    // This platform asks for no fonts of the system there.
+    if (!qEnvironmentVariableIsSet("QT_QPA_FONTDIR")) {
+        qputenv("QT_QPA_FONTDIR", qgetenv("SystemRoot") + "/Fonts");
+    }
+#endif
 }
 
 QtMessageHandler usualHandler = nullptr;
