@@ -101,6 +101,15 @@ TEST_F(CommandLine, HelpIsAllInTheLanguageAndTellsWhatAnOptionTakes) {
     EXPECT_NE(out.find("\n命令:\n"), std::string::npos) << out;
 }
 
+TEST_F(CommandLine, OfTwoLanguagesTheLastOneCounts) {
+    EXPECT_EQ(Run({"--language", "en", "check", "gone.dat", "--language=zh"}), 3);
+    EXPECT_EQ(err, "zelvor-cli: gone.dat: 无法读取\n");
+    EXPECT_EQ(Run({"--language", "zh", "--language", "en", "check", "gone.dat"}), 3);
+    EXPECT_EQ(err, "zelvor-cli: gone.dat: cannot be read\n");
+}
+
+#ifdef Q_OS_UNIX
+
 TEST_F(CommandLine, TheLocaleIsTheLanguageUnlessOneIsNamed) {
     QProcessEnvironment environment = process.processEnvironment();
     environment.insert("LC_ALL", "zh_CN.UTF-8");
@@ -111,13 +120,6 @@ TEST_F(CommandLine, TheLocaleIsTheLanguageUnlessOneIsNamed) {
     EXPECT_EQ(err, "zelvor-cli: gone.dat: cannot be read\n");
     EXPECT_EQ(Run({"show"}), 2);
     EXPECT_TRUE(err.starts_with("zelvor-cli: 缺少命令或参数：")) << err;
-}
-
-TEST_F(CommandLine, OfTwoLanguagesTheLastOneCounts) {
-    EXPECT_EQ(Run({"--language", "en", "check", "gone.dat", "--language=zh"}), 3);
-    EXPECT_EQ(err, "zelvor-cli: gone.dat: 无法读取\n");
-    EXPECT_EQ(Run({"--language", "zh", "--language", "en", "check", "gone.dat"}), 3);
-    EXPECT_EQ(err, "zelvor-cli: gone.dat: cannot be read\n");
 }
 
 TEST_F(CommandLine, TheVariableLanguageCountsInALocaleThatHasALanguage) {
@@ -137,6 +139,8 @@ TEST_F(CommandLine, TheVariableLanguageCountsInALocaleThatHasALanguage) {
     EXPECT_EQ(said(""), "zelvor-cli: gone.dat: cannot be read\n");
     EXPECT_EQ(said("de_DE.UTF-8"), "zelvor-cli: gone.dat: 无法读取\n");
 }
+
+#endif
 
 } // namespace
 } // namespace zelvor::cli

@@ -14,11 +14,20 @@ namespace {
 
 class ReportTest : public CliTest {
 protected:
-    ReportTest() { Put("/a.dat", Programmed()); }
+    /// A full name as the windows have it.
+#ifdef Q_OS_WIN
+    static constexpr const char* Source = "C:\\a.dat";
+#else
+    static constexpr const char* Source = "/a.dat";
+#endif
+
+    ReportTest() {
+        Put(Source, Programmed());
+    }
 
     ExitStatus ReportInto(const std::string& output, const std::vector<std::string>& sections,
                           ReportPaper paper = ReportPaper::A4) {
-        return Report({.file = "/a.dat", .output = output, .sections = sections, .paper = paper, .now = Now}, store,
+        return Report({.file = Source, .output = output, .sections = sections, .paper = paper, .now = Now}, store,
                       console);
     }
 
@@ -52,8 +61,7 @@ TEST_F(ReportTest, IsWhatTheWindowsPrintIntoAFile) {
     const std::string printed = zelvor::testing::Utf8(folder / "printed.pdf");
     {
         QtPageDevice device(ToQString(printed));
-        PrintDataReport(device,
-                        BuildDataReport(Programmed(), ReportSelection(0b1000), "/a.dat", Language::English, Now));
+        PrintDataReport(device, BuildDataReport(Programmed(), ReportSelection(0b1000), Source, Language::English, Now));
         EXPECT_TRUE(device.IsWritten());
     }
     EXPECT_GT(Pages(Content(file)).size(), 1000);
