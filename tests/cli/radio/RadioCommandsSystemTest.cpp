@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 #include <iterator>
 #include <memory>
+#include <regex>
 #include <string>
 #include <vector>
 
@@ -30,6 +31,12 @@ struct Result {
 std::string ContentOf(const fs::path& path) {
     std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+/// Without the lines of a command that began again: an answer may come too late on a busy machine.
+std::string WithoutNewBeginnings(const std::string& said) {
+    static const std::regex line("[^\n]*: no connection; beginning again, [^\n]*\n");
+    return std::regex_replace(said, line, "");
 }
 
 class RadioCommandsSystemTest : public ::testing::Test {
@@ -73,7 +80,7 @@ TEST_F(RadioCommandsSystemTest, ReadInfoAndVerify) {
     ASSERT_TRUE(radio.WaitForOut("ready: "));
     const Result read = Run("zelvor-cli read --port 3 -o radio.dat");
     EXPECT_EQ(read.status, 0) << read.err;
-    EXPECT_EQ(read.out + read.err, "");
+    EXPECT_EQ(read.out + WithoutNewBeginnings(read.err), "");
     EXPECT_EQ(ContentOf(Path("radio.dat")), ContentOf(Path("memory.dat")));
 
     const Result info = Run("zelvor-cli --language en info --port 3");
@@ -82,13 +89,13 @@ TEST_F(RadioCommandsSystemTest, ReadInfoAndVerify) {
 
     const Result same = Run("zelvor-cli verify --port 3 radio.dat");
     EXPECT_EQ(same.status, 0) << same.err;
-    EXPECT_EQ(same.out + same.err, "");
+    EXPECT_EQ(same.out + WithoutNewBeginnings(same.err), "");
 
     const Result other = Run("zelvor-cli set radio.dat optional.squelch-level=9 -o other.dat && "
                              "zelvor-cli --language en verify --port 3 other.dat");
     EXPECT_EQ(other.status, 1);
     EXPECT_EQ(other.out.substr(0, 13), "0x134: 09 -> ");
-    EXPECT_EQ(other.err, "zelvor-cli: COM3: the radio differs from other.dat, bytes: 1\n");
+    EXPECT_EQ(WithoutNewBeginnings(other.err), "zelvor-cli: COM3: the radio differs from other.dat, bytes: 1\n");
 }
 
 TEST_F(RadioCommandsSystemTest, WriteAndGetBackWhatWasThere) {
@@ -101,7 +108,7 @@ TEST_F(RadioCommandsSystemTest, WriteAndGetBackWhatWasThere) {
     const Result write = Run("zelvor-cli --language en write --port 3 new.dat");
     EXPECT_EQ(write.status, 0);
     EXPECT_EQ(write.out, "");
-    EXPECT_EQ(write.err, "zelvor-cli: COM3: written and verified\n");
+    EXPECT_EQ(WithoutNewBeginnings(write.err), "zelvor-cli: COM3: written and verified\n");
     EXPECT_EQ(MemoryAt(0x134), 9);
 
     // Newest first: the read-back, the file, the radio before, and the first read.
@@ -179,8 +186,9 @@ TEST_F(RadioCommandsSystemTest, AFleetIsWrittenRadioByRadio) {
     ASSERT_EQ(Run("zelvor-cli new --model 4618 --market M -o new.dat").status, 0);
     const Result fleet = Run("for i in 1 2 3; do zelvor-cli --language en write --port 3 new.dat || exit; done");
     EXPECT_EQ(fleet.status, 0);
-    EXPECT_EQ(fleet.err, "zelvor-cli: COM3: written and verified\nzelvor-cli: COM3: written and verified\n"
-                         "zelvor-cli: COM3: written and verified\n");
+    EXPECT_EQ(WithoutNewBeginnings(fleet.err),
+              "zelvor-cli: COM3: written and verified\nzelvor-cli: COM3: written and verified\n"
+              "zelvor-cli: COM3: written and verified\n");
     EXPECT_EQ(radio.ExitCode(), 0);
     // Each held the sample radio's channel 1, and not the blank one that the radio before was given.
     const Result channels = Run("for i in 9 6 3; do zelvor-cli channels export \"$(zelvor-cli backup list | sed -n "
@@ -200,7 +208,7 @@ TEST_F(RadioCommandsSystemTest, RadiosThatAreReadAtOnceKeepABackupEach) {
                                      "for f in data/Zelvor/backups/*; do cmp $f 1.dat && echo same; done\n";
     const Result reads = Run("sh run.sh");
     EXPECT_EQ(reads.out, "same\nsame\nsame\nsame\nsame\nsame\n") << reads.err;
-    EXPECT_EQ(reads.err, "");
+    EXPECT_EQ(WithoutNewBeginnings(reads.err), "");
 }
 
 TEST_F(RadioCommandsSystemTest, NoRadioAndWrongUsageHaveTheirStatus) {
