@@ -18,13 +18,13 @@ constexpr TextPair Marked{"yes", "有"};
 constexpr TextPair NotMarked{"no", "无"};
 
 using Code = std::uint8_t;
-constexpr std::array<Code, 2> PowerCodes{HighPowerBit, 0};
-constexpr std::array<Code, 2> WidthCodes{WideBit, 0};
-constexpr std::array<Code, 3> SignallingCodes{0, OptSignalDtmf, OptSignalCorvane};
-constexpr std::array<Code, 3> SpMuteCodes{0, SpMuteCarrierAndOptSig, SpMuteCarrierOrOptSig};
-constexpr std::array<Code, 4> BusyLockCodes{0, BusyLockCarrier, BusyLockQtDqt, BusyLockOptSignal};
-constexpr std::array<Code, 2> BeatShiftCodes{0, BeatShiftBit};
-constexpr std::array<Code, 2> CompanderCodes{0, CompanderBit};
+constexpr std::array PowerCodes{HighPowerBit, Code{0}};
+constexpr std::array WidthCodes{WideBit, Code{0}};
+constexpr std::array SignallingCodes{Code{0}, OptSignalDtmf, OptSignalCorvane};
+constexpr std::array SpMuteCodes{Code{0}, SpMuteCarrierAndOptSig, SpMuteCarrierOrOptSig};
+constexpr std::array BusyLockCodes{Code{0}, BusyLockCarrier, BusyLockQtDqt, BusyLockOptSignal};
+constexpr std::array BeatShiftCodes{Code{0}, BeatShiftBit};
+constexpr std::array CompanderCodes{Code{0}, CompanderBit};
 constexpr std::array<Code, 2 + FleetListCount> PttIdCodes = [] {
     std::array<Code, 2 + FleetListCount> codes{PttIdOff, PttIdOwn};
     for (int n = 1; n <= FleetListCount; ++n) {

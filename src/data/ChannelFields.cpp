@@ -19,45 +19,42 @@ namespace {
 using namespace record;
 
 constexpr Language Languages[] = {Language::English, Language::Chinese};
-int RecordOf(const ChannelField& field) {
-    return address::Channel(field.channel);
-}
 
 // --- Columns ---------------------------------------------------------------------------------------------------------
 
-/// Where a column lies in the record.
 struct Place {
-    int byte;
+    int address;
     int size;
 };
 
-Place PlaceOf(ChannelColumn column) {
-    switch (column) {
+Place PlaceOf(const ChannelField& field) {
+    const int begin = address::Channel(field.channel);
+    switch (field.column) {
     case ChannelColumn::Receive:
-        return {RxFrequency, 4};
+        return {begin + RxFrequency, 4};
     case ChannelColumn::Transmit:
-        return {TxFrequency, 4};
+        return {begin + TxFrequency, 4};
     case ChannelColumn::Decode:
-        return {DecodeTone, 2};
+        return {begin + DecodeTone, 2};
     case ChannelColumn::Encode:
-        return {EncodeTone, 2};
+        return {begin + EncodeTone, 2};
     case ChannelColumn::Power:
     case ChannelColumn::Width:
     case ChannelColumn::BeatShift:
-        return {Transmitter, 1};
+        return {begin + Transmitter, 1};
     case ChannelColumn::OptionSignalling:
     case ChannelColumn::SpUnmute:
     case ChannelColumn::BusyLockout:
     case ChannelColumn::Compander:
-        return {Signalling, 1};
+        return {begin + Signalling, 1};
     case ChannelColumn::PttId:
-        return {PttId, 1};
+        return {begin + PttId, 1};
     case ChannelColumn::Autodial:
-        return {AutoDial, 1};
-    case ChannelColumn::ScanAdd: // not in the record
+        return {begin + AutoDial, 1};
+    case ChannelColumn::ScanAdd:
         break;
     }
-    return {0, 0};
+    return {ScanAddAddress(field.channel), 1}; // outside the record
 }
 
 bool IsFrequency(ChannelColumn column) {
@@ -66,10 +63,6 @@ bool IsFrequency(ChannelColumn column) {
 
 bool IsTone(ChannelColumn column) {
     return column == ChannelColumn::Decode || column == ChannelColumn::Encode;
-}
-
-bool IsMark(ChannelColumn column) {
-    return column == ChannelColumn::ScanAdd || column == ChannelColumn::BeatShift || column == ChannelColumn::Compander;
 }
 
 // --- Reading ---------------------------------------------------------------------------------------------------------
@@ -151,7 +144,7 @@ bool StoreBits(DataImage& image, int at, const ChannelBits& bits, std::string_vi
     return true;
 }
 
-/// The words of a mark may begin with a capital, as they do in the table of channels.
+/// The words of a mark, which no other column has, may begin with a capital, as they do in the table of channels.
 std::string_view AsMark(std::string_view text) {
     for (const bool isMarked : {true, false}) {
         if (text == TableText(Language::English, isMarked ? Text::Yes : Text::No)) {
@@ -261,12 +254,11 @@ std::string KeyOf(const ChannelField& field) {
 }
 
 int AddressOf(const ChannelField& field) {
-    return field.column == ChannelColumn::ScanAdd ? ScanAddAddress(field.channel)
-                                                  : RecordOf(field) + PlaceOf(field.column).byte;
+    return PlaceOf(field).address;
 }
 
 int SizeOf(const ChannelField& field) {
-    return field.column == ChannelColumn::ScanAdd ? 1 : PlaceOf(field.column).size;
+    return PlaceOf(field).size;
 }
 
 std::string LabelOf(const ChannelField& field, Language language) {
@@ -317,7 +309,7 @@ LegalValues LegalValuesOf(const ChannelField& field, Language language) {
 }
 
 bool ParseValue(const ChannelField& field, std::string_view text, DataImage& image) {
-    const std::string_view typed = IsMark(field.column) ? AsMark(Trimmed(text)) : Trimmed(text);
+    const std::string_view typed = AsMark(Trimmed(text));
     if (field.column == ChannelColumn::Receive) {
         return ParseFrequency(field, typed, image);
     }

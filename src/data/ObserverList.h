@@ -12,8 +12,8 @@ class ObserverList {
 public:
     ObserverList() = default;
     ~ObserverList() = default;
-    ObserverList(const ObserverList&) {}
-    ObserverList& operator=(const ObserverList&) { return *this; }
+    ObserverList(const ObserverList& /*other*/) {}
+    ObserverList& operator=(const ObserverList& /*other*/) { return *this; }
 
     void Add(Observer& observer) { observers_.push_back(&observer); }
     void Remove(Observer& observer) { std::erase(observers_, &observer); }

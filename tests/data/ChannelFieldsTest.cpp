@@ -70,16 +70,25 @@ TEST(ChannelFields, AreNamedByChannelAndColumnForGood) {
 }
 
 TEST(ChannelFields, LieInTheirRecordAndTheScanAddBytes) {
-    EXPECT_EQ(AddressOf(Of(ChannelColumn::Receive)), 0x030);
-    EXPECT_EQ(SizeOf(Of(ChannelColumn::Receive)), 4);
-    EXPECT_EQ(AddressOf(Of(ChannelColumn::Encode)), 0x03A);
-    EXPECT_EQ(SizeOf(Of(ChannelColumn::Encode)), 2);
-    EXPECT_EQ(AddressOf(Of(ChannelColumn::SpUnmute)), 0x03C);
-    EXPECT_EQ(AddressOf(Of(ChannelColumn::Power)), 0x03D);
-    EXPECT_EQ(AddressOf(Of(ChannelColumn::PttId, 16)), 0x10E);
-    EXPECT_EQ(AddressOf(Of(ChannelColumn::Autodial)), 0x03F);
-    EXPECT_EQ(AddressOf(Of(ChannelColumn::ScanAdd, 8)), 0x17E);
-    EXPECT_EQ(AddressOf(Of(ChannelColumn::ScanAdd, 9)), 0x17F);
+    struct Lies {
+        ChannelColumn column;
+        int channel;
+        int address;
+        int size;
+    };
+    for (const Lies& expected :
+         {Lies{ChannelColumn::Receive, 3, 0x030, 4}, Lies{ChannelColumn::Transmit, 3, 0x034, 4},
+          Lies{ChannelColumn::Decode, 3, 0x038, 2}, Lies{ChannelColumn::Encode, 3, 0x03A, 2},
+          Lies{ChannelColumn::OptionSignalling, 3, 0x03C, 1}, Lies{ChannelColumn::SpUnmute, 3, 0x03C, 1},
+          Lies{ChannelColumn::BusyLockout, 3, 0x03C, 1}, Lies{ChannelColumn::Compander, 3, 0x03C, 1},
+          Lies{ChannelColumn::Power, 3, 0x03D, 1}, Lies{ChannelColumn::Width, 3, 0x03D, 1},
+          Lies{ChannelColumn::BeatShift, 3, 0x03D, 1}, Lies{ChannelColumn::PttId, 3, 0x03E, 1},
+          Lies{ChannelColumn::PttId, 16, 0x10E, 1}, Lies{ChannelColumn::Autodial, 3, 0x03F, 1},
+          Lies{ChannelColumn::ScanAdd, 8, 0x17E, 1}, Lies{ChannelColumn::ScanAdd, 9, 0x17F, 1}}) {
+        const ChannelField field = Of(expected.column, expected.channel);
+        EXPECT_EQ(AddressOf(field), expected.address) << KeyOf(field);
+        EXPECT_EQ(SizeOf(field), expected.size) << KeyOf(field);
+    }
 }
 
 TEST(ChannelFields, ShowARecordInBothLanguages) {
@@ -145,6 +154,7 @@ TEST(ChannelFields, StoreEveryWordInItsOwnBitsAlone) {
     ExpectStores(ChannelColumn::Power, "Low", 13, "9F");
     ExpectStores(ChannelColumn::Width, "Narrow", 13, "AF");
     ExpectStores(ChannelColumn::BeatShift, "yes", 13, "FF");
+    ExpectStores(ChannelColumn::BeatShift, "Yes", 13, "FF");
     ExpectStores(ChannelColumn::OptionSignalling, "DTMF", 12, "02");
     ExpectStores(ChannelColumn::OptionSignalling, "Corvane", 12, "04");
     ExpectStores(ChannelColumn::SpUnmute, "Carrier + Opt.Sig.", 12, "20");
