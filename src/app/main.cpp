@@ -16,7 +16,8 @@ namespace {
 // Texts and file names are UTF-8 here in every locale. Newer versions of the toolkit complain of each that is not.
 void SayAllButTheLocale(QtMsgType type, const QMessageLogContext& context, const QString& text) {
     if (!text.startsWith(QLatin1String("Detected locale"))) {
-        std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, text)));
+        // Where this fails there is nobody to tell.
+        static_cast<void>(std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, text))));
     }
 }
 

@@ -213,7 +213,7 @@ void ChannelEditForm::CompleteNewChannel() {
 void ChannelEditForm::OnTransmitText(const QString& text) {
     EnableEncode(!text.isEmpty() && HasReceive());
     if (text.isEmpty() && HasReceive()) {
-        fields_.PutTone(*fields_.comEncode, std::string(windows_.LoadText(Text::None)));
+        ChannelEditPanel::PutTone(*fields_.comEncode, std::string(windows_.LoadText(Text::None)));
         OnToneSelected(*fields_.comEncode);
     }
 }
@@ -250,7 +250,7 @@ void ChannelEditForm::OnToneLeft(FieldList& list) {
     }
     windows_.Cursor.SetCurrentChannel(channel_);
     // An empty box becomes "None" by the same rule.
-    fields_.PutTone(list, NormaliseTone(FromQString(list.currentText()), windows_.LanguageFlag));
+    ChannelEditPanel::PutTone(list, NormaliseTone(FromQString(list.currentText()), windows_.LanguageFlag));
     if (&list == fields_.comDecode && !fields_.AreDependentListsRight()) {
         RebuildDependentLists();
     }

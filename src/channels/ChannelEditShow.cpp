@@ -58,8 +58,8 @@ void ChannelEditForm::ShowProgrammedChannel() {
     fields_.txtRxFreq->setText(ToQString(texts.RxText));
     EnableChannelControls();
     fields_.txtTxFreq->setText(ToQString(texts.TxText));
-    fields_.PutTone(*fields_.comDecode, texts.DecText);
-    fields_.PutTone(*fields_.comEncode, texts.EncText);
+    ChannelEditPanel::PutTone(*fields_.comDecode, texts.DecText);
+    ChannelEditPanel::PutTone(*fields_.comEncode, texts.EncText);
     EnableEncode(!texts.TxText.empty());
     fields_.comTxPower->ShowEntry(texts.PowerText == windows_.LoadText(Text::High) ? 0 : 1);
     fields_.comWideNarrow->ShowEntry(texts.WidthText == windows_.LoadText(Text::Narrow) ? 0 : 1);
@@ -113,13 +113,13 @@ void ChannelEditForm::EnableChannelControls() {
         control->setEnabled(true);
     }
     if (fields_.comDecode->currentText().isEmpty() && HasReceive()) {
-        fields_.PutTone(*fields_.comDecode, none);
+        ChannelEditPanel::PutTone(*fields_.comDecode, none);
     }
     if (fields_.txtTxFreq->text().isEmpty() && HasReceive()) {
         EnableEncode(false);
-        fields_.PutTone(*fields_.comEncode, none);
+        ChannelEditPanel::PutTone(*fields_.comEncode, none);
     } else if (fields_.comEncode->currentText().isEmpty() && HasReceive()) {
-        fields_.PutTone(*fields_.comEncode, none);
+        ChannelEditPanel::PutTone(*fields_.comEncode, none);
     }
     EnablePriorityMark();
 }
@@ -135,8 +135,8 @@ void ChannelEditForm::BlankChannelDialog() {
         list->ShowEntry(NoEntry);
         list->setEnabled(false);
     }
-    fields_.PutTone(*fields_.comDecode, {});
-    fields_.PutTone(*fields_.comEncode, {});
+    ChannelEditPanel::PutTone(*fields_.comDecode, {});
+    ChannelEditPanel::PutTone(*fields_.comEncode, {});
     for (QCheckBox* check : {fields_.chkShift, fields_.chkScanAdd, fields_.chkPriorityChannel, fields_.chkYaKuo}) {
         check->setChecked(false);
         check->setEnabled(false);
@@ -266,8 +266,8 @@ void ChannelEditForm::OnRowOpened(int /*k*/) {
     const QScopedValueRollback<bool> showing(showing_, true);
     fields_.txtRxFreq->setText(ToQString(Texts().RxText));
     fields_.txtTxFreq->setText(ToQString(Texts().TxText));
-    fields_.PutTone(*fields_.comDecode, Texts().DecText);
-    fields_.PutTone(*fields_.comEncode, Texts().EncText);
+    ChannelEditPanel::PutTone(*fields_.comDecode, Texts().DecText);
+    ChannelEditPanel::PutTone(*fields_.comEncode, Texts().EncText);
     if (!fields_.AreDependentListsRight()) {
         BuildDependentLists();
     }
@@ -298,7 +298,7 @@ void ChannelEditForm::ShowReceiveCommit() {
 
 void ChannelEditForm::ShowTransmitCommit() {
     fields_.txtTxFreq->setText(ToQString(Texts().TxText));
-    fields_.PutTone(*fields_.comEncode, Texts().EncText);
+    ChannelEditPanel::PutTone(*fields_.comEncode, Texts().EncText);
     EnableEncode(!Texts().TxText.empty());
 }
 
@@ -306,10 +306,10 @@ void ChannelEditForm::ShowCellChoice(int column) {
     const ChannelTexts& texts = Texts();
     switch (column) {
     case column::Decode:
-        fields_.PutTone(*fields_.comDecode, texts.DecText);
+        ChannelEditPanel::PutTone(*fields_.comDecode, texts.DecText);
         break;
     case column::Encode:
-        fields_.PutTone(*fields_.comEncode, texts.EncText);
+        ChannelEditPanel::PutTone(*fields_.comEncode, texts.EncText);
         break;
     case column::Power:
         fields_.comTxPower->ShowEntry(texts.PowerText == windows_.LoadText(Text::High) ? 0 : 1);

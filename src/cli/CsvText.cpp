@@ -37,7 +37,7 @@ private:
         return AtEnd() || text_[place_] == ',' || text_[place_] == '\n' || text_.substr(place_).starts_with("\r\n");
     }
 
-    void Tell(CsvRecord& record, CsvFault fault) const {
+    static void Tell(CsvRecord& record, CsvFault fault) {
         if (record.fault == CsvFault::None) {
             record.fault = fault;
             record.faultyField = record.fields.size();

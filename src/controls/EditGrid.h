@@ -61,7 +61,7 @@ protected:
     void focusInEvent(QFocusEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     /// Typing never searches the table: it opens an editor or does nothing.
-    void keyboardSearch(const QString&) override {}
+    void keyboardSearch(const QString& /*search*/) override {}
 
 private:
     void FitHeaderFont();
