@@ -34,7 +34,8 @@ bool IsNumber(std::string_view text) {
     return !text.empty() && std::ranges::all_of(text, [](char c) { return (c >= '0' && c <= '9') || c == '.'; });
 }
 
-/// The step between texts that are numbers at the same distance from each other; empty where they are not.
+/// The step between three texts or more that are numbers at the same distance from each other; empty where they are
+/// not.
 std::string StepOf(std::span<const std::string> texts) {
     if (texts.size() < 3 || !std::ranges::all_of(texts, IsNumber)) {
         return {};

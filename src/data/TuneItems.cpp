@@ -13,6 +13,7 @@ constexpr TuneCell Kept(int recordByte, std::uint8_t code) {
     return {NoPlace, recordByte, code};
 }
 
+// A row a line, a point a column.
 // clang-format off
 constexpr std::array<TuneItemRow, TuneItemCount> Items{{
     //                                                                      Test            Low              Low'             Center           High'            High             Narrow

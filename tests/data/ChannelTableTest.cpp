@@ -205,11 +205,14 @@ TEST_F(ChannelTableTest, AnEditIsToldWithoutARowOrRecordFollowing) {
 
 TEST_F(ChannelTableTest, ProgrammedRowsAreTranslatedAndBlankOnesStay) {
     PutRecord(1);
+    PutRecord(16);
     table.DecodeImageToGrid(image, En);
     table.SetCellText(2, 5, "High");
     const DataImage before = image;
     table.Translate(image, Zh);
-    EXPECT_EQ(Row(1), (Texts{"145.12500", "145.12500", "无", "无", "高", "宽带", "有", "无", "关"}));
+    const Texts chinese{"145.12500", "145.12500", "无", "无", "高", "宽带", "有", "无", "关"};
+    EXPECT_EQ(Row(1), chinese);
+    EXPECT_EQ(Row(16), chinese);
     EXPECT_EQ(table.CellText(2, 5), "High");
     EXPECT_EQ(heard.events, (Texts{"decoded", "translated"}));
     EXPECT_EQ(image, before);

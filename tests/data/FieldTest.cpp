@@ -78,6 +78,27 @@ TEST(Field, ANumberMayBeAPlaceAmongTexts) {
     ExpectRefuses(dCode, {"16", "17s", "D"});
 }
 
+TEST(Field, ThreeNumbersThatGoUpEvenlyAreARangeAndTwoAreWords) {
+    const NumberField three{.key = "three",
+                            .label = "Three",
+                            .address = 0x130,
+                            .first = 4,
+                            .last = 6,
+                            .lengthLimit = 1,
+                            .show = ShowNumber,
+                            .read = LeadingNumber};
+    EXPECT_EQ(Field(three).Legal(En), (LegalValues{.range = LegalValues::Range{"4", "6", "1"}}));
+    const NumberField two{.key = "two",
+                          .label = "Two",
+                          .address = 0x130,
+                          .first = 4,
+                          .last = 5,
+                          .lengthLimit = 1,
+                          .show = ShowNumber,
+                          .read = LeadingNumber};
+    EXPECT_EQ(Field(two).Legal(En), (LegalValues{.words = {"4", "5"}}));
+}
+
 TEST(Field, ANumberOfTwoBytesHasItsLowByteFirst) {
     const Field delay(corvane::DelayTime);
     ExpectParses(delay, {{"0", "0000"}, {"400", "9001"}, {"6000", "7017"}});

@@ -24,9 +24,10 @@
 
 namespace {
 
-/// What this program does instead of the two calls of the system, which the code under test reaches through it.
-std::function<int(int)> syncInstead;     // NOLINT: the system's functions have no other way to tests
-std::function<void()> beforeTheRenaming; // NOLINT
+/// What this program does instead of the two calls of the system, which the code under test reaches through it: the
+/// system's functions have no other way to tests than a variable of the program.
+std::function<int(int)> syncInstead;
+std::function<void()> beforeTheRenaming;
 
 std::string PathOfDescriptor(int descriptor) {
     std::array<char, 4096> path{};

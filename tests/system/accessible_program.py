@@ -10,7 +10,7 @@ import time
 import gi
 
 gi.require_version("Atspi", "2.0")
-from gi.repository import Atspi, GLib  # noqa: E402
+from gi.repository import Atspi, GLib  # noqa: E402 (the version first)
 
 PATIENCE = 20  # seconds
 REPLY_PATIENCE = 500  # milliseconds
