@@ -75,9 +75,8 @@ constexpr bool IsVhf(std::uint8_t market) {
 }
 
 const Family* FindFamily(std::uint8_t byte) {
-    const auto* found =
-        std::find_if(Families.begin(), Families.end(), [&](const Family& family) { return family.byte == byte; });
-    return found == Families.end() ? nullptr : found;
+    const auto found = std::ranges::find(Families, byte, &Family::byte);
+    return found == Families.end() ? nullptr : &*found;
 }
 
 /// "4618".
@@ -95,8 +94,13 @@ std::string RangeText(int low, int high) {
     return std::to_string(low) + '-' + std::to_string(high);
 }
 
-/// All of a variant but its places in the model dialog.
-ModelVariant VariantOf(const Row& row) {
+/// A row's entry among the models of the model dialog.
+std::string ModelEntryOf(const Row& row) {
+    return ModelEntry(*FindFamily(row.family), IsVhf(row.market));
+}
+
+/// The places are those of its entries in the model dialog.
+ModelVariant VariantOf(const Row& row, std::size_t modelPlace, std::size_t rangePlace) {
     const Family& family = *FindFamily(row.family);
     const bool isVhf = IsVhf(row.market);
     const std::string model = ModelNumber(family, isVhf);
@@ -109,13 +113,13 @@ ModelVariant VariantOf(const Row& row) {
             .titleText = model + ": " + band + ": " + range + "] [ ",
             .infoModel = model,
             .infoBand = (SaysVhfInInfo(row) ? "VHF" : band) + ": " + range,
-            .dialogModel = ModelEntry(family, isVhf),
+            .dialogModel = ModelEntryOf(row),
             .dialogRange = range,
             .reportModel = model + '(' + band + ')',
             .reportMarket = market,
             .reportRange = RangeText(LowInReports(row), row.high) + "MHz",
-            .modelIndex = 0,
-            .rangeIndex = 0};
+            .modelIndex = static_cast<int>(modelPlace),
+            .rangeIndex = static_cast<int>(rangePlace)};
 }
 
 /// What the rows come to.
@@ -129,15 +133,14 @@ Catalogue MakeCatalogue() {
     Catalogue catalogue;
     std::set<std::string> models;
     for (const Row& row : Rows) {
-        models.insert(catalogue.variants.emplace_back(VariantOf(row)).dialogModel);
+        models.insert(ModelEntryOf(row));
     }
     catalogue.models.assign(models.begin(), models.end());
     catalogue.ranges.resize(models.size());
-    for (ModelVariant& variant : catalogue.variants) {
-        const auto model = static_cast<std::size_t>(std::distance(models.begin(), models.find(variant.dialogModel)));
+    for (const Row& row : Rows) {
+        const auto model = static_cast<std::size_t>(std::distance(models.begin(), models.find(ModelEntryOf(row))));
         std::vector<RangeEntry>& ranges = catalogue.ranges[model];
-        variant.modelIndex = static_cast<int>(model);
-        variant.rangeIndex = static_cast<int>(ranges.size());
+        const ModelVariant& variant = catalogue.variants.emplace_back(VariantOf(row, model, ranges.size()));
         if (IsOffered(variant)) {
             ranges.push_back({variant.dialogRange, variant.market});
         }

@@ -100,7 +100,7 @@ std::optional<std::string> ToneText(ToneWord word, Language language) {
         return DqtText(word);
     }
     const int tenths = word.hi * 256 + word.lo;
-    if (tenths < 100 || tenths > 9999) {
+    if (tenths > 9999) {
         return std::nullopt;
     }
     return Decimal::Of(tenths, 1).Format(2, 1);

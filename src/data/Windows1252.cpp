@@ -31,7 +31,7 @@ std::optional<std::uint8_t> Windows1252Byte(char16_t character) {
     if (character <= 0xFF && !IsOther(character)) {
         return static_cast<std::uint8_t>(character);
     }
-    const auto* found = std::find(Others.begin(), Others.end(), character);
+    const auto found = std::find(Others.begin(), Others.end(), character);
     if (found == Others.end()) {
         return std::nullopt;
     }

@@ -50,10 +50,10 @@ std::uint8_t LowByte(int value) {
 }
 
 const PacketRange* RangeOfStep(int step) {
-    const auto* found = std::find_if(PacketRanges.begin(), PacketRanges.end(), [step](const PacketRange& range) {
+    const auto found = std::find_if(PacketRanges.begin(), PacketRanges.end(), [step](const PacketRange& range) {
         return step >= range.firstStep && step <= range.lastStep;
     });
-    return found == PacketRanges.end() ? nullptr : found;
+    return found == PacketRanges.end() ? nullptr : &*found;
 }
 
 void PrepareImage(DataImage& image) {

@@ -50,7 +50,7 @@ bool PrintsOff(const Field& field) {
 }
 
 std::string_view TextInsteadOfNothing(const Field& field) {
-    const auto* found =
+    const auto found =
         std::ranges::find_if(InsteadOfNothing, [&field](const Instead& instead) { return field.Is(instead.row); });
     return found == InsteadOfNothing.end() ? std::string_view() : found->text;
 }

@@ -44,6 +44,16 @@ void ExpectReads(const NumberField& field, std::initializer_list<Range> ranges) 
     }
 }
 
+TEST(DtmfFields, HaveDtmfDigitsAndTurnSmallLettersIntoCapitals) {
+    const std::string_view entered = "0123456789ABCD*#abcd";
+    const std::string_view stored = "0123456789ABCD*#ABCD";
+    for (char32_t character = 0; character <= 0x10FFFF; ++character) {
+        const auto place = character < 0x80 ? entered.find(static_cast<char>(character)) : std::string_view::npos;
+        const char expected = place == std::string_view::npos ? '\0' : stored[place];
+        ASSERT_EQ(DtmfDigit(character), expected) << static_cast<unsigned>(character);
+    }
+}
+
 TEST(DtmfFields, LieAtTheirAddresses) {
     EXPECT_EQ(dtmf::Speed.address, 0x110);
     EXPECT_EQ(dtmf::FirstDigitTime.address, 0x111);

@@ -41,6 +41,10 @@ TEST(FieldRules, WantAPriorityChannelThatIsProgrammed) {
         const char* revert = mode[1] == '2' ? "02" : "00";
         EXPECT_EQ(Broken({{0x160, mode}, {0x164, revert}, {0x161, "03"}}),
                   (Keys{"scan.priority-channel", "channels.3.rx_mhz"}));
+        EXPECT_EQ(Broken({{0x160, mode}, {0x164, revert}, {0x161, "01"}}),
+                  (Keys{"scan.priority-channel", "channels.1.rx_mhz"}));
+        EXPECT_EQ(Broken({{0x160, mode}, {0x164, revert}, {0x161, "10"}}),
+                  (Keys{"scan.priority-channel", "channels.16.rx_mhz"}));
         EXPECT_EQ(Broken({{0x160, mode}, {0x164, revert}, {0x161, "02"}}), Keys());
         EXPECT_EQ(Broken({{0x160, mode}, {0x164, revert}, {0x161, "FF"}}), Keys());
         EXPECT_EQ(Broken({{0x160, mode}, {0x164, revert}, {0x161, "11"}}), Keys()); // no channel at all
@@ -81,6 +85,9 @@ TEST(FieldRules, WantATransmitFrequencyForAnEncodeTone) {
     EXPECT_EQ(Broken({{0x024, "FFFFFFFFFFFFFFFF"}}), Keys());
     EXPECT_EQ(Broken({{0x024, "FFFFFFFF72031300"}}), Keys()); // a decode tone needs none
     EXPECT_EQ(Broken({{0x020, "FFFFFFFFFFFFFFFF"}}), Keys()); // a blank channel has none
+    constexpr const char* Receiving = "00255114FFFFFFFFFFFF132800BFB0F8";
+    EXPECT_EQ(Broken({{0x010, Receiving}, {0x100, Receiving}}),
+              (Keys{"channels.1.encode", "channels.1.tx_mhz", "channels.16.encode", "channels.16.tx_mhz"}));
 }
 
 } // namespace

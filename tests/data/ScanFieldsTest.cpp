@@ -64,6 +64,20 @@ TEST(ScanFields, ALookBackByteOfZeroIsNoTime) {
     EXPECT_EQ(TextIn(image, scan::LookBackTimeA), "");
 }
 
+TEST(ScanFields, TypedTimesAreCutToTheirStepAndKeptToTheirRange) {
+    for (const auto& [typed, steps] :
+         {std::pair("", 1), std::pair("0.05", 1), std::pair("0.50", 1), std::pair("0.54", 1), std::pair("0.549", 1),
+          std::pair("0.55", 2), std::pair("0.60", 3), std::pair("2", 31), std::pair("4.99", 90), std::pair("5.00", 91),
+          std::pair("5.05", 91), std::pair("9999", 91)}) {
+        EXPECT_EQ(scan::ReadLookBackTime(typed), steps) << typed;
+    }
+    for (const auto& [typed, seconds] :
+         {std::pair("", 0), std::pair("0", 0), std::pair("1", 1), std::pair("30", 30), std::pair("299", 299),
+          std::pair("300", 300), std::pair("301", 300), std::pair("999", 300)}) {
+        EXPECT_EQ(scan::ReadDelay(typed), seconds) << typed;
+    }
+}
+
 TEST(ScanFields, AModeThatWasNeverStoredReadsAsNone) {
     EXPECT_EQ(EntryOf(scan::PriorityMode, 0), 0);
     EXPECT_EQ(EntryOf(scan::PriorityMode, 2), 2);

@@ -167,6 +167,15 @@ TEST(ToneEncoder, TakesMissingDigitsAsZero) {
     ToneEncoder encoder;
     EXPECT_EQ(encoder.Encode("D", Language::English), (ToneWord{0x00, 0x28}));
     EXPECT_EQ(encoder.Encode("D2", Language::English), (ToneWord{0x80, 0x28}));
+    const std::string_view longer = "D027";
+    EXPECT_EQ(encoder.Encode(longer.substr(0, 3), Language::English), (ToneWord{0x10, 0x28}));
+}
+
+TEST(ToneEncoder, CountsEightAndNineAsTheyAre) {
+    ToneEncoder encoder;
+    EXPECT_EQ(encoder.Encode("D089N", Language::English), (ToneWord{0x49, 0x28})); // 8 * 8 + 9
+    EXPECT_EQ(encoder.Encode("D900N", Language::English), (ToneWord{0x40, 0x2A})); // 64 * 9
+    EXPECT_EQ(encoder.Encode("D/0:N", Language::English), (ToneWord{0x00, 0x28})); // no digits
 }
 
 struct Entered {
