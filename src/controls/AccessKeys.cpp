@@ -16,7 +16,7 @@ bool AccessKeys::eventFilter(QObject* watched, QEvent* event) {
     if (watched == &form_ && event->type() == QEvent::ShortcutOverride) {
         return Claim(*static_cast<QKeyEvent*>(event));
     }
-    return event->type() == QEvent::KeyPress && claimed_ != nullptr && Press(*watched);
+    return event->type() == QEvent::KeyPress && claimed_ && Press(*watched);
 }
 
 /// Null also where several have the letter: then the toolkit goes through them.
@@ -38,7 +38,7 @@ QAbstractButton* AccessKeys::ButtonOf(const QKeyEvent& key) const {
 bool AccessKeys::Claim(QKeyEvent& key) {
     QWidget* focus = QApplication::focusWidget();
     claimed_ = key.modifiers() == Qt::AltModifier && focus != nullptr ? ButtonOf(key) : nullptr;
-    if (claimed_ == nullptr) {
+    if (!claimed_) {
         return false;
     }
     // The key press comes to the control that has the focus, which might take it for a letter that was typed.
