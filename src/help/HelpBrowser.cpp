@@ -94,7 +94,7 @@ void HelpBrowser::SetZoom(int percent) {
 }
 
 void HelpBrowser::wheelEvent(QWheelEvent* event) {
-    if (event->modifiers() & Qt::ControlModifier) {
+    if (event->modifiers().testFlag(Qt::ControlModifier)) {
         const int turn = event->angleDelta().y();
         ZoomBy(turn > 0 ? 1 : turn < 0 ? -1 : 0);
         event->accept();

@@ -10,7 +10,7 @@ namespace {
 
 constexpr int AddressPage = 256; // AddrLow carries into AddrHigh here
 
-/// Consecutive packets over consecutive addresses.
+/// Consecutive packets over consecutive addresses, with the image's bytes.
 struct PacketRange {
     int firstStep;
     int lastStep;
@@ -18,16 +18,14 @@ struct PacketRange {
     int length; // data bytes of each packet
 };
 
-/// The gap between the second and the third range is the tuning region, which is never sent; nor is anything from
+/// The gap between the first and the second range is the tuning region, which is never sent; nor is anything from
 /// address::NotWritten on.
-constexpr std::array<PacketRange, 6> PacketRanges{{
-    {1, 1, 0x0000, 16},
+constexpr std::array PacketRanges = std::to_array<PacketRange>({
     {2, 24, 0x0010, 16},
-    {25, 25, 0x01B8, 16},
-    {26, 28, 0x01C8, 16},
+    {25, 28, 0x01B8, 16},
     {29, 29, 0x01F8, 8},
     {30, 49, 0x0200, 16},
-}};
+});
 
 constexpr int DefaultPacketLength = 16;
 
@@ -36,8 +34,9 @@ constexpr int StepBehindTuning = 25;
 constexpr int StepBehindShortPacket = 30;
 
 /// Data of the first packet, whatever the image holds at its addresses.
-constexpr std::array<std::uint8_t, 16> FirstPacketData{0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF,
-                                                       0xFF, 0xFF, 0xFF, 0x00, 0xFF, 0xFF, 0x03, 0xFF};
+constexpr std::array FirstPacketData = std::to_array<std::uint8_t>(
+    {0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0x00, 0xFF, 0xFF, 0x03, 0xFF});
+static_assert(FirstPacketData.size() == DefaultPacketLength);
 
 constexpr int ClearedByteOfGroup = 12;
 constexpr int ClearedGroups = 16;
@@ -74,20 +73,19 @@ void BuildWritePacket(LinkState& link, DataImage& image) {
     PrepareImage(image);
 
     const PacketRange* range = RangeOfStep(link.StepCount);
-    const int length = range ? range->length : DefaultPacketLength;
+    const int length = range != nullptr ? range->length : DefaultPacketLength;
     const int packetLength = wire::HeadLength + length;
     link.TxBuffer.assign(static_cast<std::size_t>(packetLength), 0x00);
     link.TxBuffer[0] = wire::WritePacketByte;
     link.TxBuffer[1] = LowByte(link.AddrHigh);
     link.TxBuffer[2] = LowByte(link.AddrLow);
     link.TxBuffer[3] = LowByte(length);
-    if (!range) {
-        return;
-    }
 
     const auto data = link.TxBuffer.begin() + wire::HeadLength;
     if (link.StepCount == 1) {
         std::copy(FirstPacketData.begin(), FirstPacketData.end(), data);
+    }
+    if (range == nullptr) {
         return;
     }
     const int first = range->firstAddress + (link.StepCount - range->firstStep) * range->length;

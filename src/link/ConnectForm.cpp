@@ -71,7 +71,7 @@ void ConnectForm::closeEvent(QCloseEvent* event) {
     event->accept();
 }
 
-void ConnectForm::OnProgress(int) {
+void ConnectForm::OnProgress(int /*value*/) {
     progressTimer_->SetEnabled(true);
 }
 
