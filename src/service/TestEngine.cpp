@@ -34,11 +34,11 @@ void TestEngine::Load() {
     port_.Close();
     service_.TestAborted = false;
     service_.NarrowMode = false;
-    Ask(TestCommandKind::SetChannel, service_.TestChannelNo, LoadInterval);
-    Ask(TestCommandKind::SetSignalling, signalling_, CommandInterval);
+    Ask(TestCommandKind::SetChannel, LoadInterval, service_.TestChannelNo);
+    Ask(TestCommandKind::SetSignalling, CommandInterval, signalling_);
 }
 
-void TestEngine::Ask(TestCommandKind kind, int argument, int interval) {
+void TestEngine::Ask(TestCommandKind kind, int interval, int argument) {
     CommandExchange::Ask({.kind = static_cast<int>(kind), .argument = argument}, interval);
 }
 
@@ -54,7 +54,7 @@ bool TestEngine::Replaces(const RadioCommand& later, const RadioCommand& earlier
 
 void TestEngine::ChooseChannel(int number) {
     service_.TestChannelNo = number;
-    Ask(TestCommandKind::SetChannel, number, ChannelInterval);
+    Ask(TestCommandKind::SetChannel, ChannelInterval, number);
 }
 
 void TestEngine::ChooseSignalling(int number) {
@@ -62,18 +62,18 @@ void TestEngine::ChooseSignalling(int number) {
     if (!IsAwaitingReply()) {
         port_.Clear();
     }
-    Ask(TestCommandKind::SetSignalling, number, CommandInterval);
+    Ask(TestCommandKind::SetSignalling, CommandInterval, number);
 }
 
 void TestEngine::ChooseWide(bool wide) {
-    Ask(wide ? TestCommandKind::Wide : TestCommandKind::Narrow, 0, CommandInterval);
+    Ask(wide ? TestCommandKind::Wide : TestCommandKind::Narrow, CommandInterval);
 }
 
 void TestEngine::Tune() {
     if (!IsAwaitingReply()) {
         port_.Clear();
     }
-    Ask(TestCommandKind::Tune, service_.TuneItem, CommandInterval);
+    Ask(TestCommandKind::Tune, CommandInterval, service_.TuneItem);
 }
 
 void TestEngine::Close() {

@@ -31,7 +31,6 @@ SOURCES = {
     "src/service/*Exchange.cpp": OF_SERVICE,
     "src/service/LinkedValues.cpp": OF_SERVICE,
     "src/service/FrequencyPoints.cpp": OF_SERVICE,
-    "src/service/TestFrame.cpp": OF_SERVICE,
     "src/service/TestChannels.cpp": OF_SERVICE,
     "src/service/RadioInformation.cpp": OF_SERVICE,
 }

@@ -200,6 +200,33 @@ TEST_F(TestModeOrder, ReleasedWhileTheRadioIsSilentItIsNotKeyedAgainByRetry) {
     EXPECT_EQ(rig.sent, (Commands{"08 0D", "08 0E"}));
 }
 
+TEST_F(TestModeOrder, ARefusedPttThatIsReplacedLightsNoLamp) {
+    Open();
+    rig.replies["08 0D"] = "15";
+    engine.PressPtt();
+    rig.clock.Advance(2); // PTT on was sent at 1, its answer comes at 3
+    engine.PressPtt();
+    rig.clock.Advance(50);
+    EXPECT_EQ(rig.sent, (Commands{"08 0D", "08 0E"}));
+    EXPECT_EQ(lamps, std::vector<std::string>{"idle"});
+}
+
+TEST_F(TestModeOrder, TheAnswerToAReplacedSignallingSaysNothingOfTheTransmitter) {
+    Open();
+    engine.PressPtt();
+    rig.clock.Advance(50);
+    engine.PressPtt();
+    rig.clock.Advance(50);
+    rig.TakeSent();
+    lamps.clear();
+    engine.ChooseSignalling(2);
+    rig.clock.Advance(2); // sent at 1, its answer comes at 3
+    engine.ChooseSignalling(4);
+    rig.clock.Advance(50);
+    EXPECT_EQ(rig.sent, (Commands{"11 02", "11 04"}));
+    EXPECT_TRUE(lamps.empty());
+}
+
 TEST_F(TestModeOrder, GivingUpForgetsWhatWaited) {
     Open();
     rig.Spoil(rig.Replies() + 1, Fault::Drop);

@@ -268,6 +268,36 @@ TEST_F(EntryEngineTest, AWrongFirstIdentityByteFailsAtOnceWhateverTheRest) {
     EXPECT_EQ(rig.TimeOfPrompt([&] { engine.StartInformation(); }), 100 + 3 + 2 + 1);
 }
 
+TEST_F(EntryEngineTest, AReplyThatAPortHandsOnShortIsABadOne) {
+    struct ShortReply {
+        const char* command;
+        std::size_t length;
+        void (EntryEngine::*start)();
+    };
+    for (const ShortReply& reply :
+         {ShortReply{"4E 52 4B", 33, &EntryEngine::StartInformation},
+          ShortReply{"50", 9, &EntryEngine::StartInformation}, ShortReply{"05", 61, &EntryEngine::StartTestMode}}) {
+        rig.replies = {{reply.command, ""}}; // answered by hand
+        information.clear();
+        (engine.*reply.start)();
+        for (int tick = 0; tick < 150 && (rig.sent.empty() || rig.sent.back() != reply.command); ++tick) {
+            rig.clock.Advance(1);
+        }
+        ASSERT_EQ(rig.TakeSent().back(), reply.command);
+        const std::string before = information;
+        const std::size_t known = progress.size();
+        auto& fake = static_cast<FakeSerialPort&>(*port);
+        fake.SetReceiveThreshold(1);
+        rig.messages.Expect(ConnectionPrompt(), MessageAnswer::Cancel);
+        fake.Deliver(std::vector<std::uint8_t>(reply.length, 0x06));
+        rig.clock.Advance(1);
+        EXPECT_EQ(rig.messages.Pending(), 0) << reply.command;
+        EXPECT_EQ(information, before) << reply.command;
+        EXPECT_EQ(progress.size(), known) << reply.command;
+        EXPECT_TRUE(rig.sent.empty()) << reply.command;
+    }
+}
+
 TEST_F(EntryEngineTest, APortThatCannotBeOpenedPromptsAtOnce) {
     rig.ports.Missing(1);
     EXPECT_EQ(rig.TimeOfPrompt([&] { engine.StartTestMode(); }), 101);

@@ -97,6 +97,35 @@ TEST_F(TuningEngineTest, TheLampFollowsARadioThatIsUnkeyedWhileAPageChangeWaits)
     EXPECT_EQ(dialog.events, (std::vector<std::string>{"transmit", "idle", "point 1"}));
 }
 
+TEST_F(TuningEngineTest, AValueGoesOutOneMillisecondAfterItsMoveAndAPageInThreeThreeAndFive) {
+    OpenSixPages();
+    const std::int64_t moved = rig.clock.TickCount();
+    engine->SliderMoved();
+    rig.clock.Advance(50);
+    ASSERT_EQ(rig.sent, Commands{"12 20 0A"});
+    EXPECT_EQ(rig.times[0] - moved, 1);
+    rig.TakeSent();
+    const std::int64_t changed = rig.clock.TickCount();
+    engine->ChangePage(1);
+    rig.clock.Advance(50);
+    ASSERT_EQ(rig.sent, (Commands{"30 0D", "07", "06"}));
+    EXPECT_EQ(rig.times[0] - changed, 3);
+    EXPECT_EQ(rig.times[1] - rig.times[0], 2 + 3); // two for the reply
+    EXPECT_EQ(rig.times[2] - rig.times[1], 2 + 5);
+}
+
+TEST_F(TuningEngineTest, AnEndingGoesOutFiveMillisecondsAfterItsPress) {
+    for (const auto ending : {TuningEngine::Ending::Ok, TuningEngine::Ending::Cancel}) {
+        engine.reset();
+        OpenSixPages();
+        dialog.closed = 0;
+        const std::int64_t pressed = rig.clock.TickCount();
+        Close(ending);
+        EXPECT_EQ(rig.times[0] - pressed, 5);
+        rig.TakeSent();
+    }
+}
+
 TEST_F(TuningEngineTest, ValuesAreSetWithTheTransmitterKeyed) {
     OpenSixPages();
     engine->PressPtt();
