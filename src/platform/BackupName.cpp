@@ -16,14 +16,15 @@ namespace {
 
 std::string StampOf(const LocalTime& time) {
     std::array<char, 64> text{};
-    std::snprintf(text.data(), text.size(), "%04d-%02d-%02dT%02d%02d%02d", time.year, time.month, time.day, time.hour,
-                  time.minute, time.second);
+    // There is room for it.
+    static_cast<void>(std::snprintf(text.data(), text.size(), "%04d-%02d-%02dT%02d%02d%02d", time.year, time.month,
+                                    time.day, time.hour, time.minute, time.second));
     return text.data();
 }
 
 std::string HexOf(std::uint8_t byte) {
     std::array<char, 4> text{};
-    std::snprintf(text.data(), text.size(), "x%02X", byte);
+    static_cast<void>(std::snprintf(text.data(), text.size(), "x%02X", byte)); // there is room for it
     return text.data();
 }
 

@@ -35,8 +35,7 @@ std::vector<BackupName> Backups::List() const {
             backups.push_back(*name);
         }
     }
-    std::sort(backups.begin(), backups.end(),
-              [](const BackupName& left, const BackupName& right) { return IsOlder(right, left); });
+    std::sort(backups.rbegin(), backups.rend(), IsOlder); // the youngest first
     return backups;
 }
 

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cerrno>
 #include <cstddef>
 #include <optional>
@@ -64,12 +65,7 @@ bool CopyExtendedAttributes(int from, int to) {
             return false;
         }
     }
-    for (const std::string& name : *wanted) {
-        if (!CopyAttribute(from, to, name)) {
-            return false;
-        }
-    }
-    return true;
+    return std::ranges::all_of(*wanted, [&](const std::string& name) { return CopyAttribute(from, to, name); });
 }
 
 } // namespace zelvor

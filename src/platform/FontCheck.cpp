@@ -26,7 +26,7 @@ void TellWhereThereIsNoFont() {
         return;
     }
     QLoggingCategory::setFilterRules(QStringLiteral("qt.text.font*=false\nqt.qpa.fonts*=false"));
-    std::fputs(NoFontText, stderr);
+    static_cast<void>(std::fputs(NoFontText, stderr)); // where this fails there is nobody to tell
 }
 
 } // namespace zelvor

@@ -15,7 +15,7 @@ std::string GroupWithAccess(const std::string& devicePath) {
     if (stat(devicePath.c_str(), &device) != 0 || (device.st_mode & both) != both || device.st_gid == 0) {
         return {};
     }
-    const group* found = getgrgid(device.st_gid);
+    const group* found = getgrgid(device.st_gid); // NOLINT(concurrency-mt-unsafe): only one thread opens ports
     return found != nullptr ? found->gr_name : std::string();
 }
 

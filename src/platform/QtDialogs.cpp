@@ -55,7 +55,7 @@ void StandBesideWork(QWidget& window) {
 }
 
 void SetOwner(QWindow& window, QWindow& owner) {
-    if (!BelongsTo(owner, window)) {
+    if (!BelongsTo(owner, window)) { // NOLINT(readability-suspicious-call-argument): else each would own the other
         window.setTransientParent(&owner);
     }
 }

@@ -20,7 +20,7 @@ public:
     void SetNumber(int number) override;
     void SetSettings(std::string_view settings) override;
     /// The system has buffers of its own, and larger ones.
-    void SetBufferSizes(int, int) override {}
+    void SetBufferSizes(int /*inputBytes*/, int /*outputBytes*/) override {}
     /// Nothing here translates characters.
     void SetBinaryInput() override {}
     [[nodiscard]] bool Open() override;

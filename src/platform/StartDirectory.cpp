@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 #include <QStringList>
+#include <algorithm>
 
 namespace zelvor {
 
@@ -34,12 +35,7 @@ bool IsSystemFolder(const QString& directory) {
     if (IsIn(QDir::homePath(), clean)) {
         return false;
     }
-    for (const QString& folder : SystemFolders()) {
-        if (IsIn(folder, clean)) {
-            return true;
-        }
-    }
-    return false;
+    return std::ranges::any_of(SystemFolders(), [&clean](const QString& folder) { return IsIn(folder, clean); });
 }
 
 QString StartDirectoryFor(const QString& programDirectory) {

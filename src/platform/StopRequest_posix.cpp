@@ -10,14 +10,14 @@ volatile std::sig_atomic_t isStopRequested = 0;
 
 void RequestStop(int signal) {
     isStopRequested = 1;
-    std::signal(signal, SIG_DFL);
+    static_cast<void>(std::signal(signal, SIG_DFL)); // fails for no signal that there is
 }
 
 } // namespace
 
 void CatchStopRequests() {
-    std::signal(SIGINT, RequestStop);
-    std::signal(SIGTERM, RequestStop);
+    static_cast<void>(std::signal(SIGINT, RequestStop));
+    static_cast<void>(std::signal(SIGTERM, RequestStop));
 }
 
 bool IsStopRequested() {

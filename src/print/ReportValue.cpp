@@ -26,7 +26,7 @@ struct Instead {
     const void* row;
     std::string_view text;
 };
-constexpr std::array InsteadOfNothing = std::to_array<Instead>({{&optional_features::PttCodes[0], NoCode},
+constexpr std::array InsteadOfNothing = std::to_array<Instead>({{optional_features::PttCodes.data(), NoCode},
                                                                 {&optional_features::PttCodes[1], NoCode},
                                                                 {&scan::PriorityChannel, NoChannelText},
                                                                 {&corvane::OwnFleet, NoFleet},

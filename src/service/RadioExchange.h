@@ -62,7 +62,7 @@ protected:
     Language language_; // of what the user is asked and told
 
 private:
-    void Run(Timer& timer, int milliseconds);
+    static void Run(Timer& timer, int milliseconds);
     void Prompt();
 
     std::unique_ptr<Timer> ctrTimer_;
