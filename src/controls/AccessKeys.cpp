@@ -16,7 +16,7 @@ bool AccessKeys::eventFilter(QObject* watched, QEvent* event) {
     if (watched == &form_ && event->type() == QEvent::ShortcutOverride) {
         return Claim(*static_cast<QKeyEvent*>(event));
     }
-    return event->type() == QEvent::KeyPress && claimed_ && Press(*watched);
+    return event->type() == QEvent::KeyPress && claimed_ != nullptr && Press(*watched);
 }
 
 /// Null also where several have the letter: then the toolkit goes through them.

@@ -201,7 +201,7 @@ void TestForm::Print() {
     const auto printing = std::make_shared<bool>(true);
     printing_ = printing;
     PrintTuningReport(document_, service_.Values, language_, services_,
-                      [form = QPointer(this), printing] { return form && !form->leaving_; });
+                      [form = QPointer(this), printing] { return form != nullptr && !form->leaving_; });
 }
 
 /// The channels that the radio has told, or none: then a single "1" stands in the list.
