@@ -10,11 +10,11 @@ constexpr int LongestSession = 60'000; // milliseconds, of 52 exchanges that eac
 
 } // namespace
 
-CloneFuzz::CloneFuzz(FuzzInput& input, int transferMode)
-    : SpoiltExchange(input), language_(input.TakeBool() ? Language::Chinese : Language::English),
+CloneFuzz::CloneFuzz(const ExchangeInputs& inputs, int transferMode)
+    : SpoiltExchange(inputs), language_(input_.TakeBool() ? Language::Chinese : Language::English),
       engine_(document_, {link_, *port_, clock_, user_, language_}, *this) {
-    document_.Image = TakeImage(input);
-    radio_.Memory = TakeImage(input);
+    document_.Image = TakeImage(input_);
+    radio_.Memory = TakeImage(input_);
     link_.TransferMode = transferMode;
     user_.OnTearDown = [this] {
         isTornDown_ = true;

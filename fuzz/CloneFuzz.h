@@ -11,18 +11,16 @@
 namespace zelvor::fuzz {
 
 /// A transfer between a document and a spoilt radio, from the dialog's opening to its closing.
-class CloneFuzz : private SpoiltExchange, private CloneObserver {
+class CloneFuzz : public SpoiltExchange, private CloneObserver {
 public:
     /// transferMode is one of transfer::Reading and transfer::Writing.
-    CloneFuzz(FuzzInput& input, int transferMode);
+    CloneFuzz(const ExchangeInputs& inputs, int transferMode);
 
     /// Runs it, and looks at what every transfer has to keep to.
     void Run();
 
     [[nodiscard]] bool IsCompleted() const { return completed_ == 1; }
     [[nodiscard]] const DataImage& Image() const { return document_.Image; }
-    [[nodiscard]] const SpoiltRadio& Radio() const { return radio_; }
-    [[nodiscard]] const FuzzedUser& User() const { return user_; }
 
 private:
     void OnProgress(int value) override;

@@ -8,11 +8,8 @@ namespace zelvor::fuzz {
 namespace {
 
 constexpr const char* PortName = "MSComm1";
-constexpr int ReplyDelay = 2; // milliseconds
 constexpr int LongestForeign = 80;
 constexpr int NotTold = -1;
-
-enum Way { Whole, Late, Cut, Changed, Foreign, Silent, Vanished, InPieces, WayCount };
 
 } // namespace
 
@@ -31,6 +28,7 @@ void SpoiltRadio::Serve(std::span<const std::uint8_t> command) {
     commands_.emplace_back(command.begin(), command.end());
     std::vector<std::uint8_t> reply = ReplyTo(command);
     if (!reply.empty()) {
+        replies_.push_back({commands_.back(), reply});
         Spoil(std::move(reply));
     }
 }
@@ -65,7 +63,7 @@ void SpoiltRadio::Spoil(std::vector<std::uint8_t> reply) {
     isUnspoilt_ = isUnspoilt_ && way == Whole;
     switch (way) {
     case Late:
-        return Deliver(ReplyDelay + 4 * input_.TakeByte(), std::move(reply));
+        return Deliver(ReplyDelay + LateUnit * input_.TakeByte(), std::move(reply));
     case Cut:
         reply.resize(input_.TakeByte() % reply.size());
         return Deliver(ReplyDelay, std::move(reply));
@@ -86,7 +84,7 @@ void SpoiltRadio::Spoil(std::vector<std::uint8_t> reply) {
         });
     case InPieces: {
         const auto middle = reply.begin() + static_cast<std::ptrdiff_t>(input_.TakeByte() % reply.size());
-        Deliver(ReplyDelay + 4 * input_.TakeByte(), {middle, reply.end()});
+        Deliver(ReplyDelay + LateUnit * input_.TakeByte(), {middle, reply.end()});
         return Deliver(ReplyDelay, {reply.begin(), middle});
     }
     default:

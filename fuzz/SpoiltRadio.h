@@ -14,10 +14,16 @@
 
 namespace zelvor::fuzz {
 
+/// What may become of a reply: see SpoiltRadio::Spoil for the bytes of the input behind each.
+enum Way { Whole, Late, Cut, Changed, Foreign, Silent, Vanished, InPieces, WayCount };
+
 /// A simulated radio at the far end of the fake ports, whose replies the input spoils: it says how many of them come as
 /// they are, and what becomes of the next. Behind the input's end all come as they are.
 class SpoiltRadio {
 public:
+    static constexpr int ReplyDelay = 2; // milliseconds
+    static constexpr int LateUnit = 4;   // of the byte that says how much later than that
+
     SpoiltRadio(FuzzInput& input, FakeClock& clock, FakeSerialPorts& ports);
     SpoiltRadio(const SpoiltRadio&) = delete;
     SpoiltRadio& operator=(const SpoiltRadio&) = delete;
@@ -30,6 +36,12 @@ public:
     [[nodiscard]] bool IsUnspoilt() const { return isUnspoilt_; }
     /// All that was sent, a command each.
     [[nodiscard]] const std::vector<std::vector<std::uint8_t>>& Commands() const { return commands_; }
+    /// All replies as they would have come, and the command that each answers.
+    struct Reply {
+        std::vector<std::uint8_t> command;
+        std::vector<std::uint8_t> bytes;
+    };
+    [[nodiscard]] const std::vector<Reply>& Replies() const { return replies_; }
     /// The cable is plugged in again.
     void PlugIn() { ports_.Present(1); }
 
@@ -44,6 +56,7 @@ private:
     FakeSerialPorts& ports_;
     RadioResponder responder_{Memory};
     std::vector<std::vector<std::uint8_t>> commands_;
+    std::vector<Reply> replies_;
     int wholeReplies_ = 0; // still to come before one is spoilt
     int next_ = -1;        // what becomes of that; -1 where the input has not told
     bool isUnspoilt_ = true;

@@ -1,180 +1,152 @@
-// The tuning dialogs of all items, with a user who does anything at any time and a radio that answers with any bytes.
-
-#include <memory>
+#include "TuningFuzz.h"
 
 #include "FuzzImages.h"
 #include "Require.h"
 #include "ServiceRadio.h"
-#include "SpoiltExchange.h"
 #include "data/MemoryMap.h"
 #include "service/FrequencyPoints.h"
-#include "service/LinkedValues.h"
-#include "service/TuningDialogs.h"
-#include "service/TuningEngine.h"
 
 namespace zelvor::fuzz {
+
 namespace {
 
 constexpr std::uint8_t TuningEntry[]{'T', 'U', 'N', 'I', 'N', 'G', ' '};
 constexpr std::uint8_t Narrow[]{'G'};
 
-class TuningFuzz : private SpoiltExchange, private TuningSource, private TuningObserver {
-public:
-    explicit TuningFuzz(FuzzInput& input)
-        : SpoiltExchange(input), isNarrow_(input.TakeBool()),
-          dialog_(TuningDialogOf(1 + input.TakeByte() % TuneItemCount, isNarrow_)), image_(TakeImage(input)),
-          values_(LoadValues(input)),
-          engine_(service_, {link_, *port_, clock_, user_, Language::English}, PlanOf(dialog_), *this, *this) {
-        radio_.Memory = image_;
-        radio_.Prepare(TuningEntry);
-        if (isNarrow_) {
-            radio_.Prepare(Narrow);
-        }
-    }
-
-    void Run() {
-        const DataImage memory = radio_.Memory;
-        engine_.Load();
-        for (int actions = input_.TakeByte(); actions > 0 && !input_.IsEmpty() && closed_ == 0; --actions) {
-            Act();
-        }
-        const bool isOk = input_.TakeBool();
-        Leave(isOk ? TuningEngine::Ending::Ok : TuningEngine::Ending::Cancel);
-        for (int address = 0; address < 0x400; ++address) {
-            const bool isSame = radio_.Memory.At(address) == memory.At(address);
-            Require(isSame || IsOfItem(address), "tuning an item stores its own values");
-            Require(isSame || isOk || !radio_.IsUnspoilt(), "Cancel brings the old values back");
-        }
-        for (const std::vector<std::uint8_t>& command : radio_.Commands()) {
-            Require(IsCommand(command), "tuning sends commands of tuning");
-        }
-    }
-
-private:
-    [[nodiscard]] int Pages() const { return static_cast<int>(dialog_.points.size()); }
-
-    [[nodiscard]] LinkedValues LoadValues(FuzzInput& input) const {
-        const TuneItemRow& item = TuneItemOf(dialog_.tuneItem);
-        const std::optional<FrequencyPoints> points = FrequencyPointsOf(image_);
-        std::vector<std::uint8_t> values;
-        std::vector<std::int64_t> frequencies;
-        for (const TunePoint point : dialog_.points) {
-            values.push_back(static_cast<std::uint8_t>(TuneValueOf(item, point, image_, {})));
-            if (dialog_.kind == TuningKind::Points && point != TunePoint::Test && points) {
-                frequencies.push_back(points->At(point).transmit);
-            }
-        }
-        const std::int64_t testFrequency = std::int64_t{input.TakeByte()} * 300'000;
-        return {values, frequencies, testFrequency, input.TakeByte()};
-    }
-
-    void Act() {
-        switch (input_.TakeByte() % 6) {
-        case 0:
-            ChangePage(input_.TakeByte() % Pages());
-            break;
-        case 1:
-            ChangeValue(input_.TakeByte());
-            break;
-        case 2:
-            engine_.PressPtt();
-            break;
-        case 3:
-            if (dialog_.kind == TuningKind::Measured) {
-                engine_.ToggleMeasuring();
-            }
-            break;
-        case 4:
-            radio_.PlugIn();
-            break;
-        default:
-            clock_.Advance(4 * input_.TakeByte());
-        }
-    }
-
-    void ChangePage(int page) {
-        if (dialog_.kind == TuningKind::Points && page != page_) {
-            page_ = page;
-            engine_.ChangePage(page);
-        }
-    }
-
-    void ChangeValue(int value) {
-        const bool isLinked = dialog_.kind == TuningKind::Points;
-        if (dialog_.kind == TuningKind::Measured || (isLinked && page_ == 0 && !values_.MayMoveTest(value))) {
-            return;
-        }
-        values_.Set(page_, value);
-        engine_.SliderMoved();
-    }
-
-    void Leave(TuningEngine::Ending ending) {
-        const std::int64_t begin = clock_.TickCount();
-        const int retries = user_.Retries();
-        engine_.Close(ending);
-        Require(RunsToItsEnd(clock_, LongestClosing * 300, [this] { return closed_ > 0; }), "a dialog can be left");
-        Require(clock_.TickCount() - begin <= LongestClosing * (1 + user_.Retries() - retries),
-                "a dialog is left in time");
-        Require(!port_->IsOpen(), "the port is closed behind a tuning dialog");
-        Require(!IsLeftKeyed(radio_.Commands()) || service_.TestAborted, "no transmitter is left keyed");
-        const std::size_t sent = radio_.Commands().size();
-        engine_.PressPtt();
-        engine_.SliderMoved();
-        clock_.Advance(LongestClosing);
-        Require(radio_.Commands().size() == sent && closed_ == 1, "nothing comes behind the end");
-    }
-
-    [[nodiscard]] bool IsOfItem(int address) const {
-        for (const TuneCell& cell : TuneItemOf(dialog_.tuneItem).cells) {
-            if (cell.Exists() && cell.address == address) {
-                return true;
-            }
-        }
-        return false;
-    }
-
-    [[nodiscard]] bool IsCommand(const std::vector<std::uint8_t>& command) const {
-        if (command.size() == 1) {
-            return command[0] == 0x06 || command[0] == 0x07;
-        }
-        if (command[0] == 0x08) {
-            return command.size() == 2 && (command[1] == 0x0D || command[1] == 0x0E);
-        }
-        bool isOwnCode = command[0] == TuneItemOf(dialog_.tuneItem).code;
-        for (const TuneCell& cell : TuneItemOf(dialog_.tuneItem).cells) {
-            isOwnCode = isOwnCode || (cell.Exists() && cell.code == command[0]);
-        }
-        const bool isSet = command.size() == 3 && command[1] == 0x20;
-        const bool isOther = command.size() == 2 && (command[1] == 0x0D || command[1] == 0x0E || command[1] == 0x0A);
-        return isOwnCode && (isSet || isOther);
-    }
-
-    [[nodiscard]] int Value(int page) const override { return values_.Value(page); }
-    [[nodiscard]] int OldValue(int page) const override { return values_.OldValue(page); }
-    void OnLamp(bool /*transmitting*/) override {}
-    void OnPointRead(int page) override { Require(page >= 0 && page < Pages(), "a point is one of the dialog's"); }
-    void OnMeasured(int value) override {
-        Require(value >= 0 && value <= 255, "a measured value is a byte");
-        values_.SetMeasured(value);
-    }
-    void OnUnloadRequested() override { engine_.Close(TuningEngine::Ending::Cancel); }
-    void OnClosed() override { ++closed_; }
-
-    ServiceState service_;
-    bool isNarrow_;
-    TuningDialog dialog_;
-    DataImage image_;
-    LinkedValues values_;
-    TuningEngine engine_;
-    int page_ = 0;
-    int closed_ = 0;
-};
-
 } // namespace
-} // namespace zelvor::fuzz
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t count) {
-    zelvor::fuzz::FuzzInput input(bytes, count);
-    zelvor::fuzz::TuningFuzz(input).Run();
-    return 0;
+TuningFuzz::TuningFuzz(const ExchangeInputs& inputs)
+    : SpoiltExchange(inputs), isNarrow_(input_.TakeBool()),
+      dialog_(TuningDialogOf(1 + input_.TakeByte() % TuneItemCount, isNarrow_)), image_(TakeImage(input_)),
+      values_(LoadValues()),
+      engine_(service_, {link_, *port_, clock_, user_, Language::English}, PlanOf(dialog_), *this, *this) {
+    radio_.Memory = image_;
+    radio_.Prepare(TuningEntry);
+    if (isNarrow_) {
+        radio_.Prepare(Narrow);
+    }
 }
+
+void TuningFuzz::Run() {
+    const DataImage memory = radio_.Memory;
+    engine_.Load();
+    for (int actions = input_.TakeByte(); actions > 0 && !input_.IsEmpty() && closed_ == 0; --actions) {
+        Act();
+    }
+    const bool isOk = input_.TakeBool();
+    Leave(isOk ? TuningEngine::Ending::Ok : TuningEngine::Ending::Cancel);
+    for (int address = 0; address < 0x400; ++address) {
+        const bool isSame = radio_.Memory.At(address) == memory.At(address);
+        Require(isSame || IsOfItem(address), "tuning an item stores its own values");
+        Require(isSame || isOk || !radio_.IsUnspoilt(), "Cancel brings the old values back");
+    }
+    for (const std::vector<std::uint8_t>& command : radio_.Commands()) {
+        Require(IsCommand(command), "tuning sends commands of tuning");
+    }
+}
+
+LinkedValues TuningFuzz::LoadValues() const {
+    const TuneItemRow& item = TuneItemOf(dialog_.tuneItem);
+    const std::optional<FrequencyPoints> points = FrequencyPointsOf(image_);
+    std::vector<std::uint8_t> values;
+    std::vector<std::int64_t> frequencies;
+    for (const TunePoint point : dialog_.points) {
+        values.push_back(static_cast<std::uint8_t>(TuneValueOf(item, point, image_, {})));
+        if (dialog_.kind == TuningKind::Points && point != TunePoint::Test && points) {
+            frequencies.push_back(points->At(point).transmit);
+        }
+    }
+    const std::int64_t testFrequency = std::int64_t{input_.TakeByte()} * 300'000;
+    return {values, frequencies, testFrequency, input_.TakeByte()};
+}
+
+void TuningFuzz::Act() {
+    switch (input_.TakeByte() % 6) {
+    case 0:
+        ChangePage(input_.TakeByte() % Pages());
+        break;
+    case 1:
+        ChangeValue(input_.TakeByte());
+        break;
+    case 2:
+        engine_.PressPtt();
+        break;
+    case 3:
+        if (dialog_.kind == TuningKind::Measured) {
+            engine_.ToggleMeasuring();
+        }
+        break;
+    case 4:
+        radio_.PlugIn();
+        break;
+    default:
+        clock_.Advance(4 * input_.TakeByte());
+    }
+}
+
+void TuningFuzz::ChangePage(int page) {
+    if (dialog_.kind == TuningKind::Points && page != page_) {
+        page_ = page;
+        engine_.ChangePage(page);
+    }
+}
+
+void TuningFuzz::ChangeValue(int value) {
+    const bool isLinked = dialog_.kind == TuningKind::Points;
+    if (dialog_.kind == TuningKind::Measured || (isLinked && page_ == 0 && !values_.MayMoveTest(value))) {
+        return;
+    }
+    values_.Set(page_, value);
+    engine_.SliderMoved();
+}
+
+void TuningFuzz::Leave(TuningEngine::Ending ending) {
+    const std::int64_t begin = clock_.TickCount();
+    const int retries = user_.Retries();
+    engine_.Close(ending);
+    Require(RunsToItsEnd(clock_, LongestClosing * 300, [this] { return closed_ > 0; }), "a dialog can be left");
+    Require(clock_.TickCount() - begin <= LongestClosing * (1 + user_.Retries() - retries), "a dialog is left in time");
+    Require(!port_->IsOpen(), "the port is closed behind a tuning dialog");
+    Require(!IsLeftKeyed(radio_.Commands()) || service_.TestAborted, "no transmitter is left keyed");
+    const std::size_t sent = radio_.Commands().size();
+    engine_.PressPtt();
+    engine_.SliderMoved();
+    clock_.Advance(LongestClosing);
+    Require(radio_.Commands().size() == sent && closed_ == 1, "nothing comes behind the end");
+}
+
+bool TuningFuzz::IsOfItem(int address) const {
+    for (const TuneCell& cell : TuneItemOf(dialog_.tuneItem).cells) {
+        if (cell.Exists() && cell.address == address) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool TuningFuzz::IsCommand(const std::vector<std::uint8_t>& command) const {
+    if (command.size() == 1) {
+        return command[0] == 0x06 || command[0] == 0x07;
+    }
+    if (command[0] == 0x08) {
+        return command.size() == 2 && (command[1] == 0x0D || command[1] == 0x0E);
+    }
+    bool isOwnCode = command[0] == TuneItemOf(dialog_.tuneItem).code;
+    for (const TuneCell& cell : TuneItemOf(dialog_.tuneItem).cells) {
+        isOwnCode = isOwnCode || (cell.Exists() && cell.code == command[0]);
+    }
+    const bool isSet = command.size() == 3 && command[1] == 0x20;
+    const bool isOther = command.size() == 2 && (command[1] == 0x0D || command[1] == 0x0E || command[1] == 0x0A);
+    return isOwnCode && (isSet || isOther);
+}
+
+void TuningFuzz::OnPointRead(int page) {
+    Require(page >= 0 && page < Pages(), "a point is one of the dialog's");
+}
+
+void TuningFuzz::OnMeasured(int value) {
+    Require(value >= 0 && value <= 255, "a measured value is a byte");
+    values_.SetMeasured(value);
+}
+
+} // namespace zelvor::fuzz
