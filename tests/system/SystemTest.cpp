@@ -119,6 +119,14 @@ void SystemTest::CancelTransfer() {
     boxes_.WaitUntilGone("ConnectForm");
 }
 
+void SystemTest::LetLateReplyCome(const std::string& fault) {
+    if (fault.starts_with("unplug")) {
+        radio_->WaitForText("plugged in again");
+    } else if (fault.starts_with("delay")) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(600));
+    }
+}
+
 void SystemTest::ExpectReadCompleted() {
     ExpectCompleted(English().readCompleted);
 }
@@ -159,8 +167,8 @@ void SystemTest::ExpectBlankWritten() {
     CheckBytes("the last 192 bytes", memory.mid(0x340), tour::UnwrittenEnd(), 0x340);
 }
 
-std::string FaultName(const ::testing::TestParamInfo<const char*>& fault) {
-    return QString(fault.param).replace("@", "_at_").replace(":", "_").toStdString();
+std::string FaultName(const ::testing::TestParamInfo<std::string>& fault) {
+    return QString::fromStdString(fault.param).replace("@", "_at_").replace(":", "_").toStdString();
 }
 
 } // namespace zelvor::test

@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include "system/Faults.h"
 #include "tour/Boxes.h"
 #include "tour/Program.h"
 #include "tour/RadioProgram.h"
@@ -48,6 +49,9 @@ protected:
     void Retry();
     /// Answers the prompt by Cancel, which closes the dialog of the transfer too.
     void CancelTransfer();
+    /// Waits for what a radio still sends: nothing tells it from an answer to the next transfer, and no user is as
+    /// quick as a script.
+    void LetLateReplyCome(const std::string& fault);
     void ExpectReadCompleted();
     void ExpectWriteCompleted();
     /// The document is the radio's memory, and that the sample radio's.
@@ -76,6 +80,6 @@ private:
 };
 
 /// Starts each test of a suite with another fault, "cut:5@18"; the test's name then ends in "cut_5_at_18".
-[[nodiscard]] std::string FaultName(const ::testing::TestParamInfo<const char*>& fault);
+[[nodiscard]] std::string FaultName(const ::testing::TestParamInfo<std::string>& fault);
 
 } // namespace zelvor::test
