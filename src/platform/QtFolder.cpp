@@ -10,6 +10,18 @@
 
 namespace zelvor {
 
+namespace {
+
+/// A process that was killed while it made its lock has left an empty one, which tells of nobody.
+bool RemoveLockOfNobody(QLockFile& lock) {
+    qint64 process = 0;
+    QString machine;
+    QString program;
+    return !lock.getLockInfo(&process, &machine, &program) && lock.removeStaleLockFile();
+}
+
+} // namespace
+
 QtFolder::QtFolder(QString path, int patience) : path_(std::move(path)), patience_(patience) {}
 
 std::string QtFolder::Path() const {
@@ -37,7 +49,8 @@ std::shared_ptr<void> QtFolder::Hold() {
         return nullptr;
     }
     auto lock = std::make_shared<QLockFile>(path_ + QStringLiteral("/.lock"));
-    return lock->tryLock(patience_) ? lock : nullptr;
+    const bool isHeld = lock->tryLock(patience_) || (RemoveLockOfNobody(*lock) && lock->tryLock(patience_));
+    return isHeld ? lock : nullptr;
 }
 
 QString BackupFolderPath() {

@@ -6,8 +6,8 @@
 
 namespace zelvor {
 
-/// A folder of the machine's. Held by a file ".lock" in it, which nobody respects once its process is gone or
-/// half a minute has passed.
+/// A folder of the machine's. Held by a file ".lock" in it, which nobody respects once its process is gone, or
+/// where it tells of none, or half a minute has passed.
 class QtFolder : public Folder {
 public:
     /// Longer than a few processes in a row need for a file each, and short enough for a user who waits.

@@ -233,6 +233,29 @@ TEST(BackupsInARealFolder, LeaveNothingElseBehind) {
     EXPECT_EQ(testing::EntriesOf(directory.Path()), std::vector<std::string>{"2026-11-22T014502-4618-M-read.dat"});
 }
 
+TEST(BackupsInARealFolder, AreKeptBehindALockThatTellsOfNobody) {
+    const TestDirectory directory;
+    testing::PutFile(directory / ".lock", ""); // of a process that was killed while it made it
+    QtFileStore store;
+    constexpr int patience = 1; // milliseconds
+    QtFolder folder(ToQString(testing::Utf8(directory.Path())), patience);
+    FakeClock clock;
+    clock.SetNow({2026, 11, 22, 1, 45, 2});
+    EXPECT_TRUE(Backups(store, folder, clock).Keep(Image(1), BackupDirection::Read));
+    EXPECT_EQ(testing::EntriesOf(directory.Path()), std::vector<std::string>{"2026-11-22T014502-4618-M-read.dat"});
+}
+
+TEST(BackupsInARealFolder, AreNotKeptWhileAnotherProgramHoldsTheFolder) {
+    const TestDirectory directory;
+    QtFileStore store;
+    constexpr int patience = 1; // milliseconds
+    QtFolder folder(ToQString(testing::Utf8(directory.Path())), patience);
+    QtFolder others(ToQString(testing::Utf8(directory.Path())), patience);
+    FakeClock clock;
+    const auto hold = others.Hold();
+    EXPECT_EQ(Backups(store, folder, clock).Keep(Image(1), BackupDirection::Read), std::nullopt);
+}
+
 TEST(BackupsInARealFolder, AreNotWrittenThroughALinkOfThatName) {
     const TestDirectory directory;
     testing::PutFile(directory / "target", "mine");
