@@ -28,6 +28,7 @@ public:
 
     /// Puts bytes at the start of the file, which is made where there is none. They are on disk, whole, when this
     /// returns true. False leaves the old file as it was: the folder or the disk takes none, or the file is read-only.
+    /// Of a disk that fails at the very last the new file may be there.
     [[nodiscard]] virtual bool Write(const std::string& path, std::span<const std::uint8_t> bytes, FileTail tail) = 0;
 };
 

@@ -53,9 +53,13 @@ void ForEachName(const std::filesystem::path& folder,
 /// Forces the content onto the disk. False where the disk did not take it.
 [[nodiscard]] bool SyncFile(QFileDevice& file);
 
-/// Gives a closed file the name of another one in its folder, which it replaces in one step, and forces that onto the
-/// disk, where the system can. False leaves both where they are: another program may have the old file open.
+/// Gives a closed file the name of another one in its folder, which it replaces in one step. False leaves both where
+/// they are: another program may have the old file open.
 [[nodiscard]] bool PutInPlace(const std::filesystem::path& fresh, const std::filesystem::path& target);
+
+/// Forces the name of a file that was put in place onto the disk, where the system can. False where the disk did not
+/// take it.
+[[nodiscard]] bool SyncNameOf(const std::filesystem::path& target);
 
 void RemoveFile(const std::filesystem::path& path);
 

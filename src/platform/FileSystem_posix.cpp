@@ -35,12 +35,9 @@ int OpenRegular(const std::filesystem::path& path, int flags) {
     return descriptor;
 }
 
-void SyncFolder(const fs::path& folder) {
-    const int descriptor = open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (descriptor >= 0) {
-        [[maybe_unused]] const int ignored = fsync(descriptor);
-        close(descriptor);
-    }
+/// Syncs; false where the disk is at fault. A file system that cannot be synced says so in other ways.
+bool Sync(int descriptor) {
+    return fsync(descriptor) == 0 || (errno != EIO && errno != ENOSPC && errno != EDQUOT);
 }
 
 } // namespace
@@ -120,18 +117,24 @@ bool TakeOverBelongings(const QFile& from, QFileDevice& to) {
 }
 
 bool SyncFile(QFileDevice& file) {
-    // A file system that cannot be synced says so in other ways.
-    return file.flush() && (fsync(file.handle()) == 0 || (errno != EIO && errno != ENOSPC && errno != EDQUOT));
+    return file.flush() && Sync(file.handle());
 }
 
 bool PutInPlace(const std::filesystem::path& fresh, const std::filesystem::path& target) {
     std::error_code error;
     fs::rename(fresh, target, error);
-    if (error) {
-        return false;
+    return !error;
+}
+
+bool SyncNameOf(const std::filesystem::path& target) {
+    const fs::path folder = target.parent_path();
+    const int descriptor = open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor < 0) { // it may be written and not read
+        return true;
     }
-    SyncFolder(target.parent_path());
-    return true;
+    const bool isTaken = Sync(descriptor);
+    close(descriptor);
+    return isTaken;
 }
 
 void RemoveFile(const std::filesystem::path& path) {

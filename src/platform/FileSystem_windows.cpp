@@ -250,6 +250,10 @@ bool PutInPlace(const std::filesystem::path& fresh, const std::filesystem::path&
     return Rename(LongName(fresh), LongName(target));
 }
 
+bool SyncNameOf(const std::filesystem::path& /*target*/) {
+    return true; // PutInPlace writes through
+}
+
 void RemoveFile(const std::filesystem::path& path) {
     DeleteFileW(LongName(path).c_str());
 }

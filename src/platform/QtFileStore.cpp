@@ -107,7 +107,7 @@ Replacement ReplaceWhole(const fs::path& target, QFile& old, Bytes bytes, FileTa
         RemoveFile(name);
         return Replacement::NotPossible;
     }
-    return Replacement::Done;
+    return SyncNameOf(target) ? Replacement::Done : Replacement::Failed;
 }
 
 constexpr QIODevice::OpenMode ForUpdate = QIODevice::ReadWrite | QIODevice::Unbuffered;

@@ -243,6 +243,17 @@ TEST_F(Disk, ThatDoesNotTakeTheNewFileLeavesTheOldOne) {
     }
 }
 
+TEST_F(Disk, ThatDoesNotTakeTheNewNameIsNoSuccess) {
+    for (const int fault : {EIO, ENOSPC, EDQUOT}) {
+        syncInstead = [this, fault](int descriptor) {
+            errno = fault;
+            return PathOfDescriptor(descriptor) == directory.Path() ? -1 : 0;
+        };
+        EXPECT_FALSE(Save(Path())) << fault;
+        EXPECT_EQ(EntriesOf(directory.Path()), (Names{"radio.dat"}));
+    }
+}
+
 TEST_F(Disk, ThatCannotSyncIsNoHindrance) {
     syncInstead = [](int) {
         errno = EINVAL;
