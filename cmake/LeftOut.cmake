@@ -22,7 +22,7 @@ if(NOT CMAKE_SYSTEM_NAME STREQUAL "Linux")
     system/WriteFaultTest.cpp
     system/ZelvorProgramTest.cpp)
   zelvor_left_out("They make faults of a file system by calls that Linux alone has."
-                  platform/FileBelongingsTest.cpp platform/FileFaultTest.cpp)
+                  platform/FileBelongingsTest.cpp platform/FileFaultTest.cpp platform/KillTest.cpp)
 endif()
 
 if(WIN32)
