@@ -51,7 +51,7 @@ public:
     using QHeaderView::QHeaderView;
 
 protected:
-    [[nodiscard]] QSize sectionSizeFromContents(int) const override { return {1, 1}; }
+    [[nodiscard]] QSize sectionSizeFromContents(int /*section*/) const override { return {1, 1}; }
     void initStyleOptionForIndex(QStyleOptionHeader* option, int index) const override {
         QHeaderView::initStyleOptionForIndex(option, index);
         if (option->orientation == Qt::Horizontal) {

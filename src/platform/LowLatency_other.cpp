@@ -2,6 +2,6 @@
 
 namespace zelvor {
 
-void AskForLowLatency(QSerialPort&) {}
+void AskForLowLatency(QSerialPort& /*port*/) {}
 
 } // namespace zelvor

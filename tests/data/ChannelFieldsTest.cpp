@@ -200,6 +200,36 @@ TEST(ChannelFields, RefuseWhatTheWindowsWouldCorrectOrDoNotOffer) {
     ExpectRefuses(ChannelColumn::Autodial, {"", "0", "9", "01"});
 }
 
+TEST(ChannelFields, TellTheirLegalValues) {
+    const std::pair<ChannelColumn, std::vector<std::string>> columns[] = {
+        {ChannelColumn::Power, {"High", "Low"}},
+        {ChannelColumn::Width, {"Wide", "Narrow"}},
+        {ChannelColumn::ScanAdd, {"yes", "no"}},
+        {ChannelColumn::OptionSignalling, {"None", "DTMF", "Corvane"}},
+        {ChannelColumn::PttId,
+         {"Off", "On", "Own", "Fleet List 1", "Fleet List 2", "Fleet List 3", "Fleet List 4", "Fleet List 5",
+          "Fleet List 6", "Fleet List 7", "Fleet List 8"}},
+        {ChannelColumn::SpUnmute, {"Carrier", "Carrier + Opt.Sig.", "Carrier or Opt.Sig."}},
+        {ChannelColumn::BusyLockout, {"Off", "Carrier", "QT/DQT", "Option Signalling"}},
+        {ChannelColumn::Autodial, {"1", "2", "3", "4", "5", "6", "7", "8"}},
+        {ChannelColumn::BeatShift, {"no", "yes"}},
+        {ChannelColumn::Compander, {"no", "yes"}},
+    };
+    for (const auto& [column, words] : columns) {
+        EXPECT_EQ(LegalValuesOf(Of(column), En), (LegalValues{.words = words})) << NameOf(column);
+    }
+    for (const ChannelColumn column : {ChannelColumn::Receive, ChannelColumn::Transmit}) {
+        EXPECT_EQ(LegalValuesOf(Of(column), En),
+                  (LegalValues{.mayBeEmpty = true,
+                               .range = LegalValues::Range{"100.00000", "550.00000", "0.00500 or 0.00625"}}));
+    }
+    for (const ChannelColumn column : {ChannelColumn::Decode, ChannelColumn::Encode}) {
+        EXPECT_EQ(LegalValuesOf(Of(column), Zh), (LegalValues{.words = {"无"},
+                                                              .range = LegalValues::Range{"67.0", "254.1", "0.1"},
+                                                              .codes = LegalValues::Range{"D000N", "D777I", "1"}}));
+    }
+}
+
 TEST(ChannelFields, KeepTheBytesOfWhatIsShownAlready) {
     DataImage image = Programmed();
     testing::StoreHex(image, Channel3 + 8, "000000308141BF03");

@@ -99,6 +99,23 @@ TEST(Field, ThreeNumbersThatGoUpEvenlyAreARangeAndTwoAreWords) {
     EXPECT_EQ(Field(two).Legal(En), (LegalValues{.words = {"4", "5"}}));
 }
 
+TEST(Field, AnErasedNumberIsLegalWhereItShowsALegalOne) {
+    for (const auto& [erased, isLegal] :
+         {std::pair(3, false), std::pair(4, true), std::pair(9, true), std::pair(10, false)}) {
+        const NumberField field{.key = "erased",
+                                .label = "Erased",
+                                .address = 0x130,
+                                .first = 4,
+                                .last = 9,
+                                .lengthLimit = 2,
+                                .erased = erased,
+                                .showsErased = true,
+                                .show = ShowNumber,
+                                .read = LeadingNumber};
+        EXPECT_EQ(Field(field).HoldsLegal(DataImage()), isLegal) << erased;
+    }
+}
+
 TEST(Field, ANumberOfTwoBytesHasItsLowByteFirst) {
     const Field delay(corvane::DelayTime);
     ExpectParses(delay, {{"0", "0000"}, {"400", "9001"}, {"6000", "7017"}});

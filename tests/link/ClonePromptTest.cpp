@@ -42,6 +42,24 @@ TEST_P(SilentRadio, PromptsAtTheTimeoutAndAHundredMillisecondsOfPause) {
     EXPECT_EQ(rig.clock.Sleeps(), std::vector<int>{100});
 }
 
+TEST_P(SilentRadio, TheStateTellsThePromptWhileItIsUpAndThePauseBehindARetry) {
+    EngineRig rig(GetParam().direction);
+    (rig.*GetParam().reach)();
+    std::vector<std::string> told;
+    rig.WhenStandingStill = [&] {
+        const auto& state = rig.engine->State();
+        told.push_back(std::string(state.Prompting ? "prompting" : "") + (state.Pausing ? "pausing" : ""));
+    };
+    rig.messages.Expect(ConnectionPrompt(), [&] {
+        EXPECT_TRUE(rig.engine->State().Prompting);
+        return MessageAnswer::Retry;
+    });
+    rig.clock.Advance(500);
+    EXPECT_EQ(told, (std::vector<std::string>{"prompting", "pausing"}));
+    EXPECT_FALSE(rig.engine->State().Prompting);
+    EXPECT_FALSE(rig.engine->State().Pausing);
+}
+
 TEST_P(SilentRadio, RetryStartsAgainFromEntryWithNoEndFirst) {
     EngineRig rig(GetParam().direction);
     (rig.*GetParam().reach)();

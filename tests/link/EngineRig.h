@@ -42,6 +42,7 @@ public:
     /// "progress 1", "buttons on", "buttons off", "read completed", "write completed", "unload", "unload cancelled".
     std::vector<std::string> events;
     std::function<void()> WhenReadCompleted;
+    std::function<void()> WhenStandingStill;
 
     [[nodiscard]] FakeSerialPort& Port() { return static_cast<FakeSerialPort&>(*serialPort); }
     [[nodiscard]] LinkState& Link() { return link; }
@@ -76,7 +77,11 @@ public:
 
     void OnProgress(int value) override { events.push_back("progress " + std::to_string(value)); }
     void OnButtonsEnabled(bool enabled) override { events.emplace_back(enabled ? "buttons on" : "buttons off"); }
-    void OnStandstill() override {}
+    void OnStandstill() override {
+        if (WhenStandingStill) {
+            WhenStandingStill();
+        }
+    }
     void OnTransferDone() override {}
     void OnReadCompleted() override;
     void OnWriteCompleted() override { events.emplace_back("write completed"); }
