@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 #include <vector>
 
+#include "Instructions.h"
 #include "Report.h"
 #include "data/DataFile.h"
 #include "simulator/SampleRadio.h"
@@ -18,8 +19,11 @@ constexpr int Files = 10'000;
 constexpr int Pairs = 1'000;
 constexpr int Runs = 5;
 constexpr double LargestRatio = 2;
+constexpr double LargestGrowth = 1.02;
+constexpr double Thousand = 1000;
 constexpr double MillisecondsPerSecond = 1000;
 constexpr auto CheckName = "Check of 10,000 files / sha256sum of them";
+constexpr auto PerFileName = "  instructions a file, of 10,000 / of 1,000";
 constexpr auto DiffName = "Diff of 1,000 pairs / sha256sum of them";
 
 /// The sample radio again and again; no write of them waits for the disk.
@@ -70,6 +74,33 @@ void AddCheck(const QTemporaryDir& directory, const QStringList& names, Report& 
                Spread(checks, 3) + " s and " + Spread(sums, 3) + " s");
 }
 
+/// Whether a file costs the same among many others as among few.
+void AddCheckPerFile(const QTemporaryDir& directory, const QStringList& names, Report& report) {
+    constexpr int Fewest = 100;
+    constexpr int Few = 1000;
+    if (!CountsInstructions()) {
+        return;
+    }
+    const auto instructions = [&](int files) {
+        QStringList arguments{"check"};
+        for (const QString& name : names.first(files)) {
+            arguments.append(directory.filePath(name));
+        }
+        return InstructionsOf(ZELVOR_CLI_PROGRAM, arguments);
+    };
+    const std::optional<double> fewest = instructions(Fewest);
+    const std::optional<double> few = instructions(Few);
+    const std::optional<double> all = instructions(Files);
+    if (!fewest || !few || !all) {
+        report.AddFailure(PerFileName, "not counted");
+        return;
+    }
+    const double amongFew = (*few - *fewest) / (Few - Fewest);
+    const double amongAll = (*all - *few) / (Files - Few);
+    report.Add(PerFileName, amongAll / amongFew, LargestGrowth, 3,
+               "in thousands " + Formatted(amongAll / Thousand, 1) + " / " + Formatted(amongFew / Thousand, 1));
+}
+
 void AddDiff(const QTemporaryDir& directory, const QStringList& names, Report& report) {
     double diffs = 0;
     double sums = 0;
@@ -97,6 +128,7 @@ void AddCliFigures(Report& report) {
         return;
     }
     AddCheck(directory, names, report);
+    AddCheckPerFile(directory, names, report);
     AddDiff(directory, names, report);
 }
 

@@ -3,9 +3,11 @@
 #include <QProcess>
 #include <array>
 #include <chrono>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "Instructions.h"
 #include "Report.h"
 
 namespace zelvor::bench {
@@ -17,6 +19,7 @@ constexpr double LargestRatio = 1.25;
 constexpr double MostExtraMib = 12;
 constexpr double KibPerMib = 1024;
 constexpr double NanosecondsPerMillisecond = 1e6;
+constexpr double Million = 1e6;
 
 struct Program {
     QString path;
@@ -68,6 +71,26 @@ void AddComparison(Report& report, const std::string& name, const Starts& zelvor
                "MiB: " + Spread(zelvor.residentMib, 1) + " - " + Spread(bare.residentMib, 1));
 }
 
+/// Until the first painting.
+void AddInstructions(Report& report, const char* platform, const Program& zelvor, const Program& bare) {
+    const auto instructions = [platform](const Program& program) {
+        return InstructionsOf(program.path, program.arguments,
+                              {QString("QT_QPA_PLATFORM=") + platform, "ZELVOR_ENDS_PAINTED=1"});
+    };
+    const std::string figure = "  in instructions";
+    if (!CountsInstructions()) {
+        return;
+    }
+    const std::optional<double> own = instructions(zelvor);
+    const std::optional<double> bares = instructions(bare);
+    if (!own || !bares) {
+        report.AddFailure(figure, "not counted");
+        return;
+    }
+    report.Add(figure, *own / *bares, LargestRatio, 2,
+               "in millions " + Formatted(*own / Million, 1) + " / " + Formatted(*bares / Million, 1));
+}
+
 void AddPlatform(Report& report, const char* platform) {
     const std::array<Program, 3> programs{
         {{ZELVOR_STARTUP_PROGRAM, {}}, {ZELVOR_BARE_PROGRAM, {}}, {ZELVOR_BARE_PROGRAM, {"caption"}}}};
@@ -83,6 +106,7 @@ void AddPlatform(Report& report, const char* platform) {
     }
     AddComparison(report, std::string("empty window's, ") + platform, starts[0], starts[1]);
     AddComparison(report, std::string("captioned window's, ") + platform, starts[0], starts[2]);
+    AddInstructions(report, platform, programs[0], programs[2]);
 }
 
 } // namespace

@@ -1,4 +1,5 @@
-// zelvor-bench [clone] [start] [data] [print] [cli]: measures those parts, or all of them, and prints the table.
+// zelvor-bench [clone] [start] [data] [print] [cli] [windows]: measures those parts, or all of them, and prints the
+// table.
 
 #include <QApplication>
 #include <QTemporaryDir>
@@ -9,6 +10,7 @@
 #include "PrintFigures.h"
 #include "Report.h"
 #include "StartFigures.h"
+#include "WindowFigures.h"
 
 namespace {
 
@@ -50,6 +52,9 @@ int main(int argc, char** argv) {
     }
     if (isWanted("cli")) {
         zelvor::bench::AddCliFigures(report);
+    }
+    if (isWanted("windows")) {
+        zelvor::bench::AddWindowFigures(report);
     }
     report.Print();
     return report.IsComplete() ? 0 : 1;
