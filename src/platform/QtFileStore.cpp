@@ -17,6 +17,7 @@ namespace fs = std::filesystem;
 using Bytes = std::span<const std::uint8_t>;
 
 constexpr qint64 CopyBlock = 64 * 1024;
+constexpr std::size_t FirstRead = 4096; // holds all of most files: the most that may be read is far more
 
 /// The file behind a chain of links, which need not exist; nothing for links in a circle.
 std::optional<fs::path> FollowLinks(fs::path path) {
@@ -135,20 +136,19 @@ std::optional<std::vector<std::uint8_t>> QtFileStore::Read(const std::string& pa
     if (!OpenRegularFile(file, FilePathOf(path), QIODevice::ReadOnly | QIODevice::Unbuffered)) {
         return std::nullopt;
     }
-    std::vector<std::uint8_t> bytes(atMost);
-    std::size_t count = 0;
-    while (count < atMost) {
+    std::vector<std::uint8_t> bytes;
+    bool isAtEnd = false;
+    while (!isAtEnd && bytes.size() < atMost) {
+        const std::size_t count = bytes.size();
+        bytes.resize(std::min(atMost, std::max(FirstRead, 2 * count)));
         const qint64 length =
-            file.read(reinterpret_cast<char*>(bytes.data() + count), static_cast<qint64>(atMost - count));
+            file.read(reinterpret_cast<char*>(bytes.data() + count), static_cast<qint64>(bytes.size() - count));
         if (length < 0) {
             return std::nullopt;
         }
-        if (length == 0) {
-            break;
-        }
-        count += static_cast<std::size_t>(length);
+        bytes.resize(count + static_cast<std::size_t>(length));
+        isAtEnd = length == 0;
     }
-    bytes.resize(count);
     return bytes;
 }
 

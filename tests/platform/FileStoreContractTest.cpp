@@ -56,6 +56,19 @@ TYPED_TEST(FileStoreContract, ReadsNoMoreThanItIsAskedFor) {
     EXPECT_EQ(this->machine_.store.Read(this->machine_.Path("a.dat"), 0), Bytes());
 }
 
+TYPED_TEST(FileStoreContract, ReadsALongFileUpToWhatItIsAskedFor) {
+    std::string content;
+    for (int i = 0; i < 20'000; ++i) {
+        content += static_cast<char>('a' + i % 23);
+    }
+    const Bytes bytes(content.begin(), content.end());
+    this->machine_.Put("long.dat", content);
+    EXPECT_EQ(this->machine_.store.Read(this->machine_.Path("long.dat"), 1'000'000), bytes);
+    EXPECT_EQ(this->machine_.store.Read(this->machine_.Path("long.dat"), 20'000), bytes);
+    EXPECT_EQ(this->machine_.store.Read(this->machine_.Path("long.dat"), 10'000),
+              Bytes(bytes.begin(), bytes.begin() + 10'000));
+}
+
 TYPED_TEST(FileStoreContract, TellsAnEmptyFileFromNone) {
     this->machine_.Put("empty.dat", "");
     EXPECT_EQ(this->machine_.store.Read(this->machine_.Path("empty.dat"), 100), Bytes());
