@@ -5,6 +5,7 @@
 #include "data/Document.h"
 #include "help/QtHelpViewer.h"
 #include "link/LinkState.h"
+#include "platform/AfterFirstPaint.h"
 #include "platform/FontCheck.h"
 #include "platform/QtServices.h"
 #include "service/ServiceState.h"
@@ -45,6 +46,7 @@ int main(int argc, char** argv) {
     zelvor::MDIForm1 mainWindow({document, windows, link, service}, services.Get());
     // At once: child windows are not asked.
     QObject::connect(&mainWindow, &zelvor::MDIForm1::Ended, &application, [] { QCoreApplication::exit(0); });
+    zelvor::AfterFirstPaint(mainWindow, [&services] { services.NumberPorts(); });
     mainWindow.show();
     return QApplication::exec();
 }

@@ -64,8 +64,14 @@ std::vector<MachinePort> PortsOfMachine() {
 }
 
 QtSerialPorts::QtSerialPorts(std::function<std::vector<MachinePort>()> askMachine)
-    : askMachine_(std::move(askMachine)), firstLinks_(LinksOfUser()),
-      firstPorts_(std::async(std::launch::async, askMachine_)) {
+    : askMachine_(std::move(askMachine)) {}
+
+void QtSerialPorts::BeginNumbering() {
+    if (isNumbered_ || firstPorts_.valid()) {
+        return;
+    }
+    firstLinks_ = LinksOfUser();
+    firstPorts_ = std::async(std::launch::async, askMachine_);
     sinceAsked_.start();
 }
 
@@ -95,7 +101,8 @@ void QtSerialPorts::NumberAnew() {
 }
 
 void QtSerialPorts::FinishNumbering() {
-    if (firstPorts_.valid()) {
+    BeginNumbering();
+    if (!std::exchange(isNumbered_, true)) {
         ports_ = firstPorts_.get();
         numbering_.NumberAnew(firstLinks_, ports_);
     }

@@ -21,6 +21,8 @@ public:
     QtServices& operator=(const QtServices&) = delete;
 
     [[nodiscard]] Services& Get() { return services_; }
+    /// Looks in the background which serial ports there are; else the first question for one does.
+    void NumberPorts() { ports_.BeginNumbering(); }
 
 private:
     QtSerialPorts ports_;

@@ -187,6 +187,7 @@ TEST(QtSerialPort, IsAskedForBytesInTheMomentItsDeviceGoesWithoutAComplaint) {
 class QtSerialPortsOfAMachine : public testing::Test {
 protected:
     void SetUp() override {
+        ports_.BeginNumbering();
         ASSERT_TRUE(QTest::qWaitFor([&] { return timesAsked_ == 1; }, 2000));
     }
     /// Opens port 1 as an exchange with the radio does.
@@ -249,6 +250,7 @@ TEST_F(QtSerialPortsOfAMachine, OpenNoOtherDeviceWhereALinkWasGoneBeforeAnything
     const PseudoTerminal radio;
     user_.Link("COM1", radio.DevicePath());
     QtSerialPorts laterPorts([this] { return machine_; });
+    laterPorts.BeginNumbering();
     user_.Unlink("COM1");
     EXPECT_EQ(laterPorts.Describe(1).devicePath, "");
     EXPECT_EQ(laterPorts.Describe(2).devicePath, cable_.DevicePath());
