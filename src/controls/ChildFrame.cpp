@@ -22,7 +22,9 @@ ChildFrame::ChildFrame(ChildForm* form, QWidget* parent)
     : QMdiSubWindow(parent, form->IsToolWindow() ? ToolWindowFlags : Qt::WindowFlags()), form_(form) {
     setWidget(form);
     setAttribute(Qt::WA_DeleteOnClose, false);
-    setWindowTitle(form->windowTitle());
+    // Until it is shown: the toolkit lays the caption out anew at each of the steps in which the area takes the frame
+    // in.
+    setWindowTitle({});
     connect(form, &ChildForm::FocusShown, this, &ChildFrame::ShowInArea);
     if (form->IsToolWindow()) {
         connect(this, &QMdiSubWindow::aboutToActivate, this, &ChildFrame::RestoreMaximised);
@@ -65,6 +67,7 @@ bool ChildFrame::eventFilter(QObject* watched, QEvent* event) {
 void ChildFrame::showEvent(QShowEvent* event) {
     QMdiSubWindow::showEvent(event);
     FitToArea();
+    setWindowTitle(form_->windowTitle());
 }
 
 void ChildFrame::FitToArea() {
