@@ -33,6 +33,11 @@ public:
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
         QStyleOptionViewItem cell(option);
         initStyleOption(&cell, index);
+        constexpr QStyle::State Marks = QStyle::State_Selected | QStyle::State_HasFocus | QStyle::State_MouseOver;
+        if (cell.text.isEmpty() && (cell.state & Marks) == QStyle::State_None) { // as most of a grid
+            painter->fillRect(cell.rect, cell.palette.brush(QPalette::Base));
+            return;
+        }
         cell.backgroundBrush = cell.palette.brush(QPalette::Base);
         const QString text = std::exchange(cell.text, QString());
         const QStyle* style = cell.widget->style();
