@@ -57,6 +57,7 @@ bool QtPageDevice::BeginDocument(std::string_view name) {
         return false;
     }
     painter_.setPen(QPen(Qt::black, DotsOf(LineWidthTwips)));
+    texts_ = std::make_unique<PageTexts>(*paper_);
     SetFont({});
     return true;
 }
@@ -75,6 +76,7 @@ void QtPageDevice::EndDocument() {
         return;
     }
     isWritten_ = painter_.end();
+    texts_.reset();
     if (pdf_) {
         isWritten_ = pdf_->Finish() && isWritten_;
         pdf_.reset();
@@ -94,30 +96,30 @@ void QtPageDevice::SetFont(const PageFont& font) {
     if (family_.isEmpty()) {
         family_ = FamilyWithChinese();
     }
-    font_ = QFont(font.family.empty() ? family_ : ToQString(font.family));
-    font_.setPointSizeF(font.pointSize);
-    font_.setBold(font.bold);
-    font_.setStyleStrategy(QFont::PreferNoShaping); // no script of ours needs it, and it takes a tenth of the time
+    QFont used(font.family.empty() ? family_ : ToQString(font.family));
+    used.setPointSizeF(font.pointSize);
+    used.setBold(font.bold);
+    used.setStyleStrategy(QFont::PreferNoShaping); // no script of ours needs it, and it takes a tenth of the time
+    texts_->SetFont(used);
     stretch_ = font.stretch;
-    ascent_ = QFontMetricsF(font_, paper_).ascent();
-    painter_.setFont(font_);
 }
 
 double QtPageDevice::TextWidth(std::string_view text) const {
-    return TwipsOf(QFontMetricsF(font_, paper_).horizontalAdvance(ToQString(text))) * stretch_;
+    return TwipsOf(texts_->WidthOf(ToQString(text))) * stretch_;
 }
 
 double QtPageDevice::TextHeight() const {
-    return TwipsOf(QFontMetricsF(font_, paper_).height());
+    return TwipsOf(QFontMetricsF(texts_->Font(), paper_).height());
 }
 
 void QtPageDevice::DrawText(double x, double y, std::string_view text) {
-    const QPointF start(DotsOf(x), DotsOf(y) + ascent_);
+    const QPointF start(DotsOf(x), DotsOf(y) + texts_->Ascent());
     if (stretch_ == 1) {
-        painter_.drawText(start, ToQString(text));
+        texts_->Draw(painter_, start, ToQString(text));
         return;
     }
     painter_.save();
+    painter_.setFont(texts_->Font());
     painter_.translate(start);
     painter_.scale(stretch_, 1);
     painter_.drawText(QPointF(), ToQString(text));

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QFont>
 #include <QPagedPaintDevice>
 #include <QPainter>
 #include <QString>
@@ -8,6 +7,7 @@
 #include <utility>
 
 #include "platform/PageDevice.h"
+#include "platform/PageTexts.h"
 #include "platform/PdfFile.h"
 #include "platform/PrintChoice.h"
 
@@ -57,8 +57,7 @@ private:
     QPagedPaintDevice* paper_ = nullptr; // a printer, or that of pdf_
     QPainter painter_;
     QString family_; // of texts without a family of their own; looked up once
-    QFont font_;
-    double ascent_ = 0; // of the font, in dots
+    std::unique_ptr<PageTexts> texts_;
     double stretch_ = 1;
 };
 
