@@ -58,19 +58,20 @@ void AddChannelBlock(SectionPage& page, int channel, const ChannelTexts& texts, 
 
 } // namespace
 
-ChannelTexts PrintCurChData(const DataImage& image, int channel, Language language) {
-    // All of them: what a record leaves open shows the text of the channel before it, as the grid does.
-    return ChannelCodec().DecodeAll(image, language)[static_cast<std::size_t>(channel - 1)];
+// All of them at once: what a record leaves open shows the text of the channel before it, as the grid does.
+std::vector<ChannelTexts> PrintCurChData(const DataImage& image, Language language) {
+    return ChannelCodec().DecodeAll(image, language);
 }
 
 std::vector<std::vector<CellText>> ChannelInformationPages(const DataImage& image, Language language) {
     const std::vector<int> channels = ChannelsInUse(image);
+    const std::vector<ChannelTexts> texts = PrintCurChData(image, language);
     std::vector<std::vector<CellText>> pages;
     auto next = channels.begin();
     do {
         SectionPage page(image, language, ReportSection::ChannelInformation);
         for (int block = 0; block < BlocksPerPage && next != channels.end(); ++block, ++next) {
-            AddChannelBlock(page, *next, PrintCurChData(image, *next, language), FirstBlockRow + BlockRows * block);
+            AddChannelBlock(page, *next, texts[static_cast<std::size_t>(*next - 1)], FirstBlockRow + BlockRows * block);
         }
         pages.push_back(page.Texts());
     } while (next != channels.end());

@@ -18,8 +18,8 @@ namespace zelvor {
 [[nodiscard]] std::vector<CellText> CorvanePage(const DataImage& image, Language language);
 [[nodiscard]] std::vector<CellText> TestFrequencyPage(const DataImage& image, Language language);
 [[nodiscard]] std::vector<CellText> EmbeddedMessagePage(const DataImage& image, Language language);
-/// The texts of channel 1 to 16 that its block shows.
-[[nodiscard]] ChannelTexts PrintCurChData(const DataImage& image, int channel, Language language);
+/// The texts that the blocks of channels 1 to 16 show, in order.
+[[nodiscard]] std::vector<ChannelTexts> PrintCurChData(const DataImage& image, Language language);
 /// Four channels in use to a page; one page with nothing but its title where none is in use.
 [[nodiscard]] std::vector<std::vector<CellText>> ChannelInformationPages(const DataImage& image, Language language);
 
