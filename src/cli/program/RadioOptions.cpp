@@ -47,6 +47,8 @@ ExitStatus RunOnMachine(ExitStatus (*run)(const Request& request, RadioMachine& 
     int argc = 1;
     char name[] = "zelvor-cli";
     char* argv[] = {name, nullptr};
+    // GLib's event loop sleeps whole milliseconds: what is left of the wait between two packets would be rounded up.
+    qputenv("QT_NO_GLIB", "1");
     QCoreApplication application(argc, argv);
     QtSerialPorts ports;
     QtClock clock(&application);
