@@ -105,7 +105,9 @@ protected:
         }
         ASSERT_TRUE(IsAnswered(choice_));
     }
-    [[nodiscard]] QString Path(const char* name) const { return folder_.filePath(QString::fromUtf8(name)); }
+    [[nodiscard]] QString Path(const char* name) const {
+        return folder_.filePath(QString::fromUtf8(name));
+    }
 
     /// Looks at the next set-up dialog for that document, and cancels it.
     void Look(const QString& document, const std::function<void(QPrintDialog& dialog)>& look) {
