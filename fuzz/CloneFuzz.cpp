@@ -1,5 +1,6 @@
 #include "CloneFuzz.h"
 
+#include "ClonePromises.h"
 #include "Require.h"
 
 namespace zelvor::fuzz {
@@ -13,8 +14,8 @@ constexpr int LongestSession = 60'000; // milliseconds, of 52 exchanges that eac
 CloneFuzz::CloneFuzz(const ExchangeInputs& inputs, int transferMode)
     : SpoiltExchange(inputs), language_(input_.TakeBool() ? Language::Chinese : Language::English),
       engine_(document_, {link_, *port_, clock_, user_, language_}, *this) {
-    document_.Image = TakeImage(input_);
-    radio_.Memory = TakeImage(input_);
+    document_.Image = imageBefore_ = TakeImage(input_);
+    radio_.Memory = memoryBefore_ = TakeImage(input_);
     link_.TransferMode = transferMode;
     user_.OnTearDown = [this] {
         isTornDown_ = true;
@@ -35,6 +36,11 @@ void CloneFuzz::Run() {
     clock_.Advance(LongestSession);
     Require(radio_.Commands().size() == sent && !port_->IsOpen(), "nothing is sent behind a transfer");
     Require(completed_ == 1 || user_.HasGivenUp() || isTornDown_, "a transfer that nobody gives up is completed");
+    if (link_.TransferMode == transfer::Reading) {
+        CheckRead(*this);
+    } else {
+        CheckWrite(*this);
+    }
 }
 
 void CloneFuzz::OnProgress(int value) {

@@ -16,11 +16,14 @@ public:
     /// transferMode is one of transfer::Reading and transfer::Writing.
     CloneFuzz(const ExchangeInputs& inputs, int transferMode);
 
-    /// Runs it, and looks at what every transfer has to keep to.
+    /// Runs it, and looks at what a transfer of its kind has to keep to.
     void Run();
 
     [[nodiscard]] bool IsCompleted() const { return completed_ == 1; }
     [[nodiscard]] const DataImage& Image() const { return document_.Image; }
+    // Of the document and the radio at the beginning.
+    [[nodiscard]] const DataImage& ImageBefore() const { return imageBefore_; }
+    [[nodiscard]] const DataImage& MemoryBefore() const { return memoryBefore_; }
 
 private:
     void OnProgress(int value) override;
@@ -34,6 +37,8 @@ private:
     Document document_;
     Language language_;
     CloneEngine engine_;
+    DataImage imageBefore_;
+    DataImage memoryBefore_;
     int completed_ = 0;
     int unloads_ = 0;
     bool isTornDown_ = false; // while a box was up

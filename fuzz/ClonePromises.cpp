@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "CloneFuzz.h"
 #include "Require.h"
 #include "data/MemoryMap.h"
 
@@ -62,7 +63,9 @@ void CheckPacket(const Command& packet, const DataImage& image) {
 
 } // namespace
 
-void CheckRead(const CloneFuzz& transfer, const DataImage& before, const DataImage& memory) {
+void CheckRead(const CloneFuzz& transfer) {
+    const DataImage& before = transfer.ImageBefore();
+    const DataImage& memory = transfer.MemoryBefore();
     int lastBlock = -1;
     for (const Command& command : transfer.Radio().Commands()) {
         lastBlock = std::max(lastBlock, BlockOf(command));
@@ -79,7 +82,9 @@ void CheckRead(const CloneFuzz& transfer, const DataImage& before, const DataIma
     Require(transfer.Radio().Memory == memory, "a read leaves the radio as it is");
 }
 
-void CheckWrite(const CloneFuzz& transfer, const DataImage& before, const DataImage& memory) {
+void CheckWrite(const CloneFuzz& transfer) {
+    const DataImage& before = transfer.ImageBefore();
+    const DataImage& memory = transfer.MemoryBefore();
     const DataImage& image = transfer.Image();
     int packets = 0;
     int behindEnd = -1; // no End so far

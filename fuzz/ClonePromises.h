@@ -1,14 +1,13 @@
 #pragma once
 
-#include "CloneFuzz.h"
-
 namespace zelvor::fuzz {
 
-/// Looks at what a read has to keep to, whatever the radio has answered; before and memory are the document's image and
-/// the radio's memory at its beginning.
-void CheckRead(const CloneFuzz& transfer, const DataImage& before, const DataImage& memory);
+class CloneFuzz;
+
+/// Looks at what a read has to keep to when it has ended, whatever the radio has answered.
+void CheckRead(const CloneFuzz& transfer);
 
 /// The same for a write.
-void CheckWrite(const CloneFuzz& transfer, const DataImage& before, const DataImage& memory);
+void CheckWrite(const CloneFuzz& transfer);
 
 } // namespace zelvor::fuzz

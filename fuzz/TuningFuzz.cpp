@@ -28,7 +28,6 @@ TuningFuzz::TuningFuzz(const ExchangeInputs& inputs)
 }
 
 void TuningFuzz::Run() {
-    const DataImage memory = radio_.Memory;
     engine_.Load();
     for (int actions = input_.TakeByte(); actions > 0 && !input_.IsEmpty() && closed_ == 0; --actions) {
         Act();
@@ -36,7 +35,7 @@ void TuningFuzz::Run() {
     const bool isOk = input_.TakeBool();
     Leave(isOk ? TuningEngine::Ending::Ok : TuningEngine::Ending::Cancel);
     for (int address = 0; address < 0x400; ++address) {
-        const bool isSame = radio_.Memory.At(address) == memory.At(address);
+        const bool isSame = radio_.Memory.At(address) == image_.At(address);
         Require(isSame || IsOfItem(address), "tuning an item stores its own values");
         Require(isSame || isOk || !radio_.IsUnspoilt(), "Cancel brings the old values back");
     }

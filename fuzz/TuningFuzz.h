@@ -19,6 +19,8 @@ public:
 
     /// Whether the user has given up at the prompt.
     [[nodiscard]] bool IsAborted() const { return service_.TestAborted; }
+    /// The radio's at the beginning.
+    [[nodiscard]] const DataImage& MemoryBefore() const { return image_; }
 
 private:
     [[nodiscard]] int Pages() const { return static_cast<int>(dialog_.points.size()); }

@@ -58,20 +58,19 @@ void AddChannelBlock(SectionPage& page, int channel, const ChannelTexts& texts, 
 
 } // namespace
 
-// All of them at once: what a record leaves open shows the text of the channel before it, as the grid does.
-std::vector<ChannelTexts> PrintCurChData(const DataImage& image, Language language) {
-    return ChannelCodec().DecodeAll(image, language);
+const ChannelTexts& PrintCurChData(const std::vector<ChannelTexts>& decoded, int channel) {
+    return decoded[static_cast<std::size_t>(channel - 1)];
 }
 
 std::vector<std::vector<CellText>> ChannelInformationPages(const DataImage& image, Language language) {
     const std::vector<int> channels = ChannelsInUse(image);
-    const std::vector<ChannelTexts> texts = PrintCurChData(image, language);
+    const std::vector<ChannelTexts> decoded = ChannelCodec().DecodeAll(image, language);
     std::vector<std::vector<CellText>> pages;
     auto next = channels.begin();
     do {
         SectionPage page(image, language, ReportSection::ChannelInformation);
         for (int block = 0; block < BlocksPerPage && next != channels.end(); ++block, ++next) {
-            AddChannelBlock(page, *next, texts[static_cast<std::size_t>(*next - 1)], FirstBlockRow + BlockRows * block);
+            AddChannelBlock(page, *next, PrintCurChData(decoded, *next), FirstBlockRow + BlockRows * block);
         }
         pages.push_back(page.Texts());
     } while (next != channels.end());

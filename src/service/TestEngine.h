@@ -50,7 +50,7 @@ public:
 private:
     enum : std::uint8_t { SendIt = 1, Confirm, SelectItem };
 
-    void Ask(TestCommandKind kind, int interval, int argument = {});
+    void Ask(TestCommandKind kind, int interval, int argument = 0);
     [[nodiscard]] TestCommandKind Kind() const { return static_cast<TestCommandKind>(Current().kind); }
     [[nodiscard]] bool Replaces(const RadioCommand& later, const RadioCommand& earlier) const override;
     [[nodiscard]] bool DropsPtt(const RadioCommand& command) const override { return command.kind != Ptt; }

@@ -78,40 +78,31 @@ TEST(Field, ANumberMayBeAPlaceAmongTexts) {
     ExpectRefuses(dCode, {"16", "17s", "D"});
 }
 
+/// A number of one byte that is shown as it is.
+constexpr NumberField NumberFrom(int first, int last) {
+    return {.key = "number",
+            .label = "Number",
+            .address = 0x130,
+            .first = first,
+            .last = last,
+            .lengthLimit = 2,
+            .show = ShowNumber,
+            .read = LeadingNumber};
+}
+
 TEST(Field, ThreeNumbersThatGoUpEvenlyAreARangeAndTwoAreWords) {
-    const NumberField three{.key = "three",
-                            .label = "Three",
-                            .address = 0x130,
-                            .first = 4,
-                            .last = 6,
-                            .lengthLimit = 1,
-                            .show = ShowNumber,
-                            .read = LeadingNumber};
+    constexpr NumberField three = NumberFrom(4, 6);
+    constexpr NumberField two = NumberFrom(4, 5);
     EXPECT_EQ(Field(three).Legal(En), (LegalValues{.range = LegalValues::Range{"4", "6", "1"}}));
-    const NumberField two{.key = "two",
-                          .label = "Two",
-                          .address = 0x130,
-                          .first = 4,
-                          .last = 5,
-                          .lengthLimit = 1,
-                          .show = ShowNumber,
-                          .read = LeadingNumber};
     EXPECT_EQ(Field(two).Legal(En), (LegalValues{.words = {"4", "5"}}));
 }
 
 TEST(Field, AnErasedNumberIsLegalWhereItShowsALegalOne) {
     for (const auto& [erased, isLegal] :
          {std::pair(3, false), std::pair(4, true), std::pair(9, true), std::pair(10, false)}) {
-        const NumberField field{.key = "erased",
-                                .label = "Erased",
-                                .address = 0x130,
-                                .first = 4,
-                                .last = 9,
-                                .lengthLimit = 2,
-                                .erased = erased,
-                                .showsErased = true,
-                                .show = ShowNumber,
-                                .read = LeadingNumber};
+        NumberField field = NumberFrom(4, 9);
+        field.erased = erased;
+        field.showsErased = true;
         EXPECT_EQ(Field(field).HoldsLegal(DataImage()), isLegal) << erased;
     }
 }

@@ -1,7 +1,6 @@
 // Reads and writes, with every reply spoilt in every way.
 
 #include "CloneFuzz.h"
-#include "ClonePromises.h"
 #include "data/MemoryMap.h"
 #include "sweep/Sweep.h"
 
@@ -13,40 +12,39 @@ using fuzz::CloneFuzz;
 const Bytes IdentityRequest{0x02};
 const Bytes End{'E'};
 
-/// Nobody looks at what answers the End, nor at the first byte of an identity.
-std::optional<bool> IsNoticedInTransfer(const fuzz::SpoiltRadio::Reply& reply, Spoiling spoiling) {
-    const bool isUntested = reply.command == IdentityRequest && spoiling == Spoiling::Wrong;
-    return reply.command == End || isUntested ? false : IsUsuallyNoticed(spoiling);
-}
-
-struct ReadRules {
+struct TransferRules {
     using Session = CloneFuzz;
+
+    int mode; // of transfer::
+    Bytes course;
+
+    [[nodiscard]] Bytes Course() const { return course; }
+    [[nodiscard]] std::unique_ptr<CloneFuzz> Make(const fuzz::ExchangeInputs& inputs) const {
+        return std::make_unique<CloneFuzz>(inputs, mode);
+    }
+    /// Nobody looks at what answers the End, nor at the first byte of an identity.
+    [[nodiscard]] std::optional<bool> IsNoticed(const fuzz::SpoiltRadio::Reply& reply, Spoiling spoiling) const {
+        const bool isUntested = reply.command == IdentityRequest && spoiling == Spoiling::Wrong;
+        return reply.command == End || isUntested ? false : IsUsuallyNoticed(spoiling);
+    }
+};
+
+struct ReadRules : TransferRules {
     static constexpr int Timeout = 500;
 
     /// In English; a blank document, and a programmed radio of its model.
-    [[nodiscard]] Bytes Course() const { return {0, 0, 1}; }
-    [[nodiscard]] std::unique_ptr<CloneFuzz> Make(const fuzz::ExchangeInputs& inputs) const {
-        auto session = std::make_unique<CloneFuzz>(inputs, transfer::Reading);
-        before = session->Image();
-        memory = session->Radio().Memory;
-        return session;
-    }
-    [[nodiscard]] std::optional<bool> IsNoticed(const fuzz::SpoiltRadio::Reply& reply, Spoiling spoiling) const {
-        return IsNoticedInTransfer(reply, spoiling);
-    }
+    ReadRules() : TransferRules{transfer::Reading, {0, 0, 1}} {}
 
     void ExpectDone(const CloneFuzz& run, const CloneFuzz& /*undisturbed*/, const Case& /*spoilt*/,
                     const fuzz::SpoiltRadio::Reply& /*reply*/) const {
-        CheckRead(run, before, memory);
         EXPECT_TRUE(run.IsCompleted());
-        EXPECT_EQ(run.Image(), memory);
+        EXPECT_EQ(run.Image(), run.MemoryBefore());
     }
 
     /// Replies 1 to 3 begin the session, then block k is reply 2k + 2, and an acknowledgement follows each. What has
     /// come of the image stays in it. One block may hold anything: the reply that was spoilt, or the first one behind
     /// the garbage.
     void ExpectGivenUp(const CloneFuzz& run, const CloneFuzz& /*undisturbed*/, const Case& spoilt) const {
-        CheckRead(run, before, memory);
         EXPECT_FALSE(run.IsCompleted());
         const bool isBehind = spoilt.spoiling == Spoiling::Garbage;
         const int come = std::max(0, (spoilt.reply - (isBehind ? 2 : 3)) / 2); // whole blocks
@@ -57,33 +55,20 @@ struct ReadRules {
             if (isIdentity || (isAnything && block == come + 1)) {
                 continue;
             }
-            EXPECT_EQ(run.Image().At(address), (block <= come ? memory : before).At(address)) << address;
+            EXPECT_EQ(run.Image().At(address), (block <= come ? run.MemoryBefore() : run.ImageBefore()).At(address))
+                << address;
         }
     }
-
-    mutable DataImage before;
-    mutable DataImage memory;
 };
 
-struct WriteRules {
-    using Session = CloneFuzz;
+struct WriteRules : TransferRules {
     static constexpr int Timeout = 200;
 
     /// In English; a programmed document, and a blank radio of its model.
-    [[nodiscard]] Bytes Course() const { return {0, 1, 0}; }
-    [[nodiscard]] std::unique_ptr<CloneFuzz> Make(const fuzz::ExchangeInputs& inputs) const {
-        auto session = std::make_unique<CloneFuzz>(inputs, transfer::Writing);
-        before = session->Image();
-        memory = session->Radio().Memory;
-        return session;
-    }
-    [[nodiscard]] std::optional<bool> IsNoticed(const fuzz::SpoiltRadio::Reply& reply, Spoiling spoiling) const {
-        return IsNoticedInTransfer(reply, spoiling);
-    }
+    WriteRules() : TransferRules{transfer::Writing, {0, 1, 0}} {}
 
     void ExpectDone(const CloneFuzz& run, const CloneFuzz& undisturbed, const Case& /*spoilt*/,
                     const fuzz::SpoiltRadio::Reply& /*reply*/) const {
-        CheckWrite(run, before, memory);
         EXPECT_TRUE(run.IsCompleted());
         EXPECT_EQ(run.Radio().Memory, undisturbed.Radio().Memory);
         EXPECT_EQ(run.Image(), undisturbed.Image());
@@ -91,12 +76,11 @@ struct WriteRules {
 
     /// Reply n + 3 acknowledges packet n: the radio has this one, and the next where garbage was behind the reply.
     void ExpectGivenUp(const CloneFuzz& run, const CloneFuzz& undisturbed, const Case& spoilt) const {
-        CheckWrite(run, before, memory);
         EXPECT_FALSE(run.IsCompleted());
         const int sent = std::max(0, spoilt.reply - (spoilt.spoiling == Spoiling::Garbage ? 2 : 3));
         for (int address = 0; address < 0x400; ++address) {
             const bool isSent = PacketOf(address) > 0 && PacketOf(address) <= sent;
-            const DataImage& expected = isSent ? undisturbed.Radio().Memory : memory;
+            const DataImage& expected = isSent ? undisturbed.Radio().Memory : run.MemoryBefore();
             EXPECT_EQ(run.Radio().Memory.At(address), expected.At(address)) << address;
         }
     }
@@ -111,9 +95,6 @@ struct WriteRules {
         }
         return address >= 0x200 && address < 0x340 ? 30 + (address - 0x200) / 16 : 0;
     }
-
-    mutable DataImage before;
-    mutable DataImage memory;
 };
 
 TEST(CloneSweep, Read) {

@@ -71,12 +71,11 @@ void SweepAll(const Rules& rules, Count& count) {
     ASSERT_TRUE(undisturbed.Session().Radio().IsUnspoilt());
     ASSERT_FALSE(undisturbed.Session().User().HasGivenUp());
     count.AddReplies(replies.size());
-    for (Case spoilt{.reply = 1}; spoilt.reply <= static_cast<int>(replies.size()); ++spoilt.reply) {
-        const fuzz::SpoiltRadio::Reply& reply = replies[static_cast<std::size_t>(spoilt.reply - 1)];
-        for (spoilt.spoiling = Spoiling::Drop; const Spoiling spoiling : AllSpoilings) {
+    for (std::size_t i = 0; i < replies.size(); ++i) {
+        const fuzz::SpoiltRadio::Reply& reply = replies[i];
+        for (const Spoiling spoiling : AllSpoilings) {
             for (const Answer answer : {Answer::Retry, Answer::Cancel, Answer::RetryInVain}) {
-                spoilt.spoiling = spoiling;
-                spoilt.answer = answer;
+                const Case spoilt{.reply = static_cast<int>(i) + 1, .spoiling = spoiling, .answer = answer};
                 if (Exists(spoilt, reply)) {
                     RunCase(rules, undisturbed, spoilt, reply, count);
                 }

@@ -45,9 +45,7 @@ struct TuningRules {
         return course;
     }
     [[nodiscard]] std::unique_ptr<TuningFuzz> Make(const fuzz::ExchangeInputs& inputs) const {
-        auto session = std::make_unique<TuningFuzz>(inputs);
-        memory = session->Radio().Memory;
-        return session;
+        return std::make_unique<TuningFuzz>(inputs);
     }
 
     /// Of a point only the count of its bytes is looked at, and any byte is a measured value.
@@ -74,10 +72,8 @@ struct TuningRules {
         const bool isStored = std::ranges::any_of(run.Radio().Commands(), [](const Bytes& command) {
             return command.size() == 2 && command[0] != 0x08 && command[1] == 0x0E;
         });
-        EXPECT_TRUE(isStored || run.Radio().Memory == memory);
+        EXPECT_TRUE(isStored || run.Radio().Memory == run.MemoryBefore());
     }
-
-    mutable DataImage memory;
 
 private:
     static std::uint8_t LastSet(const TuningFuzz& run) {
