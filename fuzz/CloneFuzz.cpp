@@ -12,11 +12,11 @@ constexpr int LongestSession = 60'000; // milliseconds, of 52 exchanges that eac
 } // namespace
 
 CloneFuzz::CloneFuzz(const ExchangeInputs& inputs, int transferMode)
-    : SpoiltExchange(inputs), language_(input_.TakeBool() ? Language::Chinese : Language::English),
+    : SpoiltExchange(inputs), mode_(transferMode), language_(input_.TakeBool() ? Language::Chinese : Language::English),
       engine_(document_, {link_, *port_, clock_, user_, language_}, *this) {
     document_.Image = imageBefore_ = TakeImage(input_);
     radio_.Memory = memoryBefore_ = TakeImage(input_);
-    link_.TransferMode = transferMode;
+    link_.TransferMode = mode_;
     user_.OnTearDown = [this] {
         isTornDown_ = true;
         engine_.Unload();
@@ -36,7 +36,7 @@ void CloneFuzz::Run() {
     clock_.Advance(LongestSession);
     Require(radio_.Commands().size() == sent && !port_->IsOpen(), "nothing is sent behind a transfer");
     Require(completed_ == 1 || user_.HasGivenUp() || isTornDown_, "a transfer that nobody gives up is completed");
-    if (link_.TransferMode == transfer::Reading) {
+    if (mode_ == transfer::Reading) {
         CheckRead(*this);
     } else {
         CheckWrite(*this);

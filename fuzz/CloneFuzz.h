@@ -34,6 +34,7 @@ private:
     void OnWriteCompleted() override { ++completed_; }
     void OnUnloadRequested() override;
 
+    const int mode_; // the engine ends the link's
     Document document_;
     Language language_;
     CloneEngine engine_;
