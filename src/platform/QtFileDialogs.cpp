@@ -33,7 +33,7 @@ void LetTypedNamesOpen(QFileDialog& dialog) {
     }
     QObject::connect(name, &QLineEdit::textChanged, buttons, [&dialog, buttons](const QString& text) {
         QPushButton* open = buttons->button(QDialogButtonBox::Open);
-        if (open && QFileInfo(dialog.directory(), text).isFile()) {
+        if (open != nullptr && QFileInfo(dialog.directory(), text).isFile()) {
             open->setEnabled(true);
         }
     });

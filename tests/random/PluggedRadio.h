@@ -21,6 +21,9 @@ public:
     /// Pulls it out or plugs it in, with other faults. Returns what it did, for the log.
     std::string Turn();
 
+    /// Null while it is pulled out. Plugged in, it has the sample radio's memory.
+    [[nodiscard]] tour::RadioProgram* Radio() { return radio_.get(); }
+
 private:
     std::string PlugIn();
     [[nodiscard]] QString SomeFault();

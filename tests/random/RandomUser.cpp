@@ -1,15 +1,15 @@
 #include "random/RandomUser.h"
 
-#include <QAbstractButton>
 #include <QApplication>
-#include <QMessageBox>
 #include <array>
 #include <cstdlib>
 #include <iostream>
 #include <utility>
 
 #include "random/DisplayHands.h"
+#include "random/ResidentMemory.h"
 #include "random/ToolkitHands.h"
+#include "random/WayOut.h"
 #include "tour/WindowOnTop.h"
 
 namespace zelvor::random {
@@ -17,11 +17,9 @@ namespace zelvor::random {
 namespace {
 
 constexpr int ActsBetweenChecks = 15;
+constexpr int ActsBeforeMemory = 1000;
 constexpr int MostChecksWithNobody = 3;
 constexpr int ComplaintExit = 98;
-constexpr int StuckExit = 96;
-constexpr int MostStepsOut = 400;
-constexpr int StepPause = 150;  // milliseconds
 constexpr int CheckPause = 400; // milliseconds
 
 struct Stroke {
@@ -81,31 +79,7 @@ const Stroke& SomeOf(const auto& strokes, std::uint32_t number) {
     return strokes[number % strokes.size()];
 }
 
-/// Of the boxes that leaving the program brings: it is left without saving, and nothing new is begun.
-QAbstractButton* ButtonOut() {
-    const auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    if (box == nullptr) {
-        return nullptr;
-    }
-    const bool offersToSave = box->button(QMessageBox::Cancel) && box->button(QMessageBox::No);
-    for (const auto button :
-         {offersToSave ? QMessageBox::No : QMessageBox::Cancel, QMessageBox::Yes, QMessageBox::Ok}) {
-        if (box->button(button) != nullptr) {
-            return box->button(button);
-        }
-    }
-    return nullptr;
-}
-
 } // namespace
-
-SessionPlan SessionPlan::OfEnvironment() {
-    const QStringList words = qEnvironmentVariable("ZELVOR_RANDOM").split('\t');
-    if (words.size() != 5) {
-        return {};
-    }
-    return {words[0].toUInt(), words[1].toInt(), words[2] == "display", words[3], words[4]};
-}
 
 RandomUser::RandomUser(SessionPlan plan, const std::atomic<bool>& isOver)
     : plan_(std::move(plan)), isOver_(isOver), draws_(plan_.seed) {}
@@ -113,7 +87,7 @@ RandomUser::RandomUser(SessionPlan plan, const std::atomic<bool>& isOver)
 RandomUser::~RandomUser() = default;
 
 void RandomUser::Run() {
-    if (plan_.onDisplay) {
+    if (plan_.hands == "display") {
         hands_ = std::make_unique<DisplayHands>();
     } else {
         hands_ = std::make_unique<ToolkitHands>(isOver_);
@@ -125,8 +99,12 @@ void RandomUser::Run() {
         if (number_ % ActsBetweenChecks == 0) {
             CheckWindows();
         }
+        if (number_ == ActsBeforeMemory) {
+            TellResidentMemory();
+        }
     }
-    Leave();
+    TellResidentMemory();
+    LeaveProgram(windows_, isOver_);
     radio_.reset();
 }
 
@@ -323,32 +301,6 @@ void RandomUser::CheckWindows() {
         }
         Pause(CheckPause);
     }
-}
-
-void RandomUser::Leave() {
-    for (int steps = 0; !isOver_; ++steps) {
-        TakeAStepOut();
-        Pause(StepPause);
-        if (const std::string windows = windows_.Ask(tour::WindowsInAWord); steps == MostStepsOut) {
-            std::cerr << "The program cannot be left. " << windows << std::endl;
-            std::_Exit(StuckExit);
-        }
-    }
-}
-
-void RandomUser::TakeAStepOut() {
-    tour::WindowThread::Post([this] {
-        if (isOver_) {
-            return;
-        }
-        if (QWidget* popup = QApplication::activePopupWidget()) {
-            popup->close();
-        } else if (QAbstractButton* button = ButtonOut()) {
-            button->click();
-        } else if (QWidget* window = tour::WindowOnTop()) {
-            window->close();
-        }
-    });
 }
 
 } // namespace zelvor::random

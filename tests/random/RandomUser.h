@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QString>
 #include <atomic>
 #include <chrono>
 #include <memory>
@@ -10,22 +9,11 @@
 #include "random/Draws.h"
 #include "random/Hands.h"
 #include "random/PluggedRadio.h"
+#include "random/SessionPlan.h"
 #include "random/Targets.h"
 #include "tour/WindowThread.h"
 
 namespace zelvor::random {
-
-/// What a session is told from outside.
-struct SessionPlan {
-    std::uint32_t seed = 1;
-    int acts = 300;
-    bool onDisplay = false; // hands on the display, not in the process
-    QString home;           // where all its files are
-    QString radioProgram;
-
-    /// From the environment variable ZELVOR_RANDOM, "SEED ACTS toolkit|display HOME RADIO" with tabs between them.
-    [[nodiscard]] static SessionPlan OfEnvironment();
-};
 
 /// The user at random, on a thread of its own. Prints a line for every act before it is done. When all are done it
 /// leaves the program, patiently, as a user would.
@@ -57,9 +45,6 @@ private:
     void Log(const Draw& draw, const std::string& details) const;
     void Pause(int milliseconds) const;
     void CheckWindows();
-    void Leave();
-    /// One step of leaving: answers the box, else closes the window in front.
-    void TakeAStepOut();
 
     const SessionPlan plan_;
     const std::atomic<bool>& isOver_;

@@ -4,18 +4,24 @@
 #include <QDir>
 #include <QTimer>
 #include <atomic>
+#include <cstdlib>
 #include <iostream>
 #include <thread>
 
+#include "random/CarefulUser.h"
 #include "random/FileDialogGuard.h"
 #include "random/RandomUser.h"
 #include "random/SilenceWatch.h"
 #include "random/Stacks.h"
 #include "tour/Failure.h"
+#include "tour/WindowOnTop.h"
+#include "tour/WindowThread.h"
 
 namespace zelvor::random {
 
 namespace {
+
+constexpr int GaveUpExit = 95;
 
 /// Lives as long as the application object, whose child it is.
 class Session : public QObject {
@@ -37,9 +43,15 @@ private:
 
     void RunUser() {
         try {
-            RandomUser(plan_, isOver_).Run();
+            if (plan_.hands == "careful") {
+                CarefulUser(plan_, isOver_).Run();
+            } else {
+                RandomUser(plan_, isOver_).Run();
+            }
         } catch (const tour::Failure& failure) {
-            std::cout << "The user gave up: " << failure.what() << std::endl;
+            std::cout << "The user gave up: " << failure.what() << "; "
+                      << tour::WindowThread(std::chrono::seconds(5)).Ask(tour::WindowsInAWord) << std::endl;
+            std::_Exit(GaveUpExit);
         }
         hasUserEnded_ = true;
     }

@@ -19,28 +19,44 @@ namespace zelvor::random {
 
 namespace {
 
-constexpr std::array<Kind, 6> Kinds{{
+constexpr std::array<Kind, 8> Kinds{{
     {"offscreen", "toolkit", "0", "offscreen, toolkit events, English"},
     {"xcb", "display", "1", "xcb, X events, Chinese"},
     {"xcb", "toolkit", "0", "xcb, toolkit events, English"},
     {"xcb", "display", "0", "xcb, X events, English"},
     {"offscreen", "toolkit", "1", "offscreen, toolkit events, Chinese"},
     {"xcb", "toolkit", "1", "xcb, toolkit events, Chinese"},
+    {"offscreen", "careful", "0", "offscreen, careful, English"},
+    {"xcb", "careful", "1", "xcb, careful, Chinese"},
 }};
 
 constexpr int StartMilliseconds = 30000;
 constexpr int SliceMilliseconds = 100;
-constexpr int LimitSlices = 6000;     // ten minutes of this process's own time
+constexpr int LimitSlices = 6000;     // ten minutes of this process's own time,
+constexpr int SlicesOfAct = 10;       // and a second for every act
 constexpr int CrashPatience = 120000; // for the debugger
 
 /// What the toolkit says without a fault of the program's: the platform without a screen of what it cannot do, and the
 /// print dialog of its properties, which one key closes and the next one opens in the same round of events.
 constexpr std::array ToolkitRemarks{"This plugin does not support", "QDialog::exec: Recursive call detected"};
 
+/// Of a line with the resident memory in KiB: after the first 1000 acts, and at the end.
+constexpr const char* MemoryLine = "memory ";
+
 bool IsUsual(const QByteArray& line) {
     const bool isAct = !line.isEmpty() && line.front() >= '0' && line.front() <= '9';
-    return line.isEmpty() || isAct || line == "LEFT" ||
+    return line.isEmpty() || isAct || line == "LEFT" || line.startsWith(MemoryLine) ||
            std::ranges::any_of(ToolkitRemarks, [&](const char* remark) { return line.startsWith(remark); });
+}
+
+void TakeMemory(Ending& ending) {
+    for (const QByteArray& line : ending.log.split('\n')) {
+        if (line.startsWith(MemoryLine)) {
+            const int kibibytes = line.mid(qstrlen(MemoryLine)).toInt();
+            ending.earlyMemory = ending.lastMemory; // of the line before, if there was one
+            ending.lastMemory = kibibytes;
+        }
+    }
 }
 
 /// The lines that it should not have printed.
@@ -83,6 +99,7 @@ QProcessEnvironment EnvironmentOf(const Kind& kind, const tour::PrivateHome& hom
     const bool isOffscreen = QByteArray(kind.platform) == "offscreen";
     environment.insert("QT_QPA_PLATFORM",
                        isOffscreen ? "offscreen:configfile=" + home.File("screen.json") : QString(kind.platform));
+    environment.insert("QT_SCALE_FACTOR", QString::number(kind.scale));
     environment.insert("CUPS_SERVER", home.File("no-printers")); // nothing comes out of anybody's printer
     for (const char* name : {"QT_QPA_PLATFORMTHEME", "SESSION_MANAGER"}) {
         environment.remove(name);
@@ -108,8 +125,10 @@ QString EndOf(const QProcess& session, const Ending& ending) {
 
 } // namespace
 
-const Kind& KindOf(std::uint32_t seed) {
-    return Kinds.at(seed % Kinds.size());
+Kind KindOf(std::uint32_t seed) {
+    Kind kind = Kinds.at(seed % Kinds.size());
+    kind.scale += static_cast<int>(seed / Kinds.size() % 2);
+    return kind;
 }
 
 bool NeedsDisplay(const Kind& kind) {
@@ -135,13 +154,15 @@ void Sessions::PrepareHome(const Kind& kind) const {
     Write(home_.DataFile("short.dat"), DataFileOf(SampleRadioMemory()).left(1000));
     Write(home_.File("config/Zelvor/Zelvor.ini"),
           QByteArray("[BackUp]\nLastModel=50:34:36:31:38:01:F8:FF\nLanguage=") + kind.language + "\n");
-    Write(home_.File("screen.json"),
-          R"({"screens": [{"name": "Screen", "x": 0, "y": 0, "width": 1440, "height": 1000,
-              "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
+    const QByteArray width = QByteArray::number(1440 * kind.scale);
+    const QByteArray height = QByteArray::number(1000 * kind.scale);
+    Write(home_.File("screen.json"), R"({"screens": [{"name": "Screen", "x": 0, "y": 0, "width": )" + width +
+                                         R"(, "height": )" + height +
+                                         R"(, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
 }
 
 void Sessions::Start(QProcess& session, std::uint32_t seed) const {
-    const Kind& kind = KindOf(seed);
+    const Kind kind = KindOf(seed);
     PrepareHome(kind);
     QProcessEnvironment environment = EnvironmentOf(kind, home_);
     environment.insert("ZELVOR_RANDOM", QStringList{QString::number(seed), QString::number(options_.acts), kind.hands,
@@ -168,8 +189,8 @@ void Sessions::Follow(QProcess& session, Ending& ending) const {
     for (int slices = 0; !session.waitForFinished(SliceMilliseconds) && session.state() != QProcess::NotRunning;
          ++slices) {
         takeOutput();
-        if (slices == LimitSlices) {
-            ending.log += "\nIt is at no end after ten minutes.\n";
+        if (slices == LimitSlices + SlicesOfAct * options_.acts) {
+            ending.log += "\nIt is at no end.\n";
             ::kill(static_cast<pid_t>(session.processId()), SIGABRT); // which keeps the stacks
             session.waitForFinished(CrashPatience);
             session.kill();
@@ -188,6 +209,7 @@ Ending Sessions::Run(std::uint32_t seed) {
     ending.seconds = static_cast<double>(time.elapsed()) / 1000;
     ending.acts = static_cast<int>(ending.log.count(": "));
     ending.complaints = ComplaintsIn(ending.log);
+    TakeMemory(ending);
     ending.finding = EndOf(session, ending);
     return ending;
 }

@@ -12,14 +12,15 @@ class QProcess;
 
 namespace zelvor::random {
 
-/// Which platform, hands and language; a seed has always the same.
+/// Which platform, hands, language and scale; a seed has always the same.
 struct Kind {
     const char* platform;
     const char* hands;
     const char* language; // as the settings have it
     const char* name;
+    int scale = 1; // dots of the screen to a pixel of the program
 };
-[[nodiscard]] const Kind& KindOf(std::uint32_t seed);
+[[nodiscard]] Kind KindOf(std::uint32_t seed);
 [[nodiscard]] bool NeedsDisplay(const Kind& kind);
 
 /// How a session ended.
@@ -29,6 +30,8 @@ struct Ending {
     QByteArray complaints;
     int acts = 0;
     double seconds = 0;
+    int earlyMemory = 0; // resident, in KiB, after the first 1000 acts; 0 where it had fewer
+    int lastMemory = 0;  // at the end of the acts
 };
 
 /// Starts sessions, each a process of its own, one after the other in one home directory.

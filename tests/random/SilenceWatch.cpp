@@ -18,7 +18,7 @@ namespace {
 // Milliseconds.
 constexpr int BeatInterval = 100;
 constexpr int LookInterval = 50;
-constexpr double Limit = 5000;
+constexpr double Limit = 2000;
 
 /// Whether the process's first thread, which is the window thread, sleeps: the letter behind its name in parentheses.
 bool DoesWindowThreadSleep() {

@@ -12,7 +12,7 @@ namespace zelvor::random {
 /// Exit status of a process whose window thread was silent for too long.
 inline constexpr int SilentExit = 97;
 
-/// Looks from a thread of its own whether the window thread still serves its timers. After five seconds in which it
+/// Looks from a thread of its own whether the window thread still serves its timers. After two seconds in which it
 /// does not, the stacks are kept and the process ends. What counts is the time that the window thread computes or
 /// sleeps, not that in which a busy machine lets it wait for a processor or a disk.
 class SilenceWatch {

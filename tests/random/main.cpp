@@ -31,8 +31,14 @@ bool HasDisplay() {
 }
 
 void Tell(std::uint32_t seed, const Ending& ending) {
-    std::cout << "seed " << seed << " (" << KindOf(seed).name << "): " << ending.acts << " acts, " << ending.seconds
-              << " s" << (ending.finding.isEmpty() ? "" : ": " + ending.finding.toStdString()) << std::endl;
+    const Kind kind = KindOf(seed);
+    std::cout << "seed " << seed << " (" << kind.name << ", " << kind.scale * 100 << " %): " << ending.acts << " acts, "
+              << ending.seconds << " s";
+    if (ending.earlyMemory > 0) {
+        std::cout << ", " << ending.earlyMemory << " KiB resident after 1000 acts, " << ending.lastMemory
+                  << " at the end";
+    }
+    std::cout << (ending.finding.isEmpty() ? "" : ": " + ending.finding.toStdString()) << std::endl;
 }
 
 void TellFinding(std::uint32_t seed, const Ending& ending, const QString& folder) {

@@ -18,13 +18,13 @@ struct FieldEdit {
         Page,  // a click on the tab of number `place`
     };
     Kind kind = Kind::Text;
-    QString control;
-    QString typed;
+    QString control{};
+    QString typed{};
     int place = 0; // of a cell: the row, from 1
     int column = 0;
-    QString shows;
+    QString shows{}; // null: whatever it does
     int address = 0;
-    QByteArray bytes; // from there on; empty where the document is not looked at
+    QByteArray bytes{}; // from there on; empty where the document is not looked at
 };
 
 /// A window of the Edit menu, and what is done in it.

@@ -63,6 +63,9 @@ void FieldHands::TypeIntoCell(const FieldEdit& edit) {
 }
 
 void FieldHands::CheckShown(const FieldEdit& edit) {
+    if (edit.shows.isNull()) {
+        return;
+    }
     CheckEqual("what " + edit.control.toStdString() + " shows", windows_.Ask([&] { return TextOnTop(edit.control); }),
                edit.shows);
 }

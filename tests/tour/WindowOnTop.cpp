@@ -6,6 +6,8 @@
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QMessageBox>
 #include <QTableWidget>
 #include <QWindow>
@@ -22,6 +24,15 @@ QWidget* VisibleWindow(const QString& name) {
     for (QWidget* window : QApplication::topLevelWidgets()) {
         if (window->isVisible() && window->objectName() == name) {
             return window;
+        }
+    }
+    return nullptr;
+}
+
+QWidget* VisiblePart(const QWidget& window, const QString& name) {
+    for (QWidget* widget : window.findChildren<QWidget*>(name)) {
+        if (widget->isVisible()) {
+            return widget;
         }
     }
     return nullptr;
@@ -57,12 +68,10 @@ bool IsOnTop(const QString& window) {
 
 QWidget* WidgetOnTop(const QString& name) {
     const QWidget* top = WindowOnTop();
-    for (QWidget* widget : top ? top->findChildren<QWidget*>(name) : QList<QWidget*>()) {
-        if (widget->isVisible()) {
-            return widget;
-        }
-    }
-    return nullptr;
+    const auto* area = top ? top->findChild<const QMdiArea*>() : nullptr;
+    const QMdiSubWindow* child = area ? area->activeSubWindow() : nullptr;
+    QWidget* const inChild = child ? VisiblePart(*child, name) : nullptr;
+    return inChild || !top ? inChild : VisiblePart(*top, name);
 }
 
 QWidget* PartOf(const QString& window, const QString& part) {

@@ -13,7 +13,8 @@ namespace zelvor::tour {
 /// else the main window; null where there is none.
 [[nodiscard]] QWidget* WindowOnTop();
 [[nodiscard]] bool IsOnTop(const QString& window);
-/// The visible widget of that name in the window on top; null where there is none.
+/// The visible widget of that name in the window on top, and there in the active child window where that has one; null
+/// where there is none.
 [[nodiscard]] QWidget* WidgetOnTop(const QString& name);
 /// A part, by its name, of a visible window that lies in the window on top: several child windows have a cmdClose.
 [[nodiscard]] QWidget* PartOf(const QString& window, const QString& part);

@@ -14,7 +14,7 @@ namespace {
 
 volatile std::sig_atomic_t stopRequested = 0;
 
-void RequestStop(int) {
+void RequestStop(int /*signal*/) {
     stopRequested = 1;
 }
 
@@ -30,7 +30,9 @@ sigset_t CatchStopSignals() {
         sigaction(signal, &action, nullptr);
         sigaddset(&stopSignals, signal);
     }
-    std::signal(SIGPIPE, SIG_IGN);
+    struct sigaction ignored {};
+    ignored.sa_handler = SIG_IGN;
+    sigaction(SIGPIPE, &ignored, nullptr);
     sigprocmask(SIG_BLOCK, &stopSignals, &waitMask);
     for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
         sigdelset(&waitMask, signal);
