@@ -58,6 +58,7 @@ private:
 
     /// The user may be waiting for an answer of this thread.
     void EndUser() {
+        watch_.reset(); // the user may be pausing
         isOver_ = true;
         while (!hasUserEnded_) {
             QCoreApplication::sendPostedEvents();
