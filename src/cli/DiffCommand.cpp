@@ -1,30 +1,62 @@
 #include "cli/DiffCommand.h"
 
 #include <QJsonArray>
+#include <algorithm>
+#include <iterator>
+#include <optional>
+#include <string>
+#include <vector>
 
 #include "cli/HexText.h"
 #include "cli/ImageDifferences.h"
 #include "cli/JsonText.h"
 #include "cli/RadioFile.h"
 #include "data/ChannelFields.h"
+#include "platform/FileStore.h"
+#include "platform/FileSystem.h"
 #include "platform/Toolkit.h"
 
 namespace zelvor::cli {
 
 namespace {
 
-void PrintTexts(const ImageDifferences& differences, const DataImage& a, const DataImage& b, const Console& console) {
-    for (const Field& field : differences.fields) {
-        console.out << field.Key() << ": " << Printable(field.Show(a, console.language)) << " -> "
-                    << Printable(field.Show(b, console.language)) << '\n';
+constexpr TextPair OnlyIn{"only in ", "仅存在于 "};
+
+struct ComparedFiles {
+    RadioFile a;
+    RadioFile b;
+    ImageDifferences differences;
+};
+
+/// Nothing where one of them cannot be read or is no data file; that is told, of both.
+std::optional<ComparedFiles> Compare(const std::string& pathOfA, const std::string& pathOfB, FileStore& store,
+                                     const Console& console) {
+    const std::optional<RadioFile> a = ReadRadioFile(store, pathOfA, console);
+    const std::optional<RadioFile> b = ReadRadioFile(store, pathOfB, console);
+    if (!a || !b) {
+        return std::nullopt;
     }
-    for (const int address : differences.addresses) {
-        console.out << AddressText(address) << ": " << ByteText(a.At(address)) << " -> " << ByteText(b.At(address))
-                    << '\n';
+    return ComparedFiles{*a, *b, DifferencesOf(a->image, b->image)};
+}
+
+ExitStatus StatusOf(const ImageDifferences& differences) {
+    return differences.AreNone() ? ExitStatus::Done : ExitStatus::No;
+}
+
+/// head: what every line begins with.
+void PrintTexts(const ComparedFiles& files, const std::string& head, const Console& console) {
+    for (const Field& field : files.differences.fields) {
+        console.out << head << field.Key() << ": " << Printable(field.Show(files.a.image, console.language)) << " -> "
+                    << Printable(field.Show(files.b.image, console.language)) << '\n';
+    }
+    for (const int address : files.differences.addresses) {
+        console.out << head << AddressText(address) << ": " << ByteText(files.a.image.At(address)) << " -> "
+                    << ByteText(files.b.image.At(address)) << '\n';
     }
 }
 
-QJsonObject Json(const ImageDifferences& differences, const RadioFile& a, const RadioFile& b) {
+QJsonObject Json(const ComparedFiles& files) {
+    const auto& [a, b, differences] = files;
     QJsonArray fields;
     QJsonArray channels;
     for (const Field& field : differences.fields) {
@@ -48,21 +80,107 @@ QJsonObject Json(const ImageDifferences& differences, const RadioFile& a, const 
             {"fields", fields},    {"channels", channels}, {"bytes", bytes}};
 }
 
+ExitStatus DiffFiles(const DiffRequest& request, FileStore& store, const Console& console) {
+    const std::optional<ComparedFiles> files = Compare(request.a, request.b, store, console);
+    if (!files) {
+        return ExitStatus::File;
+    }
+    if (request.json) {
+        console.out << JsonText(Json(*files));
+    } else {
+        PrintTexts(*files, {}, console);
+    }
+    return StatusOf(files->differences);
+}
+
+// --- Folders ---------------------------------------------------------------------------------------------------------
+
+using Names = std::vector<std::string>; // in order
+
+/// As "*.dat" names them, whatever the case of the letters.
+bool IsDataFileName(const std::string& name) {
+    return !name.starts_with('.') && ToQString(name).endsWith(u".dat", Qt::CaseInsensitive);
+}
+
+/// Nothing where the path leads to no folder that can be read.
+std::optional<Names> DataFilesIn(const std::string& path, FileStore& store) {
+    std::optional<Names> names = store.NamesIn(path);
+    if (names) {
+        std::erase_if(*names, [](const std::string& name) { return !IsDataFileName(name); });
+        std::ranges::sort(*names);
+    }
+    return names;
+}
+
+/// What is told of two folders: line by line, or as one document at the end.
+class FolderReport {
+public:
+    FolderReport(const DiffRequest& request, const Console& console) : request_(request), console_(console) {}
+
+    void AddPair(const std::string& name, const ComparedFiles& files) {
+        if (request_.json) {
+            pairs_.append(Json(files));
+        } else {
+            PrintTexts(files, Printable(name) + ": ", console_);
+        }
+    }
+    void AddSingle(const std::string& name, bool isInA) {
+        if (request_.json) {
+            (isInA ? onlyInA_ : onlyInB_).append(JsonOf(name));
+        } else {
+            console_.out << Printable(name) << ": " << console_.Say(OnlyIn)
+                         << Printable(isInA ? request_.a : request_.b) << '\n';
+        }
+    }
+    void End(ExitStatus status) const {
+        if (request_.json) {
+            console_.out << JsonText({{"a", JsonOf(request_.a)},
+                                      {"b", JsonOf(request_.b)},
+                                      {"same", status == ExitStatus::Done},
+                                      {"pairs", pairs_},
+                                      {"only_in_a", onlyInA_},
+                                      {"only_in_b", onlyInB_}});
+        }
+    }
+
+private:
+    const DiffRequest& request_;
+    const Console& console_;
+    QJsonArray pairs_;
+    QJsonArray onlyInA_;
+    QJsonArray onlyInB_;
+};
+
+ExitStatus DiffFolders(const DiffRequest& request, const Names& a, const Names& b, FileStore& store,
+                       const Console& console) {
+    Names all;
+    std::ranges::set_union(a, b, std::back_inserter(all));
+    FolderReport report(request, console);
+    ExitStatus status = ExitStatus::Done;
+    for (const std::string& name : all) {
+        const bool isInA = std::ranges::binary_search(a, name);
+        if (!isInA || !std::ranges::binary_search(b, name)) {
+            report.AddSingle(name, isInA);
+            status = Worse(status, ExitStatus::No);
+            continue;
+        }
+        const std::optional<ComparedFiles> files =
+            Compare(PathIn(request.a, name), PathIn(request.b, name), store, console);
+        if (files) {
+            report.AddPair(name, *files);
+        }
+        status = Worse(status, files ? StatusOf(files->differences) : ExitStatus::File);
+    }
+    report.End(status);
+    return status;
+}
+
 } // namespace
 
 ExitStatus Diff(const DiffRequest& request, FileStore& store, const Console& console) {
-    const std::optional<RadioFile> a = ReadRadioFile(store, request.a, console);
-    const std::optional<RadioFile> b = ReadRadioFile(store, request.b, console);
-    if (!a || !b) {
-        return ExitStatus::File;
-    }
-    const ImageDifferences differences = DifferencesOf(a->image, b->image);
-    if (request.json) {
-        console.out << JsonText(Json(differences, *a, *b));
-    } else {
-        PrintTexts(differences, a->image, b->image, console);
-    }
-    return differences.AreNone() ? ExitStatus::Done : ExitStatus::No;
+    const std::optional<Names> a = DataFilesIn(request.a, store);
+    const std::optional<Names> b = DataFilesIn(request.b, store);
+    return a && b ? DiffFolders(request, *a, *b, store, console) : DiffFiles(request, store, console);
 }
 
 } // namespace zelvor::cli

@@ -3,9 +3,10 @@
 #include <QFile>
 #include <QString>
 #include <filesystem>
-#include <functional>
 #include <optional>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace zelvor {
 
@@ -34,8 +35,12 @@ enum class FileState {
 /// Whether nothing has this name, not even a link that leads nowhere.
 [[nodiscard]] bool IsNameFree(const std::filesystem::path& path);
 
-void ForEachName(const std::filesystem::path& folder,
-                 const std::function<void(const std::filesystem::path& name)>& tell);
+/// Names of the files in a folder, not of the folders in it, in no order. Nothing where it is no folder or not all of it
+/// can be read.
+[[nodiscard]] std::optional<std::vector<std::string>> FileNamesIn(const std::filesystem::path& folder);
+
+/// The path of what has this name in the folder, as it is spelled.
+[[nodiscard]] std::string PathIn(const std::string& folder, const std::string& name);
 
 /// Whether two paths lead to one file, whatever its names. False where one leads nowhere.
 [[nodiscard]] bool LeadToSameFile(std::string_view left, std::string_view right);

@@ -71,13 +71,21 @@ bool IsNameFree(const std::filesystem::path& path) {
     return !fs::exists(fs::symlink_status(path, error));
 }
 
-void ForEachName(const std::filesystem::path& folder,
-                 const std::function<void(const std::filesystem::path& name)>& tell) {
+std::optional<std::vector<std::string>> FileNamesIn(const std::filesystem::path& folder) {
+    std::vector<std::string> names;
     std::error_code error;
     for (auto entry = fs::directory_iterator(folder.empty() ? fs::path(".") : folder, error);
          !error && entry != fs::directory_iterator(); entry.increment(error)) {
-        tell(entry->path().filename());
+        std::error_code unknown; // a link that leads nowhere is no folder
+        if (!entry->is_directory(unknown)) {
+            names.push_back(entry->path().filename().string());
+        }
     }
+    return error ? std::nullopt : std::optional(std::move(names));
+}
+
+std::string PathIn(const std::string& folder, const std::string& name) {
+    return folder + (folder.ends_with('/') ? "" : "/") + name;
 }
 
 bool LeadToSameFile(std::string_view left, std::string_view right) {

@@ -1,9 +1,9 @@
 #include <QDateTime>
-#include <QDirIterator>
 #include <QFileInfo>
 #include <QThread>
 #include <cstring>
 #include <string>
+#include <utility>
 #include <windows.h>
 
 #include <aclapi.h>
@@ -197,13 +197,27 @@ bool IsNameFree(const std::filesystem::path& path) {
     return GetFileAttributesW(LongName(path).c_str()) == INVALID_FILE_ATTRIBUTES;
 }
 
-void ForEachName(const std::filesystem::path& folder,
-                 const std::function<void(const std::filesystem::path& name)>& tell) {
-    QDirIterator entries(ToolkitName(folder), QDir::Files | QDir::Hidden | QDir::System);
-    while (entries.hasNext()) {
-        entries.next();
-        tell(PathOfToolkitName(entries.fileName()));
+std::optional<std::vector<std::string>> FileNamesIn(const std::filesystem::path& folder) {
+    std::vector<std::string> names;
+    WIN32_FIND_DATAW entry{};
+    HANDLE search = FindFirstFileW(LongName(folder / L"*").c_str(), &entry);
+    if (search == INVALID_HANDLE_VALUE) { // in all folders but a drive's own there is something
+        return GetLastError() == ERROR_FILE_NOT_FOUND ? std::optional(std::move(names)) : std::nullopt;
     }
+    do {
+        if ((entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) {
+            const std::wstring_view name = entry.cFileName;
+            names.push_back(Utf8Of(std::u16string(name.begin(), name.end())));
+        }
+    } while (FindNextFileW(search, &entry) != 0);
+    const bool isWhole = GetLastError() == ERROR_NO_MORE_FILES;
+    FindClose(search);
+    return isWhole ? std::optional(std::move(names)) : std::nullopt;
+}
+
+std::string PathIn(const std::string& folder, const std::string& name) {
+    const bool isEnded = folder.find_last_of("/\\:") == folder.size() - 1; // "C:" is a folder as well
+    return folder + (isEnded ? "" : "/") + name;
 }
 
 bool LeadToSameFile(std::string_view left, std::string_view right) {

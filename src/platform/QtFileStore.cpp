@@ -51,12 +51,15 @@ bool IsLeftoverName(const std::string& name) {
 }
 
 void SweepLeftovers(const fs::path& folder) {
-    ForEachName(folder, [&folder](const fs::path& name) {
-        const std::u8string text = name.u8string();
-        if (IsLeftoverName(std::string(text.begin(), text.end()))) {
+    const std::optional<std::vector<std::string>> names = FileNamesIn(folder);
+    if (!names) {
+        return;
+    }
+    for (const std::string& name : *names) {
+        if (IsLeftoverName(name)) {
             RemoveUnclaimedFile(folder / name);
         }
-    });
+    }
 }
 
 bool WriteBytes(QFileDevice& file, Bytes bytes) {
@@ -130,6 +133,10 @@ bool WriteInPlace(QFile& file, Bytes bytes, FileTail tail) {
 }
 
 } // namespace
+
+std::optional<std::vector<std::string>> QtFileStore::NamesIn(const std::string& folder) {
+    return folder.empty() ? std::nullopt : FileNamesIn(FilePathOf(folder));
+}
 
 std::optional<std::vector<std::uint8_t>> QtFileStore::Read(const std::string& path, std::size_t atMost) {
     QFile file;

@@ -14,6 +14,7 @@ namespace zelvor {
 /// indivisible. New files that a process left behind when it was killed are removed by the next write in their folder.
 class QtFileStore : public FileStore {
 public:
+    [[nodiscard]] std::optional<std::vector<std::string>> NamesIn(const std::string& folder) override;
     [[nodiscard]] std::optional<std::vector<std::uint8_t>> Read(const std::string& path, std::size_t atMost) override;
     [[nodiscard]] bool Write(const std::string& path, std::span<const std::uint8_t> bytes, FileTail tail) override;
 };

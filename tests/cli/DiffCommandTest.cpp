@@ -184,6 +184,193 @@ TEST_F(DiffTest, OfAFileThatCannotBeReadTellsOfBothAndPrintsNothing) {
     EXPECT_EQ(Err(), "zelvor-cli: a.dat: cannot be read\nzelvor-cli: b.dat: cannot be read\n");
 }
 
+class FolderDiffTest : public CliTest {
+protected:
+    static DataImage Silent() {
+        DataImage image = Programmed();
+        image.Set(0x136, 0); // beep
+        image.Set(0x340, 0);
+        return image;
+    }
+    QJsonObject Document() { return QJsonDocument::fromJson(QByteArray::fromStdString(Out())).object(); }
+};
+
+TEST_F(FolderDiffTest, SaysNothingOfTheSameFiles) {
+    for (const char* path : {"2025/1.dat", "2026/1.dat", "2025/2.dat", "2026/2.dat"}) {
+        Put(path, Programmed());
+    }
+    EXPECT_EQ(Diff({"2025", "2026"}, store, console), ExitStatus::Done);
+    EXPECT_EQ(Diff({"2025", "2025"}, store, console), ExitStatus::Done);
+    EXPECT_EQ(Out() + Err(), "");
+}
+
+TEST_F(FolderDiffTest, TellsWhatDiffersBehindTheNameAndWhatIsInOneOnlyInTheOrderOfNames) {
+    Put("2025/1.dat", Programmed());
+    Put("2025/2.dat", Programmed());
+    Put("2025/4.dat", Silent());
+    Put("2025/5.dat", Programmed());
+    Put("2026/1.dat", Silent());
+    Put("2026/2.dat", Programmed());
+    Put("2026/3.dat", Programmed());
+    Put("2026/5.dat", Silent());
+    EXPECT_EQ(Diff({"2025", "2026"}, store, console), ExitStatus::No);
+    EXPECT_EQ(Out(), "1.dat: optional.beep: On -> Off\n"
+                     "1.dat: 0x340: FF -> 00\n"
+                     "3.dat: only in 2026\n"
+                     "4.dat: only in 2025\n"
+                     "5.dat: optional.beep: On -> Off\n"
+                     "5.dat: 0x340: FF -> 00\n");
+    EXPECT_EQ(Diff({"2026/", "2025/"}, store, chinese), ExitStatus::No);
+    EXPECT_EQ(Out(), "1.dat: optional.beep: 关 -> 开\n"
+                     "1.dat: 0x340: 00 -> FF\n"
+                     "3.dat: 仅存在于 2026/\n"
+                     "4.dat: 仅存在于 2025/\n"
+                     "5.dat: optional.beep: 关 -> 开\n"
+                     "5.dat: 0x340: 00 -> FF\n");
+    EXPECT_EQ(Err(), "");
+}
+
+TEST_F(FolderDiffTest, AFileInOneFolderOnlyIsADifferenceAndIsNotRead) {
+    Put("2025/1.dat", Programmed());
+    store.MakeFolder("2026");
+    EXPECT_EQ(Diff({"2025", "2026"}, store, console), ExitStatus::No);
+    store.Put("2025/1.dat", "cut");
+    EXPECT_EQ(Diff({"2026", "2025"}, store, console), ExitStatus::No);
+    EXPECT_EQ(Out(), "1.dat: only in 2025\n1.dat: only in 2025\n");
+    EXPECT_EQ(Err(), "");
+}
+
+TEST_F(FolderDiffTest, OfEmptyFoldersNothingDiffers) {
+    store.MakeFolder("2025");
+    store.MakeFolder("2026");
+    EXPECT_EQ(Diff({"2025", "2026"}, store, console), ExitStatus::Done);
+    EXPECT_EQ(Out() + Err(), "");
+    EXPECT_EQ(Diff({"2025", "2026", true}, store, console), ExitStatus::Done);
+    EXPECT_EQ(Document(), (QJsonObject{{"a", "2025"},
+                                       {"b", "2026"},
+                                       {"same", true},
+                                       {"pairs", QJsonArray()},
+                                       {"only_in_a", QJsonArray()},
+                                       {"only_in_b", QJsonArray()}}));
+}
+
+TEST_F(FolderDiffTest, ComparesDataFilesByTheirNamesAndNothingElse) {
+    for (const std::string name : {"fleet.csv", "1.pdf", "dat", "xdat", ".dat", "._1.dat", "1.dat.bak", "old/1.dat"}) {
+        store.Put("2025/" + name, "2025");
+        store.Put("2026/" + name, "2026");
+    }
+    EXPECT_EQ(Diff({"2025", "2026"}, store, console), ExitStatus::Done);
+    EXPECT_EQ(Out() + Err(), "");
+    for (const std::string name : {"1.DAT", "2.Dat", "a b.dat", "队列.dat"}) {
+        Put("2025/" + name, Programmed());
+        Put("2026/" + name, Silent());
+    }
+    EXPECT_EQ(Diff({"2025", "2026"}, store, console), ExitStatus::No);
+    EXPECT_EQ(Out(), "1.DAT: optional.beep: On -> Off\n"
+                     "1.DAT: 0x340: FF -> 00\n"
+                     "2.Dat: optional.beep: On -> Off\n"
+                     "2.Dat: 0x340: FF -> 00\n"
+                     "a b.dat: optional.beep: On -> Off\n"
+                     "a b.dat: 0x340: FF -> 00\n"
+                     "队列.dat: optional.beep: On -> Off\n"
+                     "队列.dat: 0x340: FF -> 00\n");
+}
+
+TEST_F(FolderDiffTest, APairThatCannotBeReadDoesNotHoldUpTheOthers) {
+    store.Put("2025/1.dat", "cut");
+    Put("2026/1.dat", Programmed());
+    Put("2025/2.dat", Programmed());
+    Put("2026/2.dat", Silent());
+    Put("2025/3.dat", Programmed());
+    store.Put("2026/3.dat", "");
+    store.Refuse("2025/3.dat");
+    Put("2025/4.dat", Programmed());
+    EXPECT_EQ(Diff({"2025", "2026"}, store, console), ExitStatus::File);
+    EXPECT_EQ(Out(), "2.dat: optional.beep: On -> Off\n2.dat: 0x340: FF -> 00\n4.dat: only in 2025\n");
+    const std::string told = "zelvor-cli: 2025/1.dat: is no data file\n"
+                             "zelvor-cli: 2025/3.dat: cannot be read\n"
+                             "zelvor-cli: 2026/3.dat: is no data file\n";
+    EXPECT_EQ(Err(), told);
+    EXPECT_EQ(Diff({"2025", "2026", true}, store, console), ExitStatus::File);
+    EXPECT_EQ(Err(), told);
+    const QJsonObject json = Document();
+    EXPECT_EQ(json["same"].toBool(true), false);
+    EXPECT_EQ(json["pairs"].toArray().size(), 1);
+    EXPECT_EQ(json["pairs"].toArray()[0].toObject()["a"], QJsonValue("2025/2.dat"));
+    EXPECT_EQ(Diff({"2026", "2025"}, store, chinese), ExitStatus::File);
+    EXPECT_EQ(Err(), "zelvor-cli: 2025/1.dat: 不是数据文件\n"
+                     "zelvor-cli: 2026/3.dat: 不是数据文件\n"
+                     "zelvor-cli: 2025/3.dat: 无法读取\n");
+}
+
+TEST_F(FolderDiffTest, IsNotTheSameWhereNothingButAPairThatCannotBeReadIsLeft) {
+    store.Put("2025/1.dat", "cut");
+    store.Put("2026/1.dat", "cut");
+    EXPECT_EQ(Diff({"2025", "2026", true}, store, console), ExitStatus::File);
+    EXPECT_EQ(Document()["same"].toBool(true), false);
+}
+
+TEST_F(FolderDiffTest, AFolderGoesWithAFolderOnly) {
+    Put("2025/1.dat", Programmed());
+    Put("2026/1.dat", Programmed());
+    for (const bool json : {false, true}) {
+        EXPECT_EQ(Diff({"2025", "2026/1.dat", json}, store, console), ExitStatus::File);
+        EXPECT_EQ(Diff({"2025/1.dat", "2026", json}, store, console), ExitStatus::File);
+        EXPECT_EQ(Diff({"2025", "2024", json}, store, chinese), ExitStatus::File);
+        EXPECT_EQ(Out(), "");
+        EXPECT_EQ(Err(), "zelvor-cli: 2025: cannot be read\n"
+                         "zelvor-cli: 2026: cannot be read\n"
+                         "zelvor-cli: 2025: 无法读取\n"
+                         "zelvor-cli: 2024: 无法读取\n");
+    }
+    store.Refuse("2026");
+    EXPECT_EQ(Diff({"2025", "2026"}, store, console), ExitStatus::File);
+    EXPECT_EQ(Out(), "");
+}
+
+TEST_F(FolderDiffTest, AsJsonIsOneDocumentWithThePairsAsOfTwoFiles) {
+    Put("2025/1.dat", Programmed());
+    Put("2026/1.dat", Silent());
+    Put("2025/2.dat", Programmed());
+    Put("2026/2.dat", Programmed());
+    Put("2025/3.dat", Programmed());
+    Put("2026/4.dat", Programmed());
+    Put("2026/5.dat", Programmed());
+    EXPECT_EQ(Diff({"2025/", "2026", true}, store, chinese), ExitStatus::No);
+    const QJsonObject json = Document();
+    EXPECT_EQ(json.keys(), (QStringList{"a", "b", "only_in_a", "only_in_b", "pairs", "same"}));
+    EXPECT_EQ(json["a"], QJsonValue("2025/"));
+    EXPECT_EQ(json["b"], QJsonValue("2026"));
+    EXPECT_EQ(json["same"], QJsonValue(false));
+    EXPECT_EQ(json["only_in_a"].toArray(), QJsonArray{"3.dat"});
+    EXPECT_EQ(json["only_in_b"].toArray(), (QJsonArray{"4.dat", "5.dat"}));
+    const QJsonArray pairs = json["pairs"].toArray();
+    ASSERT_EQ(pairs.size(), 2);
+    EXPECT_EQ(pairs[0].toObject(),
+              (QJsonObject{{"a", "2025/1.dat"},
+                           {"b", "2026/1.dat"},
+                           {"same", false},
+                           {"fields", QJsonArray{QJsonObject{{"key", "optional.beep"}, {"a", "On"}, {"b", "Off"}}}},
+                           {"channels", QJsonArray()},
+                           {"bytes", QJsonArray{QJsonObject{{"address", "0x340"}, {"a", "FF"}, {"b", "00"}}}}}));
+    EXPECT_EQ(pairs[1].toObject()["same"], QJsonValue(true));
+    EXPECT_EQ(pairs[1].toObject()["b"], QJsonValue("2026/2.dat"));
+    store.Remove("2025/3.dat");
+    store.Remove("2026/4.dat");
+    store.Remove("2026/5.dat");
+    Put("2026/1.dat", Programmed());
+    EXPECT_EQ(Diff({"2025", "2026", true}, store, console), ExitStatus::Done);
+    EXPECT_EQ(Document()["same"], QJsonValue(true));
+}
+
+TEST_F(FolderDiffTest, KeepsNamesToTheirLines) {
+    Put("2025/a\nb.dat", Programmed());
+    Put("2026/a\nb.dat", Silent());
+    Put("2026/c\x1B.dat", Silent());
+    EXPECT_EQ(Diff({"2025", "2026"}, store, console), ExitStatus::No);
+    EXPECT_EQ(Out(), "a␊b.dat: optional.beep: On -> Off\na␊b.dat: 0x340: FF -> 00\nc␛.dat: only in 2026\n");
+}
+
 /// A bit that differs alone is told once, as a value or as a byte, whatever else the image holds.
 TEST(ImageDifferences, CoverEveryDifferingByte) {
     constexpr unsigned Seed = 8128;

@@ -37,6 +37,34 @@ TEST_F(ZelvorCli, NewSetGetDiffAndCheckWorkTogether) {
     EXPECT_EQ(EntriesOf(folder.Path()), (std::vector<std::string>{"a.dat", "b.dat"}));
 }
 
+TEST_F(ZelvorCli, DiffComparesTheFilesOfTwoFolders) {
+    for (const char* name : {"2025", "2026", "empty", "2025/old"}) {
+        std::filesystem::create_directory(folder / name);
+    }
+    MakeNew("2025/1.dat");
+    MakeNew("2025/2.dat");
+    MakeNew("2026/1.dat");
+    MakeNew("2026/2.dat");
+    PutFile(folder / "2025/fleet.csv", "channel\n");
+    EXPECT_EQ(Run({"diff", "2025", "2026"}), 0) << out << err;
+    EXPECT_EQ(Run({"diff", "empty", "empty/"}), 0);
+    EXPECT_EQ(out + err, "");
+    EXPECT_EQ(Run({"set", "2026/2.dat", "optional.beep=Off"}), 0);
+    MakeNew("2026/队列.dat");
+    EXPECT_EQ(Run({"diff", "2025", "2026"}), 1);
+    EXPECT_EQ(out, "2.dat: optional.beep: On -> Off\n队列.dat: only in 2026\n");
+    EXPECT_EQ(Run({"diff", "2026", "2025", "--language=zh"}), 1);
+    EXPECT_EQ(out, "2.dat: optional.beep: 关 -> 开\n队列.dat: 仅存在于 2026\n");
+    EXPECT_EQ(Run({"diff", "2025", "2026", "--json"}), 1);
+    EXPECT_EQ(QJsonDocument::fromJson(QByteArray::fromStdString(out))["pairs"].toArray().size(), 2);
+    PutFile(folder / "2026/1.dat", "cut");
+    EXPECT_EQ(Run({"diff", "2025", "2026"}), 3);
+    EXPECT_EQ(out, "2.dat: optional.beep: On -> Off\n队列.dat: only in 2026\n");
+    EXPECT_EQ(err, "zelvor-cli: 2026/1.dat: is no data file\n");
+    EXPECT_EQ(Run({"diff", "2025", "gone"}), 3);
+    EXPECT_EQ(err, "zelvor-cli: 2025: cannot be read\nzelvor-cli: gone: cannot be read\n");
+}
+
 TEST_F(ZelvorCli, TakesFilesOfAnyName) {
     MakeNew("x");
     const std::string content = FileContent(folder / "x");

@@ -15,7 +15,9 @@ public:
 
     [[nodiscard]] std::string Path() const override { return "/backups"; }
     [[nodiscard]] std::string PathOf(const std::string& name) const override { return Path() + '/' + name; }
-    [[nodiscard]] std::vector<std::string> FileNames() override { return store_.NamesIn(Path()); }
+    [[nodiscard]] std::vector<std::string> FileNames() override {
+        return store_.NamesIn(Path()).value_or(std::vector<std::string>());
+    }
     void Remove(const std::string& name) override { store_.Remove(PathOf(name)); }
     [[nodiscard]] std::shared_ptr<void> Hold() override;
 

@@ -1,3 +1,5 @@
+#include <algorithm>
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <string>
 #include <vector>
@@ -22,6 +24,7 @@ struct FakeMachine {
 
     [[nodiscard]] static std::string Path(const char* name) { return "/folder/" + std::string(name); }
     void Put(const char* name, const std::string& content) { store.Put(Path(name), content); }
+    void MakeFolder(const char* name) { store.MakeFolder(Path(name)); }
     [[nodiscard]] std::string Content(const char* name) const { return store.Content(Path(name)); }
     [[nodiscard]] std::string RefusedPath() {
         store.Refuse("/nowhere/a.dat");
@@ -35,6 +38,7 @@ struct RealMachine {
 
     [[nodiscard]] std::string Path(const char* name) const { return Utf8(directory / PathOfUtf8(name)); }
     void Put(const char* name, const std::string& content) const { PutFile(PathOfUtf8(Path(name)), content); }
+    void MakeFolder(const char* name) const { std::filesystem::create_directory(PathOfUtf8(Path(name))); }
     [[nodiscard]] std::string Content(const char* name) const { return FileContent(PathOfUtf8(Path(name))); }
     [[nodiscard]] std::string RefusedPath() const { return Path("no folder/a.dat"); }
 };
@@ -102,6 +106,27 @@ TYPED_TEST(FileStoreContract, SaysWhereNothingCanBeReadOrWritten) {
     EXPECT_EQ(this->machine_.store.Read(path, 100), std::nullopt);
     EXPECT_FALSE(this->machine_.store.Write(path, Bytes{'x'}, FileTail::Drop));
     EXPECT_FALSE(this->machine_.store.Write("", Bytes{'x'}, FileTail::Drop));
+}
+
+TYPED_TEST(FileStoreContract, ListsTheFilesOfAFolderAndNotItsFolders) {
+    const auto names = [this](const std::string& folder) {
+        std::optional<std::vector<std::string>> found = this->machine_.store.NamesIn(folder);
+        if (found) {
+            std::ranges::sort(*found);
+        }
+        return found;
+    };
+    this->machine_.MakeFolder("2025");
+    this->machine_.MakeFolder("2025/empty");
+    this->machine_.Put("2025/对讲机 1.dat", "a");
+    this->machine_.Put("2025/b.csv", "");
+    this->machine_.Put("2026.dat", "x");
+    EXPECT_EQ(names(this->machine_.Path("2025")), (std::vector<std::string>{"b.csv", "对讲机 1.dat"}));
+    EXPECT_EQ(names(this->machine_.Path("2025/")), names(this->machine_.Path("2025")));
+    EXPECT_EQ(names(this->machine_.Path("2025/empty")), std::vector<std::string>());
+    EXPECT_EQ(names(this->machine_.Path("2026.dat")), std::nullopt);
+    EXPECT_EQ(names(this->machine_.Path("none")), std::nullopt);
+    EXPECT_EQ(names(""), std::nullopt);
 }
 
 } // namespace

@@ -4,8 +4,10 @@
 #include <QDir>
 #include <QSaveFile>
 #include <QTemporaryDir>
+#include <algorithm>
 #include <cstdint>
 #include <gtest/gtest.h>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -98,6 +100,39 @@ TEST_F(FarDownTest, OneFileIsToldFromAnother) {
     EXPECT_FALSE(LeadToSameFile(one, Path(far_ + QStringLiteral("无.dat"))));
     EXPECT_FALSE(LeadToSameFile("", ""));
 }
+
+TEST_F(FarDownTest, TheFilesOfAFolderAreListed) {
+    Put(far_ + QStringLiteral("电台.dat"), "1");
+    Put(far_ + QStringLiteral(".hidden"), "1");
+    ASSERT_TRUE(QDir(folder_.filePath(far_)).mkdir("a folder"));
+    std::optional<std::vector<std::string>> names = store_.NamesIn(Path(far_));
+    ASSERT_TRUE(names.has_value());
+    std::ranges::sort(*names);
+    EXPECT_EQ(*names, (std::vector<std::string>{".hidden", "电台.dat"}));
+    EXPECT_EQ(store_.Read(PathIn(Path(far_), "电台.dat"), 9), Bytes{'1'});
+    EXPECT_EQ(store_.NamesIn(Path(far_ + QStringLiteral("无"))), std::nullopt);
+}
+
+TEST(PathIn, IsSpelledAsTheFolderIs) {
+    EXPECT_EQ(PathIn("2025", "7.dat"), "2025/7.dat");
+    EXPECT_EQ(PathIn("2025/", "7.dat"), "2025/7.dat");
+    EXPECT_EQ(PathIn("/", "7.dat"), "/7.dat");
+#ifdef Q_OS_WIN
+    EXPECT_EQ(PathIn("C:\\2025\\", "7.dat"), "C:\\2025\\7.dat");
+    EXPECT_EQ(PathIn("C:", "7.dat"), "C:7.dat");
+#else
+    EXPECT_EQ(PathIn("2025\\", "7.dat"), "2025\\/7.dat");
+    EXPECT_EQ(PathIn("C:", "7.dat"), "C:/7.dat");
+#endif
+}
+
+#ifdef Q_OS_UNIX
+TEST_F(FileSystemTest, ALinkThatLeadsNowhereIsListedAsAFileAndOneToAFolderIsNot) {
+    ASSERT_TRUE(QFile::link("gone", folder_.filePath("a.dat")));
+    ASSERT_TRUE(QFile::link(".", folder_.filePath("b.dat")));
+    EXPECT_EQ(store_.NamesIn(Path(".")), std::vector<std::string>{"a.dat"});
+}
+#endif
 
 TEST_F(FileSystemTest, AFileIsWrittenByAPathFromTheCurrentFolder) {
     const QString before = QDir::currentPath();

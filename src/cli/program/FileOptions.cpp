@@ -17,7 +17,10 @@ namespace zelvor::cli {
 namespace {
 
 constexpr TextPair ShowText{"Print what data files hold", "输出数据文件的内容"};
-constexpr TextPair DiffText{"Print what differs between two data files", "输出两个数据文件的不同之处"};
+constexpr TextPair DiffText{"Print what differs between two data files, or those of two folders",
+                            "输出两个数据文件的不同之处，或两个文件夹中同名数据文件的不同之处"};
+constexpr TextPair DiffedText{"Data file, or folder of data files (*.dat)",
+                              "数据文件，或存放数据文件 (*.dat) 的文件夹"};
 constexpr TextPair CheckText{"Look for what would stop or spoil a write to a radio",
                              "检查会阻止或破坏写入对讲机的设置"};
 constexpr TextPair NewText{"Make a blank data file", "生成空白数据文件"};
@@ -41,8 +44,8 @@ void AddShow(CLI::App& app, Language language, Action& action) {
 void AddDiff(CLI::App& app, Language language, Action& action) {
     CLI::App& command = AddCommand(app, "diff", language, DiffText);
     const auto request = MakeRequest<DiffRequest>(command, action, Diff);
-    AddFile(command, "A", request->a, language, DataFileText);
-    AddFile(command, "B", request->b, language, DataFileText);
+    AddFile(command, "A", request->a, language, DiffedText);
+    AddFile(command, "B", request->b, language, DiffedText);
     command.add_flag("--json", request->json, std::string(JsonFlagText.In(language)));
 }
 
