@@ -4,6 +4,8 @@
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <functional>
+#include <optional>
 #include <vector>
 
 #include "Instructions.h"
@@ -15,8 +17,6 @@ namespace zelvor::bench {
 
 namespace {
 
-constexpr int Files = 10'000;
-constexpr int Pairs = 1'000;
 constexpr int Runs = 5;
 constexpr double LargestRatio = 2;
 constexpr double LargestGrowth = 1.02;
@@ -25,15 +25,27 @@ constexpr double MillisecondsPerSecond = 1000;
 constexpr auto CheckName = "Check of 10,000 files / sha256sum of them";
 constexpr auto PerFileName = "  instructions a file, of 10,000 / of 1,000";
 constexpr auto DiffName = "Diff of 1,000 pairs / sha256sum of them";
+constexpr auto PerSamePairName = "  instructions a pair, of 1,000 / of 100";
+constexpr auto PerOtherPairName = "  the same of pairs that differ";
 
-/// The sample radio again and again; no write of them waits for the disk.
-QStringList MakeFiles(const QTemporaryDir& directory) {
-    const DataFileBytes bytes = EncodeDataFile(SampleRadioMemory());
+/// How many things a program is given in three runs, so that what the second run does more can be compared with what
+/// the third does more.
+struct Counts {
+    int fewest;
+    int few;
+    int all;
+};
+constexpr Counts Files{100, 1000, 10'000};
+constexpr Counts Pairs{10, 100, 1000};
+
+/// The image again and again; no write of the files waits for the disk.
+QStringList MakeFiles(const QString& folder, int count, const DataImage& image) {
+    const DataFileBytes bytes = EncodeDataFile(image);
     const QByteArray content(reinterpret_cast<const char*>(bytes.data()), static_cast<qsizetype>(bytes.size()));
     QStringList names;
-    for (int i = 0; i < Files; ++i) {
-        names.append(QString("%1.dat").arg(i, 5, 10, QChar('0')));
-        QFile file(directory.filePath(names.last()));
+    for (int i = 0; i < count; ++i) {
+        names.append(folder + QString("/%1.dat").arg(i, 5, 10, QChar('0')));
+        QFile file(names.last());
         if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) {
             return {};
         }
@@ -42,9 +54,8 @@ QStringList MakeFiles(const QTemporaryDir& directory) {
 }
 
 /// Seconds; negative where the program does not end well.
-double Time(const QTemporaryDir& directory, const QString& program, const QStringList& arguments) {
+double Time(const QString& program, const QStringList& arguments) {
     QProcess process;
-    process.setWorkingDirectory(directory.path());
     process.setStandardOutputFile(QProcess::nullDevice());
     QElapsedTimer timer;
     timer.start();
@@ -54,82 +65,95 @@ double Time(const QTemporaryDir& directory, const QString& program, const QStrin
     return isDone ? static_cast<double>(timer.elapsed()) / MillisecondsPerSecond : -1;
 }
 
-/// The two by turns, after a first run of each that brings the files into memory.
-void AddCheck(const QTemporaryDir& directory, const QStringList& names, Report& report) {
-    std::vector<double> checks;
+/// The command beside sha256sum on the same files, by turns, after a first run of each that brings them into memory.
+void AddTimes(const char* name, const QStringList& command, const QStringList& files, Report& report) {
+    std::vector<double> commands;
     std::vector<double> sums;
     for (int run = 0; run <= Runs; ++run) {
-        const double check = Time(directory, ZELVOR_CLI_PROGRAM, QStringList{"check"} + names);
-        const double sum = Time(directory, "sha256sum", names);
-        if (check < 0 || sum < 0) {
-            report.AddFailure(CheckName, "does not run");
+        const double time = Time(ZELVOR_CLI_PROGRAM, command);
+        const double sum = Time("sha256sum", files);
+        if (time < 0 || sum < 0) {
+            report.AddFailure(name, "does not run");
             return;
         }
         if (run > 0) {
-            checks.push_back(check);
+            commands.push_back(time);
             sums.push_back(sum);
         }
     }
-    report.Add(CheckName, MedianOf(checks) / MedianOf(sums), LargestRatio, 2,
-               Spread(checks, 3) + " s and " + Spread(sums, 3) + " s");
+    report.Add(name, MedianOf(commands) / MedianOf(sums), LargestRatio, 2,
+               Spread(commands, 3) + " s and " + Spread(sums, 3) + " s");
 }
 
-/// Whether a file costs the same among many others as among few.
-void AddCheckPerFile(const QTemporaryDir& directory, const QStringList& names, Report& report) {
-    constexpr int Fewest = 100;
-    constexpr int Few = 1000;
+/// Whether a thing costs the same among many others as among few. Told what a run with so many of them executes.
+void AddGrowth(const char* name, const Counts& counts,
+               const std::function<std::optional<double>(int count)>& instructionsOf, Report& report) {
     if (!CountsInstructions()) {
         return;
     }
-    const auto instructions = [&](int files) {
-        QStringList arguments{"check"};
-        for (const QString& name : names.first(files)) {
-            arguments.append(directory.filePath(name));
-        }
-        return InstructionsOf(ZELVOR_CLI_PROGRAM, arguments);
-    };
-    const std::optional<double> fewest = instructions(Fewest);
-    const std::optional<double> few = instructions(Few);
-    const std::optional<double> all = instructions(Files);
+    const std::optional<double> fewest = instructionsOf(counts.fewest);
+    const std::optional<double> few = instructionsOf(counts.few);
+    const std::optional<double> all = instructionsOf(counts.all);
     if (!fewest || !few || !all) {
-        report.AddFailure(PerFileName, "not counted");
+        report.AddFailure(name, "not counted");
         return;
     }
-    const double amongFew = (*few - *fewest) / (Few - Fewest);
-    const double amongAll = (*all - *few) / (Files - Few);
-    report.Add(PerFileName, amongAll / amongFew, LargestGrowth, 3,
+    const double amongFew = (*few - *fewest) / (counts.few - counts.fewest);
+    const double amongAll = (*all - *few) / (counts.all - counts.few);
+    report.Add(name, amongAll / amongFew, LargestGrowth, 3,
                "in thousands " + Formatted(amongAll / Thousand, 1) + " / " + Formatted(amongFew / Thousand, 1));
 }
 
-void AddDiff(const QTemporaryDir& directory, const QStringList& names, Report& report) {
-    double diffs = 0;
-    double sums = 0;
-    for (int i = 0; i < Pairs; ++i) {
-        const QStringList pair = names.mid(2 * i, 2);
-        const double diff = Time(directory, ZELVOR_CLI_PROGRAM, QStringList{"diff"} + pair);
-        const double sum = Time(directory, "sha256sum", pair);
-        if (diff < 0 || sum < 0) {
-            report.AddFailure(DiffName, "does not run");
-            return;
-        }
-        diffs += diff;
-        sums += sum;
+void AddCheck(Report& report) {
+    const QTemporaryDir folder;
+    const QStringList files = MakeFiles(folder.path(), Files.all, SampleRadioMemory());
+    if (files.isEmpty()) {
+        report.AddFailure(CheckName, "no files");
+        return;
     }
-    report.Add(DiffName, Formatted(diffs / sums, 2), Formatted(diffs, 2) + " s and " + Formatted(sums, 2) + " s");
+    AddTimes(CheckName, QStringList{"check"} + files, files, report);
+    const auto instructions = [&files](int count) {
+        return InstructionsOf(ZELVOR_CLI_PROGRAM, QStringList{"check"} + files.first(count));
+    };
+    AddGrowth(PerFileName, Files, instructions, report);
+}
+
+DataImage WithoutBeep(DataImage image) {
+    constexpr int Beep = 0x136;
+    image.Set(Beep, 0);
+    return image;
+}
+
+void AddDiff(Report& report) {
+    const QTemporaryDir a;
+    const QTemporaryDir b;
+    const QStringList command{"diff", a.path(), b.path()};
+    const QStringList files =
+        MakeFiles(a.path(), Pairs.all, SampleRadioMemory()) + MakeFiles(b.path(), Pairs.all, SampleRadioMemory());
+    if (files.size() != 2 * Pairs.all) {
+        report.AddFailure(DiffName, "no files");
+        return;
+    }
+    AddTimes(DiffName, command, files, report);
+    const auto growth = [&report](const char* name, const DataImage& image, int status) {
+        const auto instructions = [&image, status](int count) {
+            const QTemporaryDir left;
+            const QTemporaryDir right;
+            MakeFiles(left.path(), count, SampleRadioMemory());
+            MakeFiles(right.path(), count, image);
+            return InstructionsOf(ZELVOR_CLI_PROGRAM, {"diff", left.path(), right.path()}, {}, status);
+        };
+        AddGrowth(name, Pairs, instructions, report);
+    };
+    growth(PerSamePairName, SampleRadioMemory(), 0);
+    growth(PerOtherPairName, WithoutBeep(SampleRadioMemory()), 1);
 }
 
 } // namespace
 
 void AddCliFigures(Report& report) {
-    const QTemporaryDir directory;
-    const QStringList names = MakeFiles(directory);
-    if (names.isEmpty()) {
-        report.AddFailure(CheckName, "no files");
-        return;
-    }
-    AddCheck(directory, names, report);
-    AddCheckPerFile(directory, names, report);
-    AddDiff(directory, names, report);
+    AddCheck(report);
+    AddDiff(report);
 }
 
 } // namespace zelvor::bench

@@ -4,8 +4,8 @@ namespace zelvor::bench {
 
 class Report;
 
-/// zelvor-cli on many files beside sha256sum, which does nothing but read them: `check` on all of them in one process,
-/// `diff` on pairs of them in a process each.
+/// zelvor-cli on many files in one process: beside sha256sum, which does nothing but read them, and what each of them
+/// takes beside what it takes among fewer. `check` on files, `diff` on two folders.
 void AddCliFigures(Report& report);
 
 } // namespace zelvor::bench

@@ -17,8 +17,8 @@ bool CountsInstructions() {
     return !QStandardPaths::findExecutable(Counter).isEmpty();
 }
 
-std::optional<double> InstructionsOf(const QString& program, const QStringList& arguments,
-                                     const QStringList& variables) {
+std::optional<double> InstructionsOf(const QString& program, const QStringList& arguments, const QStringList& variables,
+                                     int status) {
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (const QString& variable : variables) {
@@ -27,7 +27,8 @@ std::optional<double> InstructionsOf(const QString& program, const QStringList& 
     process.setProcessEnvironment(environment);
     process.setStandardOutputFile(QProcess::nullDevice());
     process.start(Counter, QStringList{"--tool=callgrind", "--callgrind-out-file=/dev/null", program} + arguments);
-    if (!process.waitForFinished(Patience) || process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0) {
+    if (!process.waitForFinished(Patience) || process.exitStatus() != QProcess::NormalExit ||
+        process.exitCode() != status) {
         return std::nullopt;
     }
     const QRegularExpression collected("Collected : ([0-9]+)");
