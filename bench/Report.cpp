@@ -45,7 +45,7 @@ void Report::AddFailure(std::string figure, std::string reason) {
 }
 
 void Report::Print() const {
-    constexpr auto Line = "%-46s %-10s %-12s %-7s %s\n";
+    constexpr auto Line = "%-48s %-10s %-12s %-7s %s\n";
     std::printf(Line, "Figure", "Goal", "Measured", "", "Details: median (least .. most)");
     for (const Row& row : rows_) {
         std::printf(Line, row.figure.c_str(), row.goal.c_str(), row.measured.c_str(), row.verdict.c_str(),

@@ -2,17 +2,15 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QElapsedTimer>
-#include <QKeyEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QWindow>
 #include <array>
-#include <map>
 #include <string>
 #include <vector>
 
 #include "AnsweringMessageBoxes.h"
+#include "DialogFigures.h"
 #include "Report.h"
 #include "controls/WindowState.h"
 #include "data/Document.h"
@@ -29,7 +27,6 @@ namespace {
 constexpr int Runs = 7;
 constexpr double OpensWithin = 30; // milliseconds
 constexpr double KeyWithin = 16;
-constexpr double NanosecondsPerMillisecond = 1e6;
 
 /// Those of the Edit menu and the navigator. The channel edit window opens by a button of the grid.
 constexpr std::array Entries{
@@ -37,40 +34,12 @@ constexpr std::array Entries{
     "MnuEditCorvane",          "MnuEditTestFrequency", "MnuEditEmbeddedMessage", "MnuViewTreeView"};
 constexpr auto ChannelEdit = "cmdChannelEdit";
 
-using Times = std::map<std::string, std::vector<double>>; // milliseconds
-
-/// Until all that is to be painted is painted and handed over.
-template<typename Work>
-double UntilPainted(QWidget& window, Work work) {
-    QElapsedTimer time;
-    time.start();
-    work();
-    QCoreApplication::sendPostedEvents();
-    QEvent update(QEvent::UpdateRequest);
-    QCoreApplication::sendEvent(&window, &update);
-    return static_cast<double>(time.nsecsElapsed()) / NanosecondsPerMillisecond;
-}
-
-void Press(Qt::Key key, const QString& text) {
-    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-        if (QWidget* focus = QApplication::focusWidget()) {
-            QKeyEvent event(type, key, Qt::NoModifier, text);
-            QCoreApplication::sendEvent(focus, &event);
-        }
-    }
-}
-
-void MeasureKeys(MDIForm1& window, Times& times) {
+void MeasureKeysInChildren(MDIForm1& window, Times& times) {
     auto* area = window.findChild<QMdiArea*>();
     for (QMdiSubWindow* frame : area->subWindowList()) {
         area->setActiveSubWindow(frame);
         QCoreApplication::processEvents();
-        std::vector<double>& keys = times[frame->widget()->objectName().toStdString()];
-        for (int i = 0; i < 8; ++i) {
-            keys.push_back(UntilPainted(window, [] { Press(Qt::Key_Tab, "\t"); }));
-            keys.push_back(UntilPainted(window, [] { Press(Qt::Key_Down, {}); }));
-            keys.push_back(UntilPainted(window, [] { Press(Qt::Key_1, "1"); }));
-        }
+        MeasureKeys(window, times[frame->widget()->objectName().toStdString()]);
     }
 }
 
@@ -86,6 +55,7 @@ void Measure(Times& opened, Times& keys) {
     LinkState link;
     ServiceState service;
     MDIForm1 window({document, windows, link, service}, services);
+    machine.NumberPorts(); // as the program does when it has begun
     window.show();
     window.activateWindow();
     while (!window.windowHandle()->isExposed()) { // nothing is painted before
@@ -99,7 +69,16 @@ void Measure(Times& opened, Times& keys) {
     auto* button = window.findChild<QWidget*>(ChannelEdit);
     opened[ChannelEdit].push_back(
         UntilPainted(window, [button] { QMetaObject::invokeMethod(button, "click", Qt::DirectConnection); }));
-    MeasureKeys(window, keys);
+    MeasureKeysInChildren(window, keys);
+    MeasureDialogs(window, {document, windows, link, service}, services, opened, keys);
+}
+
+void Add(const std::string& name, const std::vector<double>& times, double limit, Report& report) {
+    if (times.empty()) {
+        report.AddFailure(name, "not painted");
+        return;
+    }
+    report.Add(name, MedianOf(times), limit, 1, Spread(times, 1));
 }
 
 } // namespace
@@ -112,10 +91,10 @@ void AddWindowFigures(Report& report) {
     }
     const std::string scale = ", at " + Formatted(100 * qApp->devicePixelRatio(), 0) + " %, in ms";
     for (const auto& [entry, times] : opened) {
-        report.Add("Open " + entry + scale, MedianOf(times), OpensWithin, 1, Spread(times, 1));
+        Add("Open " + entry + scale, times, OpensWithin, report);
     }
     for (const auto& [form, times] : keys) {
-        report.Add("Keys in " + form + scale, MedianOf(times), KeyWithin, 1, Spread(times, 1));
+        Add("Keys in " + form + scale, times, KeyWithin, report);
     }
 }
 
