@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <functional>
 #include <gtest/gtest.h>
 #include <map>
@@ -30,7 +31,12 @@ public:
         return err_;
     }
     [[nodiscard]] bool Said(const std::string& text) { return Err().find(text) != std::string::npos; }
-    [[nodiscard]] std::vector<std::string> Backups() { return folder.FileNames(); }
+    /// Their names, in order.
+    [[nodiscard]] std::vector<std::string> Backups() {
+        std::vector<std::string> names = folder.FileNames();
+        std::ranges::sort(names);
+        return names;
+    }
     /// The radio's memory as an image.
     [[nodiscard]] DataImage RadioImage() const;
     void PutFile(const std::string& path, const DataImage& image);
