@@ -21,6 +21,7 @@ namespace zelvor::cli {
 namespace {
 
 constexpr TextPair OnlyIn{"only in ", "仅存在于 "};
+constexpr TextPair NeedsFolder{"cannot be compared with a file, since it is a folder", "是文件夹，不能与文件比较"};
 
 struct ComparedFiles {
     RadioFile a;
@@ -175,12 +176,27 @@ ExitStatus DiffFolders(const DiffRequest& request, const Names& a, const Names& 
     return status;
 }
 
+/// A folder with anything else, which may be what is wrong.
+ExitStatus RefuseFolder(const std::string& folder, const std::string& other, FileStore& store, const Console& console) {
+    if (ReadRadioFile(store, other, console)) {
+        console.Complain(folder, NeedsFolder);
+    }
+    return ExitStatus::File;
+}
+
 } // namespace
 
 ExitStatus Diff(const DiffRequest& request, FileStore& store, const Console& console) {
     const std::optional<Names> a = DataFilesIn(request.a, store);
     const std::optional<Names> b = DataFilesIn(request.b, store);
-    return a && b ? DiffFolders(request, *a, *b, store, console) : DiffFiles(request, store, console);
+    if (a && b) {
+        return DiffFolders(request, *a, *b, store, console);
+    }
+    if (a || b) {
+        return a ? RefuseFolder(request.a, request.b, store, console)
+                 : RefuseFolder(request.b, request.a, store, console);
+    }
+    return DiffFiles(request, store, console);
 }
 
 } // namespace zelvor::cli

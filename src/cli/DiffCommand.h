@@ -22,7 +22,7 @@ struct DiffRequest {
 ///
 /// Of two folders it compares the data files of the same name, "*.dat", not those in folders of theirs; every line has
 /// the name before it. A file that is in one of them only is a difference. A pair of which one cannot be read does
-/// not hold up the others.
+/// not hold up the others. A folder with a file is refused.
 [[nodiscard]] ExitStatus Diff(const DiffRequest& request, FileStore& store, const Console& console);
 
 } // namespace zelvor::cli

@@ -318,13 +318,27 @@ TEST_F(FolderDiffTest, AFolderGoesWithAFolderOnly) {
         EXPECT_EQ(Diff({"2025/1.dat", "2026", json}, store, console), ExitStatus::File);
         EXPECT_EQ(Diff({"2025", "2024", json}, store, chinese), ExitStatus::File);
         EXPECT_EQ(Out(), "");
-        EXPECT_EQ(Err(), "zelvor-cli: 2025: cannot be read\n"
-                         "zelvor-cli: 2026: cannot be read\n"
-                         "zelvor-cli: 2025: 无法读取\n"
+        EXPECT_EQ(Err(), "zelvor-cli: 2025: cannot be compared with a file, since it is a folder\n"
+                         "zelvor-cli: 2026: cannot be compared with a file, since it is a folder\n"
                          "zelvor-cli: 2024: 无法读取\n");
     }
+    EXPECT_EQ(Diff({"2025", "2026/1.dat"}, store, chinese), ExitStatus::File);
+    EXPECT_EQ(Err(), "zelvor-cli: 2025: 是文件夹，不能与文件比较\n");
+    store.Put("cut.dat", "cut");
+    EXPECT_EQ(Diff({"cut.dat", "2025"}, store, console), ExitStatus::File);
+    EXPECT_EQ(Err(), "zelvor-cli: cut.dat: is no data file\n");
+}
+
+TEST_F(FolderDiffTest, AFolderThatCannotBeReadIsNotTakenForAnEmptyOne) {
+    Put("2025/1.dat", Programmed());
+    store.MakeFolder("2026");
+    store.MakeFolder("2027");
     store.Refuse("2026");
+    store.Refuse("2027");
     EXPECT_EQ(Diff({"2025", "2026"}, store, console), ExitStatus::File);
+    EXPECT_EQ(Err(), "zelvor-cli: 2026: cannot be read\n");
+    EXPECT_EQ(Diff({"2027", "2026"}, store, console), ExitStatus::File);
+    EXPECT_EQ(Err(), "zelvor-cli: 2027: cannot be read\nzelvor-cli: 2026: cannot be read\n");
     EXPECT_EQ(Out(), "");
 }
 

@@ -62,7 +62,9 @@ TEST_F(ZelvorCli, DiffComparesTheFilesOfTwoFolders) {
     EXPECT_EQ(out, "2.dat: optional.beep: On -> Off\n队列.dat: only in 2026\n");
     EXPECT_EQ(err, "zelvor-cli: 2026/1.dat: is no data file\n");
     EXPECT_EQ(Run({"diff", "2025", "gone"}), 3);
-    EXPECT_EQ(err, "zelvor-cli: 2025: cannot be read\nzelvor-cli: gone: cannot be read\n");
+    EXPECT_EQ(err, "zelvor-cli: gone: cannot be read\n");
+    EXPECT_EQ(Run({"diff", "2025/1.dat", "2026"}), 3);
+    EXPECT_EQ(err, "zelvor-cli: 2026: cannot be compared with a file, since it is a folder\n");
 }
 
 TEST_F(ZelvorCli, TakesFilesOfAnyName) {
