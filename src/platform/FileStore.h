@@ -22,8 +22,8 @@ class FileStore {
 public:
     virtual ~FileStore() = default;
 
-    /// Names of the files in the folder, not of the folders in it, in no order. Nothing where there is no such folder or
-    /// not all of it can be read.
+    /// Names of the files in the folder, not of the folders in it, in no order. Nothing where there is no such folder
+    /// or not all of it can be read.
     [[nodiscard]] virtual std::optional<std::vector<std::string>> NamesIn(const std::string& folder) = 0;
 
     /// The file's bytes, but no more than atMost of them; nothing where there is no such file or it cannot be read.

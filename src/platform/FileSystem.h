@@ -35,8 +35,8 @@ enum class FileState {
 /// Whether nothing has this name, not even a link that leads nowhere.
 [[nodiscard]] bool IsNameFree(const std::filesystem::path& path);
 
-/// Names of the files in a folder, not of the folders in it, in no order. Nothing where it is no folder or not all of it
-/// can be read.
+/// Names of the files in a folder, not of the folders in it, in no order. Nothing where it is no folder or not all of
+/// it can be read.
 [[nodiscard]] std::optional<std::vector<std::string>> FileNamesIn(const std::filesystem::path& folder);
 
 /// The path of what has this name in the folder, as it is spelled.
