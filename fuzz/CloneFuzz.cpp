@@ -17,7 +17,7 @@ CloneFuzz::CloneFuzz(const ExchangeInputs& inputs, int transferMode)
     document_.Image = imageBefore_ = TakeImage(input_);
     radio_.Memory = memoryBefore_ = TakeImage(input_);
     link_.TransferMode = mode_;
-    user_.OnTearDown = [this] {
+    user_.WhileUp = [this] {
         isTornDown_ = true;
         engine_.Unload();
     };

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "Require.h"
+
 namespace zelvor::fuzz {
 
 namespace {
@@ -102,15 +104,18 @@ void SpoiltRadio::Deliver(int milliseconds, std::vector<std::uint8_t> bytes) {
 
 /// Time goes by while the box is up: what is under way arrives, and cables are plugged in.
 MessageAnswer FuzzedUser::Show(const Message& message) {
+    Require(!isUp_, "one box is up at a time");
+    isUp_ = true;
     const bool knows = !input_.IsEmpty();
     const std::uint8_t told = input_.TakeByte();
     clock_.Advance(told);
     if ((told & 2) != 0) {
         radio_.PlugIn();
     }
-    if ((told & 0xF0) == 0x90 && OnTearDown) {
-        OnTearDown();
+    if ((told & 0xF0) == 0x90 && WhileUp) {
+        WhileUp();
     }
+    isUp_ = false;
     const bool agrees = knows && (told & 1) != 0;
     const bool isAsked = message.buttons != MessageButtons::Ok;
     hasGivenUp_ = hasGivenUp_ || (isAsked && !agrees);

@@ -69,8 +69,8 @@ public:
 
     MessageAnswer Show(const Message& message) override;
 
-    /// Called while a box is up, where the input wants the exchange to be torn down then.
-    std::function<void()> OnTearDown;
+    /// Called while a box is up, where the input wants something else to happen then.
+    std::function<void()> WhileUp;
 
     [[nodiscard]] int Retries() const { return retries_; }
     /// Whether he has answered Cancel to anything.
@@ -85,6 +85,7 @@ private:
     int retries_ = 0;
     bool hasGivenUp_ = false;
     bool hasAgreed_ = false;
+    bool isUp_ = false;
 };
 
 /// Lets time go by until the exchange is over; it has to be before so many milliseconds.

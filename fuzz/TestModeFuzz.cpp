@@ -36,6 +36,10 @@ TestModeFuzz::TestModeFuzz(const ExchangeInputs& inputs) : SpoiltExchange(inputs
     document_.Image = TakeImage(input_);
     radio_.Memory = document_.Image;
     radio_.Prepare(TuningEntry);
+    user_.WhileUp = [this] {
+        Act(); // in a list that was open already
+        clock_.Advance(LongestClosing);
+    };
 }
 
 void TestModeFuzz::Run() {

@@ -22,6 +22,10 @@ TuningFuzz::TuningFuzz(const ExchangeInputs& inputs)
       engine_(service_, {link_, *port_, clock_, user_, Language::English}, PlanOf(dialog_), *this, *this) {
     radio_.Memory = image_;
     radio_.Prepare(TuningEntry);
+    user_.WhileUp = [this] {
+        Act(); // in a list that was open already
+        clock_.Advance(LongestClosing);
+    };
     if (isNarrow_) {
         radio_.Prepare(Narrow);
     }

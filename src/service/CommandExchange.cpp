@@ -18,7 +18,7 @@ void CommandExchange::Ask(RadioCommand command, int interval) {
     }
     command.due = clock_.TickCount() + interval;
     const bool isIdle = commands_.empty();
-    const bool frontStays = !isIdle && (IsAwaitingReply() || !Replaces(command, commands_.front()));
+    const bool frontStays = !isIdle && (IsAwaitingReply() || IsPrompting() || !Replaces(command, commands_.front()));
     std::vector<RadioCommand> kept;
     for (std::size_t i = 0; i < commands_.size(); ++i) {
         if ((i == 0 && frontStays) || !Replaces(command, commands_[i])) {

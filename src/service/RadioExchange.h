@@ -49,6 +49,9 @@ protected:
     void Enter(int state, int interval);
     /// Whether a command was sent whose reply is still due.
     [[nodiscard]] bool IsAwaitingReply() const { return awaiting_; }
+    /// Whether the connection prompt is up. Nothing may begin then: its failure would bring a second one over it, whose
+    /// Cancel ends what the first one still has to lead to.
+    [[nodiscard]] bool IsPrompting() const { return deaf_; }
     void StopSending() { ctrTimer_->SetEnabled(false); }
     /// Nothing is due any more, and nothing that comes in is looked at until the next Enter.
     void Stop();

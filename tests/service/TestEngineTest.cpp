@@ -224,6 +224,37 @@ TEST_F(TestEngineTest, AWrongAnswerToTheClosingSignallingPromptsAndRetryEndsIt) 
     EXPECT_EQ(rig.sent, (Commands{"11 01", "11 01", "45"}));
 }
 
+// A list that is open stays open over a box that comes up, and can still be chosen from.
+TEST_F(TestEngineTest, ACommandThatIsAskedForWhileThePromptIsUpWaitsForTheAnswer) {
+    Open();
+    rig.replies["46"] = "15";
+    rig.messages.Expect(ConnectionPrompt(), [this] {
+        rig.TakeSent();
+        engine.ChooseWide(false);
+        engine.ChooseSignalling(3);
+        rig.clock.Advance(1000);
+        EXPECT_EQ(rig.sent, Commands{});
+        return MessageAnswer::Retry;
+    });
+    engine.ChooseWide(true);
+    rig.clock.Advance(3000);
+    EXPECT_EQ(rig.sent, (Commands{"47", "11 03"}));
+}
+
+TEST_F(TestEngineTest, ACommandThatIsAskedForWhileThePromptOfAMissingPortIsUpWaitsForTheAnswer) {
+    Open();
+    rig.ports.Port("MSComm1")->Vanish();
+    rig.messages.Expect(ConnectionPrompt(), [this] {
+        engine.ChooseSignalling(4);
+        rig.clock.Advance(1000);
+        return MessageAnswer::Cancel;
+    });
+    engine.ChooseSignalling(3);
+    rig.clock.Advance(1000);
+    EXPECT_EQ(events, std::vector<std::string>{"unload"});
+    EXPECT_EQ(closed, 1);
+}
+
 struct CommandCase {
     const char* name;
     void (*start)(TestEngine& engine);
