@@ -19,7 +19,8 @@ std::optional<std::set<std::string>> NamesOf(int descriptor) {
     if (size < 0) {
         return errno == ENOTSUP ? std::optional(std::set<std::string>()) : std::nullopt;
     }
-    std::vector<char> list(static_cast<std::size_t>(size));
+    // Where there is no room at all the system tells the size again: of what has come meanwhile.
+    std::vector<char> list(static_cast<std::size_t>(size) + 1);
     const ssize_t length = flistxattr(descriptor, list.data(), list.size());
     if (length < 0) {
         return std::nullopt;

@@ -15,6 +15,7 @@
 #include <cstdio>
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "ChildProcess.h"
@@ -24,10 +25,11 @@
 
 namespace {
 
-/// What this program does instead of the two calls of the system, which the code under test reaches through it: the
-/// system's functions have no other way to tests than a variable of the program.
+/// What this program does instead of calls of the system, or beside them, which the code under test reaches through it:
+/// the system's functions have no other way to tests than a variable of the program.
 std::function<int(int)> syncInstead;
 std::function<void()> beforeTheRenaming;
+std::function<void()> behindTheAttributesSize;
 
 std::string PathOfDescriptor(int descriptor) {
     std::array<char, 4096> path{};
@@ -49,6 +51,14 @@ extern "C" int rename(const char* from, const char* to) noexcept {
         beforeTheRenaming();
     }
     return static_cast<int>(syscall(SYS_renameat2, AT_FDCWD, from, AT_FDCWD, to, 0));
+}
+
+extern "C" ssize_t flistxattr(int descriptor, char* list, size_t size) noexcept {
+    const ssize_t length = syscall(SYS_flistxattr, descriptor, list, size);
+    if (size == 0 && behindTheAttributesSize) {
+        std::exchange(behindTheAttributesSize, nullptr)();
+    }
+    return length;
 }
 
 namespace zelvor::testing {
@@ -110,6 +120,22 @@ TEST_F(Belongings, AreTheExtendedAttributesToo) {
     EXPECT_EQ(std::string(value.data()), note);
     EXPECT_EQ(FileContent(Path()), NewContent);
     EXPECT_NE(StatusOf(Path()).st_ino, before) << "written in place, and so not indivisibly";
+}
+
+TEST_F(Belongings, AreAlsoAttributesThatComeWhileItIsSaved) {
+    const std::string note = "dealer 17";
+    if (setxattr(Path().c_str(), "user.note", note.data(), note.size(), 0) != 0) {
+        GTEST_SKIP() << "the file system has no attributes";
+    }
+    ASSERT_EQ(removexattr(Path().c_str(), "user.note"), 0);
+    int set = -1;
+    behindTheAttributesSize = [&] { set = setxattr(Path().c_str(), "user.note", note.data(), note.size(), 0); };
+    ASSERT_TRUE(Save(Path()));
+    ASSERT_EQ(set, 0) << "the fault did not fire";
+    std::array<char, 100> value{};
+    ASSERT_EQ(getxattr(Path().c_str(), "user.note", value.data(), value.size()), 9);
+    EXPECT_EQ(std::string(value.data()), note);
+    EXPECT_EQ(FileContent(Path()), NewContent);
 }
 
 TEST_F(Belongings, AreTheAccessListToo) {
