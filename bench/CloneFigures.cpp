@@ -14,7 +14,7 @@ namespace {
 constexpr double Milliseconds = 1000;
 
 struct CloneFigure {
-    std::string name;
+    const char* name;
     TransferDirection direction;
     std::optional<SessionTimes> (*run)(TransferDirection);
     int runs;
@@ -22,7 +22,7 @@ struct CloneFigure {
     double limit;
 };
 
-const std::array<CloneFigure, 4> Figures{{
+constexpr std::array<CloneFigure, 4> Figures{{
     {"Clone read, main window", TransferDirection::Read, RunFromMainWindow, 5, 1278, 1.06},
     {"Clone write, main window", TransferDirection::Write, RunFromMainWindow, 5, 1041, 1.08},
     {"Clone read, engine alone", TransferDirection::Read, RunEngineAlone, 3, 1278, 1.06},
@@ -45,7 +45,7 @@ void AddFigure(Report& report, const CloneFigure& figure) {
             turnarounds.push_back(turnaround * Milliseconds);
         }
     }
-    report.Add(figure.name + ": time / wire time", MedianOf(ratios), figure.limit, 3, Spread(ratios, 3));
+    report.Add(std::string(figure.name) + ": time / wire time", MedianOf(ratios), figure.limit, 3, Spread(ratios, 3));
     report.Add("  time, in ms", Formatted(MedianOf(durations), 1),
                Spread(durations, 1) + "; wire " + Formatted(WireTime(figure.bytes) * Milliseconds, 1));
     report.Add("  reply to next command, in ms", Formatted(MedianOf(turnarounds), 2),

@@ -57,8 +57,8 @@ void PressOkOfDialog() {
 
 class EngineOwner : public CloneObserver {
 public:
-    void OnProgress(int) override {}
-    void OnButtonsEnabled(bool) override {}
+    void OnProgress(int /*value*/) override {}
+    void OnButtonsEnabled(bool /*enabled*/) override {}
     void OnStandstill() override {}
     void OnTransferDone() override {}
     void OnReadCompleted() override {}

@@ -73,7 +73,7 @@ class Collector : public benchmark::BenchmarkReporter {
 public:
     explicit Collector(Report& report) : report_(report) {}
 
-    bool ReportContext(const Context&) override { return true; }
+    bool ReportContext(const Context& /*context*/) override { return true; }
     void ReportRuns(const std::vector<Run>& runs) override {
         std::vector<double> times;
         for (const Run& run : runs) {

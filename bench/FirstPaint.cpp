@@ -67,7 +67,7 @@ private:
         }
         QTimer::singleShot(SettlingTime, this, [painted, processor] {
             std::printf("painted %lld processor %lld resident %ld\n", painted, processor, ResidentKib());
-            std::fflush(stdout);
+            static_cast<void>(std::fflush(stdout));
             std::_Exit(0);
         });
     }

@@ -12,11 +12,19 @@ namespace {
 
 using Command = std::vector<std::uint8_t>;
 
+bool IsEnd(const Command& command) {
+    return command == Command{'E'};
+}
+
+/// What a session has beside its reads or its packets.
+bool IsEntryOrEnd(const Command& command) {
+    return command == Command{'P', 'R', 'O', 'G', 'R', 'A', 'M'} || command == Command{0x02} ||
+           command == Command{0x06} || IsEnd(command);
+}
+
 /// The block (0 to 15) that a command asks for; -1 where it is another command of a read.
 int BlockOf(const Command& command) {
-    const bool isOther = command == Command{'P', 'R', 'O', 'G', 'R', 'A', 'M'} || command == Command{0x02} ||
-                         command == Command{0x06} || command == Command{'E'};
-    if (isOther) {
+    if (IsEntryOrEnd(command)) {
         return -1;
     }
     Require(command.size() == 4 && command[0] == 'R' && command[3] == 0x40, "a read sends commands of a read");
@@ -25,11 +33,8 @@ int BlockOf(const Command& command) {
     return address / 64;
 }
 
-const Command Entry{'P', 'R', 'O', 'G', 'R', 'A', 'M'};
-const Command End{'E'};
-
 bool IsPacket(const Command& command) {
-    const bool isOther = command == Entry || command == Command{0x02} || command == Command{0x06} || command == End;
+    const bool isOther = IsEntryOrEnd(command);
     Require(isOther || (command.size() > 4 && command[0] == 'W' && command.size() == 4U + command[3]),
             "a write sends commands of a write");
     return !isOther;
@@ -90,7 +95,7 @@ void CheckWrite(const CloneFuzz& transfer) {
     int behindEnd = -1; // no End so far
     for (const Command& command : transfer.Radio().Commands()) {
         behindEnd += behindEnd >= 0 ? 1 : 0;
-        behindEnd = command == End && behindEnd < 0 ? 0 : behindEnd;
+        behindEnd = IsEnd(command) && behindEnd < 0 ? 0 : behindEnd;
         if (IsPacket(command)) {
             ++packets;
         }

@@ -44,7 +44,8 @@ public:
         const cli::ExitStatus status = RunCommand();
         Require(status != cli::ExitStatus::Usage, "a command ends in one of its ways");
         Require(clock_.TickCount() <= LongestCommand, "a command ends in time");
-        Require(!ports_.Port("MSComm1") || !ports_.Port("MSComm1")->IsOpen(), "the port is closed behind a command");
+        Require(ports_.Port("MSComm1") == nullptr || !ports_.Port("MSComm1")->IsOpen(),
+                "the port is closed behind a command");
         Require(store_.Content(Path) == content, "a command leaves the file that it is given");
         Require(isWrite || radio_.Memory == memory, "nothing but a write changes the radio");
         for (int address = 0; address < 0x400; ++address) {

@@ -9,7 +9,7 @@ namespace zelvor::fuzz {
 namespace {
 
 /// The fakes complain as tests do; here a complaint ends the program.
-[[maybe_unused]] const bool FakesAreStrict = [] {
+[[maybe_unused]] const bool FakesAreStrict = []() noexcept {
     GTEST_FLAG_SET(throw_on_failure, true);
     return true;
 }();

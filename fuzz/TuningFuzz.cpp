@@ -1,5 +1,7 @@
 #include "TuningFuzz.h"
 
+#include <algorithm>
+
 #include "FuzzImages.h"
 #include "Require.h"
 #include "ServiceRadio.h"
@@ -119,12 +121,8 @@ void TuningFuzz::Leave(TuningEngine::Ending ending) {
 }
 
 bool TuningFuzz::IsOfItem(int address) const {
-    for (const TuneCell& cell : TuneItemOf(dialog_.tuneItem).cells) {
-        if (cell.Exists() && cell.address == address) {
-            return true;
-        }
-    }
-    return false;
+    return std::ranges::any_of(TuneItemOf(dialog_.tuneItem).cells,
+                               [address](const TuneCell& cell) { return cell.Exists() && cell.address == address; });
 }
 
 bool TuningFuzz::IsCommand(const std::vector<std::uint8_t>& command) const {

@@ -2,6 +2,7 @@
 
 #include <QHeaderView>
 #include <QSignalSpy>
+#include <random>
 
 namespace zelvor {
 namespace {
@@ -143,10 +144,10 @@ TEST_F(ChannelFormTest, ASmallWindowScrollsItsContent) {
 
 TEST_F(ChannelFormTest, RandomImagesOpenAndAreWalkedWithoutChangingAByte) {
     const unsigned seed = 20261120;
-    std::srand(seed);
+    std::mt19937 random(seed);
     for (int round = 0; round < 200; ++round) {
         for (int a = 0; a < 1024; ++a) {
-            document.Image.Set(a, static_cast<std::uint8_t>(round == 0 ? 0x00 : round == 1 ? 0xFF : std::rand()));
+            document.Image.Set(a, static_cast<std::uint8_t>(round == 0 ? 0x00U : round == 1 ? 0xFFU : random()));
         }
         const DataImage before = document.Image;
         form = std::make_unique<ChannelForm>(document, windows, services.Get());

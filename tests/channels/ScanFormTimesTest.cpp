@@ -54,7 +54,8 @@ TEST_F(ScanFormTest, EveryByteOfALookBackTimeShowsItsSecondsAndLegalOnesGoBackTo
             Show();
             const bool empty = byte == 0 || byte == 255;
             char seconds[16];
-            std::snprintf(seconds, sizeof seconds, "%d.%02d", (byte * 5 + 45) / 100, (byte * 5 + 45) % 100);
+            static_cast<void>(
+                std::snprintf(seconds, sizeof seconds, "%d.%02d", (byte * 5 + 45) / 100, (byte * 5 + 45) % 100));
             EXPECT_EQ(Text(field.box), empty ? "" : seconds) << byte;
             EXPECT_EQ(Spin(field.upDown), empty ? 1 : std::min(byte, 91)) << byte;
             EXPECT_EQ(At(field.address), byte);

@@ -17,7 +17,7 @@ protected:
         std::string text;
         for (int i = 0; i < count; ++i) {
             char pair[3];
-            std::snprintf(pair, sizeof pair, "%02X", image.At(address + i));
+            static_cast<void>(std::snprintf(pair, sizeof pair, "%02X", image.At(address + i)));
             text += pair;
         }
         return text;
@@ -144,7 +144,7 @@ std::string RandomFrequency(std::mt19937& random) {
     const unsigned step = random() % 2 == 0 ? 500 : 625;
     const unsigned frequency = (10'000'000 / step + random() % (45'000'000 / step)) * step;
     char digits[9];
-    std::snprintf(digits, sizeof digits, "%08u", frequency);
+    static_cast<void>(std::snprintf(digits, sizeof digits, "%08u", frequency));
     const std::string text = digits;
     return text.substr(6, 2) + text.substr(4, 2) + text.substr(2, 2) + text.substr(0, 2);
 }
@@ -154,12 +154,13 @@ std::string RandomTone(std::mt19937& random) {
     switch (random() % 3) {
     case 0: {
         const unsigned tenths = 670 + random() % (2541 - 670 + 1);
-        std::snprintf(text, sizeof text, "%02X%02X", tenths % 256, tenths / 256);
+        static_cast<void>(std::snprintf(text, sizeof text, "%02X%02X", tenths % 256, tenths / 256));
         return text;
     }
     case 1:
-        std::snprintf(text, sizeof text, "%02X%02X", static_cast<unsigned>(random() % 256),
-                      0x28U | (random() % 2 != 0 ? 0x80U : 0U) | static_cast<unsigned>(random() % 2));
+        static_cast<void>(
+            std::snprintf(text, sizeof text, "%02X%02X", static_cast<unsigned>(random() % 256),
+                          0x28U | (random() % 2 != 0 ? 0x80U : 0U) | static_cast<unsigned>(random() % 2)));
         return text;
     default:
         return "FFFF";

@@ -59,7 +59,7 @@ exit $status
 )");
         FILE* const output = popen(("bash '" + (home / "all.sh").string() + "' 2>&1").c_str(), "r");
         std::string printed;
-        std::array<char, 4096> part;
+        std::array<char, 4096> part{};
         for (std::size_t size; (size = std::fread(part.data(), 1, part.size(), output)) > 0;) {
             printed.append(part.data(), size);
         }

@@ -30,7 +30,7 @@ TEST(WindowState, KnowsWhetherAnyOfItsTenChildWindowsIsOpen) {
         ChildWindow::Dtmf,      ChildWindow::Corvane,          ChildWindow::TestFrequency, ChildWindow::EmbeddedMessage,
         ChildWindow::Navigator, ChildWindow::ChannelEdit};
     WindowState windows;
-    ASSERT_EQ(windows.Open().size(), 10u);
+    ASSERT_EQ(windows.Open().size(), 10U);
     for (std::size_t i = 0; i < 10; ++i) {
         windows.SetOpen(all[i], true);
         EXPECT_TRUE(windows.Open()[i]);

@@ -32,9 +32,9 @@ DataImage BlankOf(int family, int market, std::uint8_t fill) {
 }
 
 TEST(BlankImage, HasTheGoldenBytesOfEveryVariantWhateverItHeldBefore) {
-    ASSERT_EQ(std::size(ExpectedImages), 19u);
+    ASSERT_EQ(std::size(ExpectedImages), 19U);
     for (const ExpectedImage& expected : ExpectedImages) {
-        ASSERT_EQ(expected.hex.size(), 2048u);
+        ASSERT_EQ(expected.hex.size(), 2048U);
         DataImage golden;
         testing::StoreHex(golden, 0, expected.hex);
         for (const std::uint8_t fill : {0xFF, 0x00, 0x5A}) {

@@ -83,7 +83,7 @@ TEST(ChannelDecoder, ReadsEveryChannelFromItsOwnRecord) {
     }
     ChannelCodec codec;
     const std::vector<ChannelTexts> all = codec.DecodeAll(image, Language::English);
-    ASSERT_EQ(all.size(), 16u);
+    ASSERT_EQ(all.size(), 16U);
     EXPECT_EQ(all[0].RxText, "140.10000");
     EXPECT_EQ(all[8].RxText, "140.90000");
     EXPECT_EQ(all[15].RxText, "141.60000");

@@ -40,7 +40,7 @@ TEST(DataFile, HasTheGoldenBytesOfASavedDocument) {
                                "0000541500005415" +
                                erased + erased + erased + erased + erased + erased + erased + erased + erased + erased +
                                "FFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFF";
-    ASSERT_EQ(golden.size(), 2080u);
+    ASSERT_EQ(golden.size(), 2080U);
     std::string hex;
     for (const std::uint8_t byte : EncodeDataFile(testing::SampleImage())) {
         constexpr std::string_view Digits = "0123456789ABCDEF";

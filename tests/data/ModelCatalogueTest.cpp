@@ -43,8 +43,8 @@ const ModelVariant* Find(int family, int market) {
 }
 
 TEST(ModelCatalogue, NamesAllSixteenVariantsInFourFamiliesOfText) {
-    ASSERT_EQ(std::size(ExpectedVariants), 16u);
-    EXPECT_EQ(ModelCatalogue().size(), 16u);
+    ASSERT_EQ(std::size(ExpectedVariants), 16U);
+    EXPECT_EQ(ModelCatalogue().size(), 16U);
     for (const ExpectedVariant& expected : ExpectedVariants) {
         const ModelVariant* variant = Find(expected.family, expected.market);
         ASSERT_NE(variant, nullptr) << expected.title;
@@ -115,7 +115,7 @@ TEST(ModelCatalogue, ListsTheRangesOfEachModelOfTheDialog) {
 TEST(ModelCatalogue, OffersNoRangeForMarketC7) {
     ASSERT_NE(Find(0xF8, 115), nullptr);
     EXPECT_EQ(Find(0xF8, 115)->rangeIndex, 5);
-    EXPECT_EQ(RangeEntries(5).size(), 5u);
+    EXPECT_EQ(RangeEntries(5).size(), 5U);
 }
 
 TEST(ModelCatalogue, NamesTheNavigatorsRootByFamilyAndBand) {

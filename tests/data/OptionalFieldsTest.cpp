@@ -23,9 +23,9 @@ Texts Words(const ListField& field, Language language) {
 TEST(OptionalFields, ChecksLieAtTheirAddressesUnderTheirLabels) {
     const struct {
         CheckField field;
-        int address;
-        const char* english;
-        const char* chinese;
+        int address = 0;
+        const char* english = "";
+        const char* chinese = "";
     } rows[] = {
         {ScramblerActivation, 0x12C, "Scrambler Activation", "扰频器激活"},
         {ScramblerBackup, 0x12D, "Scrambler Backup", "扰频器备份"},

@@ -33,10 +33,10 @@ TEST(ToneCodec, CodesKnownTonesBothWays) {
 }
 
 TEST(ToneCodec, ListsAll205TonesInOrder) {
-    ASSERT_EQ(std::size(ExpectedTones), 204u);
+    ASSERT_EQ(std::size(ExpectedTones), 204U);
     for (const Language language : {Language::English, Language::Chinese}) {
         const std::vector<std::string> list = BuildToneList(language);
-        ASSERT_EQ(list.size(), 205u);
+        ASSERT_EQ(list.size(), 205U);
         EXPECT_EQ(list[0], language == Language::English ? "None" : "无");
         for (std::size_t i = 1; i < list.size(); ++i) {
             EXPECT_EQ(list[i], ExpectedTones[i - 1]) << i;
@@ -109,7 +109,8 @@ TEST(ToneCodec, CodesEveryOctalCodeBothWays) {
     for (int code = 0; code < 512; ++code) {
         for (const bool inverted : {false, true}) {
             char text[8];
-            std::snprintf(text, sizeof text, "D%03o%c", static_cast<unsigned>(code), inverted ? 'I' : 'N');
+            static_cast<void>(
+                std::snprintf(text, sizeof text, "D%03o%c", static_cast<unsigned>(code), inverted ? 'I' : 'N'));
             const ToneWord word{static_cast<std::uint8_t>(code & 0xFF),
                                 static_cast<std::uint8_t>(0x28 | (code >> 8) | (inverted ? 0x80 : 0x00))};
             EXPECT_EQ(encoder.Encode(text, Language::English), word) << text;

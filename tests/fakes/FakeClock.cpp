@@ -90,7 +90,7 @@ void FakeClock::RunUntil(std::int64_t end) {
         const auto event = std::ranges::min_element(events_, {}, &Event::due);
         FakeTimer* timer = FirstDue();
         const bool eventIsDue = event != events_.end() && event->due <= end;
-        const bool timerIsDue = timer && timer->due_ <= end;
+        const bool timerIsDue = timer != nullptr && timer->due_ <= end;
         if (eventIsDue && (!timerIsDue || event->due <= timer->due_)) {
             RunEvent(event);
         } else if (timerIsDue) {

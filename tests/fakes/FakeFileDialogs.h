@@ -31,7 +31,7 @@ public:
 
 private:
     struct Expectation {
-        bool isSave;
+        bool isSave = false;
         FileDialogRequest request;
         std::optional<std::string> answer;
     };

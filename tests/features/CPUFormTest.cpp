@@ -115,7 +115,7 @@ TEST_F(CPUFormTest, EveryByteShowsAtItsAddressInTwoCapitalDigits) {
     Load();
     for (int address = 0; address < 1024; ++address) {
         char expected[8];
-        std::snprintf(expected, sizeof expected, "%02X", (address * 7 + address / 256) & 0xFF);
+        static_cast<void>(std::snprintf(expected, sizeof expected, "%02X", (address * 7 + address / 256) & 0xFF));
         EXPECT_EQ(Grid().Text(address / 16 + 1, address % 16 + 1), expected) << address;
     }
     EXPECT_EQ(Grid().Text(1, 3), "0E");
@@ -185,7 +185,7 @@ TEST_F(CPUFormTest, OkStoresEveryCell) {
             const int value = (address * 5 + address / 256) & 0xFF;
             expected.Set(address, static_cast<std::uint8_t>(value));
             char text[8];
-            std::snprintf(text, sizeof text, "%02X", value);
+            static_cast<void>(std::snprintf(text, sizeof text, "%02X", value));
             Grid().SetText(row, column, text);
         }
     }

@@ -339,7 +339,7 @@ TEST_F(ConnectFormTest, TellsAMissingPortFromASilentRadioWhileThePromptIsUp) {
 class PaintedTexts : public QObject {
 public:
     explicit PaintedTexts(QLabel& label) : label_(label) { label.installEventFilter(this); }
-    bool eventFilter(QObject*, QEvent* event) override {
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
         if (event->type() == QEvent::Paint && (texts.empty() || texts.back() != FromQString(label_.text()))) {
             texts.push_back(FromQString(label_.text()));
         }

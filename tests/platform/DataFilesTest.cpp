@@ -37,7 +37,7 @@ TEST(DataFile, BringsADocumentBackUnchanged) {
 TEST(DataFile, IsRefusedForAnyLengthBut1040) {
     const TestDirectory directory;
     const fs::path path = directory / "radio.dat";
-    for (const std::size_t size : {0u, 1u, 5u, 6u, 16u, 1024u, 1039u, 1041u, 2080u, 100000u}) {
+    for (const std::size_t size : {0U, 1U, 5U, 6U, 16U, 1024U, 1039U, 1041U, 2080U, 100000U}) {
         PutFile(path, FileOf("RQ6152", size, '\x11'));
         EXPECT_EQ(ReadDataFile(path).error, DataFileError::WrongType) << size;
     }
@@ -103,10 +103,10 @@ TEST(DataFile, CannotBeReadWhereThereIsNoFile) {
 TEST(DataFile, ReplacesAShorterOrEqualFileByItself) {
     const TestDirectory directory;
     const fs::path path = directory / "radio.dat";
-    for (const std::size_t size : {0u, 100u, 1039u, 1040u}) {
+    for (const std::size_t size : {0U, 100U, 1039U, 1040U}) {
         PutFile(path, std::string(size, 'x'));
         ASSERT_TRUE(WriteDataFile(path, SampleImage())) << size;
-        EXPECT_EQ(fs::file_size(path), 1040u);
+        EXPECT_EQ(fs::file_size(path), 1040U);
         EXPECT_EQ(ReadDataFile(path).image, SampleImage());
         EXPECT_EQ(EntriesOf(directory.Path()), (std::vector<std::string>{"radio.dat"}));
     }
@@ -115,7 +115,7 @@ TEST(DataFile, ReplacesAShorterOrEqualFileByItself) {
 TEST(DataFile, KeepsTheTailOfALongerFile) {
     const TestDirectory directory;
     const fs::path path = directory / "radio.dat";
-    for (const std::size_t tail : {1u, 1040u, 65536u, 200001u}) {
+    for (const std::size_t tail : {1U, 1040U, 65536U, 200001U}) {
         std::string content(1040 + tail, '\x00');
         for (std::size_t i = 0; i < content.size(); ++i) {
             content[i] = static_cast<char>(i * 31 + i / 251);

@@ -65,7 +65,7 @@ TEST(FullDisk, LeavesNoNewFile) {
 
 TEST(FullDisk, LeavesALongerFileWholeWhereItsTailDoesNotFit) {
     // A short tail is held back until the file is flushed, a long one is not.
-    for (const std::size_t size : {1140u, 5000u, 300000u}) {
+    for (const std::size_t size : {1140U, 5000U, 300000U}) {
         const TestDirectory directory;
         const TestDirectory elsewhere;
         const std::string content(size, 'o');
@@ -116,7 +116,7 @@ TEST(AccessRights, RefuseANewFileInADirectoryThatMayNotBeChanged) {
 }
 
 TEST(AccessRights, AllowAWriteToAWritableFileInADirectoryThatMayNotBeChanged) {
-    for (const std::size_t size : {12u, 1040u, 1100u}) {
+    for (const std::size_t size : {12U, 1040U, 1100U}) {
         const TestDirectory directory;
         PutFile(directory / "radio.dat", std::string(size, 'o'));
         fs::permissions(directory / "radio.dat", fs::perms(0666));
@@ -189,13 +189,13 @@ TEST(AccessRights, HideAFileFromTheReader) {
 }
 
 TEST(AccessRights, OfAFileStayWhenItIsReplaced) {
-    for (const unsigned rights : {0600u, 0640u, 0664u, 0777u, 0200u}) {
+    for (const unsigned rights : {0600U, 0640U, 0664U, 0777U, 0200U}) {
         const TestDirectory directory;
         PutFile(directory / "radio.dat", "old");
         fs::permissions(directory / "radio.dat", fs::perms(rights));
         ASSERT_TRUE(WriteDataFile(directory / "radio.dat", SomeImage())) << rights;
         EXPECT_EQ(fs::status(directory / "radio.dat").permissions(), fs::perms(rights));
-        EXPECT_EQ(fs::file_size(directory / "radio.dat"), 1040u);
+        EXPECT_EQ(fs::file_size(directory / "radio.dat"), 1040U);
     }
 }
 

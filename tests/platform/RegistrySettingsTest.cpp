@@ -72,7 +72,7 @@ TEST_F(RegistrySettingsTest, AreStringsInTheProgramsKey) {
     const Value model = ValueOf(L"SoftWare\\Zelvor\\BackUp", L"LastModel");
     EXPECT_EQ(model.kind, DWORD(REG_SZ));
     EXPECT_EQ(model.text, WithEnd(L"50:34:36:31:38:01:F8:FF"));
-    EXPECT_EQ(model.text.size(), 24u);
+    EXPECT_EQ(model.text.size(), 24U);
     const Value language = ValueOf(L"SOFTWARE\\ZELVOR\\BACKUP", L"LANGUAGE");
     EXPECT_EQ(language.kind, DWORD(REG_SZ));
     EXPECT_EQ(language.text, WithEnd(L"1"));
@@ -84,7 +84,7 @@ TEST_F(RegistrySettingsTest, AreNotThereBeforeTheFirstRunAndMadeWithoutValues) {
     EXPECT_FALSE(HasKey(L"SoftWare\\Zelvor"));
     store_.Create();
     EXPECT_TRUE(HasKey(L"SoftWare\\Zelvor\\BackUp"));
-    EXPECT_EQ(ValueOf(L"SoftWare\\Zelvor\\BackUp", L"LastModel").kind, 0u);
+    EXPECT_EQ(ValueOf(L"SoftWare\\Zelvor\\BackUp", L"LastModel").kind, 0U);
     EXPECT_TRUE(store_.Exists());
 }
 

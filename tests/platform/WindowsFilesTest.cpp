@@ -113,7 +113,7 @@ TEST_F(WindowsFilesTest, AFileThatIsHeldForLongIsNotReplaced) {
 TEST_F(WindowsFilesTest, AHiddenFileStaysHidden) {
     ASSERT_TRUE(SetFileAttributesW(WidePath().c_str(), FILE_ATTRIBUTE_HIDDEN));
     ASSERT_TRUE(store_.Write(Path(), Bytes{'x'}, FileTail::Drop));
-    EXPECT_NE(GetFileAttributesW(WidePath().c_str()) & FILE_ATTRIBUTE_HIDDEN, 0u);
+    EXPECT_NE(GetFileAttributesW(WidePath().c_str()) & FILE_ATTRIBUTE_HIDDEN, 0U);
     EXPECT_EQ(Content(), "x");
 }
 
@@ -178,7 +178,7 @@ TEST_F(WindowsFilesTest, ALinkStaysAndLeadsToTheNewContent) {
     }
     ASSERT_TRUE(store_.Write(Path("link.dat"), Bytes{'x', 'y'}, FileTail::Drop));
     EXPECT_EQ(Content(), "xy");
-    EXPECT_NE(GetFileAttributesW(WidePath("link.dat").c_str()) & FILE_ATTRIBUTE_REPARSE_POINT, 0u);
+    EXPECT_NE(GetFileAttributesW(WidePath("link.dat").c_str()) & FILE_ATTRIBUTE_REPARSE_POINT, 0U);
 }
 
 TEST_F(WindowsFilesTest, DevicesAreNeitherReadNorWritten) {

@@ -23,9 +23,9 @@ constexpr int ComplaintExit = 98;
 constexpr int CheckPause = 400; // milliseconds
 
 struct Stroke {
-    Qt::Key key;
+    Qt::Key key = Qt::Key_unknown;
     Qt::KeyboardModifiers modifiers;
-    const char* name;
+    const char* name = "";
 };
 constexpr Qt::KeyboardModifiers None = Qt::NoModifier;
 constexpr Qt::KeyboardModifiers Ctrl = Qt::ControlModifier;

@@ -24,7 +24,7 @@ std::array<char, HandlerStack> handlerStack{};
 /// Only what a signal handler may call.
 void RunDebugger(const char* file) {
     std::array<char, 16> process{};
-    std::snprintf(process.data(), process.size(), "%d", static_cast<int>(::getpid()));
+    static_cast<void>(std::snprintf(process.data(), process.size(), "%d", static_cast<int>(::getpid())));
     ::prctl(PR_SET_PTRACER, PR_SET_PTRACER_ANY);
     const pid_t child = ::fork();
     if (child == 0) {
@@ -43,7 +43,7 @@ void RunDebugger(const char* file) {
 
 void OnCrash(int signal) {
     RunDebugger(crashFile.data());
-    ::raise(signal); // the handler is the usual one again
+    static_cast<void>(::raise(signal)); // the handler is the usual one again
 }
 
 } // namespace

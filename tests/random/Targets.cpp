@@ -20,6 +20,7 @@
 #include <QTabBar>
 #include <QTextEdit>
 #include <QWidget>
+#include <algorithm>
 
 #include "tour/WindowOnTop.h"
 
@@ -203,12 +204,9 @@ std::string Complaint() {
 }
 
 bool IsNobodyThere() {
-    for (const QWidget* window : QApplication::topLevelWidgets()) {
-        if (window->isVisible() && window->isEnabled() && window->objectName() != "HelpWindow") {
-            return false;
-        }
-    }
-    return true;
+    return std::ranges::none_of(QApplication::topLevelWidgets(), [](const QWidget* window) {
+        return window->isVisible() && window->isEnabled() && window->objectName() != "HelpWindow";
+    });
 }
 
 } // namespace zelvor::random

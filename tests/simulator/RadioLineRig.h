@@ -37,7 +37,7 @@ public:
     int unplugged = 0;
 
     void Deliver(std::uint8_t byte) override { delivered.push_back({now, byte}); }
-    void Unplugged(LineTime) override { ++unplugged; }
+    void Unplugged(LineTime /*time*/) override { ++unplugged; }
     void CommandTaken(LineTime time, std::span<const std::uint8_t> bytes, std::string_view description) override {
         Add(commands, bytes);
         commandTimes.push_back(time);
@@ -45,9 +45,9 @@ public:
             descriptions.emplace_back(description);
         }
     }
-    void BytesSkipped(LineTime, std::span<const std::uint8_t> bytes) override { Add(skipped, bytes); }
-    void ReplySent(LineTime, std::span<const std::uint8_t> bytes) override { Add(replies, bytes); }
-    void FaultFired(LineTime, const Fault& fault) override { fired.push_back(fault); }
+    void BytesSkipped(LineTime /*time*/, std::span<const std::uint8_t> bytes) override { Add(skipped, bytes); }
+    void ReplySent(LineTime /*time*/, std::span<const std::uint8_t> bytes) override { Add(replies, bytes); }
+    void FaultFired(LineTime /*time*/, const Fault& fault) override { fired.push_back(fault); }
     void SessionStarted() override { ++started; }
     void SessionEnded() override { ++ended; }
 

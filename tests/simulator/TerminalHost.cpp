@@ -36,7 +36,7 @@ void TerminalHost::Send(const Bytes& bytes) const {
 
 TerminalHost::Bytes TerminalHost::Receive(std::size_t count, int patienceMs) const {
     Bytes received;
-    std::array<std::uint8_t, 256> buffer;
+    std::array<std::uint8_t, 256> buffer{};
     pollfd port{port_, POLLIN, 0};
     while (received.size() < count && ::poll(&port, 1, patienceMs) > 0) {
         const ssize_t read = ::read(port_, buffer.data(), std::min(buffer.size(), count - received.size()));

@@ -16,9 +16,9 @@ namespace zelvor {
 
 /// A window's view of its contents, and the bars that move them.
 struct ScrolledView {
-    QWidget* contents;
-    QScrollBar* horizontal;
-    QScrollBar* vertical;
+    QWidget* contents = nullptr;
+    QScrollBar* horizontal = nullptr;
+    QScrollBar* vertical = nullptr;
     QSize size; // of the view
 };
 

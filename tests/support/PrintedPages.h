@@ -46,12 +46,12 @@ inline std::vector<std::string> GoldenCells(const std::string& name) {
 }
 
 /// A line for each text of the first that the second does not have.
-inline std::string Missing(std::vector<std::string> wanted, std::vector<std::string> present) {
-    std::ranges::sort(wanted);
-    std::ranges::sort(present);
+inline std::string Missing(std::vector<std::string> texts, std::vector<std::string> others) {
+    std::ranges::sort(texts);
+    std::ranges::sort(others);
     std::string lines;
     std::vector<std::string> missing;
-    std::ranges::set_difference(wanted, present, std::back_inserter(missing));
+    std::ranges::set_difference(texts, others, std::back_inserter(missing));
     for (const std::string& line : missing) {
         lines += line + '\n';
     }

@@ -15,7 +15,12 @@ struct TestModeRules {
     /// A programmed document. Keys and unkeys, chooses channel 2, signalling 3, narrow and wide, keys and changes to
     /// channel 3, narrow while keyed, tunes item 1 while keyed, keys, and closes.
     [[nodiscard]] Bytes Course() const {
-        constexpr std::uint8_t channel = 0, signalling = 1, width = 2, ptt = 3, tune = 4, wait = 6;
+        constexpr std::uint8_t channel = 0;
+        constexpr std::uint8_t signalling = 1;
+        constexpr std::uint8_t width = 2;
+        constexpr std::uint8_t ptt = 3;
+        constexpr std::uint8_t tune = 4;
+        constexpr std::uint8_t wait = 6;
         const std::vector<Bytes> acts{{},    {ptt},        {ptt}, {channel, 1}, {signalling, 2}, {width, 0}, {width, 1},
                                       {ptt}, {channel, 2}, {ptt}, {width, 0},   {ptt},           {tune, 0},  {ptt}};
         Bytes course{1, 0};

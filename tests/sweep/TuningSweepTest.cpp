@@ -20,7 +20,11 @@ struct TuningRules {
     /// A programmed image, with the test frequency at 144 MHz. Changes the value of every page, keys and goes to
     /// another page, keys and ends it; or measures for a while and ends it.
     [[nodiscard]] Bytes Course() const {
-        constexpr std::uint8_t page = 0, value = 1, ptt = 2, measure = 3, wait = 5;
+        constexpr std::uint8_t page = 0;
+        constexpr std::uint8_t value = 1;
+        constexpr std::uint8_t ptt = 2;
+        constexpr std::uint8_t measure = 3;
+        constexpr std::uint8_t wait = 5;
         const TuningDialog dialog = TuningDialogOf(item, isNarrow);
         std::vector<Bytes> acts;
         if (dialog.kind == TuningKind::Measured) {

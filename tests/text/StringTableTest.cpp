@@ -19,7 +19,7 @@ constexpr ExpectedText ExpectedTexts[] = {
 };
 
 TEST(StringTable, HoldsEveryEntryInBothLanguages) {
-    ASSERT_EQ(std::size(ExpectedTexts), 267u);
+    ASSERT_EQ(std::size(ExpectedTexts), 267U);
     for (const ExpectedText& expected : ExpectedTexts) {
         EXPECT_EQ(TableText(Language::English, static_cast<Text>(expected.number)), expected.english)
             << "entry " << expected.number;

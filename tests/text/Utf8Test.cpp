@@ -34,24 +34,24 @@ TEST(Utf8, PutsAReplacementInPlaceOfWhatIsNoText) {
 }
 
 TEST(WholeCharacters, AreAllOfATextThatEndsWithOne) {
-    EXPECT_EQ(WholeCharacters(""), 0u);
-    EXPECT_EQ(WholeCharacters("a"), 1u);
-    EXPECT_EQ(WholeCharacters("é"), 2u);
-    EXPECT_EQ(WholeCharacters("信道"), 6u);
-    EXPECT_EQ(WholeCharacters("a\xF0\x9F\x98\x80"), 5u);
+    EXPECT_EQ(WholeCharacters(""), 0U);
+    EXPECT_EQ(WholeCharacters("a"), 1U);
+    EXPECT_EQ(WholeCharacters("é"), 2U);
+    EXPECT_EQ(WholeCharacters("信道"), 6U);
+    EXPECT_EQ(WholeCharacters("a\xF0\x9F\x98\x80"), 5U);
 }
 
 TEST(WholeCharacters, LeaveOutOneThatIsNotComplete) {
-    EXPECT_EQ(WholeCharacters("\xC3"), 0u);
-    EXPECT_EQ(WholeCharacters("a\xE4"), 1u);
-    EXPECT_EQ(WholeCharacters("a\xE4\xBF"), 1u);
-    EXPECT_EQ(WholeCharacters("信\xF0\x9F\x98"), 3u);
+    EXPECT_EQ(WholeCharacters("\xC3"), 0U);
+    EXPECT_EQ(WholeCharacters("a\xE4"), 1U);
+    EXPECT_EQ(WholeCharacters("a\xE4\xBF"), 1U);
+    EXPECT_EQ(WholeCharacters("信\xF0\x9F\x98"), 3U);
 }
 
 TEST(WholeCharacters, CountWhatNothingCanCompleteAsItIs) {
-    EXPECT_EQ(WholeCharacters("a\xFF"), 2u);
-    EXPECT_EQ(WholeCharacters("\x80\x80\x80\x80"), 4u);
-    EXPECT_EQ(WholeCharacters("a\x80"), 2u);
+    EXPECT_EQ(WholeCharacters("a\xFF"), 2U);
+    EXPECT_EQ(WholeCharacters("\x80\x80\x80\x80"), 4U);
+    EXPECT_EQ(WholeCharacters("a\x80"), 2U);
 }
 
 } // namespace
