@@ -94,7 +94,7 @@ struct stat StatusOf(const fs::path& path) {
 /// Leaves in the folder what a process leaves that is killed just before it would give the new file its name.
 void LeaveAnUnfinishedSave(const fs::path& path) {
     const int status = EndOf(Fork([&] {
-        beforeTheRenaming = [] { raise(SIGKILL); };
+        beforeTheRenaming = [] { static_cast<void>(raise(SIGKILL)); };
         return Save(path) ? Written : Refused;
     }));
     EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL) << "the fault did not fire";
@@ -177,7 +177,7 @@ TEST_F(Belongings, AreTheOtherNamesAndTheTailOfALongerFile) {
 TEST_F(Belongings, OfManyNamesStayWholeOnAFullDisk) {
     fs::create_hard_link(Path(), directory / "same.dat");
     const pid_t child = Fork([&] {
-        std::signal(SIGXFSZ, SIG_IGN);
+        static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
         const rlimit limit{600, 600};
         setrlimit(RLIMIT_FSIZE, &limit);
         return Save(Path()) ? Written : Refused;

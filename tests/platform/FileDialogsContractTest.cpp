@@ -23,10 +23,10 @@ struct FakeUser {
 
 struct RealUser {
     QtFileDialogs dialogs;
-    void WillOpen(const FileDialogRequest&, const std::string& path) { Choose(path); }
-    void WillSave(const FileDialogRequest&, const std::string& path) { Choose(path); }
-    void WillCancelOpen(const FileDialogRequest&) { Cancel(); }
-    void WillCancelSave(const FileDialogRequest&) { Cancel(); }
+    void WillOpen(const FileDialogRequest& /*request*/, const std::string& path) { Choose(path); }
+    void WillSave(const FileDialogRequest& /*request*/, const std::string& path) { Choose(path); }
+    void WillCancelOpen(const FileDialogRequest& /*request*/) { Cancel(); }
+    void WillCancelSave(const FileDialogRequest& /*request*/) { Cancel(); }
 
 private:
     static void Choose(const std::string& path) {

@@ -33,7 +33,7 @@ DataImage SomeImage() {
 
 /// Writes with no room for more than so many bytes a file.
 int WriteWithRoomFor(rlim_t bytes, const fs::path& path, const fs::path& probe) {
-    std::signal(SIGXFSZ, SIG_IGN);
+    static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
     LimitFileSize(bytes);
     std::ofstream file(probe, std::ios::binary);
     file << std::string(bytes + 1, 'x') << std::flush;
@@ -93,7 +93,7 @@ TEST(Crash, InTheMiddleOfAWriteLeavesTheOldFileWhole) {
     const int status = EndOf(Fork([&] {
         const rlimit noCore{0, 0};
         setrlimit(RLIMIT_CORE, &noCore);
-        std::signal(SIGXFSZ, SIG_DFL); // the write beyond the limit ends the process
+        static_cast<void>(std::signal(SIGXFSZ, SIG_DFL)); // the write beyond the limit ends the process
         LimitFileSize(100);
         return WriteDataFile(directory / "radio.dat", SomeImage()) ? Written : Refused;
     }));

@@ -26,7 +26,7 @@ namespace fs = std::filesystem;
 
 int Kills() {
     const char* told = std::getenv("ZELVOR_KILLS");
-    return told != nullptr ? std::atoi(told) : 20;
+    return told != nullptr ? static_cast<int>(std::strtol(told, nullptr, 10)) : 20;
 }
 
 DataImage ImageOf(std::uint8_t byte) {

@@ -42,11 +42,11 @@ struct FakeUser {
 
 struct RealUser {
     QtMessageBoxes boxes;
-    void WillPress(const Message&, const Case& row) {
+    void WillPress(const Message& /*message*/, const Case& row) {
         WithNextDialog<QMessageBox>(
             [button = row.button](QMessageBox& box) { QTest::mouseClick(box.button(button), Qt::LeftButton); });
     }
-    void WillDo(const Message&, std::function<void()> whileUp) {
+    void WillDo(const Message& /*message*/, std::function<void()> whileUp) {
         WithNextDialog<QMessageBox>([whileUp](QMessageBox& box) {
             whileUp();
             QTest::mouseClick(box.button(QMessageBox::Ok), Qt::LeftButton);

@@ -219,7 +219,7 @@ TEST(QtPageDevice, LeavesTheFormerFileWhereTheDiskIsFull) {
     printer.device.DrawText(100, 100, "Report");
     printer.device.EndDocument();
     EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &before), 0);
-    std::signal(SIGXFSZ, handler);
+    static_cast<void>(std::signal(SIGXFSZ, handler));
     EXPECT_EQ(ContentOf(printer.file), "the report of another radio");
 }
 

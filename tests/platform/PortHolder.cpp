@@ -10,7 +10,7 @@ int main(int argc, char** argv) {
         return 1;
     }
     std::puts("open");
-    std::fflush(stdout);
+    static_cast<void>(std::fflush(stdout));
     while (std::getchar() != EOF) {
     }
     return 0;

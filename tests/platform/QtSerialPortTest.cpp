@@ -141,7 +141,7 @@ public:
     std::unique_ptr<SerialPort> Make(std::string_view objectName) override {
         return std::make_unique<QtSerialPort>(*this, objectName);
     }
-    PortDescription Describe(int) override { return {path_, {}}; }
+    PortDescription Describe(int /*number*/) override { return {path_, {}}; }
     void NumberAnew() override {}
 
 private:
