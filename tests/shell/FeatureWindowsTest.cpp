@@ -7,15 +7,15 @@ namespace zelvor {
 namespace {
 
 struct FeatureWindow {
-    const char* entry;
-    const char* name;
-    int listEntry;
-    const char* listed;
-    const char* listedInChinese;
-    const char* title;
-    const char* titleInChinese;
+    const char* entry = "";
+    const char* name = "";
+    int listEntry = 0;
+    const char* listed = "";
+    const char* listedInChinese = "";
+    const char* title = "";
+    const char* titleInChinese = "";
     QSize size; // logical pixels
-    const char* page;
+    const char* page = "";
 };
 
 const FeatureWindow FeatureWindows[]{

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QMainWindow>
 #include <QWindow>
+#include <algorithm>
 
 #include "SystemTest.h"
 #include "random/DisplayHands.h"
@@ -34,12 +35,9 @@ bool IsHelpActive() {
 }
 
 bool IsCovered(QPoint onScreen) {
-    for (const QWidget* window : QApplication::topLevelWidgets()) {
-        if (window->isVisible() && window->objectName() != "MDIForm1" && window->frameGeometry().contains(onScreen)) {
-            return true;
-        }
-    }
-    return false;
+    return std::ranges::any_of(QApplication::topLevelWidgets(), [onScreen](const QWidget* window) {
+        return window->isVisible() && window->objectName() != "MDIForm1" && window->frameGeometry().contains(onScreen);
+    });
 }
 
 /// A place of the main window that no other window of the program covers.
