@@ -226,8 +226,10 @@ void MeasureServiceWindows(QMainWindow& window, const ProgramState& state, Servi
     SilentPorts ports;
     Services services{ports,     real.settings, real.messages, real.files,  real.clock,
                       real.help, real.pages,    real.store,    real.backups};
-    const auto& [document, windows, link, service] = state;
-    const Language language = windows.LanguageFlag;
+    Document& document = state.document;
+    LinkState& link = state.link;
+    ServiceState& service = state.service;
+    const Language language = state.windows.LanguageFlag;
     service.TestFrequencyText.fill({"145.00000", "145.00000"});
     const Make information = [&] { return new DJJInfoForm(document, service, language, services, &window); };
     MeasureMade("DJJInfoForm", information, opened, keys);

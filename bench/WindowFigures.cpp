@@ -91,10 +91,10 @@ void AddWindowFigures(Report& report) {
     }
     const std::string scale = ", at " + Formatted(100 * qApp->devicePixelRatio(), 0) + " %, in ms";
     for (const auto& [entry, times] : opened) {
-        Add("Open " + entry + scale, times, OpensWithin, report);
+        Add(std::string("Open ").append(entry).append(scale), times, OpensWithin, report);
     }
     for (const auto& [form, times] : keys) {
-        Add("Keys in " + form + scale, times, KeyWithin, report);
+        Add(std::string("Keys in ").append(form).append(scale), times, KeyWithin, report);
     }
 }
 

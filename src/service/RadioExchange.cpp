@@ -64,7 +64,11 @@ void RadioExchange::OnTimeout() {
 void RadioExchange::Prompt() {
     ctrTimer_->SetEnabled(false);
     deaf_ = true;
+    const std::weak_ptr<void> life = life_;
     const bool again = port_.AsksToRetry(messages_, language_);
+    if (life.expired()) { // its window went while the box was up
+        return;
+    }
     deaf_ = false;
     awaiting_ = false;
     link_.SentState = NothingSent;

@@ -68,6 +68,7 @@ private:
     static void Run(Timer& timer, int milliseconds);
     void Prompt();
 
+    const std::shared_ptr<void> life_ = std::make_shared<int>(); // tells of this object's end
     std::unique_ptr<Timer> ctrTimer_;
     std::unique_ptr<Timer> timeoutTimer_;
     const int timeout_;

@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QMessageBox>
+#include <algorithm>
+#include <array>
 #include <iostream>
 #include <utility>
 
@@ -50,12 +52,9 @@ bool IsFirstLanguage() {
 }
 
 bool IsCompleted(const QString& text) {
-    for (const tour::Words* words : {&tour::English(), &tour::Chinese()}) {
-        if (text == words->readCompleted.text || text == words->writeCompleted.text) {
-            return true;
-        }
-    }
-    return false;
+    return std::ranges::any_of(std::array{&tour::English(), &tour::Chinese()}, [&](const tour::Words* words) {
+        return text == words->readCompleted.text || text == words->writeCompleted.text;
+    });
 }
 
 } // namespace

@@ -41,7 +41,7 @@ constexpr int CrashPatience = 120000; // for the debugger
 constexpr std::array ToolkitRemarks{"This plugin does not support", "QDialog::exec: Recursive call detected"};
 
 /// Of a line with the resident memory in KiB: after the first 1000 acts, and at the end.
-constexpr const char* MemoryLine = "memory ";
+constexpr QByteArrayView MemoryLine = "memory ";
 
 bool IsUsual(const QByteArray& line) {
     const bool isAct = !line.isEmpty() && line.front() >= '0' && line.front() <= '9';
@@ -52,7 +52,7 @@ bool IsUsual(const QByteArray& line) {
 void TakeMemory(Ending& ending) {
     for (const QByteArray& line : ending.log.split('\n')) {
         if (line.startsWith(MemoryLine)) {
-            const int kibibytes = line.mid(qstrlen(MemoryLine)).toInt();
+            const int kibibytes = line.mid(MemoryLine.size()).toInt();
             ending.earlyMemory = ending.lastMemory; // of the line before, if there was one
             ending.lastMemory = kibibytes;
         }

@@ -14,10 +14,10 @@ namespace zelvor::random {
 
 /// Which platform, hands, language and scale; a seed has always the same.
 struct Kind {
-    const char* platform;
-    const char* hands;
-    const char* language; // as the settings have it
-    const char* name;
+    const char* platform = "";
+    const char* hands = "";
+    const char* language = ""; // as the settings have it
+    const char* name = "";
     int scale = 1; // dots of the screen to a pixel of the program
 };
 [[nodiscard]] Kind KindOf(std::uint32_t seed);

@@ -224,7 +224,6 @@ TEST_F(TestEngineTest, AWrongAnswerToTheClosingSignallingPromptsAndRetryEndsIt) 
     EXPECT_EQ(rig.sent, (Commands{"11 01", "11 01", "45"}));
 }
 
-// A list that is open stays open over a box that comes up, and can still be chosen from.
 TEST_F(TestEngineTest, ACommandThatIsAskedForWhileThePromptIsUpWaitsForTheAnswer) {
     Open();
     rig.replies["46"] = "15";

@@ -352,6 +352,19 @@ TEST_P(TuningFaults, CancelClosesTheDialogAndSendsNothingMore) {
 
 INSTANTIATE_TEST_SUITE_P(EveryReply, TuningFaults, ::testing::ValuesIn(AllFaults()));
 
+TEST_F(TuningEngineTest, ThePromptMayTakeTheDialogAwayThatItCameFrom) {
+    OpenSixPages();
+    rig.Spoil(1, Fault::Drop);
+    rig.messages.Expect(ConnectionPrompt(), [this] {
+        engine.reset();
+        return MessageAnswer::Cancel;
+    });
+    engine->SliderMoved();
+    rig.clock.Advance(1000);
+    EXPECT_EQ(dialog.events, std::vector<std::string>{});
+    EXPECT_EQ(rig.messages.Pending(), 0);
+}
+
 TEST_F(TuningEngineTest, ASilentRadioPromptsAHundredMillisecondsBehindTheCommand) {
     OpenOneValue();
     rig.replies["1D 20 0A"] = "";
