@@ -106,6 +106,7 @@ void SpoiltRadio::Deliver(int milliseconds, std::vector<std::uint8_t> bytes) {
 MessageAnswer FuzzedUser::Show(const Message& message) {
     Require(!isUp_, "one box is up at a time");
     isUp_ = true;
+    const std::int64_t begin = clock_.TickCount();
     const bool knows = !input_.IsEmpty();
     const std::uint8_t told = input_.TakeByte();
     clock_.Advance(told);
@@ -116,6 +117,7 @@ MessageAnswer FuzzedUser::Show(const Message& message) {
         WhileUp();
     }
     isUp_ = false;
+    timeInBoxes_ += clock_.TickCount() - begin;
     const bool agrees = knows && (told & 1) != 0;
     const bool isAsked = message.buttons != MessageButtons::Ok;
     hasGivenUp_ = hasGivenUp_ || (isAsked && !agrees);

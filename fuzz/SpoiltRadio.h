@@ -73,6 +73,8 @@ public:
     std::function<void()> WhileUp;
 
     [[nodiscard]] int Retries() const { return retries_; }
+    /// Milliseconds in which a box was up.
+    [[nodiscard]] std::int64_t TimeInBoxes() const { return timeInBoxes_; }
     /// Whether he has answered Cancel to anything.
     [[nodiscard]] bool HasGivenUp() const { return hasGivenUp_; }
     /// Whether he has wanted a radio of another model to be written.
@@ -83,6 +85,7 @@ private:
     FakeClock& clock_;
     SpoiltRadio& radio_;
     int retries_ = 0;
+    std::int64_t timeInBoxes_ = 0;
     bool hasGivenUp_ = false;
     bool hasAgreed_ = false;
     bool isUp_ = false;

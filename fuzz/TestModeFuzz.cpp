@@ -87,13 +87,13 @@ void TestModeFuzz::Act() {
 }
 
 void TestModeFuzz::Leave() {
-    const std::int64_t begin = clock_.TickCount();
+    const auto timeOfTheRadio = [this] { return clock_.TickCount() - user_.TimeInBoxes(); };
+    const std::int64_t begin = timeOfTheRadio();
     const int retries = user_.Retries();
     isLeaving_ = true;
     engine_.Close();
     Require(RunsToItsEnd(clock_, LongestClosing * 300, [this] { return closed_ > 0; }), "test mode can be left");
-    Require(clock_.TickCount() - begin <= LongestClosing * (1 + user_.Retries() - retries),
-            "test mode is left in time");
+    Require(timeOfTheRadio() - begin <= LongestClosing * (1 + user_.Retries() - retries), "test mode is left in time");
     Require(!port_->IsOpen(), "the port is closed behind test mode");
     Require(!IsLeftKeyed(radio_.Commands()) || service_.TestAborted, "no transmitter is left keyed");
     const std::size_t sent = radio_.Commands().size();

@@ -106,11 +106,12 @@ void TuningFuzz::ChangeValue(int value) {
 }
 
 void TuningFuzz::Leave(TuningEngine::Ending ending) {
-    const std::int64_t begin = clock_.TickCount();
+    const auto timeOfTheRadio = [this] { return clock_.TickCount() - user_.TimeInBoxes(); };
+    const std::int64_t begin = timeOfTheRadio();
     const int retries = user_.Retries();
     engine_.Close(ending);
     Require(RunsToItsEnd(clock_, LongestClosing * 300, [this] { return closed_ > 0; }), "a dialog can be left");
-    Require(clock_.TickCount() - begin <= LongestClosing * (1 + user_.Retries() - retries), "a dialog is left in time");
+    Require(timeOfTheRadio() - begin <= LongestClosing * (1 + user_.Retries() - retries), "a dialog is left in time");
     Require(!port_->IsOpen(), "the port is closed behind a tuning dialog");
     Require(!IsLeftKeyed(radio_.Commands()) || service_.TestAborted, "no transmitter is left keyed");
     const std::size_t sent = radio_.Commands().size();
