@@ -21,7 +21,6 @@ namespace zelvor::random {
 
 namespace {
 
-constexpr int ActsBeforeMemory = 1000;
 constexpr std::chrono::seconds BehindLateReplies(3);
 
 QByteArray SampleMemory() {

@@ -29,8 +29,6 @@ const EntryField::Condition VoxIsOn{0x139, false, {0}};
 const EntryField::Condition IsDtmf{0x133, true, {0}};
 const EntryField::Condition ScramblerIsOff{0x12C, true, {0}};
 const EntryField::Condition HasStunCode{0x1F0, false, {0xFF}};
-const EntryField::Condition HasPriority{0x160, true, {1, 2}};
-const EntryField::Condition PriorityIsFixed{0x160, true, {1}};
 
 /// How a number is typed and stored.
 struct Way {
@@ -57,7 +55,7 @@ EntryField Number(EntryWindow window, const char* control, int address, int from
 
 /// In steps of 0.05 from 0.50.
 EntryField LookBackTime(const char* control, int address) {
-    EntryField field = Number(Scan, control, address, 1, 91, {.factor = 5, .offset = 45}, {HasPriority});
+    EntryField field = Number(Scan, control, address, 1, 91, {.factor = 5, .offset = 45});
     field.form = Form::Hundredths;
     return field;
 }
@@ -142,10 +140,10 @@ std::vector<EntryField> All() {
         List(Keys, "cboKey(0)", 0x11D, functions),
         List(Keys, "cboKey(1)", 0x11E, functions),
 
-        Number(Scan, "txtPriorityCH", 0x161, 1, 16, {}, {PriorityIsFixed}),
+        Number(Scan, "txtPriorityCH", 0x161, 1, 16),
         LookBackTime("txtLookBackTimeA", 0x162),
         LookBackTime("txtLookBackTimeB", 0x163),
-        List(Scan, "cboRevertCH", 0x164, {0, 1, 2, 3}, {PriorityIsFixed}),
+        List(Scan, "cboRevertCH", 0x164, {0, 1, 2, 3}),
         Number(Scan, "txtDropoutDelayTime", 0x165, 0, 300, {.size = 2}),
         Number(Scan, "txtTXDwellTime", 0x167, 0, 300, {.size = 2}),
 

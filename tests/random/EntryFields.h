@@ -53,7 +53,7 @@ struct EntryField {
     static constexpr int KeepsTail = -1;
 };
 
-/// All but the frequencies.
+/// All but the frequencies, in a document that begins as the sample radio: its priority channel is fixed, and stays so.
 [[nodiscard]] const std::vector<EntryField>& EntryFields();
 
 } // namespace zelvor::random

@@ -12,8 +12,6 @@ constexpr int RecordSize = 16;
 constexpr int ChannelCount = 16;
 constexpr int OptionsByte = 12; // of a record
 constexpr int TestFrequencies = 0x280;
-constexpr int Priority = 0x160;
-constexpr int PriorityChannel = 0x161;
 
 int Between(Draws& draws, int from, int to) {
     return from + static_cast<int>(draws.Below(static_cast<std::uint32_t>(to - from + 1)));
@@ -76,9 +74,6 @@ Entry EntryModel::EnterField(Draws& draws) {
     do {
         field = &fields.at(draws.Below(static_cast<std::uint32_t>(fields.size())));
     } while (!CanBeUsed(*field));
-    if (QString(field->window.name) == "ScanForm" && At(Priority) != 1) {
-        Store(PriorityChannel, "\xFF"); // by the opening
-    }
     return {field->window, EditOf(*field, draws)};
 }
 
@@ -86,8 +81,7 @@ tour::FieldEdit EntryModel::EditOf(const EntryField& field, Draws& draws) {
     const auto some = [&] { return Between(draws, 0, static_cast<int>(field.values.size()) - 1); };
     switch (field.form) {
     case EntryForm::Check: {
-        const bool isOff =
-            At(field.address) == 0 || (QString(field.control) == "chkClear" && At(field.address) == 0xFF);
+        const bool isOff = At(field.address) == 0;
         Store(field.address, isOff ? "\x01" : QByteArray(1, '\0'));
         return {.kind = Kind::Check, .control = field.control};
     }

@@ -17,7 +17,6 @@ namespace zelvor::random {
 namespace {
 
 constexpr int ActsBetweenChecks = 15;
-constexpr int ActsBeforeMemory = 1000;
 constexpr int MostChecksWithNobody = 3;
 constexpr int ComplaintExit = 98;
 constexpr int CheckPause = 400; // milliseconds

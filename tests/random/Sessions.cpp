@@ -40,7 +40,7 @@ constexpr int CrashPatience = 120000; // for the debugger
 /// print dialog of its properties, which one key closes and the next one opens in the same round of events.
 constexpr std::array ToolkitRemarks{"This plugin does not support", "QDialog::exec: Recursive call detected"};
 
-/// Of a line with the resident memory in KiB: after the first 1000 acts, and at the end.
+/// Of a line with the resident memory in KiB: after ActsBeforeMemory, and at the end.
 constexpr QByteArrayView MemoryLine = "memory ";
 
 bool IsUsual(const QByteArray& line) {

@@ -30,7 +30,7 @@ struct Ending {
     QByteArray complaints;
     int acts = 0;
     double seconds = 0;
-    int earlyMemory = 0; // resident, in KiB, after the first 1000 acts; 0 where it had fewer
+    int earlyMemory = 0; // resident, in KiB, after ActsBeforeMemory; 0 where it had fewer acts
     int lastMemory = 0;  // at the end of the acts
 };
 

@@ -7,6 +7,7 @@
 #include <iostream>
 
 #include "random/Options.h"
+#include "random/ResidentMemory.h"
 #include "random/Sessions.h"
 #include "tour/Failure.h"
 #include "tour/PrivateHome.h"
@@ -35,8 +36,8 @@ void Tell(std::uint32_t seed, const Ending& ending) {
     std::cout << "seed " << seed << " (" << kind.name << ", " << kind.scale * 100 << " %): " << ending.acts << " acts, "
               << ending.seconds << " s";
     if (ending.earlyMemory > 0) {
-        std::cout << ", " << ending.earlyMemory << " KiB resident after 1000 acts, " << ending.lastMemory
-                  << " at the end";
+        std::cout << ", " << ending.earlyMemory << " KiB resident after " << ActsBeforeMemory << " acts, "
+                  << ending.lastMemory << " at the end";
     }
     std::cout << (ending.finding.isEmpty() ? "" : ": " + ending.finding.toStdString()) << std::endl;
 }
